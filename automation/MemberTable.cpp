@@ -1,0 +1,68 @@
+#include "automation/MemberTable.h"
+
+#include <bit>
+
+namespace automation {
+
+namespace {
+
+bool answers(const Member& member, Access access) {
+    switch (access) {
+    case Access::Get: return member.read != nullptr && !member.isMethod;
+    case Access::Call: return member.read != nullptr && member.isMethod;
+    case Access::GetOrCall: return member.read != nullptr;
+    case Access::Put: return member.write != nullptr;
+    }
+    return false;
+}
+
+} // namespace
+
+MemberTable::MemberTable(std::initializer_list<Member> members)
+    : members_(members), slots_(std::bit_ceil(members.size() * 2 + 1)) {
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t i = 0; i < members_.size(); ++i) {
+        std::size_t slot = members_[i].name.hash() & mask;
+        while (slots_[slot] != 0) {
+            slot = (slot + 1) & mask;
+        }
+        slots_[slot] = static_cast<std::uint16_t>(i + 1);
+        if (members_[i].isDefault) {
+            default_ = i + 1;
+        }
+    }
+}
+
+const Member* MemberTable::find(const Name& name) const noexcept {
+    if (name.isDefault()) {
+        return default_ == 0 ? nullptr : &members_[default_ - 1];
+    }
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t slot = name.hash() & mask; slots_[slot] != 0; slot = (slot + 1) & mask) {
+        const Member& member = members_[slots_[slot] - 1U];
+        if (member.name.matches(name)) {
+            return &member;
+        }
+    }
+    return nullptr;
+}
+
+Value MemberTable::invoke(Object& object, const Name& name, Access access, std::span<Value> arguments) const {
+    const Member* const member = find(name);
+    if (member == nullptr || !answers(*member, access)) {
+        raise(RunTimeError::MemberNotFound);
+    }
+    if (access == Access::Put) {
+        return member->write(object, arguments);
+    }
+    if (member->isIndexable && !arguments.empty()) {
+        const ObjectPtr collection = member->read(object, {}).to<ObjectPtr>();
+        if (!collection) {
+            raise(RunTimeError::ObjectNotSet);
+        }
+        return collection->invoke(defaultMember, Access::GetOrCall, arguments);
+    }
+    return member->read(object, arguments);
+}
+
+} // namespace automation

@@ -1,0 +1,166 @@
+#pragma once
+
+#include "automation/Error.h"
+#include "automation/Object.h"
+
+#include <initializer_list>
+#include <optional>
+#include <tuple>
+#include <vector>
+
+namespace automation {
+
+/// One member as a class publishes it: a method, or a property that can be read, written, or both.
+struct Member {
+    using Thunk = Value (*)(Object&, std::span<Value>);
+
+    Name name;
+    bool isMethod = false;
+    Thunk read = nullptr;     ///< the method, or the property's getter
+    Thunk write = nullptr;    ///< the property's setter
+    bool isIndexable = false; ///< a getter without arguments: arguments given go to the default member of its result
+    bool isDefault = false;
+
+    /// The same member, answering also when no name is given.
+    [[nodiscard]] constexpr Member asDefault() const noexcept {
+        Member copy = *this;
+        copy.isDefault = true;
+        return copy;
+    }
+};
+
+/// The members of a class, by name, in the order in which it publishes them.
+class MemberTable {
+public:
+    MemberTable(std::initializer_list<Member> members);
+
+    [[nodiscard]] const std::vector<Member>& members() const noexcept { return members_; }
+
+    /// The member of that name (the default one for an empty name); null where there is none.
+    [[nodiscard]] const Member* find(const Name& name) const noexcept;
+
+    /// Reaches a member of `object`, as Object::invoke describes it.
+    Value invoke(Object& object, const Name& name, Access access, std::span<Value> arguments) const;
+
+private:
+    std::vector<Member> members_;
+    std::vector<std::uint16_t> slots_; ///< open hash over the names: position + 1, 0 where free
+    std::size_t default_ = 0;          ///< position of the default member + 1, 0 where there is none
+};
+
+/// An object whose members stand in a member table.
+class Published : public Object {
+public:
+    [[nodiscard]] virtual const MemberTable& members() const = 0;
+
+    Value invoke(const Name& name, Access access, std::span<Value> arguments) override {
+        return members().invoke(*this, name, access, arguments);
+    }
+};
+
+namespace detail {
+
+template <typename T> inline constexpr bool isOptional = false;
+template <typename T> inline constexpr bool isOptional<std::optional<T>> = true;
+
+/// How an argument becomes a parameter of type P, and how a by-reference one is written back.
+template <typename P> class Parameter {
+    using Plain = std::remove_cvref_t<P>;
+    static constexpr bool writesBack = std::is_lvalue_reference_v<P> && !std::is_const_v<std::remove_reference_t<P>>;
+
+public:
+    static constexpr bool required = !isOptional<Plain>;
+
+    Parameter(std::span<Value> arguments, std::size_t position)
+        : argument_(position < arguments.size() ? &arguments[position] : nullptr), plain_(convert(argument_)) {}
+
+    [[nodiscard]] P pass() { return static_cast<P>(plain_); }
+
+    void finish() {
+        if constexpr (writesBack) {
+            if (Value* const variable = argument_->variable()) {
+                *variable = Value(std::move(plain_));
+            }
+        }
+    }
+
+private:
+    static Plain convert(const Value* argument) {
+        if constexpr (isOptional<Plain>) {
+            if (argument == nullptr || argument->isMissing()) {
+                return std::nullopt;
+            }
+            return argument->to<typename Plain::value_type>();
+        } else {
+            if (argument->isMissing()) {
+                raise(RunTimeError::ArgumentNotOptional);
+            }
+            return argument->to<Plain>();
+        }
+    }
+
+    Value* argument_;
+    Plain plain_;
+};
+
+template <typename Class, typename Result, typename... Parameters> struct Signature {
+    static constexpr std::size_t count = sizeof...(Parameters);
+
+    template <auto function> static Value thunk(Object& object, std::span<Value> arguments) {
+        constexpr std::size_t required = (0 + ... + (Parameter<Parameters>::required ? 1 : 0));
+        if (arguments.size() > count) {
+            raise(RunTimeError::WrongNumberOfArguments);
+        }
+        if (arguments.size() < required) {
+            raise(RunTimeError::ArgumentNotOptional);
+        }
+        return run<function>(static_cast<Class&>(object), arguments, std::index_sequence_for<Parameters...>());
+    }
+
+private:
+    template <auto function, std::size_t... I>
+    static Value run(Class& object, [[maybe_unused]] std::span<Value> arguments, std::index_sequence<I...>) {
+        [[maybe_unused]] std::tuple<Parameter<Parameters>...> parameters{Parameter<Parameters>(arguments, I)...};
+        if constexpr (std::is_void_v<Result>) {
+            (object.*function)(std::get<I>(parameters).pass()...);
+            (std::get<I>(parameters).finish(), ...);
+            return {};
+        } else {
+            Value result((object.*function)(std::get<I>(parameters).pass()...));
+            (std::get<I>(parameters).finish(), ...);
+            return result;
+        }
+    }
+};
+
+template <typename C, typename R, typename... P> Signature<C, R, P...> signatureOf(R (C::*)(P...));
+template <typename C, typename R, typename... P> Signature<C, R, P...> signatureOf(R (C::*)(P...) const);
+template <typename C, typename R, typename... P> Signature<C, R, P...> signatureOf(R (C::*)(P...) noexcept);
+template <typename C, typename R, typename... P> Signature<C, R, P...> signatureOf(R (C::*)(P...) const noexcept);
+
+template <auto function> using SignatureOf = decltype(signatureOf(function));
+
+} // namespace detail
+
+/// A method of the table's class. Parameters are taken as the C++ function declares them: plain types by value,
+/// `std::optional` for an optional argument, a reference to non-const for one that is written back, `Value` for a
+/// variant.
+template <auto function> constexpr Member method(std::u16string_view name) noexcept {
+    return {.name = name, .isMethod = true, .read = &detail::SignatureOf<function>::template thunk<function>};
+}
+
+/// A property that can be read; its getter may take arguments.
+template <auto getter> constexpr Member property(std::u16string_view name) noexcept {
+    return {.name = name,
+            .read = &detail::SignatureOf<getter>::template thunk<getter>,
+            .isIndexable = detail::SignatureOf<getter>::count == 0};
+}
+
+/// A property that can be read and written.
+template <auto getter, auto setter> constexpr Member property(std::u16string_view name) noexcept {
+    Member member = property<getter>(name);
+    member.write = &detail::SignatureOf<setter>::template thunk<setter>;
+    return member;
+}
+
+} // namespace automation

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace automation {
+
+class Object;
+class Value;
+
+using ObjectPtr = std::shared_ptr<Object>;
+using Array = std::vector<Value>;
+
+/// The value of a variable never set; converts to False, 0 and the empty text.
+struct Empty {
+    friend bool operator==(Empty, Empty) = default;
+};
+
+/// The value of an optional argument left out; converts to nothing.
+struct Missing {
+    friend bool operator==(Missing, Missing) = default;
+};
+
+template <typename T>
+concept Enumeration = std::is_enum_v<T>;
+
+/// The automation variant: what late-bound calls take and give. An object may be null (nothing).
+///
+/// Conversions follow the automation rules: whole numbers are rounded half to even, a number that does not fit raises
+/// Overflow (6), a text that is no number or a value of the wrong kind raises TypeMismatch (13), an object stands for
+/// the value of its default member, nothing raises ObjectNotSet (91).
+class Value {
+public:
+    Value() noexcept = default;
+    Value(Empty) noexcept {}
+    Value(Missing) noexcept : storage_(Missing{}) {}
+    template <std::same_as<bool> Boolean> Value(Boolean value) noexcept : storage_(value) {}
+    Value(std::int16_t value) noexcept : storage_(value) {}
+    Value(std::int32_t value) noexcept : storage_(value) {}
+    Value(float value) noexcept : storage_(value) {}
+    Value(double value) noexcept : storage_(value) {}
+    Value(std::u16string value) noexcept : storage_(std::move(value)) {}
+    Value(std::u16string_view value) : storage_(std::u16string(value)) {}
+    Value(const char16_t* value) : Value(std::u16string_view(value)) {}
+    Value(std::nullptr_t) noexcept : storage_(ObjectPtr()) {}
+    template <std::derived_from<Object> T>
+    Value(std::shared_ptr<T> object) noexcept : storage_(ObjectPtr(std::move(object))) {}
+    Value(Array elements) noexcept : storage_(std::move(elements)) {}
+    template <Enumeration E> Value(E value) noexcept : storage_(static_cast<std::int32_t>(value)) {}
+
+    /// An argument passed by reference: reading it reads `variable`, and what the callee writes lands there.
+    /// `variable` must outlive the call.
+    static Value reference(Value& variable) noexcept;
+
+    /// The value itself, or the variable behind a by-reference argument.
+    [[nodiscard]] const Value& target() const noexcept;
+
+    /// The variable behind a by-reference argument; null for a value.
+    [[nodiscard]] Value* variable() const noexcept;
+
+    template <typename T> [[nodiscard]] bool is() const noexcept {
+        return std::holds_alternative<T>(target().storage_);
+    }
+    /// The alternative held; to be asked only where `is` says so.
+    template <typename T> [[nodiscard]] const T& as() const { return std::get<T>(target().storage_); }
+
+    [[nodiscard]] bool isEmpty() const noexcept { return is<Empty>(); }
+    [[nodiscard]] bool isMissing() const noexcept { return is<Missing>(); }
+    [[nodiscard]] bool isObject() const noexcept { return is<ObjectPtr>(); }
+
+    /// The value as bool, std::int16_t, std::int32_t, float, double, std::u16string, ObjectPtr, Array or an enumeration
+    /// (through its 32-bit number).
+    template <typename T> [[nodiscard]] T to() const {
+        if constexpr (Enumeration<T>) {
+            return static_cast<T>(to<std::int32_t>());
+        } else {
+            static_assert(std::is_same_v<T, Value>, "no such automation type");
+            return target();
+        }
+    }
+
+    /// The value as a reader would write it, for traces and messages: texts in quotes, objects as <object>.
+    [[nodiscard]] std::u16string display() const;
+
+    /// Visits the alternative held, through a reference.
+    template <typename Visitor> decltype(auto) visit(Visitor&& visitor) const {
+        return std::visit(std::forward<Visitor>(visitor), target().storage_);
+    }
+
+    /// Same kind and same value; no conversion.
+    friend bool operator==(const Value& left, const Value& right) { return left.storage_ == right.storage_; }
+
+private:
+    std::variant<Empty, Missing, bool, std::int16_t, std::int32_t, float, double, std::u16string, ObjectPtr, Array,
+                 Value*>
+        storage_;
+};
+
+template <> bool Value::to<bool>() const;
+template <> std::int16_t Value::to<std::int16_t>() const;
+template <> std::int32_t Value::to<std::int32_t>() const;
+template <> float Value::to<float>() const;
+template <> double Value::to<double>() const;
+template <> std::u16string Value::to<std::u16string>() const;
+template <> ObjectPtr Value::to<ObjectPtr>() const;
+template <> Array Value::to<Array>() const;
+
+} // namespace automation

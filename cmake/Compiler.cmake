@@ -1,0 +1,17 @@
+# Warnings, sanitizers and the standard headers that every source needs, for all components alike.
+add_library(compiler INTERFACE)
+
+if(MSVC)
+    target_compile_options(compiler INTERFACE /W4 /WX /utf-8 /permissive- /EHsc)
+else()
+    target_compile_options(compiler INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Werror)
+    if(K73053_SANITIZE)
+        set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_compile_options(compiler INTERFACE ${sanitizers})
+        target_link_options(compiler INTERFACE ${sanitizers})
+    endif()
+endif()
+
+target_precompile_headers(compiler INTERFACE
+    <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <span> <string> <string_view> <utility>
+    <variant> <vector>)
