@@ -1,0 +1,66 @@
+#pragma once
+
+#include "simulator/document/Color.h"
+
+#include <string>
+
+namespace simulator {
+
+/// How a shape is filled.
+struct Fill {
+    bool visible = true;
+    MsoFillType type = msoFillSolid;
+    Color fore = Color::of(ppFill);
+    Color back = Color::of(ppBackground);
+    float transparency = 0; ///< 0 opaque to 1 clear
+    std::int32_t pattern = 0;
+    std::int32_t gradientStyle = 0;
+    std::int32_t gradientVariant = 0;
+
+    friend bool operator==(const Fill&, const Fill&) = default;
+};
+
+/// The outline of a shape.
+struct Line {
+    bool visible = true;
+    float weight = 0.75F; ///< points
+    Color color = Color::of(ppForeground);
+    std::int32_t dashStyle = 1;
+
+    friend bool operator==(const Line&, const Line&) = default;
+};
+
+/// The shadow of a shape; `type` is the preset (msoShadow1 ...), -2 when none was chosen.
+struct Shadow {
+    bool visible = false;
+    std::int32_t type = -2;
+    Color color = Color::of(ppShadow);
+    float offsetX = 0; ///< points
+    float offsetY = 0; ///< points
+    bool obscured = false;
+
+    friend bool operator==(const Shadow&, const Shadow&) = default;
+};
+
+/// The third dimension of a shape; `preset` is the style (msoThreeD1 ...), -2 when none applies.
+struct ThreeD {
+    bool visible = false;
+    std::int32_t preset = -2;
+    float depth = 36; ///< points
+
+    friend bool operator==(const ThreeD&, const ThreeD&) = default;
+};
+
+/// What makes a shape a WordArt object.
+struct TextEffect {
+    std::u16string text;
+    std::u16string fontName = u"Arial Black";
+    float fontSize = 36; ///< points
+    bool bold = false;
+    bool italic = false;
+    std::int32_t preset = 0; ///< msoTextEffect1 is 0
+
+    friend bool operator==(const TextEffect&, const TextEffect&) = default;
+};
+
+} // namespace simulator

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "simulator/document/Slide.h"
+
+namespace simulator {
+
+using PresentationPtr = std::shared_ptr<Presentation>;
+
+/// A presentation as it stands in memory.
+class Presentation : public std::enable_shared_from_this<Presentation> {
+public:
+    std::u16string path; ///< full Windows path; empty until it is saved for the first time
+    std::u16string name; ///< file name, or "Présentation1" and so on until it is saved
+    bool readOnly = false;
+    bool saved = true; ///< nothing has changed since it was opened or saved
+    bool snapToGrid = true;
+    float slideWidth = 720;  ///< points
+    float slideHeight = 540; ///< points
+    ColorScheme colors;
+    TagList tags;
+
+    [[nodiscard]] const std::vector<SlidePtr>& slides() const noexcept { return slides_; }
+
+    /// Inserts a slide at a place from 0 and gives it an id, and a name where it has none.
+    void insert(const SlidePtr& slide, std::size_t place);
+    void remove(const SlidePtr& slide);
+    /// Place of a slide from 0; the number of slides where it is not in this presentation.
+    [[nodiscard]] std::size_t placeOf(const Slide& slide) const noexcept;
+    void move(const SlidePtr& slide, std::size_t place);
+
+private:
+    std::vector<SlidePtr> slides_;
+    std::int32_t lastSlideId_ = 255;
+};
+
+} // namespace simulator

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "simulator/document/Format.h"
+#include "simulator/document/TagList.h"
+#include "simulator/document/TextStory.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace simulator {
+
+class Slide;
+class Shape;
+using ShapePtr = std::shared_ptr<Shape>;
+
+/// Place and size of a shape on its slide, in points.
+struct Frame {
+    float left = 0;
+    float top = 0;
+    float width = 0;
+    float height = 0;
+
+    friend bool operator==(const Frame&, const Frame&) = default;
+};
+
+/// A length in points as a document keeps it: to the nearest eighth of a point.
+[[nodiscard]] float toMasterUnits(float points) noexcept;
+
+/// One corner of a freeform, in points on the slide.
+struct Node {
+    float x = 0;
+    float y = 0;
+    bool curve = false; ///< a control point of a curve rather than the end of a straight segment
+
+    friend bool operator==(const Node&, const Node&) = default;
+};
+
+/// A shape of a slide, or an item of a group. It lives as long as its slide or group holds it; those who look at it
+/// hold it weakly, and find it gone when it has been deleted.
+class Shape {
+public:
+    std::int32_t id = 0; ///< unique on the slide
+    std::u16string name;
+    MsoShapeType type = msoAutoShape;
+    std::int32_t autoShapeType = 1; ///< msoShapeRectangle; -2 (mixed) for what is no AutoShape
+    float rotation = 0;             ///< degrees
+    bool horizontalFlip = false;
+    bool verticalFlip = false;
+    bool visible = true;
+    std::u16string alternativeText;
+    TagList tags;
+    Fill fill;
+    Line line;
+    Shadow shadow;
+    ThreeD threeD;
+    std::optional<TextStory> text; ///< nothing for a shape that cannot hold text
+    std::optional<TextEffect> textEffect;
+    std::optional<PpPlaceholderType> placeholder;
+    std::vector<Node> nodes; ///< of a freeform
+    bool closed = false;     ///< a freeform whose last corner joins its first
+
+    [[nodiscard]] const Frame& frame() const noexcept { return frame_; }
+    /// Moves and resizes; the items of a group and the corners of a freeform follow. Lengths are kept in master units.
+    void setFrame(const Frame& frame);
+
+    /// Items of a group, from back to front; empty for any other shape.
+    [[nodiscard]] const std::vector<ShapePtr>& items() const noexcept { return items_; }
+    /// Gives a group its items and takes its frame from them.
+    static void adopt(const ShapePtr& group, std::vector<ShapePtr> items);
+    /// Takes the items out of a group.
+    [[nodiscard]] std::vector<ShapePtr> release();
+
+    /// The group that holds this shape; null when it stands directly on its slide.
+    [[nodiscard]] ShapePtr group() const noexcept { return group_.lock(); }
+
+    /// A copy with everything but its place in a slide or group; items are copied too.
+    [[nodiscard]] ShapePtr clone() const;
+
+    std::weak_ptr<Slide> slide; ///< of the shape, or of the outermost group that holds it
+
+private:
+    Frame frame_;
+    std::vector<ShapePtr> items_;
+    std::weak_ptr<Shape> group_;
+};
+
+} // namespace simulator

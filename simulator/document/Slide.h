@@ -1,0 +1,41 @@
+#pragma once
+
+#include "simulator/document/Shape.h"
+
+namespace simulator {
+
+class Presentation;
+class Slide;
+using SlidePtr = std::shared_ptr<Slide>;
+
+/// A slide with its shapes, from back to front.
+class Slide : public std::enable_shared_from_this<Slide> {
+public:
+    std::int32_t id = 0; ///< unique in the presentation, never used again
+    std::u16string name;
+    PpSlideLayout layout = ppLayoutBlank;
+    TagList tags;
+    std::weak_ptr<Presentation> presentation;
+
+    [[nodiscard]] const std::vector<ShapePtr>& shapes() const noexcept { return shapes_; }
+
+    /// Puts a shape in front of all others and gives it an id, and a name made of `baseName` and its id where it has
+    /// none.
+    void add(const ShapePtr& shape, std::u16string_view baseName);
+    /// Puts a shape at a place from 0 (the back), keeping its id and name.
+    void insert(const ShapePtr& shape, std::size_t place);
+    void remove(const ShapePtr& shape);
+    /// Place of a shape from 0 (the back); the number of shapes where it is not on this slide.
+    [[nodiscard]] std::size_t placeOf(const Shape& shape) const noexcept;
+    /// Moves a shape to another place from 0.
+    void move(const ShapePtr& shape, std::size_t place);
+
+    /// A copy of the slide and its shapes, tags included.
+    [[nodiscard]] SlidePtr clone() const;
+
+private:
+    std::vector<ShapePtr> shapes_;
+    std::int32_t lastShapeId_ = 1;
+};
+
+} // namespace simulator

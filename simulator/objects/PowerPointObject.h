@@ -1,0 +1,45 @@
+#pragma once
+
+#include "automation/MemberTable.h"
+#include "simulator/process/Session.h"
+
+namespace simulator {
+
+/// An object of the object model: every call passes through the session first, which refuses it when PowerPoint is busy
+/// or has ended.
+class PowerPointObject : public automation::Published {
+public:
+    explicit PowerPointObject(SessionPtr session) noexcept : session_(std::move(session)) {}
+
+    automation::Value invoke(const automation::Name& name, automation::Access access,
+                             std::span<automation::Value> arguments) final {
+        session_->admit();
+        return Published::invoke(name, access, arguments);
+    }
+
+    [[nodiscard]] const SessionPtr& session() const noexcept { return session_; }
+
+private:
+    SessionPtr session_;
+};
+
+/// PowerPoint's own errors; their source is "Microsoft PowerPoint".
+namespace errors {
+/// What the object stood for has been deleted or closed.
+[[noreturn]] void gone();
+/// An index outside 1 to `count`; `member` is the member that took it ("Slides.Item").
+[[noreturn]] void outOfRange(std::u16string_view member, std::int32_t index, std::size_t count);
+/// A request that makes no sense as things stand.
+[[noreturn]] void invalidRequest(std::u16string_view text);
+} // namespace errors
+
+/// What a weak reference stands for; raises `errors::gone` where it is gone.
+template <typename T> [[nodiscard]] std::shared_ptr<T> alive(const std::weak_ptr<T>& reference) {
+    std::shared_ptr<T> object = reference.lock();
+    if (!object) {
+        errors::gone();
+    }
+    return object;
+}
+
+} // namespace simulator

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "simulator/process/CommandBarSet.h"
+#include "simulator/process/DocumentWindow.h"
+#include "simulator/process/MainWindow.h"
+
+#include <functional>
+
+namespace simulator {
+
+/// Loads and saves presentation files by their Windows paths. Raises FileNotFound (53), PathAccess (75) and the like.
+class PresentationStore {
+public:
+    virtual ~PresentationStore() = default;
+    [[nodiscard]] virtual PresentationPtr load(std::u16string_view path) = 0;
+    virtual void save(const Presentation& presentation, std::u16string_view path) = 0;
+    /// Writes the outline of a presentation as rich text.
+    virtual void saveOutline(const Presentation& presentation, std::u16string_view path) = 0;
+    /// True where the file may not be written.
+    [[nodiscard]] virtual bool isReadOnly(std::u16string_view path) = 0;
+};
+
+/// What PowerPoint remembers from one run to the next.
+struct Settings {
+    CommandBarSet commandBars;
+    bool showStartupDialog = true;
+};
+
+/// What was copied last: shapes, slides or text.
+struct Clipboard {
+    std::vector<ShapePtr> shapes;
+    std::vector<SlidePtr> slides;
+    std::u16string text;
+};
+
+/// One run of PowerPoint, from its start to its end. Automation objects hold it; when it has ended, or does not answer,
+/// their calls raise.
+class Session : public std::enable_shared_from_this<Session> {
+public:
+    enum class State : std::uint8_t { Running, Busy, Gone };
+
+    /// The window, the store and the settings must outlive the session.
+    Session(MainWindow& window, PresentationStore& store, Settings& settings);
+
+    /// To be called before every automation call: raises CallRejected while PowerPoint is busy, ServerUnavailable once
+    /// it has ended.
+    void admit() const;
+    [[nodiscard]] State state() const noexcept { return state_; }
+    void setBusy(bool busy) noexcept;
+    /// Ends the run: documents are dropped unsaved, the window and its dialogs closed. Harmless when it has ended.
+    void end();
+    /// Called once when the run ends.
+    void onEnd(std::function<void()> handler) { onEnd_ = std::move(handler); }
+
+    [[nodiscard]] MainWindow& window() noexcept { return window_; }
+    [[nodiscard]] Settings& settings() noexcept { return settings_; }
+    [[nodiscard]] Clipboard& clipboard() noexcept { return clipboard_; }
+
+    /// Open presentations, in the order in which they were opened.
+    [[nodiscard]] const std::vector<PresentationPtr>& presentations() const noexcept { return presentations_; }
+    /// Document windows, the active one first.
+    [[nodiscard]] const std::vector<DocumentWindowPtr>& windows() const noexcept { return windows_; }
+
+    /// A new presentation without slides.
+    PresentationPtr create(bool withWindow);
+    /// Opens a file; one that is open already is shown instead.
+    PresentationPtr open(std::u16string_view path, bool readOnly, bool untitled, bool withWindow);
+    /// Closes a presentation and its windows without a question.
+    void close(const PresentationPtr& presentation);
+    void save(const PresentationPtr& presentation);
+    /// Saves under another name, which the presentation bears from then on.
+    void saveAs(const PresentationPtr& presentation, std::u16string_view path);
+    [[nodiscard]] PresentationStore& store() noexcept { return store_; }
+
+    void activate(const DocumentWindowPtr& window);
+    void closeWindow(const DocumentWindowPtr& window);
+    /// The active document window; null where there is none, or where PowerPoint is invisible.
+    [[nodiscard]] DocumentWindowPtr activeWindow() const;
+    /// The first window that shows a presentation; null where it has none.
+    [[nodiscard]] DocumentWindowPtr windowOf(const Presentation& presentation) const;
+
+private:
+    void addWindow(const PresentationPtr& presentation);
+
+    MainWindow& window_;
+    PresentationStore& store_;
+    Settings& settings_;
+    State state_ = State::Running;
+    std::vector<PresentationPtr> presentations_;
+    std::vector<DocumentWindowPtr> windows_;
+    Clipboard clipboard_;
+    std::function<void()> onEnd_;
+    int untitled_ = 0;
+};
+
+using SessionPtr = std::shared_ptr<Session>;
+
+} // namespace simulator
