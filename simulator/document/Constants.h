@@ -49,6 +49,8 @@ enum PpColorSchemeIndex : std::int32_t {
     ppAccent3 = 8,
 };
 
+enum MsoColorType : std::int32_t { msoColorTypeRGB = 1, msoColorTypeScheme = 2 };
+
 enum PpWindowState : std::int32_t { ppWindowNormal = 1, ppWindowMinimized = 2, ppWindowMaximized = 3 };
 
 enum PpSelectionType : std::int32_t {
