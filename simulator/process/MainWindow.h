@@ -24,6 +24,8 @@ public:
     /// Number of dialogs open.
     [[nodiscard]] virtual std::size_t dialogs() const = 0;
     virtual void closeDialog() = 0;
+    /// Takes the window and its dialogs off the system; harmless when that is done.
+    virtual void close() = 0;
 };
 
 } // namespace simulator
