@@ -24,8 +24,26 @@ void makeClear(Shape& shape) {
     shape.line.visible = false;
 }
 
-bool isTitle(PpPlaceholderType type) {
-    return type == ppPlaceholderTitle || type == ppPlaceholderCenterTitle;
+/// Puts text in the middle of a shape.
+void center(TextStory& text) {
+    text.layout.anchor = msoAnchorMiddle;
+    text.formatParagraphs({}, [](ParagraphFormat& format) { format.alignment = ppAlignCenter; });
+}
+
+void formatTitle(TextStory& text) {
+    center(text);
+    text.format({}, [](CharacterFormat& format) {
+        format.size = 44;
+        format.color = Color::of(ppTitle);
+    });
+}
+
+void formatBody(TextStory& text, PpPlaceholderType type) {
+    text.format({}, [](CharacterFormat& format) { format.size = 32; });
+    text.formatParagraphs({}, [type](ParagraphFormat& format) {
+        format.alignment = type == ppPlaceholderSubtitle ? ppAlignCenter : ppAlignLeft;
+        format.bullet = type == ppPlaceholderSubtitle ? ppBulletNone : ppBulletUnnumbered;
+    });
 }
 
 } // namespace
@@ -33,14 +51,15 @@ bool isTitle(PpPlaceholderType type) {
 ShapePtr autoShape(std::int32_t autoShapeType, const Frame& frame) {
     ShapePtr shape = make(msoAutoShape, frame);
     shape->autoShapeType = autoShapeType;
-    shape->text.emplace();
+    center(shape->text.emplace());
+    shape->text->layout.wordWrap = false;
     return shape;
 }
 
 ShapePtr textBox(const Frame& frame) {
     ShapePtr shape = make(msoTextBox, frame);
     makeClear(*shape);
-    shape->text.emplace();
+    shape->text.emplace().layout.autoSize = ppAutoSizeShapeToFitText;
     return shape;
 }
 
@@ -80,7 +99,7 @@ ShapePtr wordArt(const TextEffect& effect, float left, float top) {
 ShapePtr freeform(std::vector<Node> corners) {
     ShapePtr shape = make(msoFreeform, {});
     shape->setNodes(std::move(corners));
-    shape->text.emplace();
+    center(shape->text.emplace());
     return shape;
 }
 
@@ -88,10 +107,12 @@ ShapePtr placeholder(PpPlaceholderType type, const Frame& frame) {
     ShapePtr shape = make(msoPlaceholder, frame);
     makeClear(*shape);
     shape->placeholder = type;
-    shape->text.emplace().format({}, [type](CharacterFormat& format) {
-        format.size = isTitle(type) ? 44 : 32;
-        format.color = Color::of(isTitle(type) ? ppTitle : ppForeground);
-    });
+    shape->text.emplace();
+    if (isTitle(type)) {
+        formatTitle(*shape->text);
+    } else {
+        formatBody(*shape->text, type);
+    }
     return shape;
 }
 

@@ -11,6 +11,11 @@
 
 namespace simulator {
 
+/// True for the placeholders that hold a slide's title.
+[[nodiscard]] constexpr bool isTitle(PpPlaceholderType type) noexcept {
+    return type == ppPlaceholderTitle || type == ppPlaceholderCenterTitle;
+}
+
 class Slide;
 class Shape;
 using ShapePtr = std::shared_ptr<Shape>;

@@ -23,13 +23,9 @@ Frame onSlide(const Frame& frame, const Presentation& presentation) noexcept {
     return {frame.left * across, frame.top * down, frame.width * across, frame.height * down};
 }
 
-bool servesAsTitle(PpPlaceholderType type) noexcept {
-    return type == ppPlaceholderTitle || type == ppPlaceholderCenterTitle;
-}
-
 bool isWanted(const Shape& shape, std::span<const LayoutPlaceholder> wanted) noexcept {
     return std::any_of(wanted.begin(), wanted.end(), [&shape](const LayoutPlaceholder& placeholder) {
-        return servesAsTitle(placeholder.type) == servesAsTitle(*shape.placeholder);
+        return isTitle(placeholder.type) == isTitle(*shape.placeholder);
     });
 }
 
@@ -53,7 +49,7 @@ std::optional<std::span<const LayoutPlaceholder>> placeholdersOf(PpSlideLayout l
 
 ShapePtr findPlaceholder(const Slide& slide, PpPlaceholderType type) noexcept {
     const auto found = std::find_if(slide.shapes().begin(), slide.shapes().end(), [type](const ShapePtr& shape) {
-        return shape->placeholder && servesAsTitle(*shape->placeholder) == servesAsTitle(type);
+        return shape->placeholder && isTitle(*shape->placeholder) == isTitle(type);
     });
     return found == slide.shapes().end() ? nullptr : *found;
 }
