@@ -152,6 +152,14 @@ void Shape::release(const ShapePtr& item) {
     refitGroups();
 }
 
+void Shape::replace(const ShapePtr& item, const ShapePtr& other) {
+    other->group_ = std::exchange(item->group_, {});
+    other->slide = slide;
+    std::replace(items_.begin(), items_.end(), item, other);
+    frame_ = boundsOf(items_);
+    refitGroups();
+}
+
 void Shape::showShadow(bool shown) noexcept {
     shadow.visible = shown;
     if (shown) {

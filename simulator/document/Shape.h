@@ -11,6 +11,11 @@
 
 namespace simulator {
 
+/// True for the placeholders that hold a slide's title.
+[[nodiscard]] constexpr bool isTitle(PpPlaceholderType type) noexcept {
+    return type == ppPlaceholderTitle || type == ppPlaceholderCenterTitle;
+}
+
 class Slide;
 class Shape;
 using ShapePtr = std::shared_ptr<Shape>;
@@ -78,6 +83,8 @@ public:
     [[nodiscard]] std::vector<ShapePtr> release();
     /// Takes one item out of a group, whose frame shrinks to the others.
     void release(const ShapePtr& item);
+    /// Puts another shape in the place of an item.
+    void replace(const ShapePtr& item, const ShapePtr& other);
 
     /// Shows or hides the shadow; a shadow takes the third dimension away.
     void showShadow(bool shown) noexcept;

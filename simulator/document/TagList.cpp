@@ -1,23 +1,13 @@
 #include "simulator/document/TagList.h"
 
 #include "automation/Text.h"
+#include "simulator/document/LetterCase.h"
 
 #include <algorithm>
 
 namespace simulator {
 
 namespace {
-
-/// The capital of a small letter: the letter whose small form it is.
-char16_t capital(char16_t letter) noexcept {
-    for (const int distance : {32, 1, 80}) {
-        const auto candidate = static_cast<char16_t>(letter - distance);
-        if (automation::lowerCase(candidate) == letter) {
-            return candidate;
-        }
-    }
-    return letter;
-}
 
 template <typename Tags> auto find(Tags& tags, std::u16string_view name) noexcept {
     return std::find_if(tags.begin(), tags.end(),
@@ -33,7 +23,7 @@ void TagList::add(std::u16string_view name, std::u16string_view value) {
         return;
     }
     std::u16string capitals(name);
-    std::transform(capitals.begin(), capitals.end(), capitals.begin(), capital);
+    std::transform(capitals.begin(), capitals.end(), capitals.begin(), upperCase);
     tags_.emplace_back(std::move(capitals), value);
 }
 
