@@ -31,8 +31,21 @@ enum PpChangeCase : std::int32_t {
     ppCaseToggle = 5,
 };
 
-enum MsoTextOrientation : std::int32_t { msoTextOrientationHorizontal = 1 };
+enum MsoTextOrientation : std::int32_t {
+    msoTextOrientationHorizontal = 1,
+    msoTextOrientationUpward = 2,
+    msoTextOrientationDownward = 3,
+    msoTextOrientationVerticalFarEast = 4,
+    msoTextOrientationVertical = 5,
+    msoTextOrientationHorizontalRotatedFarEast = 6,
+};
 
-enum MsoVerticalAnchor : std::int32_t { msoAnchorTop = 1, msoAnchorMiddle = 3, msoAnchorBottom = 4 };
+enum MsoVerticalAnchor : std::int32_t {
+    msoAnchorTop = 1,
+    msoAnchorTopBaseline = 2,
+    msoAnchorMiddle = 3,
+    msoAnchorBottom = 4,
+    msoAnchorBottomBaseLine = 5,
+};
 
 } // namespace simulator

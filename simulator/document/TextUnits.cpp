@@ -8,6 +8,9 @@ namespace {
 
 using Spans = std::vector<Span>;
 
+/// What can end a sentence.
+constexpr std::u16string_view closing = u".!?\u2026";
+
 /// Cuts a text behind every place for which `ends` is true.
 template <typename Ends> Spans cut(std::u16string_view text, const Ends& ends) {
     Spans spans;
@@ -28,9 +31,8 @@ Spans linesOf(std::u16string_view text) {
 }
 
 Spans sentencesOf(std::u16string_view text) {
-    constexpr std::u16string_view closing = u".!?\u2026";
     bool closed = false;
-    return cut(text, [text, closed](std::size_t place) mutable {
+    return cut(text, [text, &closed](std::size_t place) {
         if (!TextStory::isBlank(text[place])) {
             closed = closing.find(text[place]) != std::u16string_view::npos;
         }
