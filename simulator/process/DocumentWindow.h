@@ -8,6 +8,8 @@ namespace simulator {
 struct DocumentWindow {
     static constexpr std::int32_t normalView = 9;
     static constexpr std::int32_t slideView = 1;
+    static constexpr std::int32_t notesPageView = 3;
+    static constexpr std::int32_t thumbnailsView = 11;
     static constexpr std::int32_t slideSorterView = 7;
     static constexpr std::int32_t outlinePane = 1;
     static constexpr std::int32_t slidePane = 2;

@@ -17,6 +17,8 @@ public:
     [[nodiscard]] virtual PpWindowState state() const = 0;
     virtual void setState(PpWindowState state) = 0;
     virtual void setTitle(std::u16string_view title) = 0;
+    /// True when the window, or a dialog above it, is the one in front.
+    [[nodiscard]] virtual bool isActive() const = 0;
     virtual void activate() = 0;
     /// Opens a modal dialog owned by the main window, or by the dialog opened last; closing a window closes those
     /// above.

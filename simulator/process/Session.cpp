@@ -55,6 +55,11 @@ void Session::end() {
     }
 }
 
+std::u16string Session::title() const {
+    const PresentationPtr presentation = windows_.empty() ? nullptr : windows_.front()->presentation.lock();
+    return presentation ? u"Microsoft PowerPoint - [" + presentation->name + u"]" : u"Microsoft PowerPoint";
+}
+
 PresentationPtr Session::create(bool withWindow) {
     if (withWindow) {
         demandFrame();
@@ -185,13 +190,7 @@ void Session::show(const PresentationPtr& presentation) {
 }
 
 void Session::updateTitle() {
-    std::u16string title = u"Microsoft PowerPoint";
-    if (!windows_.empty()) {
-        if (const PresentationPtr presentation = windows_.front()->presentation.lock()) {
-            title += u" - [" + presentation->name + u"]";
-        }
-    }
-    window_.setTitle(title);
+    window_.setTitle(title());
 }
 
 std::u16string Session::nextName() {

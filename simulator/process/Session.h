@@ -54,6 +54,8 @@ public:
     /// Called once when the run ends.
     void onEnd(std::function<void()> handler) { onEnd_ = std::move(handler); }
 
+    /// Title of the main window: it names the presentation in front.
+    [[nodiscard]] std::u16string title() const;
     [[nodiscard]] MainWindow& window() noexcept { return window_; }
     [[nodiscard]] Settings& settings() noexcept { return settings_; }
     [[nodiscard]] Clipboard& clipboard() noexcept { return clipboard_; }
