@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/objects/PowerPointObject.h"
+#include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/TriState.h"
 
 #include <typeinfo>
