@@ -37,7 +37,7 @@ bool DocumentWindowObject::isSame(const Object& other) const noexcept {
 }
 
 std::u16string DocumentWindowObject::caption() const {
-    return alive(window()->presentation)->name;
+    return simulator::alive(window()->presentation)->name;
 }
 
 MsoTriState DocumentWindowObject::active() const {

@@ -41,7 +41,7 @@ public:
     void close() const { session()->closeWindow(window()); }
 
 private:
-    [[nodiscard]] DocumentWindowPtr window() const { return alive(window_); }
+    [[nodiscard]] DocumentWindowPtr window() const { return simulator::alive(window_); }
 
     std::weak_ptr<DocumentWindow> window_;
 };

@@ -38,7 +38,7 @@ std::shared_ptr<ApplicationObject> DocumentWindowsObject::application() const {
 std::vector<DocumentWindowPtr> DocumentWindowsObject::windows() const {
     std::vector<DocumentWindowPtr> all = session()->windows();
     if (presentation_) {
-        const PresentationPtr shown = alive(*presentation_);
+        const PresentationPtr shown = simulator::alive(*presentation_);
         std::erase_if(all, [&](const DocumentWindowPtr& window) { return window->presentation.lock() != shown; });
     }
     return all;

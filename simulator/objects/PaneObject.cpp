@@ -21,12 +21,12 @@ const automation::MemberTable& PaneObject::members() const {
 }
 
 MsoTriState PaneObject::active() const {
-    const DocumentWindowPtr window = alive(window_);
+    const DocumentWindowPtr window = simulator::alive(window_);
     return triState(window->viewType != DocumentWindow::normalView || window->activePane == index_);
 }
 
 std::int32_t PaneObject::viewType() const {
-    const std::int32_t view = alive(window_)->viewType;
+    const std::int32_t view = simulator::alive(window_)->viewType;
     if (view != DocumentWindow::normalView) {
         return view;
     }
@@ -38,7 +38,7 @@ std::int32_t PaneObject::viewType() const {
 }
 
 void PaneObject::activate() const {
-    const DocumentWindowPtr window = alive(window_);
+    const DocumentWindowPtr window = simulator::alive(window_);
     if (window->viewType != DocumentWindow::normalView) {
         return;
     }

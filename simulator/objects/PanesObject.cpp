@@ -17,7 +17,7 @@ const automation::MemberTable& PanesObject::members() const {
 }
 
 std::int32_t PanesObject::count() const {
-    return alive(window_)->viewType == DocumentWindow::normalView ? DocumentWindow::notesPane : 1;
+    return simulator::alive(window_)->viewType == DocumentWindow::normalView ? DocumentWindow::notesPane : 1;
 }
 
 std::shared_ptr<PaneObject> PanesObject::item(std::int32_t index) const {
@@ -28,7 +28,7 @@ std::shared_ptr<PaneObject> PanesObject::item(std::int32_t index) const {
 }
 
 std::shared_ptr<PaneObject> PanesObject::active() const {
-    return item(count() == 1 ? 1 : alive(window_)->activePane);
+    return item(count() == 1 ? 1 : simulator::alive(window_)->activePane);
 }
 
 std::shared_ptr<DocumentWindowObject> PanesObject::parent() const {

@@ -63,7 +63,7 @@ public:
                     std::optional<MsoTriState> embedFonts) const;
 
 private:
-    [[nodiscard]] PresentationPtr document() const { return alive(presentation_); }
+    [[nodiscard]] PresentationPtr document() const { return simulator::alive(presentation_); }
     [[nodiscard]] std::u16string target(const std::u16string& fileName, PpSaveAsFileType format) const;
 
     std::weak_ptr<Presentation> presentation_;

@@ -22,7 +22,9 @@ void DocumentWindow::show(const SlidePtr& other) {
         selection.selectNothing();
     }
     slide = other;
-    shown();
+    if (const PresentationPtr document = presentation.lock()) {
+        place_ = document->placeOf(*other);
+    }
 }
 
 } // namespace simulator

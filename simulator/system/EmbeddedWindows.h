@@ -9,13 +9,13 @@ namespace simulator {
 
 /// What a window is made with.
 struct WindowTraits {
-    std::u16string className;
-    std::u16string title;
+    std::u16string className{};
+    std::u16string title{};
     platform::WindowHandle owner = 0; ///< the window that it stands above and goes with
     std::uint32_t extendedStyle = 0;
     bool visible = true;
     /// What WM_CLOSE does; where nothing is said, it destroys the window.
-    std::function<void()> onClose;
+    std::function<void()> onClose{};
 };
 
 /// The top-level windows of a computer, in memory: a list in Z order. An owned window stands above its owner and is
