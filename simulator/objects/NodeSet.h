@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/objects/PowerPointObject.h"
+#include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/TriState.h"
 
 #include <typeinfo>
@@ -27,7 +27,7 @@ public:
     /// The first node; raises an invalid request for an empty set.
     [[nodiscard]] Pointer first() const {
         if (nodes_.empty()) {
-            errors::invalidRequest(u"ShapeRange (membre inconnu)", u"La plage est vide.");
+            errors::invalidRequest(u"Requête incorrecte. La plage est vide.");
         }
         return at(0);
     }
@@ -44,7 +44,7 @@ public:
     /// The one node of the set; raises an invalid request where there are several, or none.
     [[nodiscard]] Pointer only() const {
         if (nodes_.size() != 1) {
-            errors::invalidRequest(u"ShapeRange (membre inconnu)", u"Ce membre vaut pour un seul élément.");
+            errors::invalidRequest(u"Requête incorrecte. Ce membre vaut pour une plage d'un seul élément.");
         }
         return at(0);
     }
