@@ -18,6 +18,7 @@ public:
     NodeSet(std::weak_ptr<Node> node) { nodes_.push_back(std::move(node)); }
     NodeSet(const Pointer& node) : NodeSet(std::weak_ptr<Node>(node)) {}
     NodeSet(const std::vector<Pointer>& nodes) : nodes_(nodes.begin(), nodes.end()) {}
+    NodeSet(std::vector<std::weak_ptr<Node>> nodes) noexcept : nodes_(std::move(nodes)) {}
 
     [[nodiscard]] std::size_t size() const noexcept { return nodes_.size(); }
 
@@ -27,7 +28,7 @@ public:
     /// The first node; raises an invalid request for an empty set.
     [[nodiscard]] Pointer first() const {
         if (nodes_.empty()) {
-            errors::invalidRequest(u"ShapeRange (membre inconnu)", u"La plage est vide.");
+            errors::invalidRequest(u"Requête incorrecte. La plage est vide.");
         }
         return at(0);
     }
@@ -44,7 +45,7 @@ public:
     /// The one node of the set; raises an invalid request where there are several, or none.
     [[nodiscard]] Pointer only() const {
         if (nodes_.size() != 1) {
-            errors::invalidRequest(u"ShapeRange (membre inconnu)", u"Ce membre vaut pour un seul élément.");
+            errors::invalidRequest(u"Requête incorrecte. Ce membre vaut pour une plage d'un seul élément.");
         }
         return at(0);
     }

@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// Loads and saves presentation files by their Windows paths. Raises FileNotFound (53), PathAccess (75) and the like.
+/// Loads and saves presentation files by their Windows paths. Raises PowerPoint's own error where that fails.
 class PresentationStore {
 public:
     virtual ~PresentationStore() = default;
