@@ -76,7 +76,7 @@ public:
 
     [[nodiscard]] P pass() { return static_cast<P>(plain_); }
 
-    void finish() {
+    void finish() noexcept {
         if constexpr (writesBack) {
             if (Value* const variable = argument_->variable()) {
                 *variable = Value(std::move(plain_));
@@ -103,6 +103,20 @@ private:
     Plain plain_;
 };
 
+/// Writes by-reference parameters back when the call ends, also where it raises: what the function has written stays.
+template <typename... Parameters> struct Finisher {
+    std::tuple<Parameter<Parameters>...>& parameters;
+
+    explicit Finisher(std::tuple<Parameter<Parameters>...>& all) : parameters(all) {}
+    ~Finisher() {
+        std::apply([](auto&... each) { (each.finish(), ...); }, parameters);
+    }
+    Finisher(const Finisher&) = delete;
+    Finisher& operator=(const Finisher&) = delete;
+    Finisher(Finisher&&) = delete;
+    Finisher& operator=(Finisher&&) = delete;
+};
+
 template <typename Class, typename Result, typename... Parameters> struct Signature {
     static constexpr std::size_t count = sizeof...(Parameters);
 
@@ -121,14 +135,12 @@ private:
     template <auto function, std::size_t... I>
     static Value run(Class& object, [[maybe_unused]] std::span<Value> arguments, std::index_sequence<I...>) {
         [[maybe_unused]] std::tuple<Parameter<Parameters>...> parameters{Parameter<Parameters>(arguments, I)...};
+        const Finisher<Parameters...> finisher(parameters);
         if constexpr (std::is_void_v<Result>) {
             (object.*function)(std::get<I>(parameters).pass()...);
-            (std::get<I>(parameters).finish(), ...);
             return {};
         } else {
-            Value result((object.*function)(std::get<I>(parameters).pass()...));
-            (std::get<I>(parameters).finish(), ...);
-            return result;
+            return Value((object.*function)(std::get<I>(parameters).pass()...));
         }
     }
 };
