@@ -31,6 +31,8 @@ namespace errors {
 [[noreturn]] void outOfRange(std::u16string_view member, std::int32_t index, std::size_t count);
 /// A request that makes no sense as things stand.
 [[noreturn]] void invalidRequest(std::u16string_view text);
+/// The same, in PowerPoint's words: the member that was asked ("Shape.Select") and why it refuses.
+[[noreturn]] void invalidRequest(std::u16string_view member, std::u16string_view reason);
 } // namespace errors
 
 /// What a weak reference stands for; raises `errors::gone` where it is gone.

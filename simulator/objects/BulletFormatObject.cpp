@@ -1,0 +1,78 @@
+#include "simulator/objects/BulletFormatObject.h"
+
+#include "simulator/objects/ParagraphFormatObject.h"
+#include "simulator/objects/CommonState.h"
+
+namespace simulator {
+
+namespace {
+
+constexpr std::int32_t mixedCharacter = -2;
+
+} // namespace
+
+BulletFormatObject::BulletFormatObject(SessionPtr session, TextPart part) noexcept
+    : PowerPointObject(std::move(session)), part_(std::move(part)) {}
+
+const automation::MemberTable& BulletFormatObject::members() const {
+    using automation::property;
+    using This = BulletFormatObject;
+    static const automation::MemberTable table{
+        property<&This::parent>(u"Parent"),
+        property<&This::visible, &This::setVisible>(u"Visible"),
+        property<&This::type, &This::setType>(u"Type"),
+        property<&This::character, &This::setCharacter>(u"Character"),
+    };
+    return table;
+}
+
+MsoTriState BulletFormatObject::visible() const {
+    return part_.read([](const TextStory& story, Span span) {
+        const auto paragraphs = story.paragraphFormats(span);
+        const auto shown = std::count_if(paragraphs.begin(), paragraphs.end(), [](const ParagraphFormat& paragraph) {
+            return paragraph.bullet != ppBulletNone;
+        });
+        const bool all = shown == std::ssize(paragraphs);
+        return commonState(all || shown == 0 ? std::optional(all) : std::nullopt);
+    });
+}
+
+void BulletFormatObject::setVisible(MsoTriState visible) {
+    part_.edit([visible](TextStory& story, Span span) {
+        story.formatParagraphs(span, [visible](ParagraphFormat& paragraph) {
+            if (visible == msoFalse) {
+                paragraph.bullet = ppBulletNone;
+            } else if (paragraph.bullet == ppBulletNone) {
+                paragraph.bullet = ppBulletUnnumbered;
+            }
+        });
+    });
+}
+
+PpBulletType BulletFormatObject::type() const {
+    return part_.common(&ParagraphFormat::bullet).value_or(ppBulletMixed);
+}
+
+void BulletFormatObject::setType(PpBulletType type) {
+    if (type < ppBulletNone || type > ppBulletNumbered) {
+        errors::invalidRequest(u"BulletFormat.Type", u"La valeur n'est pas un type de puce.");
+    }
+    part_.change(&ParagraphFormat::bullet, type);
+}
+
+std::int32_t BulletFormatObject::character() const {
+    return part_.common(&ParagraphFormat::bulletCharacter).value_or(mixedCharacter);
+}
+
+void BulletFormatObject::setCharacter(std::int32_t character) {
+    if (character < 0 || character > 0xFFFF) {
+        errors::invalidRequest(u"BulletFormat.Character", u"La valeur n'est pas un caractère.");
+    }
+    part_.change(&ParagraphFormat::bulletCharacter, character);
+}
+
+automation::ObjectPtr BulletFormatObject::parent() const {
+    return std::make_shared<ParagraphFormatObject>(session(), part_);
+}
+
+} // namespace simulator

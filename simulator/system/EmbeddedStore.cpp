@@ -1,0 +1,27 @@
+#include "simulator/system/EmbeddedStore.h"
+
+#include "automation/Error.h"
+
+namespace simulator {
+
+void EmbeddedStore::save(const Presentation& presentation, std::u16string_view path) {
+    demandWritable(path);
+    inner_.save(presentation, path);
+}
+
+void EmbeddedStore::saveOutline(const Presentation& presentation, std::u16string_view path) {
+    demandWritable(path);
+    inner_.saveOutline(presentation, path);
+}
+
+bool EmbeddedStore::isReadOnly(std::u16string_view path) {
+    return (files_.attributes(path) & EmbeddedFiles::readOnly) != 0 || inner_.isReadOnly(path);
+}
+
+void EmbeddedStore::demandWritable(std::u16string_view path) {
+    if (isReadOnly(path)) {
+        automation::raise(automation::RunTimeError::PathAccess);
+    }
+}
+
+} // namespace simulator
