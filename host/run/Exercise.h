@@ -19,6 +19,9 @@ public:
     /// Drops the variables, closes the question and leaves the module. Raises what the module raises.
     void finish();
 
+    /// What the last check read; empty where there was none.
+    [[nodiscard]] const Reading& lastReading() const noexcept { return host_.lastReading(); }
+
 private:
     World& world_;
     Witness& witness_;

@@ -38,21 +38,20 @@ void performAll(Exercise& exercise, const language::Scenario& scenario) {
 Runner::Runner(const language::ScenarioFile& file, WorldMaker makeWorld)
     : file_(file), makeWorld_(std::move(makeWorld)), course_(file, makeWorld_) {}
 
-std::vector<Remark> Runner::run(const language::Scenario& scenario, const WitnessMaker& makeWitness,
-                                const automation::ObserverPtr& observer) const {
+Outcome Runner::run(const language::Scenario& scenario, const WitnessMaker& makeWitness,
+                    const automation::ObserverPtr& observer) const {
     const std::size_t aliveBefore = automation::Object::alive();
-    std::vector<Remark> remarks;
-    passes(scenario.place, remarks, [&] { remarks = runIn(*makeWorld_(observer), scenario, makeWitness); });
+    Outcome outcome;
+    passes(scenario.place, outcome.failures, [&] { outcome = runIn(*makeWorld_(observer), scenario, makeWitness); });
     const std::size_t aliveAfter = automation::Object::alive();
-    if (remarks.empty() && aliveAfter != aliveBefore) {
-        remarks.push_back(
+    if (outcome.failures.empty() && aliveAfter != aliveBefore) {
+        outcome.failures.push_back(
             {scenario.place, std::to_string(aliveAfter - aliveBefore) + " automation objects left alive"});
     }
-    return remarks;
+    return outcome;
 }
 
-std::vector<Remark> Runner::runIn(World& world, const language::Scenario& scenario,
-                                  const WitnessMaker& makeWitness) const {
+Outcome Runner::runIn(World& world, const language::Scenario& scenario, const WitnessMaker& makeWitness) const {
     Guard guard(world);
     const std::unique_ptr<Witness> other = makeWitness ? makeWitness(world) : nullptr;
     Witnesses witnesses;
@@ -71,7 +70,7 @@ std::vector<Remark> Runner::runIn(World& world, const language::Scenario& scenar
         }
     }
     // What is amiss behind a scenario broken off says nothing.
-    return isPerformed ? closing : remarks;
+    return {isPerformed ? closing : remarks, exercise.lastReading()};
 }
 
 } // namespace host

@@ -4,6 +4,12 @@
 
 namespace host {
 
+/// How a scenario went.
+struct Outcome {
+    std::vector<language::Remark> failures; ///< what fell short, each with its place; empty where it passed
+    Reading lastReading;                    ///< what the host read after the last check
+};
+
 /// Runs the scenarios of one file, each in a fresh world, from the delivery of its files to what must be left when all
 /// is over: the learner's folders and presentations as they were, no working file, no registry key open, no automation
 /// object alive.
@@ -16,15 +22,13 @@ public:
     /// Makes the witness of a scenario, which sees its world.
     using WitnessMaker = std::function<std::unique_ptr<Witness>(World&)>;
 
-    /// What fell short, each with its place; empty where the scenario passed. The first statement that falls short ends
-    /// the scenario.
-    [[nodiscard]] std::vector<language::Remark> run(const language::Scenario& scenario,
-                                                    const WitnessMaker& makeWitness = nullptr,
-                                                    const automation::ObserverPtr& observer = nullptr) const;
+    /// The first statement that falls short ends the scenario.
+    [[nodiscard]] Outcome run(const language::Scenario& scenario, const WitnessMaker& makeWitness = nullptr,
+                              const automation::ObserverPtr& observer = nullptr) const;
 
 private:
-    [[nodiscard]] std::vector<language::Remark> runIn(World& world, const language::Scenario& scenario,
-                                                      const WitnessMaker& makeWitness) const;
+    [[nodiscard]] Outcome runIn(World& world, const language::Scenario& scenario,
+                                const WitnessMaker& makeWitness) const;
 
     const language::ScenarioFile& file_;
     WorldMaker makeWorld_;

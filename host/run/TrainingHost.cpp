@@ -54,6 +54,7 @@ Reading TrainingHost::check() {
     if (raised) {
         reading.error = raised;
     }
+    lastReading_ = reading;
     witness_.judged(reading);
     return reading;
 }

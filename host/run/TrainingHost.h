@@ -30,6 +30,8 @@ public:
 
     [[nodiscard]] std::int32_t question() const noexcept { return question_; }
     [[nodiscard]] World& world() noexcept { return world_; }
+    /// What the last check read; empty where there was none.
+    [[nodiscard]] const Reading& lastReading() const noexcept { return lastReading_; }
 
     automation::ObjectPtr application; ///< the PowerPoint passed to the module; null for none
     std::int32_t window = unknownWindow;
@@ -44,7 +46,8 @@ private:
     Witness& witness_;
     std::int32_t delivered_ = 0; ///< the question whose files lie ready
     bool isOpen_ = false;        ///< a question has been begun and not closed
-    bool isLeft_ = true;         ///< nothing has been asked of the module since it was left
+    Reading lastReading_;
+    bool isLeft_ = true; ///< nothing has been asked of the module since it was left
 };
 
 } // namespace host

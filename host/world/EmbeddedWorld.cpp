@@ -4,7 +4,6 @@
 #include "automation/Text.h"
 #include "exercises/API.h"
 #include "host/world/LateBoundModule.h"
-#include "host/world/RegistryBalance.h"
 #include "host/world/TemporaryFolder.h"
 #include "module/Module.h"
 #include "platform/observed/ObservedServices.h"
@@ -25,43 +24,20 @@ using automation::ObserverPtr;
 using automation::RunTimeError;
 
 constexpr std::u16string_view folder = u"C:\\Formation\\";
-constexpr std::u16string_view learnersFolder = u"C:\\Documents and Settings\\Eleve\\Mes documents";
-
-/// The services of a machine with every registry call counted and, where an observer is given, every call observed.
-class WatchedServices {
-public:
-    WatchedServices(const platform::Services& machine, const ObserverPtr& observer)
-        : counted_(machine, balance_), services_{machine.windows, counted_.services().registry,
-                                                 machine.files,   machine.keyboard,
-                                                 machine.locale,  machine.servers} {
-        if (observer) {
-            observed_.emplace(services_, observer);
-        }
-    }
-
-    [[nodiscard]] const platform::Services& services() const { return observed_ ? observed_->services() : services_; }
-    [[nodiscard]] int openKeys() const noexcept { return balance_->open(); }
-
-private:
-    std::shared_ptr<RegistryBalance> balance_ = std::make_shared<RegistryBalance>();
-    platform::ObservedServices counted_;
-    platform::Services services_;
-    std::optional<platform::ObservedServices> observed_;
-};
-
 class EmbeddedWorld final : public World {
 public:
-    explicit EmbeddedWorld(const ObserverPtr& observer)
-        : observer_(observer), machine_(root_.path()), services_(machine_.services(), observer) {
-        fs::create_directories(machine_.realPath(folder));
-        for (const std::u16string_view name : folderSettings::names) {
-            machine_.setRegistryText(folderSettings::key, name, learnersFolder);
+    explicit EmbeddedWorld(const ObserverPtr& observer) : observer_(observer), machine_(root_.path()) {
+        if (observer) {
+            observed_.emplace(machine_.services(), observer);
         }
+        fs::create_directories(machine_.realPath(folder));
     }
 
     ModuleClient& module() override {
         if (!module_) {
-            module_.emplace(std::make_shared<k73053::Module>(shared_, services_.services()), observer_);
+            module_.emplace(
+                std::make_shared<k73053::Module>(shared_, observed_ ? observed_->services() : machine_.services()),
+                observer_);
         }
         return *module_;
     }
@@ -119,7 +95,7 @@ public:
     }
 
     std::vector<std::string> leftOpen() override {
-        const int keys = services_.openKeys();
+        const std::size_t keys = machine_.openRegistryKeys();
         return keys == 0 ? std::vector<std::string>() : std::vector{std::to_string(keys) + " registry keys not closed"};
     }
 
@@ -135,7 +111,7 @@ private:
     ObserverPtr observer_;
     TemporaryFolder root_;
     simulator::Machine machine_;
-    WatchedServices services_;
+    std::optional<platform::ObservedServices> observed_;
     exercises::API shared_;
     std::optional<LateBoundModule> module_;
 };
