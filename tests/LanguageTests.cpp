@@ -235,6 +235,8 @@ TEST(Language, AScenarioFileHasItsParts) {
     EXPECT_EQ(file.course[0].place, (Place{4, 3}));
     ASSERT_EQ(file.scenarios.size(), 2U);
     const Scenario& one = file.scenarios[0];
+    EXPECT_EQ(parse("t", "question 306\ncourse\nexpect error 5 \"X\":  # raises\n  A.B 2 ").course[0].text,
+              u"expect error 5 \"X\": A.B 2");
     EXPECT_TRUE(one.startsBeforeInitQuestion);
     EXPECT_EQ(one.statements.at(1).text, u"check error 0");
     EXPECT_TRUE(one.lastExpectation()->isSuccess());

@@ -58,6 +58,7 @@ private:
         if (waiting_ != nullptr) {
             ExpectError& expectation = *std::exchange(waiting_, nullptr);
             expectation.statement = std::make_unique<Statement>(statementOf(line, tokens));
+            block_->back().text += u' ' + expectation.statement->text;
         } else if (words.takeWord(u"question")) {
             question(words, place);
         } else {

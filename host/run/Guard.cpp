@@ -28,12 +28,18 @@ void Guard::called(HostCall call, const automation::Error* /*error*/) {
     comparePresentations(call, after);
 }
 
+bool Guard::isOfTheExercise(const OpenPresentation& open) const {
+    const std::u16string folder = world_.hostFolder();
+    return automation::equalIgnoringCase(open.fullName.substr(0, folder.size()), folder) ||
+           workingPresentations_.contains(open.fullName);
+}
+
 void Guard::comparePresentations(HostCall call, const Snapshot& after) {
     if (!before_->presentations || !after.presentations || before_->window != after.window) {
         return;
     }
     for (const OpenPresentation& open : *before_->presentations) {
-        if (workingPresentations_.contains(open.fullName)) {
+        if (isOfTheExercise(open)) {
             continue;
         }
         const OpenPresentation* const now = after.find(open.fullName);

@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// Watches over what is the learner's: no call of the module may touch a presentation that it has not opened, and when
-/// all is over the learner's folder settings are as they were and no working file is left.
+/// Watches over what is the learner's: no call of the module may touch a presentation that it has not opened, but in
+/// the host's folder, and when all is over the learner's folder settings are as they were and no working file is left.
 class Guard final : public Witness {
 public:
     /// `world` must outlive this object.
@@ -21,6 +21,7 @@ public:
     [[nodiscard]] std::vector<std::string> findings();
 
 private:
+    [[nodiscard]] bool isOfTheExercise(const OpenPresentation& open) const;
     void comparePresentations(HostCall call, const Snapshot& after);
 
     World& world_;
