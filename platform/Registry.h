@@ -42,9 +42,8 @@ public:
 /// A registry key for the length of a scope.
 class OpenKey {
 public:
-    OpenKey(Registry& registry, std::u16string_view path, std::uint32_t access) : registry_(registry) {
-        status_ = registry.open(path, access, key_);
-    }
+    OpenKey(Registry& registry, std::u16string_view path, std::uint32_t access)
+        : registry_(registry), status_(registry.open(path, access, key_)) {}
     ~OpenKey() {
         if (isOpen()) {
             registry_.close(key_);
