@@ -32,6 +32,9 @@ std::vector<ShapePtr> ungroup(Slide& slide, const ShapePtr& group) {
 
 void erase(const ShapePtr& shape) {
     const SlidePtr slide = shape->slide.lock();
+    if (!slide) {
+        return;
+    }
     const ShapePtr outer = shape->group();
     if (!outer) {
         slide->remove(shape);

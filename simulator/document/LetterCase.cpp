@@ -17,7 +17,6 @@ bool isLetter(char16_t character) noexcept {
     return within(u'A', u'Z') || within(u'a', u'z') || latin || within(0x0370, 0x052F) || within(0x1E00, 0x1FFF);
 }
 
-
 bool endsSentence(char16_t character) noexcept {
     constexpr std::u16string_view ends = u".!?\u2026\r";
     return ends.find(character) != std::u16string_view::npos;

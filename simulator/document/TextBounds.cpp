@@ -49,8 +49,8 @@ float shareAbove(MsoVerticalAnchor anchor) {
 Frame textBounds(const TextStory& story, Span span, const Frame& shape) {
     const TextLayout& layout = story.layout;
     const float room = shape.width - layout.marginLeft - layout.marginRight;
-    const float free = shape.height - layout.marginTop - layout.marginBottom -
-                       sizeOfAll(story, {0, story.text().size()}, room).height;
+    const float free =
+        shape.height - layout.marginTop - layout.marginBottom - sizeOfAll(story, {0, story.text().size()}, room).height;
     const float above = sizeOfAll(story, {0, span.start}, room).height;
     const Size size = sizeOfAll(story, span, room);
     return {shape.left + layout.marginLeft, shape.top + layout.marginTop + free * shareAbove(layout.anchor) + above,

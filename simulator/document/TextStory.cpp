@@ -1,6 +1,7 @@
 #include "simulator/document/TextStory.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace simulator {
 
@@ -29,6 +30,24 @@ template <typename T> auto iteratorAt(std::vector<T>& items, std::size_t place) 
 }
 
 } // namespace
+
+TextStory::TextStory(std::u16string text, std::vector<Run> runs, std::vector<ParagraphFormat> paragraphFormats)
+    : text_(std::move(text)), runs_(std::move(runs)), paragraphFormats_(std::move(paragraphFormats)) {
+    std::size_t covered = 0;
+    for (const Run& run : runs_) {
+        if (run.length > text_.size() - covered) {
+            throw std::invalid_argument("the runs of a text are longer than the text");
+        }
+        covered += run.length;
+    }
+    if (runs_.empty() || covered != text_.size()) {
+        throw std::invalid_argument("the runs of a text are shorter than the text");
+    }
+    if (paragraphFormats_.size() != marksIn(text_) + 1) {
+        throw std::invalid_argument("a text has more or fewer paragraphs than formats for them");
+    }
+    join();
+}
 
 Span TextStory::clipped(Span span) const noexcept {
     const std::size_t start = std::min(span.start, text_.size());

@@ -33,6 +33,11 @@ public:
         friend bool operator==(const Run&, const Run&) = default;
     };
 
+    TextStory() = default;
+    /// A story from its parts, as a file holds them. Raises std::invalid_argument where the runs do not add up to the
+    /// text, or the paragraph formats are not one more than the paragraph marks.
+    TextStory(std::u16string text, std::vector<Run> runs, std::vector<ParagraphFormat> paragraphFormats);
+
     TextLayout layout;
 
     [[nodiscard]] const std::u16string& text() const noexcept { return text_; }

@@ -1,7 +1,7 @@
 #include "simulator/objects/BulletFormatObject.h"
 
-#include "simulator/objects/ParagraphFormatObject.h"
 #include "simulator/objects/CommonState.h"
+#include "simulator/objects/ParagraphFormatObject.h"
 
 namespace simulator {
 

@@ -22,9 +22,7 @@ std::int32_t ColorFormatObject::rgb() const {
 }
 
 void ColorFormatObject::setRgb(std::int32_t rgb) {
-    if (rgb < 0 || rgb > 0xFFFFFF) {
-        errors::invalidRequest(u"ColorFormat.RGB", u"La valeur n'est pas une couleur.");
-    }
+    errors::demandWithin(rgb, 0, 0xFFFFFF, u"ColorFormat.RGB");
     setter_(Color::direct(rgb));
 }
 
@@ -33,9 +31,7 @@ PpColorSchemeIndex ColorFormatObject::schemeColor() const {
 }
 
 void ColorFormatObject::setSchemeColor(PpColorSchemeIndex place) {
-    if (place < ppBackground || place > ppAccent3) {
-        errors::invalidRequest(u"ColorFormat.SchemeColor", u"La valeur n'est pas une couleur du jeu de couleurs.");
-    }
+    errors::demandWithin(place, ppBackground, ppAccent3, u"ColorFormat.SchemeColor");
     setter_(Color::of(place));
 }
 

@@ -9,8 +9,8 @@ class CommandBarObject;
 /// CommandBarControl: a button or menu of a command bar. Whether it is available is told from the selection as it is.
 class CommandBarControlObject final : public PowerPointObject {
 public:
-    static constexpr std::int32_t stateUnavailable = 1;     ///< STATE_SYSTEM_UNAVAILABLE
-    static constexpr std::int32_t stateInvisible = 0x8000;  ///< STATE_SYSTEM_INVISIBLE
+    static constexpr std::int32_t stateUnavailable = 1;      ///< STATE_SYSTEM_UNAVAILABLE
+    static constexpr std::int32_t stateInvisible = 0x8000;   ///< STATE_SYSTEM_INVISIBLE
     static constexpr std::int32_t stateFocusable = 0x100000; ///< STATE_SYSTEM_FOCUSABLE
 
     /// Both places are from 0.

@@ -1,7 +1,7 @@
 #include "simulator/objects/FontObject.h"
 
-#include "simulator/objects/TextRangeObject.h"
 #include "simulator/objects/CommonState.h"
+#include "simulator/objects/TextRangeObject.h"
 
 namespace simulator {
 

@@ -34,4 +34,8 @@ void invalidRequest(std::u16string_view member, std::u16string_view reason) {
     raise(requestRefused, std::u16string(member) + u" : Requête incorrecte. " + std::u16string(reason));
 }
 
+void invalidValue(std::u16string_view member) {
+    invalidRequest(member, u"La valeur spécifiée est hors limites.");
+}
+
 } // namespace simulator::errors

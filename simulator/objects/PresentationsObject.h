@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::shared_ptr<PresentationObject> item(const automation::Value& index) const;
     /// A new presentation without slides; with a window unless that is declined, which an invisible PowerPoint refuses.
     std::shared_ptr<PresentationObject> add(std::optional<MsoTriState> withWindow) const;
-    /// Opens a file, or shows it where it is open already. Raises FileNotFound (53).
+    /// Opens a file, or shows it where it is open already. Raises an invalid request where it cannot be read.
     std::shared_ptr<PresentationObject> open(const std::u16string& fileName, std::optional<MsoTriState> readOnly,
                                              std::optional<MsoTriState> untitled,
                                              std::optional<MsoTriState> withWindow) const;

@@ -68,8 +68,7 @@ std::shared_ptr<ShapeRangeObject> SelectionObject::shapeRange() const {
     if (whole.empty()) {
         nothingSelected(u"Selection.ShapeRange");
     }
-    return std::make_shared<ShapeRangeObject>(session(),
-                                              std::vector<std::weak_ptr<Shape>>(whole.begin(), whole.end()));
+    return std::make_shared<ShapeRangeObject>(session(), std::vector<std::weak_ptr<Shape>>(whole.begin(), whole.end()));
 }
 
 MsoTriState SelectionObject::hasChildShapeRange() const {

@@ -93,7 +93,8 @@ std::int32_t TextRangeObject::count() const {
 
 TextRangeObject::Pointer TextRangeObject::unitsFrom(TextUnit unit, std::int32_t start, std::int32_t length) const {
     if (start == 0 || start < leftOut || length < leftOut) {
-        errors::invalidRequest(u"TextRange", u"Le début doit être supérieur à 0, et la longueur ne peut être négative.");
+        errors::invalidRequest(u"TextRange",
+                               u"Le début doit être supérieur à 0, et la longueur ne peut être négative.");
     }
     const Span found = part_.read([=](const TextStory& story, Span span) {
         if (start == leftOut && length == leftOut) {

@@ -58,8 +58,10 @@ void ViewObject::paste() const {
     const DocumentWindowPtr window = simulator::alive(window_);
     const Clipboard& clipboard = session()->clipboard();
     if (!clipboard.slides.empty()) {
-        LateBound(parent()->presentation()).get(u"Slides").to<automation::ObjectPtr>()->invoke(
-            u"Paste", automation::Access::Call, {});
+        LateBound(parent()->presentation())
+            .get(u"Slides")
+            .to<automation::ObjectPtr>()
+            ->invoke(u"Paste", automation::Access::Call, {});
     } else if (!clipboard.text.empty() && window->selection.type() == ppSelectionText) {
         LateBound(parent()->selection()->textRange()).call(u"Paste");
     } else {

@@ -21,8 +21,8 @@ Controls captioned(std::initializer_list<const char16_t*> captions) {
 /// The context menu of a freeform whose points are not being edited.
 Controls curveControls() {
     Controls controls =
-        captioned({u"&Couper", u"Co&pier", u"C&oller", u"&Ajouter du texte", u"&Groupe", u"O&rdre", u"&Fermer la courbe",
-                   u"&Modifier les points", u"Utiliser comme forme automatique par &défaut",
+        captioned({u"&Couper", u"Co&pier", u"C&oller", u"&Ajouter du texte", u"&Groupe", u"O&rdre",
+                   u"&Fermer la courbe", u"&Modifier les points", u"Utiliser comme forme automatique par &défaut",
                    u"&Format de la forme automatique..."});
     controls[6].command = CommandBarControl::Command::CloseCurve;
     return controls;
@@ -52,22 +52,23 @@ CommandBar menuBar() {
 std::vector<CommandBar> installed() {
     return {
         menuBar(),
-        shown(toolbar(u"Standard",
-                      captioned({u"&Nouveau", u"&Ouvrir", u"&Enregistrer", u"Im&primer", u"Aperçu a&vant impression",
-                                 u"Orthogra&phe...", u"Co&uper", u"Co&pier", u"C&oller", u"Ann&uler", u"&Rétablir",
-                                 u"&Zoom :"}),
-                      msoBarTop)),
+        shown(toolbar(
+            u"Standard",
+            captioned({u"&Nouveau", u"&Ouvrir", u"&Enregistrer", u"Im&primer", u"Aperçu a&vant impression",
+                       u"Orthogra&phe...", u"Co&uper", u"Co&pier", u"C&oller", u"Ann&uler", u"&Rétablir", u"&Zoom :"}),
+            msoBarTop)),
         shown(toolbar(u"Formatting",
                       captioned({u"&Police :", u"&Taille :", u"&Gras", u"&Italique", u"&Souligné", u"O&mbre",
                                  u"Aligné à &gauche", u"&Centré", u"Aligné à &droite", u"&Couleur de police"}),
                       msoBarTop)),
         toolbar(u"Slide Sorter", captioned({u"&Masquer la diapositive", u"Transit&ion"}), msoBarTop),
         toolbar(u"Outlining", captioned({u"&Hausser", u"&Abaisser", u"&Monter", u"&Descendre"}), msoBarLeft),
-        shown(toolbar(u"Drawing",
-                      captioned({u"Dess&in", u"Sélectionner les &objets", u"Formes a&utomatiques", u"&Trait", u"&Flèche",
-                                 u"&Rectangle", u"&Ellipse", u"&Zone de texte", u"&Insérer un objet WordArt...",
-                                 u"&Couleur de remplissage", u"Couleur du &contour", u"Style &ombre", u"Style &3D"}),
-                      msoBarBottom)),
+        shown(
+            toolbar(u"Drawing",
+                    captioned({u"Dess&in", u"Sélectionner les &objets", u"Formes a&utomatiques", u"&Trait", u"&Flèche",
+                               u"&Rectangle", u"&Ellipse", u"&Zone de texte", u"&Insérer un objet WordArt...",
+                               u"&Couleur de remplissage", u"Couleur du &contour", u"Style &ombre", u"Style &3D"}),
+                    msoBarBottom)),
         toolbar(u"Picture", captioned({u"Insérer une &image...", u"&Couleur", u"&Rogner"})),
         toolbar(u"WordArt", captioned({u"&WordArt...", u"&Modifier le texte...", u"&Galerie WordArt..."})),
         toolbar(u"3-D Settings", captioned({u"Activer/désactiver &3D", u"&Profondeur", u"&Direction"})),

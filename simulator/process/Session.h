@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// Loads and saves presentation files by their Windows paths. Raises FileNotFound (53), PathAccess (75) and the like.
+/// Loads and saves presentation files by their Windows paths. Raises PowerPoint's own error where that fails.
 class PresentationStore {
 public:
     virtual ~PresentationStore() = default;
@@ -33,6 +33,7 @@ struct Clipboard {
     std::vector<ShapePtr> shapes;
     std::vector<SlidePtr> slides;
     std::u16string text;
+    ShapePtr format; ///< a copy of the shape whose format was picked up last, apart from what was copied
 };
 
 /// One run of PowerPoint, from its start to its end. Automation objects hold it; when it has ended, or does not answer,

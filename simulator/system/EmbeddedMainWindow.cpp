@@ -7,9 +7,9 @@ namespace simulator {
 using platform::WindowHandle;
 
 EmbeddedMainWindow::EmbeddedMainWindow(EmbeddedWindows& windows, std::function<void()> onClose)
-    : windows_(windows), handle_(windows.create({.className = std::u16string(frameClass),
-                                                 .visible = false,
-                                                 .onClose = std::move(onClose)})) {}
+    : windows_(windows),
+      handle_(
+          windows.create({.className = std::u16string(frameClass), .visible = false, .onClose = std::move(onClose)})) {}
 
 EmbeddedMainWindow::~EmbeddedMainWindow() {
     windows_.destroy(handle_);

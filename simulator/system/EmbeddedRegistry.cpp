@@ -23,8 +23,7 @@ auto named(std::u16string_view name) {
     return [name](const auto& value) { return automation::equalIgnoringCase(value.name, name); };
 }
 
-template <typename Value>
-void assign(std::vector<Value>& values, std::u16string_view name, std::u16string data) {
+template <typename Value> void assign(std::vector<Value>& values, std::u16string_view name, std::u16string data) {
     const auto found = std::find_if(values.begin(), values.end(), named(name));
     if (found == values.end()) {
         values.push_back({std::u16string(name), std::move(data)});

@@ -1,6 +1,6 @@
 #include "simulator/system/EmbeddedStore.h"
 
-#include "automation/Error.h"
+#include "simulator/objects/PowerPointObject.h"
 
 namespace simulator {
 
@@ -20,7 +20,8 @@ bool EmbeddedStore::isReadOnly(std::u16string_view path) {
 
 void EmbeddedStore::demandWritable(std::u16string_view path) {
     if (isReadOnly(path)) {
-        automation::raise(automation::RunTimeError::PathAccess);
+        errors::invalidRequest(u"Presentation.SaveAs",
+                               u"Le fichier « " + std::u16string(path) + u" » est en lecture seule.");
     }
 }
 

@@ -13,7 +13,7 @@ public:
     EmbeddedStore(PresentationStore& inner, const EmbeddedFiles& files) noexcept : inner_(inner), files_(files) {}
 
     [[nodiscard]] PresentationPtr load(std::u16string_view path) override { return inner_.load(path); }
-    /// Raises PathAccess (75) for a read-only file.
+    /// Raises an invalid request for a read-only file.
     void save(const Presentation& presentation, std::u16string_view path) override;
     void saveOutline(const Presentation& presentation, std::u16string_view path) override;
     [[nodiscard]] bool isReadOnly(std::u16string_view path) override;
