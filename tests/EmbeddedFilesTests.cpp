@@ -1,6 +1,6 @@
 #include "simulator/system/EmbeddedFiles.h"
 #include "simulator/system/FilePattern.h"
-#include "tests/RaisedError.h"
+#include "tests/Errors.h"
 #include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,6 @@ namespace {
 
 using automation::RunTimeError;
 using simulator::EmbeddedFiles;
-using tests::errorOf;
 
 constexpr auto fileNotFound = static_cast<std::int32_t>(RunTimeError::FileNotFound);
 constexpr auto alreadyExists = static_cast<std::int32_t>(RunTimeError::FileAlreadyExists);
@@ -73,16 +72,16 @@ TEST_F(EmbeddedFilesTest, RenamesWithoutEverOverwriting) {
     files.create(u"C:\\a\\Pris.ppt");
     files.setAttributes(u"C:\\a\\07305301.ppt", EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
     const auto rename = [this](std::u16string_view from, std::u16string_view to) {
-        return errorOf([&] { files.rename(from, to); });
+        return errorNumber([&] { files.rename(from, to); });
     };
     EXPECT_EQ(rename(u"C:\\a\\absent.ppt", u"C:\\a\\x.ppt"), fileNotFound);
     EXPECT_EQ(rename(u"C:\\a", u"C:\\b"), fileNotFound);
     EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\a\\PRIS.ppt"), alreadyExists);
     EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\a\\07305301.ppt"), alreadyExists);
     EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\absent\\x.ppt"), pathAccess);
-    EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\a\\07305301.PPT"), std::nullopt);
+    EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\a\\07305301.PPT"), noError);
     EXPECT_EQ(files.find(u"C:\\a\\07305301.ppt", hiddenAndSystem), u"07305301.PPT");
-    EXPECT_EQ(rename(u"c:\\A\\07305301.ppt", u"C:\\a\\Méthodologie.ppt"), std::nullopt);
+    EXPECT_EQ(rename(u"c:\\A\\07305301.ppt", u"C:\\a\\Méthodologie.ppt"), noError);
     EXPECT_FALSE(exists(u"C:\\a\\07305301.ppt"));
     EXPECT_EQ(files.attributes(u"C:\\a\\Méthodologie.ppt"), EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
 }
@@ -90,7 +89,7 @@ TEST_F(EmbeddedFilesTest, RenamesWithoutEverOverwriting) {
 TEST_F(EmbeddedFilesTest, HeedsAttributes) {
     files.create(u"C:\\a\\x.ppt");
     files.setAttributes(u"C:\\a\\x.ppt", EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
-    EXPECT_EQ(errorOf([&] { files.remove(u"C:\\a\\x.ppt"); }), pathAccess);
+    EXPECT_EQ(errorNumber([&] { files.remove(u"C:\\a\\x.ppt"); }), pathAccess);
     EXPECT_EQ(files.find(u"C:\\a\\*", 0), u"");
     EXPECT_EQ(files.find(u"C:\\a\\*", EmbeddedFiles::system), u"");
     EXPECT_EQ(files.find(u"C:\\a\\*", hiddenAndSystem), u"x.ppt");
@@ -98,17 +97,17 @@ TEST_F(EmbeddedFilesTest, HeedsAttributes) {
     EXPECT_EQ(files.find(u"C:\\a\\*", 0), u"x.ppt");
     files.remove(u"C:\\a\\x.ppt");
     EXPECT_FALSE(exists(u"C:\\a\\x.ppt"));
-    EXPECT_EQ(errorOf([&] { files.remove(u"C:\\a\\x.ppt"); }), fileNotFound);
-    EXPECT_EQ(errorOf([&] { files.setAttributes(u"C:\\a\\x.ppt", 0); }), fileNotFound);
-    EXPECT_EQ(errorOf([&] { files.clearAttributes(u"C:\\a\\x.ppt"); }), fileNotFound);
-    EXPECT_EQ(errorOf([&] { files.clearAttributes(u"C:\\absent\\x.ppt"); }), pathNotFound);
+    EXPECT_EQ(errorNumber([&] { files.remove(u"C:\\a\\x.ppt"); }), fileNotFound);
+    EXPECT_EQ(errorNumber([&] { files.setAttributes(u"C:\\a\\x.ppt", 0); }), fileNotFound);
+    EXPECT_EQ(errorNumber([&] { files.clearAttributes(u"C:\\a\\x.ppt"); }), fileNotFound);
+    EXPECT_EQ(errorNumber([&] { files.clearAttributes(u"C:\\absent\\x.ppt"); }), pathNotFound);
 }
 
 TEST_F(EmbeddedFilesTest, LeavesOpenFilesWhereTheyAre) {
     files.create(u"C:\\a\\x.ppt");
     files.setIsOpen([&](const std::filesystem::path& file) { return file.filename() == "x.ppt"; });
-    EXPECT_EQ(errorOf([&] { files.remove(u"C:\\a\\X.ppt"); }), permissionDenied);
-    EXPECT_EQ(errorOf([&] { files.rename(u"C:\\a\\X.ppt", u"C:\\a\\y.ppt"); }), pathAccess);
+    EXPECT_EQ(errorNumber([&] { files.remove(u"C:\\a\\X.ppt"); }), permissionDenied);
+    EXPECT_EQ(errorNumber([&] { files.rename(u"C:\\a\\X.ppt", u"C:\\a\\y.ppt"); }), pathAccess);
     EXPECT_TRUE(exists(u"C:\\a\\x.ppt"));
 }
 
