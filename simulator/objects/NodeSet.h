@@ -18,6 +18,7 @@ public:
     NodeSet(std::weak_ptr<Node> node) { nodes_.push_back(std::move(node)); }
     NodeSet(const Pointer& node) : NodeSet(std::weak_ptr<Node>(node)) {}
     NodeSet(const std::vector<Pointer>& nodes) : nodes_(nodes.begin(), nodes.end()) {}
+    NodeSet(std::vector<std::weak_ptr<Node>> nodes) noexcept : nodes_(std::move(nodes)) {}
 
     [[nodiscard]] std::size_t size() const noexcept { return nodes_.size(); }
 
