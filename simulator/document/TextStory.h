@@ -51,7 +51,8 @@ public:
 
     /// Puts text in the place of a span; it takes the format of the first character replaced, or of the one before an
     /// empty span (after it at the very start). "\r\n" and "\n" become paragraph marks; new paragraphs take the format
-    /// of the one in which the span starts. Returns where the text now stands.
+    /// of the one in which the span starts; what follows the span keeps its own where it stays a paragraph apart.
+    /// Returns where the text now stands.
     Span replace(Span span, std::u16string_view text);
     /// The same, in a given format.
     Span replace(Span span, std::u16string_view text, const CharacterFormat& format);

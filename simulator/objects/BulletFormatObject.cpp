@@ -1,7 +1,7 @@
 #include "simulator/objects/BulletFormatObject.h"
 
-#include "simulator/objects/CommonState.h"
 #include "simulator/objects/ParagraphFormatObject.h"
+#include "simulator/objects/TriState.h"
 
 namespace simulator {
 
@@ -29,11 +29,10 @@ const automation::MemberTable& BulletFormatObject::members() const {
 MsoTriState BulletFormatObject::visible() const {
     return part_.read([](const TextStory& story, Span span) {
         const auto paragraphs = story.paragraphFormats(span);
-        const auto shown = std::count_if(paragraphs.begin(), paragraphs.end(), [](const ParagraphFormat& paragraph) {
-            return paragraph.bullet != ppBulletNone;
-        });
-        const bool all = shown == std::ssize(paragraphs);
-        return commonState(all || shown == 0 ? std::optional(all) : std::nullopt);
+        const auto isShown = [](const ParagraphFormat& paragraph) { return paragraph.bullet != ppBulletNone; };
+        const bool all = std::all_of(paragraphs.begin(), paragraphs.end(), isShown);
+        const bool some = std::any_of(paragraphs.begin(), paragraphs.end(), isShown);
+        return triState(all == some ? std::optional(all) : std::nullopt);
     });
 }
 
@@ -54,9 +53,7 @@ PpBulletType BulletFormatObject::type() const {
 }
 
 void BulletFormatObject::setType(PpBulletType type) {
-    if (type < ppBulletNone || type > ppBulletNumbered) {
-        errors::invalidRequest(u"BulletFormat.Type", u"La valeur n'est pas un type de puce.");
-    }
+    errors::demandWithin(type, ppBulletNone, ppBulletNumbered, u"BulletFormat.Type");
     part_.change(&ParagraphFormat::bullet, type);
 }
 
@@ -65,9 +62,7 @@ std::int32_t BulletFormatObject::character() const {
 }
 
 void BulletFormatObject::setCharacter(std::int32_t character) {
-    if (character < 0 || character > 0xFFFF) {
-        errors::invalidRequest(u"BulletFormat.Character", u"La valeur n'est pas un caractère.");
-    }
+    errors::demandWithin(character, 0, 0xFFFF, u"BulletFormat.Character");
     part_.change(&ParagraphFormat::bulletCharacter, character);
 }
 

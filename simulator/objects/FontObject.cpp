@@ -1,7 +1,7 @@
 #include "simulator/objects/FontObject.h"
 
-#include "simulator/objects/CommonState.h"
 #include "simulator/objects/TextRangeObject.h"
+#include "simulator/objects/TriState.h"
 
 namespace simulator {
 
@@ -50,7 +50,7 @@ std::u16string FontObject::name() const {
 
 void FontObject::setName(const std::u16string& name) {
     if (name.empty()) {
-        errors::invalidRequest(u"Font.Name", u"Une police doit avoir un nom.");
+        errors::invalidValue(u"Font.Name");
     }
     part_.change(&CharacterFormat::fontName, name);
 }
@@ -60,9 +60,7 @@ float FontObject::size() const {
 }
 
 void FontObject::setSize(float points) {
-    if (!(points >= 1 && points <= largestSize)) {
-        errors::invalidRequest(u"Font.Size", u"La taille doit être comprise entre 1 et 4000 points.");
-    }
+    errors::demandWithin(points, 1.0F, largestSize, u"Font.Size");
     part_.change(&CharacterFormat::size, points);
 }
 
@@ -86,7 +84,7 @@ automation::ObjectPtr FontObject::parent() const {
 }
 
 MsoTriState FontObject::styleOf(bool CharacterFormat::*property) const {
-    return commonState(part_.common(property));
+    return triState(part_.common(property));
 }
 
 void FontObject::changeStyle(bool CharacterFormat::*property, MsoTriState on) {

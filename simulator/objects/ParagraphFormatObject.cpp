@@ -8,6 +8,7 @@ namespace simulator {
 namespace {
 
 constexpr float mixedSpace = -2;
+constexpr float largestSpace = 132; ///< lines
 
 } // namespace
 
@@ -34,9 +35,7 @@ PpParagraphAlignment ParagraphFormatObject::alignment() const {
 }
 
 void ParagraphFormatObject::setAlignment(PpParagraphAlignment alignment) {
-    if (alignment < ppAlignLeft || alignment > ppAlignDistribute) {
-        errors::invalidRequest(u"ParagraphFormat.Alignment", u"La valeur n'est pas un alignement.");
-    }
+    errors::demandWithin(alignment, ppAlignLeft, ppAlignDistribute, u"ParagraphFormat.Alignment");
     part_.change(&ParagraphFormat::alignment, alignment);
 }
 
@@ -49,9 +48,7 @@ float ParagraphFormatObject::spaceOf(float ParagraphFormat::*space) const {
 }
 
 void ParagraphFormatObject::changeSpace(float ParagraphFormat::*space, float lines) {
-    if (!(lines >= 0)) {
-        errors::invalidRequest(u"ParagraphFormat.Space", u"Un espacement ne peut pas être négatif.");
-    }
+    errors::demandWithin(lines, 0.0F, largestSpace, u"ParagraphFormat.Space");
     part_.change(space, lines);
 }
 

@@ -1,6 +1,7 @@
 #include "simulator/objects/TextFrameObject.h"
 
-#include "simulator/objects/CommonState.h"
+#include "simulator/objects/ShapeObject.h"
+#include "simulator/objects/TriState.h"
 
 #include <limits>
 
@@ -9,6 +10,7 @@ namespace simulator {
 namespace {
 
 constexpr Span everything{0, std::numeric_limits<std::size_t>::max()};
+constexpr float widest = 1584; ///< points
 
 } // namespace
 
@@ -38,7 +40,7 @@ const automation::MemberTable& TextFrameObject::members() const {
 }
 
 MsoTriState TextFrameObject::hasText() const {
-    return commonState(part_.read([](const TextStory&, Span span) { return span.length != 0; }));
+    return triState(part_.read([](const TextStory&, Span span) { return span.length != 0; }));
 }
 
 std::shared_ptr<TextRangeObject> TextFrameObject::textRange() const {
@@ -55,14 +57,12 @@ PpAutoSize TextFrameObject::autoSize() const {
 }
 
 void TextFrameObject::setAutoSize(PpAutoSize autoSize) {
-    if (autoSize != ppAutoSizeNone && autoSize != ppAutoSizeShapeToFitText) {
-        errors::invalidRequest(u"TextFrame.AutoSize", u"La valeur n'est pas un ajustement.");
-    }
+    errors::demandWithin(autoSize, ppAutoSizeNone, ppAutoSizeShapeToFitText, u"TextFrame.AutoSize");
     part_.edit([autoSize](TextStory& story, Span) { story.layout.autoSize = autoSize; });
 }
 
 MsoTriState TextFrameObject::wordWrap() const {
-    return commonState(layout().wordWrap);
+    return triState(layout().wordWrap);
 }
 
 void TextFrameObject::setWordWrap(MsoTriState wraps) {
@@ -70,9 +70,7 @@ void TextFrameObject::setWordWrap(MsoTriState wraps) {
 }
 
 void TextFrameObject::changeMargin(float TextLayout::*margin, float points) {
-    if (!(points >= 0)) {
-        errors::invalidRequest(u"TextFrame.Margin", u"Une marge ne peut pas être négative.");
-    }
+    errors::demandWithin(points, 0.0F, widest, u"TextFrame.Margin");
     part_.edit([margin, points](TextStory& story, Span) { story.layout.*margin = points; });
 }
 
@@ -81,9 +79,8 @@ MsoTextOrientation TextFrameObject::orientation() const {
 }
 
 void TextFrameObject::setOrientation(MsoTextOrientation orientation) {
-    if (orientation < msoTextOrientationHorizontal || orientation > msoTextOrientationHorizontalRotatedFarEast) {
-        errors::invalidRequest(u"TextFrame.Orientation", u"La valeur n'est pas une orientation.");
-    }
+    errors::demandWithin(orientation, msoTextOrientationHorizontal, msoTextOrientationHorizontalRotatedFarEast,
+                         u"TextFrame.Orientation");
     part_.edit([orientation](TextStory& story, Span) { story.layout.orientation = orientation; });
 }
 
@@ -92,10 +89,12 @@ MsoVerticalAnchor TextFrameObject::verticalAnchor() const {
 }
 
 void TextFrameObject::setVerticalAnchor(MsoVerticalAnchor anchor) {
-    if (anchor < msoAnchorTop || anchor > msoAnchorBottomBaseLine) {
-        errors::invalidRequest(u"TextFrame.VerticalAnchor", u"La valeur n'est pas un alignement vertical.");
-    }
+    errors::demandWithin(anchor, msoAnchorTop, msoAnchorBottomBaseLine, u"TextFrame.VerticalAnchor");
     part_.edit([anchor](TextStory& story, Span) { story.layout.anchor = anchor; });
+}
+
+automation::ObjectPtr TextFrameObject::parent() const {
+    return std::make_shared<ShapeObject>(session(), part_.shape());
 }
 
 TextLayout TextFrameObject::layout() const {

@@ -4,6 +4,7 @@
 #include "simulator/document/TextBounds.h"
 #include "simulator/document/TextSearch.h"
 #include "simulator/objects/TextFrameObject.h"
+#include "simulator/objects/TriState.h"
 
 namespace simulator {
 
@@ -20,10 +21,24 @@ TextSearch searchFor(const std::u16string& what, std::optional<MsoTriState> matc
 /// What is left of a span behind its first characters.
 Span behind(Span span, std::int32_t characters) {
     if (characters < 0) {
-        errors::invalidRequest(u"TextRange.Find", u"La position ne peut pas être négative.");
+        errors::invalidValue(u"TextRange.Find");
     }
     const std::size_t skipped = std::min(static_cast<std::size_t>(characters), span.length);
     return {span.start + skipped, span.length - skipped};
+}
+
+/// The member that gives a range in units.
+std::u16string_view memberNameOf(TextUnit unit) {
+    switch (unit) {
+    case TextUnit::Character: return u"TextRange.Characters";
+    case TextUnit::Word: return u"TextRange.Words";
+    case TextUnit::Sentence: return u"TextRange.Sentences";
+    case TextUnit::Line: return u"TextRange.Lines";
+    case TextUnit::Paragraph: return u"TextRange.Paragraphs";
+    case TextUnit::Run: return u"TextRange.Runs";
+    case TextUnit::Range: break;
+    }
+    return u"TextRange";
 }
 
 } // namespace
@@ -93,8 +108,7 @@ std::int32_t TextRangeObject::count() const {
 
 TextRangeObject::Pointer TextRangeObject::unitsFrom(TextUnit unit, std::int32_t start, std::int32_t length) const {
     if (start == 0 || start < leftOut || length < leftOut) {
-        errors::invalidRequest(u"TextRange",
-                               u"Le début doit être supérieur à 0, et la longueur ne peut être négative.");
+        errors::invalidValue(memberNameOf(unit));
     }
     const Span found = part_.read([=](const TextStory& story, Span span) {
         if (start == leftOut && length == leftOut) {
@@ -132,9 +146,7 @@ std::int32_t TextRangeObject::indentLevel() const {
 }
 
 void TextRangeObject::setIndentLevel(std::int32_t level) {
-    if (level < 1 || level > deepestLevel) {
-        errors::outOfRange(u"TextRange.IndentLevel", level, deepestLevel);
-    }
+    errors::demandWithin(level, 1, deepestLevel, u"TextRange.IndentLevel");
     part_.change(&ParagraphFormat::indentLevel, level);
 }
 
@@ -161,9 +173,7 @@ void TextRangeObject::remove() {
 }
 
 void TextRangeObject::changeCase(PpChangeCase change) {
-    if (change < ppCaseSentence || change > ppCaseToggle) {
-        errors::invalidRequest(u"TextRange.ChangeCase", u"La valeur n'est pas une casse.");
-    }
+    errors::demandWithin(change, ppCaseSentence, ppCaseToggle, u"TextRange.ChangeCase");
     part_.edit([change](TextStory& story, Span span) { simulator::changeCase(story, span, change); });
 }
 
