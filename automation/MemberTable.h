@@ -33,6 +33,8 @@ struct Member {
 class MemberTable {
 public:
     MemberTable(std::initializer_list<Member> members);
+    /// The members of another table, and then those of a class that publishes more.
+    MemberTable(const MemberTable& inherited, std::initializer_list<Member> own);
 
     [[nodiscard]] const std::vector<Member>& members() const noexcept { return members_; }
 
@@ -43,6 +45,8 @@ public:
     Value invoke(Object& object, const Name& name, Access access, std::span<Value> arguments) const;
 
 private:
+    void index();
+
     std::vector<Member> members_;
     std::vector<std::uint16_t> slots_; ///< open hash over the names: position + 1, 0 where free
     std::size_t default_ = 0;          ///< position of the default member + 1, 0 where there is none

@@ -16,8 +16,10 @@ template <typename Operation> std::optional<automation::Error> errorOf(const Ope
     }
 }
 
-/// Number of the error that an operation raises; -1 when it raises none.
+inline constexpr std::int32_t noError = -1;
+
+/// Number of the error that an operation raises; `noError` when it raises none.
 template <typename Operation> std::int32_t errorNumber(const Operation& operation) {
     const auto error = errorOf(operation);
-    return error ? error->number() : -1;
+    return error ? error->number() : noError;
 }
