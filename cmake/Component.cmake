@@ -2,7 +2,7 @@
 # those of the components named, as "folder/Header.h", and no others: the order of the floors is the order of the links.
 function(component name)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS *.cpp *.h)
-    list(FILTER sources EXCLUDE REGEX "/(com|win32)/")
+    list(FILTER sources EXCLUDE REGEX "/(com|win32)/|/main\\.cpp$")
     add_library(${name} STATIC ${sources})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE compiler)
