@@ -330,7 +330,6 @@ void ShapeMembers::cut() {
 }
 
 void ShapeMembers::select(std::optional<MsoTriState> replace) const {
-    static_cast<void>(nodes().first());
     selectShapes(*session(), nodes().all(), replace.value_or(msoTrue) != msoFalse);
 }
 
