@@ -363,7 +363,8 @@ TEST_F(TextRange, RaisesOnceItsShapeIsGone) {
         {all, u"BoundLeft"}, {all, u"Delete"},
     };
     for (const auto& [object, member] : members) {
-        EXPECT_EQ(errorNumber([&] { say(object, member); }), objectGone) << automation::toUtf8(member);
+        EXPECT_EQ(errorNumber([&object = object, &member = member] { say(object, member); }), objectGone)
+            << automation::toUtf8(member);
     }
 }
 
