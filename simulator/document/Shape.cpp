@@ -128,7 +128,7 @@ void Shape::setNodes(std::vector<Node> corners) {
 void Shape::adopt(const ShapePtr& group, std::vector<ShapePtr> items) {
     for (const ShapePtr& item : items) {
         item->group_ = group;
-        item->slide = group->slide;
+        item->settle(group->slide);
         item->formerGroup = 0;
     }
     group->items_ = std::move(items);
@@ -154,10 +154,17 @@ void Shape::release(const ShapePtr& item) {
 
 void Shape::replace(const ShapePtr& item, const ShapePtr& other) {
     other->group_ = std::exchange(item->group_, {});
-    other->slide = slide;
+    other->settle(slide);
     std::replace(items_.begin(), items_.end(), item, other);
     frame_ = boundsOf(items_);
     refitGroups();
+}
+
+void Shape::settle(const std::weak_ptr<Slide>& ground) noexcept {
+    slide = ground;
+    for (const ShapePtr& item : items_) {
+        item->settle(ground);
+    }
 }
 
 void Shape::showShadow(bool shown) noexcept {

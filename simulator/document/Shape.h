@@ -91,6 +91,9 @@ public:
     /// Shows or hides the third dimension, which takes the shadow away.
     void showThreeD(bool shown) noexcept;
 
+    /// Tells a shape and everything in it on which slide they stand; on none for a reference to nothing.
+    void settle(const std::weak_ptr<Slide>& ground) noexcept;
+
     /// The group that holds this shape; null when it stands directly on its slide.
     [[nodiscard]] ShapePtr group() const noexcept { return group_.lock(); }
 

@@ -16,10 +16,6 @@ template <typename Visit> void forEachInside(Shape& shape, const Visit& visit) {
     }
 }
 
-void settle(Shape& shape, const std::weak_ptr<Slide>& slide) {
-    forEachInside(shape, [&slide](Shape& part) { part.slide = slide; });
-}
-
 bool bearsName(const Shape& shape, std::u16string_view name) noexcept {
     return automation::equalIgnoringCase(shape.name, name) ||
            std::any_of(shape.items().begin(), shape.items().end(),
@@ -33,20 +29,20 @@ void Slide::add(const ShapePtr& shape, std::u16string_view baseName) {
     if (shape->name.empty() || isNameTaken(shape->name)) {
         shape->name = std::u16string(baseName) + u" " + automation::decimal(shape->id);
     }
-    settle(*shape, weak_from_this());
+    shape->settle(weak_from_this());
     shapes_.push_back(shape);
 }
 
 void Slide::insert(const ShapePtr& shape, std::size_t place) {
     forEachInside(*shape, [this](Shape& part) { lastShapeId_ = std::max(lastShapeId_, part.id); });
-    settle(*shape, weak_from_this());
+    shape->settle(weak_from_this());
     shapes_.insert(shapes_.begin() + static_cast<std::ptrdiff_t>(std::min(place, shapes_.size())), shape);
 }
 
 void Slide::remove(const ShapePtr& shape) {
     const ShapePtr removed = shape;
     if (std::erase(shapes_, removed) != 0) {
-        settle(*removed, {});
+        removed->settle({});
     }
 }
 

@@ -26,13 +26,9 @@ ShapePtr outermost(ShapePtr shape) {
     return shape;
 }
 
-std::vector<std::weak_ptr<Shape>> groupItems(const Selection& selection) {
-    std::vector<std::weak_ptr<Shape>> items;
-    for (const ShapePtr& shape : selection.shapes()) {
-        if (shape->group()) {
-            items.emplace_back(shape);
-        }
-    }
+std::vector<ShapePtr> groupItems(const Selection& selection) {
+    std::vector<ShapePtr> items = selection.shapes();
+    std::erase_if(items, [](const ShapePtr& shape) { return shape->group() == nullptr; });
     return items;
 }
 
@@ -68,7 +64,7 @@ std::shared_ptr<ShapeRangeObject> SelectionObject::shapeRange() const {
     if (whole.empty()) {
         nothingSelected(u"Selection.ShapeRange");
     }
-    return std::make_shared<ShapeRangeObject>(session(), std::vector<std::weak_ptr<Shape>>(whole.begin(), whole.end()));
+    return std::make_shared<ShapeRangeObject>(session(), whole);
 }
 
 MsoTriState SelectionObject::hasChildShapeRange() const {
@@ -76,11 +72,11 @@ MsoTriState SelectionObject::hasChildShapeRange() const {
 }
 
 std::shared_ptr<ShapeRangeObject> SelectionObject::childShapeRange() const {
-    std::vector<std::weak_ptr<Shape>> items = groupItems(simulator::alive(window_)->selection);
+    const std::vector<ShapePtr> items = groupItems(simulator::alive(window_)->selection);
     if (items.empty()) {
         nothingSelected(u"Selection.ChildShapeRange");
     }
-    return std::make_shared<ShapeRangeObject>(session(), std::move(items));
+    return std::make_shared<ShapeRangeObject>(session(), items);
 }
 
 std::shared_ptr<TextRangeObject> SelectionObject::textRange() const {
@@ -101,8 +97,7 @@ std::shared_ptr<SlideRangeObject> SelectionObject::slideRange() const {
             nothingSelected(u"Selection.SlideRange");
         }
     }
-    return std::make_shared<SlideRangeObject>(session(),
-                                              std::vector<std::weak_ptr<Slide>>(slides.begin(), slides.end()));
+    return std::make_shared<SlideRangeObject>(session(), slides);
 }
 
 std::shared_ptr<DocumentWindowObject> SelectionObject::parent() const {

@@ -3,7 +3,12 @@
 #include "automation/LateBound.h"
 #include "simulator/objects/DocumentWindowObject.h"
 #include "simulator/objects/SelectionObject.h"
+#include "simulator/objects/ShapeRangeObject.h"
+#include "simulator/objects/ShapesObject.h"
 #include "simulator/objects/SlideObject.h"
+#include "simulator/objects/SlideRangeObject.h"
+#include "simulator/objects/SlidesObject.h"
+#include "simulator/objects/TextRangeObject.h"
 
 namespace simulator {
 
@@ -58,15 +63,22 @@ void ViewObject::paste() const {
     const DocumentWindowPtr window = simulator::alive(window_);
     const Clipboard& clipboard = session()->clipboard();
     if (!clipboard.slides.empty()) {
-        LateBound(parent()->presentation())
-            .get(u"Slides")
-            .to<automation::ObjectPtr>()
-            ->invoke(u"Paste", automation::Access::Call, {});
+        pasteSlides();
     } else if (!clipboard.text.empty() && window->selection.type() == ppSelectionText) {
-        LateBound(parent()->selection()->textRange()).call(u"Paste");
+        parent()->selection()->textRange()->paste();
     } else {
-        LateBound(slide()->shapes()).call(u"Paste");
+        slide()->shapes()->paste();
     }
+}
+
+void ViewObject::pasteSlides() const {
+    const DocumentWindowPtr window = simulator::alive(window_);
+    const SlidePtr shown = window->shown();
+    const PresentationPtr presentation = simulator::alive(window->presentation);
+    const std::size_t next = shown ? presentation->placeOf(*shown) + 1 : 0;
+    const bool goesLast = next == presentation->slides().size();
+    SlidesObject(session(), presentation)
+        .paste(goesLast ? std::nullopt : std::optional(static_cast<std::int32_t>(next) + 1));
 }
 
 std::shared_ptr<DocumentWindowObject> ViewObject::parent() const {

@@ -25,11 +25,14 @@ public:
     void setSlide(const automation::ObjectPtr& slide) const;
     /// Shows the slide at a place from 1; what was selected on another one is selected no longer. Raises out of range.
     void gotoSlide(std::int32_t index) const;
-    /// Pastes on the slide shown, or in place of the text selected. Raises an invalid request where nothing was copied.
+    /// Pastes slides behind the slide shown, anything else on it or in the place of the text selected. Raises an
+    /// invalid request where nothing was copied.
     void paste() const;
     [[nodiscard]] std::shared_ptr<DocumentWindowObject> parent() const;
 
 private:
+    void pasteSlides() const;
+
     std::weak_ptr<DocumentWindow> window_;
 };
 
