@@ -63,7 +63,7 @@ void Telling::called(HostCall /*call*/, const automation::Error* error) {
     tellOpened(*before_, after);
     tellFolders(*before_, after);
     if (error != nullptr) {
-        story_.sentence(std::string("The module raises the error ") + error->what());
+        story_.sentence("The module raises the " + inWords(*error));
     }
 }
 

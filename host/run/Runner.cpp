@@ -17,7 +17,7 @@ template <typename Step> bool passes(language::Place place, std::vector<Remark>&
     } catch (const language::Failure& failure) {
         remarks.push_back(failure.remark);
     } catch (const automation::Error& error) {
-        remarks.push_back({place, std::string("error ") + error.what()});
+        remarks.push_back({place, inWords(error)});
     } catch (const std::exception& error) {
         remarks.push_back({place, error.what()});
     }
