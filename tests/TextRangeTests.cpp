@@ -362,8 +362,8 @@ TEST_F(TextRange, RaisesOnceItsShapeIsGone) {
         {font, u"Bold"},     {color, u"RGB"},       {paragraphs, u"Alignment"},
         {all, u"BoundLeft"}, {all, u"Delete"},
     };
-    for (const auto& [object, member] : members) {
-        EXPECT_EQ(errorNumber([&] { say(object, member); }), objectGone) << automation::toUtf8(member);
+    for (const auto& asked : members) {
+        EXPECT_EQ(errorNumber([&] { say(asked.first, asked.second); }), objectGone) << automation::toUtf8(asked.second);
     }
 }
 
