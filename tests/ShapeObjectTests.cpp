@@ -327,9 +327,9 @@ TEST_F(ShapeObjectTest, RangesReadWhatIsCommonAndWriteAll) {
 
     struct Case {
         Name member;
-        std::int32_t command;
-        MsoTriState toSlide;
-        std::array<Place, 3> places;
+        std::int32_t command = 0;
+        MsoTriState toSlide = msoFalse;
+        std::array<Place, 3> places{};
     };
     const auto reset = [&] {
         float at = 0;
