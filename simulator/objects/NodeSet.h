@@ -71,9 +71,8 @@ public:
     }
 
     friend bool operator==(const NodeSet& left, const NodeSet& right) noexcept {
-        return std::equal(
-            left.nodes_.begin(), left.nodes_.end(), right.nodes_.begin(), right.nodes_.end(),
-            [](const auto& one, const auto& other) { return !one.owner_before(other) && !other.owner_before(one); });
+        return std::equal(left.nodes_.begin(), left.nodes_.end(), right.nodes_.begin(), right.nodes_.end(),
+                          isSameReference<Node>);
     }
 
 private:
