@@ -52,7 +52,7 @@ public:
 
     /// What `read` answers for all nodes alike, or `mixed`.
     template <typename Value, typename Read> [[nodiscard]] Value common(Value mixed, const Read& read) const {
-        const Value answer = read(*first());
+        Value answer = read(*first());
         for (std::size_t place = 1; place < nodes_.size(); ++place) {
             if (!(read(*at(place)) == answer)) {
                 return mixed;

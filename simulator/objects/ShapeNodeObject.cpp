@@ -24,7 +24,7 @@ MsoSegmentType ShapeNodeObject::segmentType() const {
 }
 
 ShapePtr ShapeNodeObject::shape() const {
-    const ShapePtr freeform = simulator::alive(shape_);
+    ShapePtr freeform = simulator::alive(shape_);
     if (place_ >= freeform->nodes.size()) {
         errors::gone();
     }

@@ -93,7 +93,7 @@ std::shared_ptr<ShapeObject> ShapesObject::item(const automation::Value& index) 
     return objectOf(elementAt(node()->shapes(), index, u"Shapes.Item"));
 }
 
-std::shared_ptr<ShapeRangeObject> ShapesObject::range(std::optional<automation::Value> index) const {
+std::shared_ptr<ShapeRangeObject> ShapesObject::range(const std::optional<automation::Value>& index) const {
     return std::make_shared<ShapeRangeObject>(session(), elementsAt(node()->shapes(), index, u"Shapes.Range"));
 }
 

@@ -40,7 +40,7 @@ std::shared_ptr<SlideObject> SlidesObject::item(const automation::Value& index) 
     return std::make_shared<SlideObject>(session(), elementAt(node()->slides(), index, u"Slides.Item"));
 }
 
-std::shared_ptr<SlideRangeObject> SlidesObject::range(std::optional<automation::Value> index) const {
+std::shared_ptr<SlideRangeObject> SlidesObject::range(const std::optional<automation::Value>& index) const {
     return std::make_shared<SlideRangeObject>(session(), elementsAt(node()->slides(), index, u"Slides.Range"));
 }
 
