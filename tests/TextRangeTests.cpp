@@ -273,10 +273,14 @@ TEST_F(TextRange, GivesColorsThatLive) {
     EXPECT_EQ(colorOf(ask(whole(), u"Words", 2)), 0x123456);
     EXPECT_EQ(colorOf(ask(whole(), u"Words", 3)), blue);
 
-    ask(whole(), u"Words", 2).put(u"Text", u"tout à fait ");
-    EXPECT_EQ(color.get(u"RGB"), Value(0x123456));
-    ask(whole(), u"Characters", 5, 99).put(u"Text", u"");
-    EXPECT_EQ(errorNumber([&] { color.get(u"RGB"); }), requestRefused);
+    say(whole(), u"InsertBefore", u"Police et Taille des ");
+    EXPECT_EQ(color.get(u"RGB"), Value(0x123456)) << "it follows its characters";
+    say(whole(), u"Replace", u"parfaitement", u"tout à fait");
+    paint(whole(), red);
+    EXPECT_EQ(color.get(u"RGB"), Value(red)) << "the blank after the word is still there";
+    ask(whole(), u"Paragraphs", 1).put(u"Text", u"rien");
+    paint(whole(), blue);
+    EXPECT_EQ(color.get(u"RGB"), Value(red)) << "the last colour of what is gone";
     EXPECT_EQ(errorNumber([&] { color.put(u"RGB", red); }), requestRefused);
 }
 

@@ -131,7 +131,7 @@ void Telling::tellFolders(const Snapshot& before, const Snapshot& after) {
     }
     std::vector<std::u16string> emptied;
     for (std::size_t i = 0; i < after.folders.size(); ++i) {
-        const std::u16string name(folderSettings::names[i]);
+        const std::u16string name(folderSettings::names.at(i));
         if (after.folders.at(i) == before.folders.at(i)) {
             continue;
         }

@@ -26,10 +26,8 @@ void verifyFile(const language::ScenarioFile& file, const WorldMaker& makeWorld,
 }
 
 std::vector<std::filesystem::path> named(const VerifyRequest& request, const Library& library) {
-    std::vector<std::filesystem::path> paths(request.files.begin(), request.files.end());
-    for (const std::int32_t question : request.questions) {
-        paths.push_back(library.fileOf(question));
-    }
+    std::vector<std::filesystem::path> paths = library.filesOf(request.questions);
+    paths.insert(paths.end(), request.files.begin(), request.files.end());
     return paths.empty() ? library.files() : paths;
 }
 
