@@ -22,10 +22,6 @@
 
 namespace simulator {
 
-namespace {
-constexpr std::int32_t lastAutoShape = 137;
-} // namespace
-
 const automation::MemberTable& ShapeMembers::sharedMembers() {
     using automation::method;
     using automation::property;

@@ -16,7 +16,6 @@ namespace simulator {
 
 namespace {
 
-constexpr std::int32_t lastAutoShape = 137;
 constexpr std::int32_t lastTextEffect = 29;
 
 /// Sides of a picture whose size is left out, in points.
