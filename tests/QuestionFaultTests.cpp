@@ -70,7 +70,7 @@ TEST_P(EachQuestion, ReportsAFailureAnywhereInPrepare) {
             } else {
                 expectReport(error, u"Prepare");
             }
-            EXPECT_EQ(bench.question->PathDossierParDefaut(), bench.folder);
+            EXPECT_EQ(bench.question->PathDossierParDefaut(), tests::QuestionBench::folder);
             bench.question = nullptr;
             EXPECT_EQ(Object::alive(), alive);
         });
