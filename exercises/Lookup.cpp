@@ -22,9 +22,9 @@ std::int16_t API::ChercheForme(std::int16_t slide, std::u16string_view identity,
         if (!recursive || shape(i).Type() != ppt::msoGroup) {
             continue;
         }
-        const std::int32_t items = shape(i).GroupItems().Count();
+        const auto items = narrow<std::int16_t>(shape(i).GroupItems().Count());
         for (std::int32_t k = 1; k <= items; ++k) {
-            if (ChercheDansForme(shape(i).GroupItems().Item(k), identity, 1)) {
+            if (ChercheDansForme(shape(i).GroupItems().Item(static_cast<std::int16_t>(k)), identity, 1)) {
                 return narrow<std::int16_t>(i);
             }
         }
@@ -38,19 +38,22 @@ bool API::ChercheDansForme(const ppt::Shape& shape, std::u16string_view identity
         NiveauForme = level;
         return true;
     }
-    if (identity == u"msoFreeform" && shape.Type() == ppt::msoFreeform) {
+    const bool isFreeform = shape.Type() == ppt::msoFreeform;
+    if (identity == u"msoFreeform" && isFreeform) {
         increase(NbFormesLibres);
     }
-    if (identity == u"msoShapeHorizontalScroll" && shape.Type() == ppt::msoAutoShape &&
-        shape.AutoShapeType() == ppt::msoShapeHorizontalScroll) {
+    const bool isAutoShape = shape.Type() == ppt::msoAutoShape;
+    const bool isScroll = shape.AutoShapeType() == ppt::msoShapeHorizontalScroll;
+    if (identity == u"msoShapeHorizontalScroll" && isAutoShape && isScroll) {
         increase(NbParchemins);
     }
     if (shape.Type() != ppt::msoGroup) {
         return false;
     }
-    const std::int32_t items = shape.GroupItems().Count();
+    const auto items = narrow<std::int16_t>(shape.GroupItems().Count());
     for (std::int32_t k = 1; k <= items; ++k) {
-        if (ChercheDansForme(shape.GroupItems().Item(k), identity, narrow<std::int16_t>(level + 1))) {
+        if (ChercheDansForme(shape.GroupItems().Item(static_cast<std::int16_t>(k)), identity,
+                             narrow<std::int16_t>(level + 1))) {
             return true;
         }
     }
@@ -59,7 +62,7 @@ bool API::ChercheDansForme(const ppt::Shape& shape, std::u16string_view identity
 
 std::int16_t API::CompteMot(const ppt::TextRange& text, std::u16string_view word) {
     const std::u16string withBlank = std::u16string(word) + u' ';
-    const std::int32_t count = text.Words().Count();
+    const auto count = narrow<std::int16_t>(text.Words().Count());
     std::int16_t found = 0;
     for (std::int32_t i = 1; i <= count; ++i) {
         const bool beforeAnother = text.Words(i).Text() == withBlank;

@@ -45,7 +45,7 @@ public:
                  const std::optional<std::u16string>& argument);
     /// Checks the learner's work and leaves the verdict in `CauseErreur`, `BravoNuance` and a new `ComplementInfo`.
     /// Failures go to the error report; fields set before stay.
-    virtual void TestePoint();
+    void TestePoint();
     /// Complementary texts of the last check; nothing before the first.
     [[nodiscard]] automation::ObjectPtr ComplementInfo() const { return complementInfo_; }
     /// Releases PowerPoint, the working files and the complementary texts.
@@ -72,7 +72,6 @@ protected:
     [[nodiscard]] API& api() const noexcept { return environment_.api; }
     [[nodiscard]] const platform::Services& services() const noexcept { return environment_.services; }
     [[nodiscard]] const std::u16string& cheminTravail() const noexcept { return cheminTravail_; }
-    [[nodiscard]] std::u16string_view className() const noexcept { return className_; }
 
     /// Leaves an outcome code.
     void cause(std::u16string_view code);

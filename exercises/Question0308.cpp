@@ -42,7 +42,9 @@ private:
         }
         const std::int32_t prepared = diapositive(5).Shapes().Count();
         for (std::int32_t k = 1; k <= prepared; ++k) {
-            if (!isPrepared(k) || forme(5, narrow<std::int16_t>(k)).HasTextFrame() == ppt::msoFalse) {
+            const bool isMarked = isPrepared(k);
+            const bool hasText = forme(5, narrow<std::int16_t>(k)).HasTextFrame() != ppt::msoFalse;
+            if (!isMarked || !hasText) {
                 return cause(u"G");
             }
         }
@@ -55,10 +57,14 @@ private:
                 return cause(u"G");
             }
         }
-        if (text(1).Paragraphs().Count() != 1 || text(2).Paragraphs().Count() != 4) {
+        const std::int32_t titleParagraphs = text(1).Paragraphs().Count();
+        const std::int32_t bodyParagraphs = text(2).Paragraphs().Count();
+        if (titleParagraphs != 1 || bodyParagraphs != 4) {
             return cause(u"G");
         }
-        if (!contains(u"lisibles") || !contains(u"Police et Taille des caractères")) {
+        const bool keepsEnd = contains(u"lisibles");
+        const bool keepsBeginning = contains(u"Police et Taille des caractères");
+        if (!keepsEnd || !keepsBeginning) {
             return cause(u"E");
         }
         if (contains(u"parfaitement ")) {
@@ -93,7 +99,9 @@ private:
         std::int32_t coloured = 0;
         const std::int32_t words = paragraph().Words().Count();
         for (std::int32_t i = 1; i <= words; ++i) {
-            if (paragraph().Words(i).Font().Color().RGB() == referenceColour_.to<std::int32_t>()) {
+            const std::int32_t colour = paragraph().Words(i).Font().Color().RGB();
+            const auto reference = referenceColour_.to<std::int32_t>();
+            if (colour == reference) {
                 increase(coloured);
             }
         }

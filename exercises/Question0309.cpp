@@ -49,7 +49,9 @@ private:
         if (place(1, fixed) != Place{481.625F, 368.375F, 194.75F, 125.125F}) {
             return cause(u"E");
         }
-        if (forme(1, textBox).Top() >= 150.0F || forme(1, textBox).Left() >= 150.0F) {
+        const float top = forme(1, textBox).Top();
+        const float left = forme(1, textBox).Left();
+        if (top >= 150.0F || left >= 150.0F) {
             return cause(u"F");
         }
     }

@@ -33,14 +33,21 @@ private:
         if (place(1, fixed) != Place{481.625F, 368.375F, 194.75F, 125.125F}) {
             return cause(u"C");
         }
-        if (forme(1, moving).Width() != 444.5F || forme(1, moving).Height() != 40.875F) {
+        const float width = forme(1, moving).Width();
+        const float height = forme(1, moving).Height();
+        if (width != 444.5F || height != 40.875F) {
             return cause(u"D");
         }
-        if (forme(1, moving).Top() == 35.0F && forme(1, moving).Left() == 57.875F) {
+        const float top = forme(1, moving).Top();
+        const float left = forme(1, moving).Left();
+        if (top == 35.0F && left == 57.875F) {
             return cause(u"E");
         }
-        if (forme(1, moving).Top() < 128.0F || forme(1, moving).Top() > 260.0F || forme(1, moving).Left() < 105.0F ||
-            forme(1, moving).Left() > 195.0F) {
+        const float firstTop = forme(1, moving).Top();
+        const float secondTop = forme(1, moving).Top();
+        const float firstLeft = forme(1, moving).Left();
+        const float secondLeft = forme(1, moving).Left();
+        if (firstTop < 128.0F || secondTop > 260.0F || firstLeft < 105.0F || secondLeft > 195.0F) {
             return cause(u"F");
         }
     }

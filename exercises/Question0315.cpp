@@ -13,27 +13,29 @@ private:
     void prepare() override { prepareSlideWithShapes(1); }
 
     void check() override {
-        const std::int32_t behind = cherche(1, u"ZOR3", true);
+        const std::int32_t third = cherche(1, u"ZOR3", true);
         if (api().FormeNonTrouvee != 0) {
             return cause(u"A");
         }
         if (api().NiveauForme > 0) {
             return cause(u"Z");
         }
-        const std::int32_t inFront = cherche(1, u"ZOR2", false);
+        const std::int32_t second = cherche(1, u"ZOR2", false);
         if (api().FormeNonTrouvee != 0) {
             return cause(u"B");
         }
         if (api().NiveauForme > 0) {
             return cause(u"Z");
         }
-        if (place(1, behind) != Place{110.5F, 139.625F, 504.625F, 79.375F}) {
+        if (place(1, third) != Place{110.5F, 139.625F, 504.625F, 79.375F}) {
             return cause(u"C");
         }
-        if (forme(1, inFront).Left() != 138.875F || forme(1, inFront).Top() != 156.625F) {
+        const float left = forme(1, second).Left();
+        const float top = forme(1, second).Top();
+        if (left != 138.875F || top != 156.625F) {
             return cause(u"D");
         }
-        if (inFront < behind) {
+        if (second < third) {
             return cause(u"E");
         }
     }

@@ -34,7 +34,7 @@ private:
         if (fore == back || visible == ppt::msoFalse) {
             return cause(u"C");
         }
-        if (forme(1, shape).Fill().ForeColor().RGB() == midGrey) {
+        if (fore == midGrey) {
             return cause(u"D");
         }
     }

@@ -34,7 +34,9 @@ private:
         if (top != 368.375F || left != 481.625F || height != 125.125F || width != 194.75F) {
             return cause(u"C");
         }
-        if (forme(1, placed).Width() != 56.625F || forme(1, placed).Height() != 56.625F) {
+        const float placedWidth = forme(1, placed).Width();
+        const float placedHeight = forme(1, placed).Height();
+        if (placedWidth != 56.625F || placedHeight != 56.625F) {
             return cause(u"D");
         }
         if (forme(1, placed).Top() != 311.625F) {

@@ -54,11 +54,14 @@ private:
 
     /// Index of the first group made by the learner from `first` on; past `count` where there is none.
     [[nodiscard]] std::int32_t nextNewGroup(std::int32_t first, std::int32_t count) const {
-        std::int32_t k = first;
-        while (k <= count && !(forme(1, k).Type() == ppt::msoGroup && identite(1, k).empty())) {
-            ++k;
+        for (std::int32_t k = first; k <= count; ++k) {
+            const bool isGroup = forme(1, k).Type() == ppt::msoGroup;
+            const bool isNew = identite(1, k).empty();
+            if (isGroup && isNew) {
+                return k;
+            }
         }
-        return k;
+        return count + 1;
     }
 };
 

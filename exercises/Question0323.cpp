@@ -38,7 +38,9 @@ private:
             return checkThreeShapes(shapes);
         }
         for (std::int32_t k = 1; k <= shapes; ++k) {
-            if (forme(5, k).Type() != ppt::msoTextEffect && identite(5, k).empty()) {
+            const bool isWordArt = forme(5, k).Type() == ppt::msoTextEffect;
+            const bool isNew = identite(5, k).empty();
+            if (!isWordArt && isNew) {
                 return cause(u"E");
             }
         }

@@ -164,7 +164,8 @@ Application.Presentations.Item(1).Name
 Application.Presentations.Item(1).FullName
 Application.ActivePresentation.FullName
 Application.ActivePresentation.Slides.Count
-Application.ActivePresentation.Slides.Item(1).Tags.Item(...)
+Application.ActivePresentation.Slides.Item(1).Tags.Item("Identite")
+Application.ActivePresentation.Slides.Item(1).Tags.Item("Identite")
 )~");
 }
 

@@ -1,11 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "automation/observe/CallCounter.h"
 #include "module/Session.h"
 #include "module/UserSettings.h"
 #include "platform/ErrorReport.h"
-#include "simulator/Machine.h"
 #include "tests/Errors.h"
-#include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
+#include "tests/QuestionBench.h"
+#include "tests/TraceLog.h"
 
 namespace {
 
@@ -114,6 +113,41 @@ TEST_F(Questions, CountWordsWithAndWithoutTheirBlank) {
     EXPECT_EQ(count(u"Le"), 0);
 }
 
+/// A text of so many words, a slide of so many shapes, a group of so many items: more than 16 bits count.
+class Huge final : public automation::Object, public std::enable_shared_from_this<Huge> {
+public:
+    static constexpr std::int32_t tooFar = 1;
+
+    automation::Value invoke(const automation::Name& name, automation::Access /*access*/,
+                             std::span<automation::Value> arguments) override {
+        if (++calls_ > 100) {
+            throw automation::Error(tooFar, u"", u"");
+        }
+        if (name.matches(u"Count")) {
+            return 32768;
+        }
+        if (name.matches(u"Type")) {
+            return ppt::msoGroup;
+        }
+        const bool isTag = name.matches(u"Item") && arguments.front().display() == u"\"Identite\"";
+        return isTag ? automation::Value(u"") : automation::Value(shared_from_this());
+    }
+
+private:
+    int calls_ = 0;
+};
+
+TEST_F(Questions, CountWordsAndItemsOfGroupsIn16Bits) {
+    const auto huge = [] { return ppt::Application(ObjectPtr(std::make_shared<Huge>())); };
+    const auto overflow = static_cast<std::int32_t>(automation::RunTimeError::Overflow);
+    EXPECT_EQ(errorNumber([&] { (void)API::CompteMot(ppt::TextRange(huge().object()), u"le"); }), overflow);
+    EXPECT_EQ(errorNumber([&] { api.ChercheForme(1, u"ZOR1", true, huge()); }), overflow);
+    EXPECT_EQ(errorNumber([&] { api.MarqueDiapositives(huge()); }), overflow);
+    EXPECT_EQ(errorNumber([&] { api.MarqueFormes(1, true, huge()); }), overflow);
+    EXPECT_EQ(errorNumber([&] { api.ChercheForme(1, u"ZOR1", false, huge()); }), Huge::tooFar)
+        << "the shapes of a slide are counted in 32 bits";
+}
+
 TEST_F(Questions, MarkNothingOnNoSlide) {
     say(ask(ask(ask(application, u"ActivePresentation"), u"Slides"), u"Item", 1), u"Delete");
     EXPECT_EQ(api.MarqueDiapositives(application), 0);
@@ -160,6 +194,51 @@ TEST_F(Questions, KeepTheLetterOfAnEarlierAttempt) {
     EXPECT_EQ(question->CauseErreur(), u"A") << "a passing attempt writes no letter";
     EXPECT_NE(question->ComplementInfo(), first);
     EXPECT_EQ(question->BravoNuance(), 0);
+}
+
+TEST(Question0304, SearchesTheOutlineAmongHiddenAndSystemFiles) {
+    constexpr std::uint32_t readOnly = 1;
+    constexpr std::uint32_t hidden = 2;
+    constexpr std::uint32_t system = 4;
+    struct Case {
+        std::u16string file;
+        std::uint32_t attributes;
+        std::u16string letter;
+        std::vector<std::string> searches;
+    };
+    const std::vector<Case> cases = {
+        {u"", 0, u"A", {"Plan exo 3.*", "Plan exo 3"}},
+        {u"Plan exo 3", hidden | system, u"B", {"Plan exo 3.*", "Plan exo 3.rtf"}},
+        {u"Plan exo 3.rtf", system, u"", {"Plan exo 3.*", "Plan exo 3.rtf"}},
+        {u"Plan exo 3.rtf", readOnly | hidden | system, u"", {"Plan exo 3.*", "Plan exo 3.rtf"}},
+    };
+    for (const Case& outline : cases) {
+        tests::TraceLog log(tests::TraceLog::Repetition::Shown);
+        tests::QuestionBench bench(304);
+        bench.prepare(log.observer());
+        static_cast<void>(log.take());
+        if (!outline.file.empty()) {
+            bench.machine.createFile(std::u16string(bench.folder) + outline.file);
+            bench.machine.setAttributes(std::u16string(bench.folder) + outline.file, outline.attributes);
+        }
+        EXPECT_EQ(bench.testePoint().causeErreur, outline.letter);
+        const std::string trace = log.take();
+        EXPECT_EQ(std::count(trace.begin(), trace.end(), '\n'), outline.searches.size()) << trace;
+        std::size_t at = 0;
+        for (const std::string& pattern : outline.searches) {
+            at = trace.find("Files.find(\"C:\\Formation\\" + pattern + "\", 6)", at);
+            EXPECT_NE(at, std::string::npos) << pattern << " in\n" << trace;
+        }
+    }
+}
+
+TEST(Question0304, FindsNothingInAFolderThatIsGone) {
+    tests::QuestionBench bench(304);
+    bench.prepare(std::make_shared<automation::CallCounter>());
+    bench.work();
+    std::filesystem::remove_all(bench.machine.realPath(bench.folder));
+    EXPECT_EQ(bench.testePoint().causeErreur, u"A");
+    EXPECT_FALSE(bench.testePoint().error);
 }
 
 TEST_F(Questions, CloseTheDialogAboveFirst) {

@@ -11,7 +11,8 @@
 namespace tests {
 
 /// The calls that cross a border, as a reader would write them down: a walk from the application to a value is one
-/// line, lines that repeat each other but for a position in a collection are one line.
+/// line, lines that differ from each other by a position in a collection only are one line. Reading the same twice is
+/// two lines. The default member shows as "(default)".
 class TraceLog {
 public:
     enum class Repetition : bool { Shortened, Shown };
@@ -31,13 +32,16 @@ public:
         flush();
         std::string text;
         std::string last;
+        std::string lastLine;
         for (std::string& line : std::exchange(lines_, {})) {
             hideIn(line);
             std::string pattern = line;
             if (const std::size_t item = line.find("Item("); item != std::string::npos) {
                 pattern.replace(item, line.find(')', item) - item, "Item(...");
             }
-            if (repetition_ == Repetition::Shortened && pattern == last && pattern != line) {
+            const bool isNextItem = pattern == last && line != lastLine;
+            lastLine = line;
+            if (repetition_ == Repetition::Shortened && isNextItem) {
                 text.replace(text.rfind("Item("), text.find(')', text.rfind("Item(")) - text.rfind("Item("),
                              "Item(...");
                 continue;
@@ -51,6 +55,7 @@ public:
 private:
     void add(const automation::TracedCall& call) {
         std::string text = automation::toUtf8(call.call);
+        text = text.empty() ? "(default)" : text;
         if (text.starts_with("Application.") || call.border != automation::Border::Automation) {
             flush();
         }
