@@ -24,7 +24,7 @@ std::size_t Object::alive() noexcept {
 }
 
 bool isSame(const ObjectPtr& left, const ObjectPtr& right) noexcept {
-    return left && right ? left->isSame(*right) : left == right;
+    return left && right ? left->isSame(*right) || right->isSame(*left) : left == right;
 }
 
 } // namespace automation

@@ -24,7 +24,10 @@ double parse(std::u16string_view text) {
     if (first == std::string::npos) {
         raise(RunTimeError::TypeMismatch);
     }
-    const char* begin = narrow.data() + first + (narrow[first] == '+' ? 1 : 0);
+    const char* begin = narrow.data() + first;
+    if (*begin == '+' && narrow.compare(first, 2, "+-") != 0) {
+        ++begin; // from_chars takes no plus
+    }
     const char* const end = narrow.data() + last + 1;
     double number = 0;
     const auto [stopped, status] = std::from_chars(begin, end, number);
@@ -68,7 +71,8 @@ template <typename Integer> Integer whole(const Value& value) {
         return value.as<Integer>();
     }
     const double rounded = std::nearbyint(number(value));
-    if (rounded < std::numeric_limits<Integer>::min() || rounded > std::numeric_limits<Integer>::max()) {
+    const bool fits = rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max();
+    if (!fits) {
         raise(RunTimeError::Overflow);
     }
     return static_cast<Integer>(rounded);

@@ -64,7 +64,9 @@ TEST(Value, RaisesWhatDoesNotConvert) {
     EXPECT_EQ(errorNumber([] { return Value(3e9).to<std::int32_t>(); }), number(RunTimeError::Overflow));
     EXPECT_EQ(errorNumber([] { return Value(1e300).to<float>(); }), number(RunTimeError::Overflow));
     EXPECT_EQ(errorNumber([] { return Value(u"").to<std::int32_t>(); }), number(RunTimeError::TypeMismatch));
-    EXPECT_EQ(errorNumber([] { return Value(u"12x").to<double>(); }), number(RunTimeError::TypeMismatch));
+    for (const char16_t* const text : {u"12x", u"+-5", u"+", u"nan"}) {
+        EXPECT_EQ(errorNumber([&] { return Value(text).to<double>(); }), number(RunTimeError::TypeMismatch));
+    }
     EXPECT_EQ(errorNumber([] { return Value(Missing()).to<std::u16string>(); }), number(RunTimeError::TypeMismatch));
     EXPECT_EQ(errorNumber([] { return Value(nullptr).to<std::int32_t>(); }), number(RunTimeError::ObjectNotSet));
     EXPECT_EQ(errorNumber([] { return Value(1).to<ObjectPtr>(); }), number(RunTimeError::ObjectRequired));
@@ -129,6 +131,7 @@ TEST(Observers, StandAroundEveryObjectHandedOut) {
     EXPECT_EQ(calls[1], u"Number = 3 -> Empty");
     EXPECT_EQ(calls[2].substr(0, 20), u"Nothing -> error 438");
     EXPECT_TRUE(isSame(sample.object(), inner));
+    EXPECT_TRUE(isSame(inner, sample.object()));
     EXPECT_EQ(unobserved(sample.object()), inner);
 }
 

@@ -65,6 +65,9 @@ TEST_F(EmbeddedFilesTest, FindsFilesByAnySpellingOfTheirPath) {
           u"\\Élève\\Exercices\\Méthodologie.ppt. ", u"C:\\..\\..\\Élève\\Exercices\\Méthodologie.ppt"}) {
         EXPECT_EQ(files.realPath(spelling), real);
     }
+    for (const std::u16string_view outside : {u"/:\\tmp\\x", u"..:\\x", u"1:\\x", u"\\\\server\\share\\x"}) {
+        EXPECT_TRUE(files.realPath(outside).string().starts_with(folder.path().string()));
+    }
 }
 
 TEST_F(EmbeddedFilesTest, RenamesWithoutEverOverwriting) {

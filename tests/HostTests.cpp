@@ -119,8 +119,9 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
     const std::vector<Case> cases = {
         {{"--help"}, ExitCode::Good, "Exit codes: 0 good"},
         {{"--version"}, ExitCode::Good, "1.2.3"},
-        {{}, ExitCode::WrongUsage, "subcommand is required"},
-        {{"walk"}, ExitCode::WrongUsage, "subcommand is required"},
+        {{}, ExitCode::WrongUsage, "run, verify or list?"},
+        {{"walk"}, ExitCode::WrongUsage, "not expected: walk"},
+        {{"run", "324"}, ExitCode::WrongUsage, "the course has 301 to 323"},
         {{"run", "many"}, ExitCode::WrongUsage, "many"},
         {{"run", "307"}, ExitCode::WrongUsage, "no scenario file: "},
         {{"run"}, ExitCode::WrongUsage, "has no scenario that ends in a success"},

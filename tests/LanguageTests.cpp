@@ -9,7 +9,6 @@ namespace {
 
 using automation::Access;
 using automation::Value;
-using host::Expectation;
 using host::Reading;
 using namespace host::language;
 
@@ -81,7 +80,7 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         const char* line;
         const char* message;
     };
-    constexpr WrongLine wrongLines[] = {
+    const std::vector<WrongLine> wrongLines = {
         {"s.", "t.scn:4:3: expected the name of a member, found the end of the line"},
         {"s.Left =", "t.scn:4:9: expected a value: a text, a number, a constant or a name, found the end of the line"},
         {"s.Left = 3 4", "t.scn:4:12: expected the end of the line, found 4"},
@@ -104,6 +103,10 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"expect s.Left", "t.scn:4:14: expected '=', found the end of the line"},
         {"expect error 91 Host.Fermer", "t.scn:4:17: expected ':', found 'Host'"},
         {"expect error 91:\nscenario \"u\"", "t.scn:5:1: expected a statement, found 'scenario'"},
+        {"expect error 91: expect error 5:",
+         "t.scn:4:18: expected the statement that must raise the error, found 'expect'"},
+        {"expect error 91:\nexpect error 5:",
+         "t.scn:5:1: expected the statement that must raise the error, found 'expect'"},
         {"expect error 91:", "t.scn:4:1: expected the statement that must raise the error"},
         {"scenario other", "t.scn:4:10: expected the title of the scenario, in quotes, found 'other'"},
         {"scenario \"t\"", "t.scn:4:1: expected a title of its own: there is a scenario of this title already"},
@@ -123,7 +126,7 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
 }
 
 TEST(Language, NamesWhatIsWrongWithAWholeFile) {
-    const std::pair<const char*, std::vector<std::string>> files[] = {
+    const std::vector<std::pair<const char*, std::vector<std::string>>> files = {
         {"", {"1:1: expected 'question' and its number"}},
         {"course\nscenario \"a\"\n", {"1:1: expected 'question' and its number before anything else"}},
         {"question three", {"1:10: expected the number of the question, found 'three'"}},
@@ -150,7 +153,7 @@ TEST(Language, NamesWhatIsWrongWithAWholeFile) {
 }
 
 TEST(Language, StatementsReachMembersAsMacrosDo) {
-    const std::pair<const char*, std::vector<std::u16string>> statements[] = {
+    const std::vector<std::pair<const char*, std::vector<std::u16string>>> statements = {
         {"Presentations.Add", {u"App.Presentations", u".Presentations.Add"}},
         {"Presentations.Add()", {u"App.Presentations", u".Presentations.Add"}},
         {"Set p = Application.Presentations(1) # the first\np.Close ' no question",
@@ -172,7 +175,7 @@ TEST(Language, StatementsReachMembersAsMacrosDo) {
 }
 
 TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
-    const std::pair<const char*, const char*> cases[] = {
+    const std::vector<std::pair<const char*, const char*>> cases = {
         {"expect Host.Left = 110.1\nexpect Host.Text = \"faire\"\nexpect Host.Nobody = Nothing\nexpect True = -1", ""},
         {"expect Host.Thing = \"faire\"", ""},
         {"expect Host.Left = 110.125", "t.scn:4:1: expected 110.125, found 110.1"},

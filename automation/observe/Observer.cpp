@@ -14,26 +14,51 @@ public:
 
     Value invoke(const Name& name, Access access, std::span<Value> arguments) override {
         const Crossing crossing{Border::Automation, name.scope(), name.text(), access, arguments};
-        std::vector<Value> passed(arguments.begin(), arguments.end());
-        std::transform(passed.begin(), passed.end(), passed.begin(), strip);
-        const Value result = observer_->around(crossing, [&] { return inner_->invoke(name, access, passed); });
-        return wrap(result);
+        return wrap(observer_->around(crossing, [&] { return pass(name, access, arguments); }));
     }
 
     [[nodiscard]] bool isSame(const Object& other) const noexcept override {
         const auto* const observed = dynamic_cast<const Observed*>(&other);
-        return inner_->isSame(observed != nullptr ? *observed->inner_ : other);
+        return observed != nullptr ? automation::isSame(inner_, observed->inner_) : inner_->isSame(other);
     }
 
     [[nodiscard]] const ObjectPtr& inner() const noexcept { return inner_; }
 
 private:
-    /// The observed object must not meet its own observers among its arguments.
-    [[nodiscard]] static Value strip(const Value& value) {
-        if (value.variable() == nullptr && value.isObject()) {
-            return {unobserved(value.as<ObjectPtr>())};
+    /// The observed object must not meet its own observers among its arguments; what it writes back is observed.
+    Value pass(const Name& name, Access access, std::span<Value> arguments) {
+        std::vector<Value> variables(arguments.size());
+        std::vector<Value> passed(arguments.size());
+        for (std::size_t i = 0; i < arguments.size(); ++i) {
+            const Value* const variable = arguments[i].variable();
+            variables[i] = strip(variable != nullptr ? *variable : arguments[i]);
+            passed[i] = variable != nullptr ? Value::reference(variables[i]) : variables[i];
         }
-        return value;
+        const auto writeBack = [&] {
+            for (std::size_t i = 0; i < arguments.size(); ++i) {
+                Value* const variable = arguments[i].variable();
+                if (variable != nullptr && !isLeft(*variable, variables[i])) {
+                    *variable = wrap(variables[i]);
+                }
+            }
+        };
+        try {
+            Value result = inner_->invoke(name, access, passed);
+            writeBack();
+            return result;
+        } catch (...) {
+            writeBack();
+            throw;
+        }
+    }
+
+    /// True where a variable still holds the object that it held.
+    [[nodiscard]] static bool isLeft(const Value& before, const Value& after) {
+        return before.isObject() && after.isObject() && unobserved(before.as<ObjectPtr>()) == after.as<ObjectPtr>();
+    }
+
+    [[nodiscard]] static Value strip(const Value& value) {
+        return value.isObject() ? Value(unobserved(value.as<ObjectPtr>())) : value;
     }
 
     [[nodiscard]] Value wrap(const Value& value) const {
@@ -62,7 +87,8 @@ std::u16string Crossing::display() const {
     std::u16string text(target);
     text += (text.empty() || member.empty()) ? u"" : u".";
     text += member;
-    const auto shown = access == Access::Put ? arguments.first(arguments.size() - 1) : arguments;
+    const bool writes = access == Access::Put && !arguments.empty();
+    const auto shown = writes ? arguments.first(arguments.size() - 1) : arguments;
     if (!shown.empty()) {
         text += u'(';
         for (std::size_t i = 0; i < shown.size(); ++i) {
@@ -70,7 +96,7 @@ std::u16string Crossing::display() const {
         }
         text += u')';
     }
-    return access == Access::Put ? text + u" = " + arguments.back().display() : text;
+    return writes ? text + u" = " + arguments.back().display() : text;
 }
 
 ObjectPtr observed(const ObjectPtr& object, const ObserverPtr& observer) {

@@ -20,24 +20,32 @@ constexpr const char* examples = R"(Examples:
 
 Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file.)";
 
+/// Takes a question's number as its file is named, too: 0306 is 306.
+std::string questionNumber(const std::string& text) {
+    return text.substr(std::min(text.find_first_not_of('0'), text.size()));
+}
+
 /// The command line with all that it can ask for.
 struct CommandLine {
     explicit CommandLine(const std::filesystem::path& scenarios, const std::string& version)
         : folder(scenarios.string()) {
         app.footer(examples);
         app.set_version_flag("--version", version);
-        app.require_subcommand(1);
+        app.require_subcommand(0, 1); // so that an unknown word is named
         app.add_option("--scenarios", folder, "Folder of the scenario files")->capture_default_str();
 
-        run.add_option("question", runRequest.question, "Number of the question")->capture_default_str();
+        run.add_option("question", runRequest.question, "Number of the question")
+            ->capture_default_str()
+            ->transform(questionNumber);
         run.add_option("--scenario", runRequest.scenario, "Title of the scenario (the first that ends in a success)");
         run.add_flag("--json", runRequest.asJson, "Print one JSON object");
         run.add_flag("--trace", runRequest.withTrace, "List every call that leaves the module, its time and outcome");
 
-        verify.add_option("questions", verifyRequest.questions, "Numbers of questions (all)");
+        verify.add_option("questions", verifyRequest.questions, "Numbers of questions (all)")
+            ->transform(questionNumber);
         verify.add_option("--file", verifyRequest.files, "A scenario file");
 
-        list.add_option("questions", listed, "Numbers of questions (all)");
+        list.add_option("questions", listed, "Numbers of questions (all)")->transform(questionNumber);
 
         for (CLI::App* const command : {&run, &verify, &list}) {
             command->fallthrough();
@@ -55,8 +63,11 @@ struct CommandLine {
 };
 
 ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output output) {
-    const Library library(asked.folder);
     try {
+        const Library library(asked.folder);
+        if (asked.app.get_subcommands().empty()) {
+            throw UsageError("run, verify or list? See exercise-host --help");
+        }
         if (asked.run) {
             return run(asked.runRequest, library, makeWorld, output.out);
         }
@@ -66,7 +77,7 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output o
         for (const language::Remark& remark : wrong.remarks) {
             output.error << remark.in(wrong.file) << '\n';
         }
-    } catch (const UsageError& error) {
+    } catch (const std::exception& error) {
         output.error << "exercise-host: " << error.what() << '\n';
     }
     return ExitCode::WrongUsage;
@@ -82,7 +93,12 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::fi
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    return perform(line, makeWorld, output);
+    const ExitCode code = perform(line, makeWorld, output);
+    if (!output.out.flush()) {
+        output.error << "exercise-host: the output could not be written\n";
+        return ExitCode::WrongUsage;
+    }
+    return code;
 }
 
 } // namespace host

@@ -12,10 +12,12 @@ namespace fs = std::filesystem;
 
 namespace {
 constexpr const char* extension = ".scn";
+constexpr std::int32_t firstQuestion = 301;
+constexpr std::int32_t lastQuestion = 323;
 } // namespace
 
 std::vector<fs::path> Library::files() const {
-    if (!fs::is_directory(folder_)) {
+    if (std::error_code failed; !fs::is_directory(folder_, failed)) {
         throw UsageError("no folder of scenarios: " + folder_.string());
     }
     std::vector<fs::path> all;
@@ -29,6 +31,10 @@ std::vector<fs::path> Library::files() const {
 }
 
 fs::path Library::fileOf(std::int32_t question) const {
+    if (question < firstQuestion || question > lastQuestion) {
+        throw UsageError("no question " + std::to_string(question) + ": the course has " +
+                         std::to_string(firstQuestion) + " to " + std::to_string(lastQuestion));
+    }
     return folder_ / ("0" + std::to_string(question) + extension);
 }
 
@@ -41,7 +47,7 @@ std::vector<fs::path> Library::filesOf(const std::vector<std::int32_t>& question
 
 language::ScenarioFile load(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
-    if (!file || !fs::is_regular_file(path)) {
+    if (std::error_code failed; !file || !fs::is_regular_file(path, failed)) {
         throw UsageError("no scenario file: " + path.string());
     }
     const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

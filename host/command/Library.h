@@ -14,7 +14,8 @@ public:
     [[nodiscard]] const std::filesystem::path& folder() const noexcept { return folder_; }
     /// All scenario files, sorted by name.
     [[nodiscard]] std::vector<std::filesystem::path> files() const;
-    /// The file of a question, whether it exists or not.
+    /// The file of a question, whether it exists or not. Raises UsageError for a number that is no question of the
+    /// course.
     [[nodiscard]] std::filesystem::path fileOf(std::int32_t question) const;
     [[nodiscard]] std::vector<std::filesystem::path> filesOf(const std::vector<std::int32_t>& questions) const;
 

@@ -88,7 +88,7 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
     if (request.asJson) {
         nlohmann::ordered_json object = toJson(file, scenario, outcome);
         object["story"] = json.chapters();
-        out << object.dump(2) << '\n';
+        out << object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
     } else {
         for (const language::Remark& failure : outcome.failures) {
             out << '\n' << failure.in(file.name) << '\n';

@@ -3,6 +3,7 @@
 
 #include "automation/Text.h"
 
+#include <algorithm>
 #include <ostream>
 
 namespace host {
@@ -37,6 +38,9 @@ ExitCode verify(const VerifyRequest& request, const Library& library, const Worl
     std::vector<language::ScenarioFile> files;
     for (const std::filesystem::path& path : named(request, library)) {
         files.push_back(load(path));
+    }
+    if (std::all_of(files.begin(), files.end(), [](const auto& file) { return file.scenarios.empty(); })) {
+        throw UsageError("no scenario to verify");
     }
     Tally tally;
     for (const language::ScenarioFile& file : files) {

@@ -31,6 +31,9 @@ public:
         std::vector<Token> tokens;
         Place end = here();
         for (skipBlanks(); !atEnd(); skipBlanks()) {
+            if (tokens.size() == mostTokens) {
+                throw SyntaxError({here(), "expected a line of at most " + std::to_string(mostTokens) + " words"});
+            }
             tokens.push_back(next());
             end = here();
         }
@@ -39,6 +42,9 @@ public:
     }
 
 private:
+    /// What is nested in a line stays so shallow that it can be read and evaluated.
+    static constexpr std::size_t mostTokens = 1000;
+
     [[nodiscard]] char16_t peek(std::size_t ahead = 0) const {
         return position_ + ahead < line_.size() ? line_[position_ + ahead] : u'\0';
     }

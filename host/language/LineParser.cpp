@@ -130,10 +130,17 @@ ExpectedError LineParser::expectedError() {
     return error;
 }
 
+void LineParser::requireNoExpectation() const {
+    if (peek().isWord(u"expect")) {
+        fail("expected the statement that must raise the error");
+    }
+}
+
 decltype(Statement::node) LineParser::expectation() {
     if (takeWord(u"error")) {
         ExpectError node{expectedError(), nullptr};
         requireSymbol(u':');
+        requireNoExpectation();
         if (!atEnd()) {
             node.statement = std::make_unique<Statement>(statement());
         }

@@ -17,6 +17,8 @@ public:
     std::u16string text(const std::string& expected);
     std::int32_t number(const std::string& expected);
     void end();
+    /// For the statement behind `expect error`, which must not be another expectation.
+    void requireNoExpectation() const;
 
     /// A whole statement, up to the end of the line. An `expect error` whose line ends with the colon comes back
     /// without its statement.

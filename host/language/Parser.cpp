@@ -56,6 +56,7 @@ private:
         LineParser words(tokens);
         const Place place = words.peek().place;
         if (waiting_ != nullptr) {
+            words.requireNoExpectation();
             ExpectError& expectation = *std::exchange(waiting_, nullptr);
             expectation.statement = std::make_unique<Statement>(statementOf(line, tokens));
             block_->back().text += u' ' + expectation.statement->text;

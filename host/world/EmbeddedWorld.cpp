@@ -23,14 +23,14 @@ using automation::ObjectPtr;
 using automation::ObserverPtr;
 using automation::RunTimeError;
 
-constexpr std::u16string_view folder = u"C:\\Formation\\";
+constexpr std::u16string_view courseFolder = u"C:\\Formation\\";
 class EmbeddedWorld final : public World {
 public:
     explicit EmbeddedWorld(const ObserverPtr& observer) : observer_(observer), machine_(root_.path()) {
         if (observer) {
             observed_.emplace(machine_.services(), observer);
         }
-        fs::create_directories(machine_.realPath(folder));
+        fs::create_directories(machine_.realPath(courseFolder));
     }
 
     ModuleClient& module() override {
@@ -41,7 +41,7 @@ public:
         }
         return *module_;
     }
-    std::u16string hostFolder() const override { return std::u16string(folder); }
+    std::u16string hostFolder() const override { return std::u16string(courseFolder); }
 
     ObjectPtr application() override { return machine_.application(); }
     std::int32_t mainWindow() override { return machine_.mainWindow(); }

@@ -5,11 +5,15 @@ namespace host {
 namespace {
 
 using automation::ObjectPtr;
+using automation::ObserverPtr;
 using automation::Value;
 
-/// Passes the host's application reference and window handle by reference, and takes them back however the call ends.
-template <typename Call> void exchanging(ObjectPtr& application, std::int32_t& window, const Call& call) {
-    Value applicationValue(application);
+/// Passes the host's application reference, observed, and its window handle by reference, and takes them back however
+/// the call ends.
+template <typename Call>
+void exchanging(const ObserverPtr& observer, ObjectPtr& application, std::int32_t& window, const Call& call) {
+    Value applicationValue(observer ? automation::observed(automation::unobserved(application), observer)
+                                    : application);
     Value windowValue(window);
     const auto takeBack = [&] {
         application = applicationValue.to<ObjectPtr>();
@@ -28,10 +32,7 @@ template <typename Call> void exchanging(ObjectPtr& application, std::int32_t& w
 
 void LateBoundModule::initQuestion(std::int32_t number, const std::u16string& folder, ObjectPtr& application,
                                    std::int32_t& window) {
-    if (observer_) {
-        application = automation::observed(automation::unobserved(application), observer_);
-    }
-    exchanging(application, window, [&](const Value& applicationReference, const Value& windowReference) {
+    exchanging(observer_, application, window, [&](const Value& applicationReference, const Value& windowReference) {
         module_.call(u"InitQuestion", number, folder, applicationReference, windowReference, std::u16string());
     });
 }
@@ -67,7 +68,7 @@ void LateBoundModule::fermer() {
 }
 
 void LateBoundModule::quitter(ObjectPtr& application, std::int32_t& window) {
-    exchanging(application, window, [&](const Value& applicationReference, const Value& windowReference) {
+    exchanging(observer_, application, window, [&](const Value& applicationReference, const Value& windowReference) {
         module_.call(u"Quitter", applicationReference, windowReference);
     });
 }

@@ -158,7 +158,7 @@ void TextStory::replaceParagraphFormats(Span span, std::u16string_view text) {
     const ParagraphFormat format = paragraphFormats_[place];
     const std::size_t removed = marksIn(old.substr(span.start, span.length));
     const std::size_t added = marksIn(text);
-    const std::size_t kept = std::min<std::size_t>({removed, added, 1}); // the paragraph that follows the last mark
+    const auto kept = std::min<std::size_t>({removed, added, 1}); // the paragraph that follows the last mark
     const auto next = iteratorAt(paragraphFormats_, place + 1);
     const auto rest = paragraphFormats_.erase(next, next + static_cast<std::ptrdiff_t>(removed - kept));
     paragraphFormats_.insert(rest, added - kept, format);

@@ -34,9 +34,9 @@ public:
 protected:
     [[nodiscard]] static const automation::MemberTable& geometryMembers();
 
-    /// What a property of the shapes is: their common value, or `mixed`.
-    template <typename Value> [[nodiscard]] Value read(Value mixed, Value Shape::*part) const {
-        return nodes().common(mixed, [part](const Shape& shape) { return shape.*part; });
+    /// What a property of the shapes is: their common value, or `whenMixed`.
+    template <typename Value> [[nodiscard]] Value read(Value whenMixed, Value Shape::*part) const {
+        return nodes().common(whenMixed, [part](const Shape& shape) { return shape.*part; });
     }
     [[nodiscard]] MsoTriState readState(bool Shape::*part) const;
 

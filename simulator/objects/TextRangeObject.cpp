@@ -190,7 +190,7 @@ TextRangeObject::Pointer TextRangeObject::replace(const std::u16string& what, co
                                                   std::optional<std::int32_t> after,
                                                   std::optional<MsoTriState> matchCase,
                                                   std::optional<MsoTriState> wholeWords) {
-    const Pointer found = find(what, after, matchCase, wholeWords);
+    Pointer found = find(what, after, matchCase, wholeWords);
     if (!found) {
         return nullptr;
     }

@@ -25,9 +25,9 @@ std::u16string nameOf(const fs::path& path) {
 /// The parts of a Windows path, the drive's letter first; blanks and dots at the end of a name do not count.
 std::vector<std::u16string> partsOf(std::u16string_view path) {
     std::vector<std::u16string> parts{u"C"};
-    if (path.size() >= 2 && path[1] == u':') {
-        const char16_t letter = path[0];
-        parts.front() = letter >= u'a' && letter <= u'z' ? static_cast<char16_t>(letter - u'a' + u'A') : letter;
+    const char16_t letter = path.size() >= 2 && path[1] == u':' ? static_cast<char16_t>(path[0] & ~0x20) : u'\0';
+    if (letter >= u'A' && letter <= u'Z') {
+        parts.front() = letter;
         path.remove_prefix(2);
     }
     while (!path.empty()) {
