@@ -71,9 +71,9 @@ std::string expanded(std::string words) {
 std::string textWalk(const std::string& wordsOf) {
     const std::array<std::array<int, 2>, 4> words{{{1, 4}, {2, 9}, {3, 10}, {7, 0}}};
     std::string walk = "Slides.Count ";
-    for (int slide = 1; slide <= 4; ++slide) {
+    for (std::size_t slide = 1; slide <= words.size(); ++slide) {
         walk += std::to_string(slide) + ".Count ";
-        for (int shape = 1; shape <= 2; ++shape) {
+        for (std::size_t shape = 1; shape <= 2; ++shape) {
             walk += std::to_string(slide) + "/" + std::to_string(shape) + ".HasTextFrame ";
             if (const int count = words.at(slide - 1).at(shape - 1); count != 0) {
                 std::string counted = wordsOf;
