@@ -118,7 +118,7 @@ void Module::stageQuestion(const std::u16string& folder) {
 }
 
 void Module::prepareQuestion(const std::u16string& folder) {
-    settings_.commandBarsWillChange();
+    settings_.commandBars.willChange(session_.application);
     session_.InitCommandBar();
     session_.application.CommandBars().DisplayTooltips(true);
 
@@ -191,7 +191,7 @@ void Module::leavePowerPointAsFound() {
     if (session_.PowerPointRepond()) {
         AllOf()
             .then([&] { staging_.Nettoyage(question_, session_.application); })
-            .then([&] { settings_.restoreCommandBars(session_.application); })
+            .then([&] { settings_.commandBars.restore(session_.application); })
             .raiseFirst();
     }
 }
@@ -207,7 +207,11 @@ void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
     }
     settings_.restoreLeftovers();
     steps.then([&] {
-        if (session_.PowerPointVisible() && started_) {
+        const bool isVisible = session_.PowerPointVisible();
+        if (isVisible && settings_.commandBars.isChanged() && session_.PowerPointRepond()) {
+            settings_.commandBars.restore(session_.application);
+        }
+        if (isVisible && started_) {
             const ppt::Application hosts(application);
             hosts.Quit();
             window = 0;

@@ -92,37 +92,33 @@ void Session::FermeDialogues(WindowHandle handle) {
 }
 
 void Session::InitCommandBar() {
-    const auto show = [](const ppt::CommandBar& bar, ppt::MsoBarPosition position) {
+    // Every step reaches its bar afresh, and what it refuses does not stop the next.
+    const auto on = [this](std::u16string_view name, const auto& step) {
+        ignoringErrors([&] { step(application.CommandBars().Item(name)); });
+    };
+    const auto enable = [](const ppt::CommandBar& bar) { bar.Enabled(true); };
+    const auto show = [&on](std::u16string_view name, ppt::MsoBarPosition position) {
         // Hidden before it is moved and shown again afterwards, so that the new position takes effect.
-        ignoringErrors([&] { bar.Visible(false); });
-        ignoringErrors([&] { bar.Position(position); });
-        ignoringErrors([&] { bar.Visible(true); });
+        on(name, [](const ppt::CommandBar& bar) { bar.Visible(false); });
+        on(name, [position](const ppt::CommandBar& bar) { bar.Position(position); });
+        on(name, [](const ppt::CommandBar& bar) { bar.Visible(true); });
     };
     for (const std::u16string_view name : {u"standard", u"formatting"}) {
-        const ppt::CommandBar top = bar(name);
-        ignoringErrors([&] { top.Enabled(true); });
-        show(top, ppt::msoBarTop);
+        on(name, enable);
+        show(name, ppt::msoBarTop);
     }
-    const ppt::CommandBar drawing = bar(u"Drawing");
-    ignoringErrors([&] { drawing.Enabled(true); });
-    ignoringErrors([&] { static_cast<void>(drawing.Visible()); });
-    ignoringErrors([&] { static_cast<void>(drawing.Position()); });
-    show(drawing, ppt::msoBarBottom);
-    const ppt::CommandBar pane = bar(u"Task Pane");
-    ignoringErrors([&] { static_cast<void>(pane.Enabled()); });
-    ignoringErrors([&] { pane.Position(ppt::msoBarRight); });
-    ignoringErrors([&] { pane.Visible(taskPane); });
+    on(u"Drawing", enable);
+    on(u"Drawing", [](const ppt::CommandBar& bar) { static_cast<void>(bar.Visible()); });
+    on(u"Drawing", [](const ppt::CommandBar& bar) { static_cast<void>(bar.Position()); });
+    show(u"Drawing", ppt::msoBarBottom);
+    on(u"Task Pane", [](const ppt::CommandBar& bar) { static_cast<void>(bar.Enabled()); });
+    on(u"Task Pane", [](const ppt::CommandBar& bar) { bar.Position(ppt::msoBarRight); });
+    on(u"Task Pane", [this](const ppt::CommandBar& bar) { bar.Visible(taskPane); });
 }
 
 void Session::readKeptSettings() {
     ignoringErrors([&] { taskPane = application.CommandBars().Item(u"Task Pane").Visible(); });
     ignoringErrors([&] { startupDialog = application.ShowStartupDialog() != ppt::msoFalse; });
-}
-
-ppt::CommandBar Session::bar(std::u16string_view name) const noexcept {
-    ppt::CommandBar found;
-    ignoringErrors([&] { found = application.CommandBars().Item(name); });
-    return found;
 }
 
 } // namespace k73053

@@ -42,8 +42,6 @@ public:
     void readKeptSettings();
 
 private:
-    [[nodiscard]] ppt::CommandBar bar(std::u16string_view name) const noexcept;
-
     const platform::Services services_;
 };
 

@@ -36,11 +36,7 @@ void UserSettings::createKey() {
 }
 
 void UserSettings::SauveParamUser(const ppt::Application& application) {
-    const std::int32_t bars = application.CommandBars().Count();
-    std::vector<bool> visible;
-    for (std::int32_t i = 1; i <= bars; ++i) {
-        visible.push_back(application.CommandBars().Item(i).Visible());
-    }
+    commandBars.saveVisible(application);
     for (RecentFolder& folder : folders_) {
         const OpenKey key(registry_, keyOf(folder), Registry::queryAndSet);
         if (!key.isOpen()) {
@@ -50,9 +46,6 @@ void UserSettings::SauveParamUser(const ppt::Application& application) {
         if (!folder.changed) {
             folder.saved = withoutNul(data.value_or(u""));
         }
-    }
-    if (!barsChanged_) {
-        barsVisible_ = std::move(visible);
     }
 }
 
@@ -74,7 +67,6 @@ void UserSettings::ChangeDir(const std::u16string& folder, const std::u16string&
 }
 
 void UserSettings::RestaureParamUser() {
-    barsChanged_ = false;
     const RecentFolder* refused = nullptr;
     for (RecentFolder& folder : folders_) {
         if (!restore(folder) && refused == nullptr) {
@@ -91,18 +83,6 @@ void UserSettings::restoreLeftovers() noexcept {
         if (folder.changed) {
             ignoringErrors([&] { static_cast<void>(restore(folder)); });
         }
-    }
-}
-
-void UserSettings::restoreCommandBars(const ppt::Application& application) noexcept {
-    barsChanged_ = false;
-    for (std::size_t i = 0; i < barsVisible_.size(); ++i) {
-        ignoringErrors([&] {
-            const ppt::CommandBar bar = application.CommandBars().Item(static_cast<std::int32_t>(i + 1));
-            if (bar.Visible() != barsVisible_[i]) {
-                bar.Visible(barsVisible_[i]);
-            }
-        });
     }
 }
 

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "module/CommandBarLayout.h"
 #include "platform/Registry.h"
-#include "ppt/Application.h"
 
 #include <array>
 #include <string>
-#include <vector>
 
 namespace k73053 {
 
-/// The learner's PowerPoint settings that an exercise changes: the recent folders in the registry and which command
-/// bars are shown. Saved before a question, put back when it closes.
+/// The learner's PowerPoint settings that an exercise changes: the recent folders in the registry and the command bars.
+/// Saved before a question, put back when it closes.
 class UserSettings {
 public:
     /// Office version that keeps all recent folders in one key.
@@ -30,18 +29,15 @@ public:
     /// report.
     void ChangeDir(const std::u16string& folder, const std::u16string& templatesFolder);
 
-    /// Writes the saved recent folders back, as many as can be, and lets go of the saved command bars; raises the
-    /// registry error for the first key that cannot be opened.
+    /// Writes the saved recent folders back, as many as can be; raises the registry error for the first key that cannot
+    /// be opened.
     void RestaureParamUser();
 
     /// Tries once more to write back the folders that an exercise changed and no close could restore. Raises nothing.
     void restoreLeftovers() noexcept;
 
-    /// To be told before an exercise changes the command bars: from here on the saved copy is the learner's.
-    void commandBarsWillChange() noexcept { barsChanged_ = true; }
-
-    /// Shows and hides the command bars as they were saved; bars that refuse stay as they are.
-    void restoreCommandBars(const ppt::Application& application) noexcept;
+    /// The learner's command bars, which only a PowerPoint that answers can take back.
+    CommandBarLayout commandBars;
 
 private:
     struct RecentFolder {
@@ -59,8 +55,6 @@ private:
     platform::Registry& registry_;
     std::u16string version_;
     std::array<RecentFolder, 4> folders_{{{u"Default"}, {u"MultimediaDir"}, {u"PictureDir"}, {u"TemplateDir"}}};
-    std::vector<bool> barsVisible_; ///< bar i + 1
-    bool barsChanged_ = false;
 };
 
 } // namespace k73053

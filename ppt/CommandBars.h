@@ -25,7 +25,7 @@ public:
     [[nodiscard]] bool Visible() const { return get<u"Visible">().to<bool>(); }
     void Visible(bool visible) const { put<u"Visible">(visible); }
     [[nodiscard]] std::int32_t Position() const { return get<u"Position">().to<std::int32_t>(); }
-    void Position(MsoBarPosition position) const { put<u"Position">(position); }
+    void Position(std::int32_t position) const { put<u"Position">(position); }
     [[nodiscard]] CommandBarControls Controls() const { return CommandBarControls(get<u"Controls">()); }
 };
 
@@ -34,6 +34,7 @@ public:
     using Facade::Facade;
     [[nodiscard]] std::int32_t Count() const { return get<u"Count">().to<std::int32_t>(); }
     [[nodiscard]] CommandBar Item(const Index& index) const { return CommandBar(get<u"Item">(index)); }
+    [[nodiscard]] bool DisplayTooltips() const { return get<u"DisplayTooltips">().to<bool>(); }
     void DisplayTooltips(bool displayed) const { put<u"DisplayTooltips">(displayed); }
 };
 

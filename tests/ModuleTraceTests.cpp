@@ -26,6 +26,7 @@ protected:
     }
 
     void deliver() {
+        const bool wasRunning = machine.isPowerPointRunning();
         machine.startPowerPoint();
         machine.createFile(std::u16string(folder) + u"x");
         const LateBound learners(machine.application());
@@ -33,7 +34,9 @@ protected:
         ask(ask(deck, u"Slides"), u"Add", 1, 12);
         say(deck, u"SaveAs", std::u16string(folder) + u"07305301.ppt");
         say(deck, u"Close");
-        machine.endPowerPoint();
+        if (!wasRunning) {
+            machine.endPowerPoint();
+        }
     }
 
     std::string init(std::int32_t number = 301) {
@@ -103,23 +106,32 @@ Files.clearAttributes("C:\Formation\Méthodologie.ppt") -> error 53
 Files.remove("C:\Formation\Méthodologie.ppt") -> error 53
 Files.clearAttributes("C:\Formation\07305301.ppt")
 Files.rename("C:\Formation\07305301.ppt", "C:\Formation\Méthodologie.ppt")
-Application.CommandBars.Item("standard").Enabled = True
-CommandBar.Visible = False
-CommandBar.Position = 1
-CommandBar.Visible = True
-Application.CommandBars.Item("formatting").Enabled = True
-CommandBar.Visible = False
-CommandBar.Position = 1
-CommandBar.Visible = True
-Application.CommandBars.Item("Drawing").Enabled = True
-CommandBar.Visible
-CommandBar.Position
-CommandBar.Visible = False
-CommandBar.Position = 3
-CommandBar.Visible = True
+Application.CommandBars.Item("standard").Enabled
+Application.CommandBars.Item("standard").Position
+Application.CommandBars.Item("formatting").Enabled
+Application.CommandBars.Item("formatting").Position
+Application.CommandBars.Item("Drawing").Enabled
+Application.CommandBars.Item("Drawing").Position
 Application.CommandBars.Item("Task Pane").Enabled
-CommandBar.Position = 2
-CommandBar.Visible = False
+Application.CommandBars.Item("Task Pane").Position
+Application.CommandBars.DisplayTooltips
+Application.CommandBars.Item("standard").Enabled = True
+Application.CommandBars.Item("standard").Visible = False
+Application.CommandBars.Item("standard").Position = 1
+Application.CommandBars.Item("standard").Visible = True
+Application.CommandBars.Item("formatting").Enabled = True
+Application.CommandBars.Item("formatting").Visible = False
+Application.CommandBars.Item("formatting").Position = 1
+Application.CommandBars.Item("formatting").Visible = True
+Application.CommandBars.Item("Drawing").Enabled = True
+Application.CommandBars.Item("Drawing").Visible
+Application.CommandBars.Item("Drawing").Position
+Application.CommandBars.Item("Drawing").Visible = False
+Application.CommandBars.Item("Drawing").Position = 3
+Application.CommandBars.Item("Drawing").Visible = True
+Application.CommandBars.Item("Task Pane").Enabled
+Application.CommandBars.Item("Task Pane").Position = 2
+Application.CommandBars.Item("Task Pane").Visible = False
 Application.CommandBars.DisplayTooltips = True
 Application.Presentations.Open("C:\Formation\Méthodologie.ppt", 0, 0, -1)
 Application.ActivePresentation.Slides.Count
@@ -185,9 +197,12 @@ Application.Presentations.Item(1).Saved = -1
 Application.Presentations.Item(1).Close
 Files.clearAttributes("C:\Formation\Méthodologie.ppt")
 Files.remove("C:\Formation\Méthodologie.ppt")
+Application.CommandBars.Item(...).Position
 Application.CommandBars.Item(...).Visible
-CommandBar.Visible = True
+Application.CommandBars.Item(17).Visible = True
 Application.CommandBars.Item(...).Visible
+Application.CommandBars.Item(...).Enabled
+Application.CommandBars.DisplayTooltips
 Registry.open((recent), 3) -> 0
 Registry.set("Default", "(documents)", 47) -> 0
 Registry.close -> True
@@ -225,6 +240,19 @@ Windows.isVisible((main)) -> True
 )~");
     module.Quitter(application, window);
     EXPECT_TRUE(machine.isPowerPointRunning()) << "the host's PowerPoint is left running";
+}
+
+TEST_F(ModuleTrace, TakesTheSamePowerPointAgain) {
+    init();
+    module.Fermer();
+    deliver();
+    static_cast<void>(log.take());
+    EXPECT_EQ(obtaining(), R"~(Windows.className((main)) -> True
+Windows.isVisible((main)) -> True
+Windows.isVisible((main)) -> True
+)~");
+    module.Quitter(application, window);
+    EXPECT_FALSE(machine.isPowerPointRunning()) << "the module's own PowerPoint is still its own";
 }
 
 TEST_F(ModuleTrace, StartsAfreshWhereTheHostsWindowIsDead) {
