@@ -12,6 +12,10 @@ else()
     endif()
 endif()
 
+if(WIN32)
+    target_compile_definitions(compiler INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0601 _WIN32_WINNT=0x0601)
+endif()
+
 target_precompile_headers(compiler INTERFACE
     <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <span> <string> <string_view> <utility>
     <variant> <vector>)
