@@ -2,8 +2,8 @@
 
 namespace automation {
 
-/// For the length of a scope, on this thread, calls to another process that are refused because it is busy fail at once;
-/// otherwise the bridge tries them again for a while. Objects of this process take no notice.
+/// For the length of a scope, on this thread, calls to another process that are refused because it is busy fail at
+/// once; otherwise the bridge tries them again for a while. Objects of this process take no notice.
 class WithoutRetry {
 public:
     WithoutRetry() noexcept { ++depth_; }
