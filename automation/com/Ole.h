@@ -1,0 +1,7 @@
+#pragma once
+
+// The system's headers for COM, in the order that they demand.
+#include <windows.h>
+
+#include <objbase.h>
+#include <oleauto.h>
