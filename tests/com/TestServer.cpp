@@ -51,24 +51,21 @@ HANDLE openReadyEvent() {
     return CreateEventW(nullptr, TRUE, FALSE, readyEvent);
 }
 
-} // namespace
-
-bool isServerCommand(int count, char** arguments) {
-    return count > 1 && arguments[1] == serverSwitch;
-}
-
-int serve() {
+/// Serves until the process is ended.
+int serve(bool isStartedByCom) {
     const auto filter = makeCom<Filter>();
     ComPtr<IMessageFilter> former;
     CoRegisterMessageFilter(filter.get(), former.receive());
 
     const auto sample = dispatchOf(std::make_shared<Sample>());
     const auto factory = makeCom<Factory>();
-    DWORD active = 0;
-    DWORD factories = 0;
-    if (FAILED(RegisterActiveObject(sample.get(), serverClass, ACTIVEOBJECT_STRONG, &active)) ||
-        FAILED(
-            CoRegisterClassObject(serverClass, factory.get(), CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &factories))) {
+    DWORD registration = 0;
+    // For a single use, since Wine goes on handing out the class object of a process that has died.
+    const HRESULT status =
+        isStartedByCom
+            ? CoRegisterClassObject(serverClass, factory.get(), CLSCTX_LOCAL_SERVER, REGCLS_SINGLEUSE, &registration)
+            : RegisterActiveObject(sample.get(), serverClass, ACTIVEOBJECT_STRONG, &registration);
+    if (FAILED(status)) {
         return 1;
     }
     SetEvent(openReadyEvent());
@@ -77,6 +74,16 @@ int serve() {
         DispatchMessageW(&message);
     }
     return 0;
+}
+
+} // namespace
+
+std::optional<int> serveIfAsked(std::span<char*> arguments) {
+    if (arguments.size() < 2 || arguments[1] != serverSwitch) {
+        return std::nullopt;
+    }
+    const bool isStartedByCom = arguments.size() > 2; // it says so
+    return serve(isStartedByCom);
 }
 
 void refuseCallsFor(std::int32_t milliseconds) {

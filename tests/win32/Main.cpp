@@ -23,8 +23,8 @@ class NothingLeft final : public testing::EmptyTestEventListener {
 int main(int count, char** arguments) {
     using namespace std::chrono_literals;
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    if (tests::isServerCommand(count, arguments)) {
-        return tests::serve();
+    if (const auto status = tests::serveIfAsked({arguments, static_cast<std::size_t>(count)})) {
+        return *status;
     }
     testing::InitGoogleTest(&count, arguments);
     testing::UnitTest& all = *testing::UnitTest::GetInstance();
