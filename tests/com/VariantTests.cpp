@@ -136,6 +136,11 @@ TEST(Variant, RefusesWhatCannotBeRead) {
         static_cast<VARIANT*>(outer->pvData)[0] = nested.release();
         nested = made(VT_ARRAY | VT_VARIANT, [&](auto& v) { v.parray = outer; });
     }
+    Variant large = variantOf(Array(1U << 19U));
+    Variant manyTimes = variantOf(Array(4)); // each element stands for the large one
+    for (int i = 0; i < 4; ++i) {
+        static_cast<VARIANT*>(manyTimes.parray->pvData)[i] = Variant::reference(large).release();
+    }
     SAFEARRAYBOUND many[] = {{0x7FFFFFFF, 0}, {0, 0}};
     const struct {
         Variant variant;
@@ -151,6 +156,7 @@ TEST(Variant, RefusesWhatCannotBeRead) {
         {made(VT_ARRAY | VT_I4, [&](auto& v) { v.parray = SafeArrayCreate(VT_I4, 2, many); }), 7},
         {made(VT_ARRAY | VT_I2, [](auto& v) { v.parray = SafeArrayCreateVector(VT_I4, 0, 3); }), 13},
         {std::move(nested), 7},
+        {std::move(manyTimes), 7},
         {Variant::reference(self), 7},
     };
     for (const auto& [variant, expected] : cases) {
