@@ -2,8 +2,6 @@
 
 #include "automation/Text.h"
 
-#include <array>
-#include <cstdio>
 #include <new>
 #include <utility>
 
@@ -15,10 +13,8 @@ namespace {
 constexpr std::u16string_view libraryName = u"K73053";
 
 std::string compose(std::int32_t number, const std::u16string& source, const std::u16string& description) {
-    std::array<char, 16> head{};
     const bool plain = number >= 0 && number < 0x10000;
-    std::snprintf(head.data(), head.size(), plain ? "%u" : "%08X", static_cast<unsigned>(number));
-    std::string text = head.data();
+    std::string text = toUtf8(plain ? decimal(number) : hexadecimal(number));
     if (!description.empty()) {
         text += " " + toUtf8(description);
     }

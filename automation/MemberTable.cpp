@@ -4,8 +4,18 @@
 
 namespace automation {
 
-MemberTable::MemberTable(std::initializer_list<Member> members)
-    : members_(members), slots_(std::bit_ceil(members.size() * 2 + 1)) {
+MemberTable::MemberTable(std::initializer_list<Member> members) : members_(members) {
+    index();
+}
+
+MemberTable::MemberTable(const MemberTable& inherited, std::initializer_list<Member> own)
+    : members_(inherited.members_) {
+    members_.insert(members_.end(), own);
+    index();
+}
+
+void MemberTable::index() {
+    slots_.assign(std::bit_ceil(members_.size() * 2 + 1), 0);
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t i = 0; i < members_.size(); ++i) {
         std::size_t slot = members_[i].name.hash() & mask;

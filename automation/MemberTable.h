@@ -44,6 +44,8 @@ struct Member {
 class MemberTable {
 public:
     MemberTable(std::initializer_list<Member> members);
+    /// The members of another table, and then those of a class that publishes more.
+    MemberTable(const MemberTable& inherited, std::initializer_list<Member> own);
 
     [[nodiscard]] const std::vector<Member>& members() const noexcept { return members_; }
 
@@ -54,6 +56,8 @@ public:
     Value invoke(Object& object, const Name& name, Access access, std::span<Value> arguments) const;
 
 private:
+    void index();
+
     std::vector<Member> members_;
     std::vector<std::uint16_t> slots_; ///< open hash over the names: position + 1, 0 where free
     std::size_t default_ = 0;          ///< position of the default member + 1, 0 where there is none
@@ -87,7 +91,7 @@ public:
 
     [[nodiscard]] P pass() { return static_cast<P>(plain_); }
 
-    void finish() {
+    void finish() noexcept {
         if constexpr (writesBack) {
             if (Value* const variable = argument_->variable()) {
                 *variable = Value(std::move(plain_));
@@ -114,6 +118,20 @@ private:
     Plain plain_;
 };
 
+/// Writes by-reference parameters back when the call ends, also where it raises: what the function has written stays.
+template <typename... Parameters> struct Finisher {
+    std::tuple<Parameter<Parameters>...>& parameters;
+
+    explicit Finisher(std::tuple<Parameter<Parameters>...>& all) : parameters(all) {}
+    ~Finisher() {
+        std::apply([](auto&... each) { (each.finish(), ...); }, parameters);
+    }
+    Finisher(const Finisher&) = delete;
+    Finisher& operator=(const Finisher&) = delete;
+    Finisher(Finisher&&) = delete;
+    Finisher& operator=(Finisher&&) = delete;
+};
+
 template <typename Class, typename Result, typename... Parameters> struct Signature {
     static constexpr std::size_t count = sizeof...(Parameters);
 
@@ -132,14 +150,12 @@ private:
     template <auto function, std::size_t... I>
     static Value run(Class& object, [[maybe_unused]] std::span<Value> arguments, std::index_sequence<I...>) {
         [[maybe_unused]] std::tuple<Parameter<Parameters>...> parameters{Parameter<Parameters>(arguments, I)...};
+        const Finisher<Parameters...> finisher(parameters);
         if constexpr (std::is_void_v<Result>) {
             (object.*function)(std::get<I>(parameters).pass()...);
-            (std::get<I>(parameters).finish(), ...);
             return {};
         } else {
-            Value result((object.*function)(std::get<I>(parameters).pass()...));
-            (std::get<I>(parameters).finish(), ...);
-            return result;
+            return Value((object.*function)(std::get<I>(parameters).pass()...));
         }
     }
 };

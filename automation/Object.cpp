@@ -5,19 +5,22 @@
 namespace automation {
 
 namespace {
-std::atomic<std::size_t> aliveObjects = 0;
+std::atomic<std::size_t>& aliveObjects() noexcept {
+    static std::atomic<std::size_t> count = 0;
+    return count;
+}
 } // namespace
 
 Object::Object() noexcept {
-    aliveObjects.fetch_add(1, std::memory_order_relaxed);
+    aliveObjects().fetch_add(1, std::memory_order_relaxed);
 }
 
 Object::~Object() {
-    aliveObjects.fetch_sub(1, std::memory_order_relaxed);
+    aliveObjects().fetch_sub(1, std::memory_order_relaxed);
 }
 
 std::size_t Object::alive() noexcept {
-    return aliveObjects.load(std::memory_order_relaxed);
+    return aliveObjects().load(std::memory_order_relaxed);
 }
 
 bool isSame(const ObjectPtr& left, const ObjectPtr& right) noexcept {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 
 namespace automation {
 
@@ -126,6 +125,15 @@ bool equalIgnoringCase(std::u16string_view left, std::u16string_view right) noex
 std::u16string decimal(long long number) {
     const std::string digits = std::to_string(number);
     return {digits.begin(), digits.end()};
+}
+
+std::u16string hexadecimal(std::int32_t number) {
+    std::u16string digits(8, u'0');
+    auto rest = static_cast<std::uint32_t>(number);
+    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, rest >>= 4U) {
+        *digit = std::u16string_view(u"0123456789ABCDEF")[rest & 0xFU];
+    }
+    return digits;
 }
 
 } // namespace automation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,5 +24,8 @@ namespace automation {
 
 /// A whole number in decimal, without blanks or leading zeros.
 [[nodiscard]] std::u16string decimal(long long number);
+
+/// A 32-bit number as eight hexadecimal digits, as errors of the system are written.
+[[nodiscard]] std::u16string hexadecimal(std::int32_t number);
 
 } // namespace automation

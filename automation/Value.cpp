@@ -14,6 +14,7 @@ namespace automation {
 namespace {
 
 template <typename... Cases> struct Overloaded : Cases... { using Cases::operator()...; };
+template <typename... Cases> Overloaded(Cases...) -> Overloaded<Cases...>;
 
 /// The number that a text writes, blanks around it allowed.
 double parse(std::u16string_view text) {
@@ -82,7 +83,7 @@ template <typename Floating> std::u16string general(Floating number, int digits)
 
 } // namespace
 
-Value Value::reference(Value& variable) noexcept {
+Value Value::reference(Value& variable) {
     Value result;
     result.storage_ = variable.variable() != nullptr ? variable.variable() : &variable;
     return result;

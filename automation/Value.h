@@ -57,7 +57,7 @@ public:
 
     /// An argument passed by reference: reading it reads `variable`, and what the callee writes lands there.
     /// `variable` must outlive the call.
-    static Value reference(Value& variable) noexcept;
+    static Value reference(Value& variable);
 
     /// The value itself, or the variable behind a by-reference argument.
     [[nodiscard]] const Value& target() const noexcept;

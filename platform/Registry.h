@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,9 +42,8 @@ public:
 /// A registry key for the length of a scope.
 class OpenKey {
 public:
-    OpenKey(Registry& registry, std::u16string_view path, std::uint32_t access) : registry_(registry) {
-        status_ = registry.open(path, access, key_);
-    }
+    OpenKey(Registry& registry, std::u16string_view path, std::uint32_t access)
+        : registry_(registry), status_(registry.open(path, access, key_)) {}
     ~OpenKey() {
         if (isOpen()) {
             registry_.close(key_);
@@ -60,16 +60,16 @@ public:
     bool enumerate(std::uint32_t index, std::u16string& name) const {
         return registry_.enumerate(key_, index, nameBuffer, name) == Registry::success;
     }
-    /// Data of a string value as it is stored; read again whole where it is longer than the usual buffer. Empty where
+    /// Data of a string value as it is stored; read again whole where it is longer than the usual buffer. Nothing where
     /// the value is missing.
-    [[nodiscard]] std::u16string query(std::u16string_view name) const {
+    [[nodiscard]] std::optional<std::u16string> query(std::u16string_view name) const {
         std::u16string data;
         std::size_t length = valueBuffer;
         Registry::Status status = registry_.query(key_, name, length, data);
         if (status == Registry::moreData) {
             status = registry_.query(key_, name, length, data);
         }
-        return status == Registry::success ? data : std::u16string();
+        return status == Registry::success ? std::optional(data) : std::nullopt;
     }
     bool set(std::u16string_view name, std::u16string_view data, std::size_t length) const {
         return registry_.set(key_, name, data, length) == Registry::success;

@@ -4,18 +4,18 @@
 #include "ppt/Constants.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace ppt {
 
 /// A text that can be a template argument.
 template <std::size_t Size> struct FixedText {
-    char16_t characters[Size]{}; // NOLINT(modernize-avoid-c-arrays): a literal is bound to it
+    std::array<char16_t, Size> characters{};
 
-    consteval FixedText(const char16_t (&literal)[Size]) { // NOLINT(modernize-avoid-c-arrays)
-        std::copy_n(literal, Size, characters);
-    }
-    [[nodiscard]] constexpr std::u16string_view view() const noexcept { return {characters, Size - 1}; }
+    // NOLINTNEXTLINE(*-avoid-c-arrays, *-array-to-pointer-decay): a literal is an array
+    consteval FixedText(const char16_t (&literal)[Size]) { std::copy_n(literal, Size, characters.begin()); }
+    [[nodiscard]] constexpr std::u16string_view view() const noexcept { return {characters.data(), Size - 1}; }
 };
 
 /// One class of the object model, seen through a late-bound reference: one function a member, every call a fresh walk,

@@ -9,8 +9,6 @@
 
 namespace simulator {
 
-class Session;
-
 /// A computer of its own, in memory, with PowerPoint 2003 installed for one user: what the module needs of Windows, and
 /// what happens to PowerPoint beside the object model. Its files are real files: `C:\Dossier\x.ppt` is the file
 /// `C/Dossier/x.ppt` below the root.
@@ -33,7 +31,8 @@ public:
     /// Creates an empty file, folders included.
     void createFile(std::u16string_view path);
 
-    /// Starts PowerPoint as the user does, visible; nothing happens where it runs already.
+    /// Starts PowerPoint as the user does, visible and without a presentation; shows it where it runs already. Raises
+    /// CannotCreateObject (429) where it is not installed.
     void startPowerPoint();
     [[nodiscard]] bool isPowerPointRunning() const noexcept;
     /// PowerPoint's application object; null where it does not run.
@@ -44,13 +43,19 @@ public:
     void endPowerPoint();
     /// PowerPoint refuses automation calls from now on, or answers again.
     void setBusy(bool busy);
+    /// These do nothing where PowerPoint does not run.
     void hidePowerPoint();
     void minimizePowerPoint();
     /// Opens a modal dialog above PowerPoint's main window, or above the dialog opened last.
     void openDialog(std::u16string_view title);
-    [[nodiscard]] std::size_t dialogs() const noexcept;
+    [[nodiscard]] std::size_t dialogs() const;
     /// Makes starting PowerPoint fail from now on, as where it is not installed.
     void uninstallPowerPoint();
+
+    /// The window that gets the keys; 0 where none is visible.
+    [[nodiscard]] platform::WindowHandle foregroundWindow() const;
+    /// Opens a window of another program in front of all others.
+    platform::WindowHandle openWindow(std::u16string_view className, std::u16string_view title);
 
     /// A string value of the current user's registry; empty where it is missing.
     [[nodiscard]] std::u16string registryText(std::u16string_view key, std::u16string_view name) const;
@@ -58,6 +63,8 @@ public:
     void deleteRegistryValue(std::u16string_view key, std::u16string_view name);
     /// Makes a key impossible to open, or possible again.
     void denyRegistryKey(std::u16string_view key, bool denied = true);
+    /// Number of registry keys opened and not closed yet.
+    [[nodiscard]] std::size_t openRegistryKeys() const noexcept;
 
     /// The measurement system of the user's settings: "0" metric, "1" U.S.; empty makes the query fail.
     void setMeasurementSystem(std::string_view text);

@@ -15,8 +15,7 @@ public:
     Value invoke(const Name& name, Access access, std::span<Value> arguments) override {
         const Crossing crossing{Border::Automation, name.scope(), name.text(), access, arguments};
         std::vector<Value> passed(arguments.begin(), arguments.end());
-        std::transform(passed.begin(), passed.end(), passed.begin(),
-                       [this](const Value& value) { return strip(value); });
+        std::transform(passed.begin(), passed.end(), passed.begin(), strip);
         const Value result = observer_->around(crossing, [&] { return inner_->invoke(name, access, passed); });
         return wrap(result);
     }

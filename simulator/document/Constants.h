@@ -18,7 +18,12 @@ enum MsoShapeType : std::int32_t {
     msoTextBox = 17,
 };
 
+inline constexpr std::int32_t msoShapeMixed = -2;
+inline constexpr std::int32_t msoShapeRectangle = 1;
+inline constexpr std::int32_t msoShapeOval = 9;
+
 enum MsoFillType : std::int32_t {
+    msoFillMixed = -2,
     msoFillSolid = 1,
     msoFillPatterned = 2,
     msoFillGradient = 3,
@@ -26,6 +31,32 @@ enum MsoFillType : std::int32_t {
     msoFillBackground = 5,
     msoFillPicture = 6,
 };
+
+enum MsoZOrderCmd : std::int32_t {
+    msoBringToFront = 0,
+    msoSendToBack = 1,
+    msoBringForward = 2,
+    msoSendBackward = 3,
+};
+
+enum MsoAlignCmd : std::int32_t {
+    msoAlignLefts = 0,
+    msoAlignCenters = 1,
+    msoAlignRights = 2,
+    msoAlignTops = 3,
+    msoAlignMiddles = 4,
+    msoAlignBottoms = 5,
+};
+
+enum MsoDistributeCmd : std::int32_t { msoDistributeHorizontally = 0, msoDistributeVertically = 1 };
+
+enum MsoFlipCmd : std::int32_t { msoFlipHorizontal = 0, msoFlipVertical = 1 };
+
+enum MsoScaleFrom : std::int32_t { msoScaleFromTopLeft = 0, msoScaleFromMiddle = 1, msoScaleFromBottomRight = 2 };
+
+enum MsoSegmentType : std::int32_t { msoSegmentLine = 0, msoSegmentCurve = 1 };
+
+enum MsoEditingType : std::int32_t { msoEditingAuto = 0, msoEditingCorner = 1 };
 
 enum PpSlideLayout : std::int32_t { ppLayoutTitle = 1, ppLayoutText = 2, ppLayoutTitleOnly = 11, ppLayoutBlank = 12 };
 
@@ -48,6 +79,8 @@ enum PpColorSchemeIndex : std::int32_t {
     ppAccent2 = 7,
     ppAccent3 = 8,
 };
+
+enum MsoColorType : std::int32_t { msoColorTypeRGB = 1, msoColorTypeScheme = 2 };
 
 enum PpWindowState : std::int32_t { ppWindowNormal = 1, ppWindowMinimized = 2, ppWindowMaximized = 3 };
 

@@ -35,8 +35,8 @@ struct Shadow {
     bool visible = false;
     std::int32_t type = -2;
     Color color = Color::of(ppShadow);
-    float offsetX = 0; ///< points
-    float offsetY = 0; ///< points
+    float offsetX = 2; ///< points
+    float offsetY = 2; ///< points
     bool obscured = false;
 
     friend bool operator==(const Shadow&, const Shadow&) = default;

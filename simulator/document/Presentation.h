@@ -21,16 +21,25 @@ public:
 
     [[nodiscard]] const std::vector<SlidePtr>& slides() const noexcept { return slides_; }
 
-    /// Inserts a slide at a place from 0 and gives it an id, and a name where it has none.
+    /// Inserts a slide at a place from 0 and gives it an id where it has none, and a name where it has none, or one
+    /// that is taken.
     void insert(const SlidePtr& slide, std::size_t place);
     void remove(const SlidePtr& slide);
     /// Place of a slide from 0; the number of slides where it is not in this presentation.
     [[nodiscard]] std::size_t placeOf(const Slide& slide) const noexcept;
     void move(const SlidePtr& slide, std::size_t place);
+    /// True where a slide has this name, case ignored.
+    [[nodiscard]] bool isNameTaken(std::u16string_view wanted) const noexcept;
 
 private:
     std::vector<SlidePtr> slides_;
-    std::int32_t lastSlideId_ = 255;
+    static constexpr std::int32_t reservedIds = 255;
+    std::int32_t lastSlideId_ = reservedIds;
 };
+
+/// Says that something has changed since the presentation was saved: in itself, in a slide, in a shape.
+void markChanged(Presentation& presentation) noexcept;
+void markChanged(const Slide& slide) noexcept;
+void markChanged(const Shape& shape) noexcept;
 
 } // namespace simulator

@@ -11,6 +11,11 @@
 
 namespace simulator {
 
+/// True for the placeholders that hold a slide's title.
+[[nodiscard]] constexpr bool isTitle(PpPlaceholderType type) noexcept {
+    return type == ppPlaceholderTitle || type == ppPlaceholderCenterTitle;
+}
+
 class Slide;
 class Shape;
 using ShapePtr = std::shared_ptr<Shape>;
@@ -49,6 +54,7 @@ public:
     bool horizontalFlip = false;
     bool verticalFlip = false;
     bool visible = true;
+    bool lockAspectRatio = false;
     std::u16string alternativeText;
     TagList tags;
     Fill fill;
@@ -58,12 +64,16 @@ public:
     std::optional<TextStory> text; ///< nothing for a shape that cannot hold text
     std::optional<TextEffect> textEffect;
     std::optional<PpPlaceholderType> placeholder;
-    std::vector<Node> nodes; ///< of a freeform
-    bool closed = false;     ///< a freeform whose last corner joins its first
+    std::vector<Node> nodes;      ///< of a freeform
+    bool closed = false;          ///< a freeform whose last corner joins its first
+    std::int32_t formerGroup = 0; ///< id of the group that it was taken out of last, 0 where there is none
 
     [[nodiscard]] const Frame& frame() const noexcept { return frame_; }
     /// Moves and resizes; the items of a group and the corners of a freeform follow. Lengths are kept in master units.
     void setFrame(const Frame& frame);
+    /// Gives a freeform its corners, in master units, and takes its frame from them. A curve whose ends meet is
+    /// closed; one that was closed without them staying so is left closed.
+    void setNodes(std::vector<Node> corners);
 
     /// Items of a group, from back to front; empty for any other shape.
     [[nodiscard]] const std::vector<ShapePtr>& items() const noexcept { return items_; }
@@ -71,6 +81,18 @@ public:
     static void adopt(const ShapePtr& group, std::vector<ShapePtr> items);
     /// Takes the items out of a group.
     [[nodiscard]] std::vector<ShapePtr> release();
+    /// Takes one item out of a group, whose frame shrinks to the others.
+    void release(const ShapePtr& item);
+    /// Puts another shape in the place of an item.
+    void replace(const ShapePtr& item, const ShapePtr& other);
+
+    /// Shows or hides the shadow; a shadow takes the third dimension away.
+    void showShadow(bool shown) noexcept;
+    /// Shows or hides the third dimension, which takes the shadow away.
+    void showThreeD(bool shown) noexcept;
+
+    /// Tells a shape and everything in it on which slide they stand; on none for a reference to nothing.
+    void settle(const std::weak_ptr<Slide>& ground) noexcept;
 
     /// The group that holds this shape; null when it stands directly on its slide.
     [[nodiscard]] ShapePtr group() const noexcept { return group_.lock(); }
@@ -81,9 +103,29 @@ public:
     std::weak_ptr<Slide> slide; ///< of the shape, or of the outermost group that holds it
 
 private:
+    /// Moves and resizes without telling the groups around.
+    void place(const Frame& frame);
+    /// Fits the frames of the groups around to their items.
+    void refitGroups() const;
+
     Frame frame_;
     std::vector<ShapePtr> items_;
     std::weak_ptr<Shape> group_;
 };
+
+/// The smallest frame around some shapes, or around the corners of a freeform.
+[[nodiscard]] Frame boundsOf(const std::vector<ShapePtr>& shapes) noexcept;
+[[nodiscard]] Frame boundsOf(const std::vector<Node>& nodes) noexcept;
+
+/// Visits a shape that is no group, or every such shape inside a group, at any depth.
+template <typename Visit> void forEachLeaf(const ShapePtr& shape, const Visit& visit) {
+    if (shape->type != msoGroup) {
+        visit(shape);
+        return;
+    }
+    for (const ShapePtr& item : shape->items()) {
+        forEachLeaf(item, visit);
+    }
+}
 
 } // namespace simulator

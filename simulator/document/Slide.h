@@ -19,8 +19,8 @@ public:
 
     [[nodiscard]] const std::vector<ShapePtr>& shapes() const noexcept { return shapes_; }
 
-    /// Puts a shape in front of all others and gives it an id, and a name made of `baseName` and its id where it has
-    /// none.
+    /// Puts a shape in front of all others and gives it and its items an id, and a name made of `baseName` and its id
+    /// where it has none, or one that is taken.
     void add(const ShapePtr& shape, std::u16string_view baseName);
     /// Puts a shape at a place from 0 (the back), keeping its id and name.
     void insert(const ShapePtr& shape, std::size_t place);
@@ -29,6 +29,8 @@ public:
     [[nodiscard]] std::size_t placeOf(const Shape& shape) const noexcept;
     /// Moves a shape to another place from 0.
     void move(const ShapePtr& shape, std::size_t place);
+    /// True where a shape or an item of a group has this name, case ignored.
+    [[nodiscard]] bool isNameTaken(std::u16string_view wanted) const noexcept;
 
     /// A copy of the slide and its shapes, tags included.
     [[nodiscard]] SlidePtr clone() const;

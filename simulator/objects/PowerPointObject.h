@@ -31,6 +31,17 @@ namespace errors {
 [[noreturn]] void outOfRange(std::u16string_view member, std::int32_t index, std::size_t count);
 /// A request that makes no sense as things stand.
 [[noreturn]] void invalidRequest(std::u16string_view text);
+/// The same, in PowerPoint's words: the member that was asked ("Shape.Select") and why it refuses.
+[[noreturn]] void invalidRequest(std::u16string_view member, std::u16string_view reason);
+/// A value that a member does not take.
+[[noreturn]] void invalidValue(std::u16string_view member);
+
+/// Refuses a value outside `first` to `last`, for a member.
+template <typename T> void demandWithin(T value, T first, T last, std::u16string_view member) {
+    if (!(value >= first && value <= last)) {
+        invalidValue(member);
+    }
+}
 } // namespace errors
 
 /// What a weak reference stands for; raises `errors::gone` where it is gone.

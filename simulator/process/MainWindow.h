@@ -17,6 +17,8 @@ public:
     [[nodiscard]] virtual PpWindowState state() const = 0;
     virtual void setState(PpWindowState state) = 0;
     virtual void setTitle(std::u16string_view title) = 0;
+    /// True when the window, or a dialog above it, is the one in front.
+    [[nodiscard]] virtual bool isActive() const = 0;
     virtual void activate() = 0;
     /// Opens a modal dialog owned by the main window, or by the dialog opened last; closing a window closes those
     /// above.
@@ -24,6 +26,8 @@ public:
     /// Number of dialogs open.
     [[nodiscard]] virtual std::size_t dialogs() const = 0;
     virtual void closeDialog() = 0;
+    /// Takes the window and its dialogs off the system; harmless when that is done.
+    virtual void close() = 0;
 };
 
 } // namespace simulator

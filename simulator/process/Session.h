@@ -8,7 +8,7 @@
 
 namespace simulator {
 
-/// Loads and saves presentation files by their Windows paths. Raises FileNotFound (53), PathAccess (75) and the like.
+/// Loads and saves presentation files by their Windows paths. Raises PowerPoint's own error where that fails.
 class PresentationStore {
 public:
     virtual ~PresentationStore() = default;
@@ -24,6 +24,8 @@ public:
 struct Settings {
     CommandBarSet commandBars;
     bool showStartupDialog = true;
+    /// Where a file lies that is named without a folder.
+    std::u16string documentsFolder = u"C:\\Documents and Settings\\Eleve\\Mes documents";
 };
 
 /// What was copied last: shapes, slides or text.
@@ -31,6 +33,7 @@ struct Clipboard {
     std::vector<ShapePtr> shapes;
     std::vector<SlidePtr> slides;
     std::u16string text;
+    ShapePtr format; ///< a copy of the shape whose format was picked up last, apart from what was copied
 };
 
 /// One run of PowerPoint, from its start to its end. Automation objects hold it; when it has ended, or does not answer,
@@ -52,6 +55,8 @@ public:
     /// Called once when the run ends.
     void onEnd(std::function<void()> handler) { onEnd_ = std::move(handler); }
 
+    /// Title of the main window: it names the presentation in front.
+    [[nodiscard]] std::u16string title() const;
     [[nodiscard]] MainWindow& window() noexcept { return window_; }
     [[nodiscard]] Settings& settings() noexcept { return settings_; }
     [[nodiscard]] Clipboard& clipboard() noexcept { return clipboard_; }
@@ -61,18 +66,23 @@ public:
     /// Document windows, the active one first.
     [[nodiscard]] const std::vector<DocumentWindowPtr>& windows() const noexcept { return windows_; }
 
-    /// A new presentation without slides.
+    /// A new presentation without slides. A window cannot be had while PowerPoint is invisible.
     PresentationPtr create(bool withWindow);
-    /// Opens a file; one that is open already is shown instead.
+    /// Opens a file; one that is open already is shown instead. `untitled` opens a copy without a path.
     PresentationPtr open(std::u16string_view path, bool readOnly, bool untitled, bool withWindow);
     /// Closes a presentation and its windows without a question.
     void close(const PresentationPtr& presentation);
+    /// Saves under the presentation's path, or under its name in the documents folder where it has none. Raises for a
+    /// presentation opened read-only.
     void save(const PresentationPtr& presentation);
     /// Saves under another name, which the presentation bears from then on.
     void saveAs(const PresentationPtr& presentation, std::u16string_view path);
+    /// The path, in the documents folder where it names no folder.
+    [[nodiscard]] std::u16string fullPath(std::u16string_view path) const;
     [[nodiscard]] PresentationStore& store() noexcept { return store_; }
 
     void activate(const DocumentWindowPtr& window);
+    /// Closes a window, and its presentation with the last one.
     void closeWindow(const DocumentWindowPtr& window);
     /// The active document window; null where there is none, or where PowerPoint is invisible.
     [[nodiscard]] DocumentWindowPtr activeWindow() const;
@@ -80,7 +90,12 @@ public:
     [[nodiscard]] DocumentWindowPtr windowOf(const Presentation& presentation) const;
 
 private:
+    [[nodiscard]] PresentationPtr presentationAt(std::u16string_view path) const;
+    void demandFrame() const;
     void addWindow(const PresentationPtr& presentation);
+    void show(const PresentationPtr& presentation);
+    void updateTitle();
+    [[nodiscard]] std::u16string nextName();
 
     MainWindow& window_;
     PresentationStore& store_;

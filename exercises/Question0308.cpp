@@ -1,0 +1,114 @@
+#include "exercises/Catalogue.h"
+
+#include "automation/Integer.h"
+
+#include <array>
+
+namespace exercises {
+
+namespace {
+
+using automation::increase;
+using automation::narrow;
+
+std::u16string_view trim(std::u16string_view text) {
+    const auto first = text.find_first_not_of(u' ');
+    return first == std::u16string_view::npos ? u"" : text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+class Question0308 final : public Question {
+public:
+    explicit Question0308(const Environment& environment)
+        : Question(u"Question0308", {{u"07305308.ppt", u"Méthodologie.ppt", false}}, environment) {}
+
+private:
+    void prepare() override {
+        api().MarqueDiapositives(application());
+        api().MarqueFormes(5, false, application());
+        const std::int32_t words = text(2).Words().Count();
+        for (std::int32_t i = 1; i <= words; ++i) {
+            if (trim(text(2).Words(i).Text()) == u"parfaitement") {
+                referenceColour_ = automation::Value(text(2).Words(i).Font().Color().object());
+            }
+        }
+        application().ActiveWindow().ViewType(ppt::ppViewNormal);
+        application().ActiveWindow().View().GotoSlide(5);
+        application().ActiveWindow().Selection().Unselect();
+    }
+
+    void check() override {
+        if (diapositive(5).Shapes().Count() != 2) {
+            return cause(u"G");
+        }
+        const std::int32_t prepared = diapositive(5).Shapes().Count();
+        for (std::int32_t k = 1; k <= prepared; ++k) {
+            if (!isPrepared(k) || forme(5, narrow<std::int16_t>(k)).HasTextFrame() == ppt::msoFalse) {
+                return cause(u"G");
+            }
+        }
+        if (diapositive(5).Shapes().Count() == 0) {
+            return cause(u"G");
+        }
+        const std::int32_t tagged = diapositive(5).Shapes().Count();
+        for (std::int32_t k = 1; k <= tagged; ++k) {
+            if (!isPrepared(k)) {
+                return cause(u"G");
+            }
+        }
+        if (text(1).Paragraphs().Count() != 1 || text(2).Paragraphs().Count() != 4) {
+            return cause(u"G");
+        }
+        if (!contains(u"lisibles") || !contains(u"Police et Taille des caractères")) {
+            return cause(u"E");
+        }
+        if (contains(u"parfaitement ")) {
+            return cause(u"C");
+        }
+        const std::int32_t coloured = colouredWords();
+        const std::int32_t words = paragraph().Words().Count();
+        if (coloured == 0 && words == 6) {
+            return cause(u"D");
+        }
+        const std::array<std::u16string_view, 3> parts{u"tout", u"à", u"fait"};
+        if (!contains(u"tout à fait")) {
+            return cause(u"F");
+        }
+        if (coloured < static_cast<std::int32_t>(parts.size())) {
+            return cause(u"H");
+        }
+    }
+
+    [[nodiscard]] ppt::TextRange text(std::int16_t shape) const { return forme(5, shape).TextFrame().TextRange(); }
+    [[nodiscard]] ppt::TextRange paragraph() const { return text(2).Paragraphs(3); }
+
+    [[nodiscard]] bool contains(std::u16string_view part) const {
+        return paragraph().Text().find(part) != std::u16string::npos;
+    }
+
+    [[nodiscard]] bool isPrepared(std::int32_t shape) const {
+        return identite(5, narrow<std::int16_t>(shape)) == API::identity(shape);
+    }
+
+    [[nodiscard]] std::int32_t colouredWords() const {
+        std::int32_t coloured = 0;
+        const std::int32_t words = paragraph().Words().Count();
+        for (std::int32_t i = 1; i <= words; ++i) {
+            if (paragraph().Words(i).Font().Color().RGB() == referenceColour_.to<std::int32_t>()) {
+                increase(coloured);
+            }
+        }
+        return coloured;
+    }
+
+    /// The colour object itself, whose value is read at every comparison; empty, which compares as 0, where the word
+    /// was not found.
+    automation::Value referenceColour_;
+};
+
+} // namespace
+
+QuestionPtr makeQuestion0308(const Environment& environment) {
+    return std::make_shared<Question0308>(environment);
+}
+
+} // namespace exercises

@@ -1,0 +1,64 @@
+#include "exercises/Catalogue.h"
+
+namespace exercises {
+
+namespace {
+
+class Question0309 final : public Question {
+public:
+    explicit Question0309(const Environment& environment)
+        : Question(u"Question0309", {{u"07305309.ppt", u"Méthodologie.ppt", false}}, environment) {}
+
+private:
+    void prepare() override {
+        prepareSlides();
+        api().MarqueFormes(1, false, application());
+        application().CommandBars().Item(u"Standard").Visible(true);
+    }
+
+    void check() override {
+        const std::int32_t count = diapositive(1).Shapes().Count();
+        if (count == 1 && identite(1, 1) == u"ZOR1") {
+            return cause(u"A");
+        }
+        if (count >= 3) {
+            return cause(u"C");
+        }
+        std::int32_t textBox = 0;
+        std::int32_t fixed = 0;
+        for (std::int32_t i = 1; i <= count; ++i) {
+            if (forme(1, i).Type() == ppt::msoTextBox) {
+                textBox = i;
+            }
+            if (identite(1, i) == u"ZOR1") {
+                fixed = i;
+            }
+            if (forme(1, i).Type() == ppt::msoGroup) {
+                return cause(u"Z");
+            }
+        }
+        if (fixed == 0) {
+            return cause(u"D");
+        }
+        if (textBox == 0) {
+            return cause(u"B");
+        }
+        if (forme(1, textBox).TextFrame().TextRange().Text().find_first_not_of(u' ') == std::u16string::npos) {
+            return cause(u"G");
+        }
+        if (place(1, fixed) != Place{481.625F, 368.375F, 194.75F, 125.125F}) {
+            return cause(u"E");
+        }
+        if (forme(1, textBox).Top() >= 150.0F || forme(1, textBox).Left() >= 150.0F) {
+            return cause(u"F");
+        }
+    }
+};
+
+} // namespace
+
+QuestionPtr makeQuestion0309(const Environment& environment) {
+    return std::make_shared<Question0309>(environment);
+}
+
+} // namespace exercises

@@ -1,0 +1,47 @@
+#include "exercises/Catalogue.h"
+
+namespace exercises {
+
+namespace {
+
+class Question0318 final : public Question {
+public:
+    explicit Question0318(const Environment& environment)
+        : Question(u"Question0318", {{u"07305318.ppt", u"Méthodologie.ppt", false}}, environment) {}
+
+private:
+    void prepare() override {
+        prepareSlideWithShapes(1);
+        const automation::Value answer(
+            platform::queryLocale(services().locale, 0, platform::Locale::measurementSystem));
+        api().SystemeMesure = answer.to<std::int32_t>();
+    }
+
+    void check() override {
+        const std::int32_t shape = cherche(1, u"ZOR4", true);
+        if (api().FormeNonTrouvee != 0) {
+            return cause(u"A");
+        }
+        if (api().NiveauForme >= 1) {
+            return cause(u"Z");
+        }
+        const float firstWidth = forme(1, shape).Width();
+        const float secondWidth = forme(1, shape).Width();
+        if (!(firstWidth >= 56.5F && secondWidth <= 56.75F)) {
+            return cause(u"B");
+        }
+        const float firstHeight = forme(1, shape).Height();
+        const float secondHeight = forme(1, shape).Height();
+        if (!(firstHeight >= 56.5F && secondHeight <= 56.75F)) {
+            return cause(u"C");
+        }
+    }
+};
+
+} // namespace
+
+QuestionPtr makeQuestion0318(const Environment& environment) {
+    return std::make_shared<Question0318>(environment);
+}
+
+} // namespace exercises

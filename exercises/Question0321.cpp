@@ -1,0 +1,44 @@
+#include "exercises/Catalogue.h"
+
+namespace exercises {
+
+namespace {
+
+class Question0321 final : public Question {
+public:
+    explicit Question0321(const Environment& environment)
+        : Question(u"Question0321", {{u"07305321.ppt", u"Méthodologie.ppt", false}}, environment) {}
+
+private:
+    void prepare() override { prepareSlideWithShapes(1); }
+
+    void check() override {
+        const std::int32_t shape = cherche(1, u"ZOR4", true);
+        if (api().FormeNonTrouvee != 0) {
+            return cause(u"A");
+        }
+        if (api().NiveauForme > 0) {
+            return cause(u"Z");
+        }
+        if (forme(1, shape).Shadow().Visible() != ppt::msoFalse) {
+            return cause(u"B");
+        }
+        if (forme(1, shape).ThreeD().Visible() != ppt::msoTrue) {
+            return cause(u"D");
+        }
+        if (forme(1, shape).ThreeD().PresetThreeDFormat() == ppt::msoPresetThreeDFormatMixed) {
+            return cause(u"E");
+        }
+        if (forme(1, shape).ThreeD().PresetThreeDFormat() != ppt::msoThreeD1) {
+            return cause(u"C");
+        }
+    }
+};
+
+} // namespace
+
+QuestionPtr makeQuestion0321(const Environment& environment) {
+    return std::make_shared<Question0321>(environment);
+}
+
+} // namespace exercises

@@ -1,0 +1,71 @@
+#include "exercises/Catalogue.h"
+
+namespace exercises {
+
+namespace {
+
+class Question0322 final : public Question {
+public:
+    explicit Question0322(const Environment& environment)
+        : Question(u"Question0322", {{u"07305322.ppt", u"Méthodologie.ppt", false}}, environment) {}
+
+private:
+    void prepare() override {
+        api().MarqueDiapositives(application());
+        application().ActiveWindow().ViewType(ppt::ppViewNormal);
+        api().MarqueFormes(1, true, application());
+    }
+
+    void check() override {
+        cherche(1, u"ZOR4", true);
+        if (api().FormeNonTrouvee != 0) {
+            return cause(u"A");
+        }
+        cherche(1, u"ZOR2", true);
+        if (api().FormeNonTrouvee != 0) {
+            return cause(u"B");
+        }
+        const std::int32_t count = diapositive(1).Shapes().Count();
+        const std::int32_t group = nextNewGroup(1, count);
+        if (group > count) {
+            return cause(u"E");
+        }
+        if (nextNewGroup(group + 1, count) <= count) {
+            return cause(u"F");
+        }
+        bool holdsZOR4 = false;
+        bool holdsZOR2 = false;
+        const std::int32_t members = forme(1, group).GroupItems().Count();
+        for (std::int32_t m = 1; m <= members; ++m) {
+            const std::u16string identity = forme(1, group).GroupItems().Item(m).Tags().Item(API::Identite);
+            holdsZOR4 = holdsZOR4 || identity == u"ZOR4";
+            holdsZOR2 = holdsZOR2 || identity == u"ZOR2";
+        }
+        if (!holdsZOR4) {
+            return cause(u"C");
+        }
+        if (!holdsZOR2) {
+            return cause(u"D");
+        }
+        if (members > 2) {
+            return cause(u"H");
+        }
+    }
+
+    /// Index of the first group made by the learner from `first` on; past `count` where there is none.
+    [[nodiscard]] std::int32_t nextNewGroup(std::int32_t first, std::int32_t count) const {
+        std::int32_t k = first;
+        while (k <= count && !(forme(1, k).Type() == ppt::msoGroup && identite(1, k).empty())) {
+            ++k;
+        }
+        return k;
+    }
+};
+
+} // namespace
+
+QuestionPtr makeQuestion0322(const Environment& environment) {
+    return std::make_shared<Question0322>(environment);
+}
+
+} // namespace exercises

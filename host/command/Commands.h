@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/command/Library.h"
+#include "host/world/World.h"
+
+#include <iosfwd>
+
+namespace host {
+
+/// How the program ends.
+enum class ExitCode : int {
+    Good = 0,
+    FellShort = 1,  ///< a scenario fell short
+    WrongUsage = 2, ///< a wrong command line, or a wrong line in a scenario file
+};
+
+/// What `exercise-host run` is asked for.
+struct RunRequest {
+    std::int32_t question = 306;
+    std::string scenario; ///< its title; empty for the first that ends in a success
+    bool asJson = false;
+    bool withTrace = false;
+};
+
+/// What `exercise-host verify` is asked for: all files of the library where nothing is named.
+struct VerifyRequest {
+    std::vector<std::int32_t> questions;
+    std::vector<std::string> files;
+};
+
+/// Runs one scenario and tells it, up to the four values that the host reads last.
+[[nodiscard]] ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld,
+                           std::ostream& out);
+
+/// Runs all scenarios and prints what falls short.
+[[nodiscard]] ExitCode verify(const VerifyRequest& request, const Library& library, const WorldMaker& makeWorld,
+                              std::ostream& out);
+
+/// Prints the scenarios of questions, of all where none is named.
+[[nodiscard]] ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out);
+
+} // namespace host

@@ -1,0 +1,44 @@
+#include "host/command/Library.h"
+
+#include "host/language/Parser.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace host {
+
+namespace fs = std::filesystem;
+
+namespace {
+constexpr const char* extension = ".scn";
+} // namespace
+
+std::vector<fs::path> Library::files() const {
+    if (!fs::is_directory(folder_)) {
+        throw UsageError("no folder of scenarios: " + folder_.string());
+    }
+    std::vector<fs::path> all;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
+        if (entry.is_regular_file() && entry.path().extension() == extension) {
+            all.push_back(entry.path());
+        }
+    }
+    std::sort(all.begin(), all.end());
+    return all;
+}
+
+fs::path Library::fileOf(std::int32_t question) const {
+    return folder_ / ("0" + std::to_string(question) + extension);
+}
+
+language::ScenarioFile load(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file || !fs::is_regular_file(path)) {
+        throw UsageError("no scenario file: " + path.string());
+    }
+    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return language::parse(path.string(), text);
+}
+
+} // namespace host

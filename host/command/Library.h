@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/language/Ast.h"
+
+#include <filesystem>
+
+namespace host {
+
+/// The scenario files of a folder, named "0306.scn" after their question; others ("session.scn") go by their own names.
+class Library {
+public:
+    explicit Library(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+    [[nodiscard]] const std::filesystem::path& folder() const noexcept { return folder_; }
+    /// All scenario files, sorted by name.
+    [[nodiscard]] std::vector<std::filesystem::path> files() const;
+    /// The file of a question, whether it exists or not.
+    [[nodiscard]] std::filesystem::path fileOf(std::int32_t question) const;
+
+private:
+    std::filesystem::path folder_;
+};
+
+/// Reads a scenario file. Raises language::WrongLines, or UsageError where the file cannot be read.
+[[nodiscard]] language::ScenarioFile load(const std::filesystem::path& path);
+
+/// A command line that asks for something that does not exist, in words for its user.
+struct UsageError : std::exception {
+    explicit UsageError(std::string text) : message(std::move(text)) {}
+    [[nodiscard]] const char* what() const noexcept override { return message.c_str(); }
+
+    std::string message;
+};
+
+} // namespace host

@@ -1,0 +1,100 @@
+#include "host/command/Commands.h"
+#include "host/command/JsonStory.h"
+#include "host/command/PlainStory.h"
+#include "host/command/Telling.h"
+#include "host/run/Runner.h"
+
+#include "automation/Text.h"
+
+#include <algorithm>
+#include <ostream>
+
+namespace host {
+
+namespace {
+
+using automation::toUtf8;
+using language::Scenario;
+using language::ScenarioFile;
+
+const Scenario& chosen(const ScenarioFile& file, const std::string& title) {
+    const auto isWanted = [&](const Scenario& scenario) {
+        const Expectation* const last = scenario.lastExpectation();
+        return title.empty() ? last != nullptr && last->isSuccess() : toUtf8(scenario.title) == title;
+    };
+    const auto found = std::find_if(file.scenarios.begin(), file.scenarios.end(), isWanted);
+    if (found == file.scenarios.end()) {
+        throw UsageError(title.empty() ? file.name + " has no scenario that ends in a success"
+                                       : file.name + " has no scenario \"" + title + "\"");
+    }
+    return *found;
+}
+
+std::string complementOf(const Reading& reading) {
+    std::string all;
+    for (const std::u16string& text : reading.complement) {
+        all += (all.empty() ? "\"" : ", \"") + toUtf8(text) + "\"";
+    }
+    return all;
+}
+
+void printValues(const Reading& reading, std::ostream& out) {
+    out << "\nErreurGenerale: " << (reading.erreurGenerale ? "True" : "False")
+        << "\nCauseErreur: " << toUtf8(reading.causeErreur)
+        << "\nBravoNuance: " << (reading.bravoNuance ? "True" : "False") << "\nComplement: " << complementOf(reading)
+        << '\n';
+}
+
+nlohmann::ordered_json toJson(const ScenarioFile& file, const Scenario& scenario, const Outcome& outcome) {
+    const Reading& reading = outcome.lastReading;
+    nlohmann::ordered_json object;
+    object["question"] = file.question;
+    object["scenario"] = toUtf8(scenario.title);
+    object["passed"] = outcome.failures.empty();
+    object["failures"] = nlohmann::ordered_json::array();
+    for (const language::Remark& failure : outcome.failures) {
+        object["failures"].push_back(failure.in(file.name));
+    }
+    object["ErreurGenerale"] = reading.erreurGenerale;
+    object["CauseErreur"] = toUtf8(reading.causeErreur);
+    object["BravoNuance"] = reading.bravoNuance;
+    object["Complement"] = nlohmann::ordered_json::array();
+    for (const std::u16string& text : reading.complement) {
+        object["Complement"].push_back(toUtf8(text));
+    }
+    return object;
+}
+
+} // namespace
+
+ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
+    const ScenarioFile file = load(library.fileOf(request.question));
+    const Scenario& scenario = chosen(file, request.scenario);
+    PlainStory plain(out);
+    JsonStory json;
+    Story& story = request.asJson ? static_cast<Story&>(json) : plain;
+    const auto trace =
+        request.withTrace
+            ? std::make_shared<automation::CallTrace>([&](const automation::TracedCall& call) { story.call(call); })
+            : nullptr;
+
+    if (!request.asJson) {
+        out << "Question " << file.question << ": " << toUtf8(scenario.title) << "\n\n";
+    }
+    const Runner runner(file, makeWorld);
+    const Outcome outcome = runner.run(
+        scenario, [&](World& world) { return std::make_unique<Telling>(world, story); }, trace);
+    if (request.asJson) {
+        nlohmann::ordered_json object = toJson(file, scenario, outcome);
+        object["story"] = json.chapters();
+        out << object.dump(2) << '\n';
+    } else {
+        for (const language::Remark& failure : outcome.failures) {
+            out << '\n' << failure.in(file.name) << '\n';
+        }
+        printValues(outcome.lastReading, out);
+    }
+    return outcome.failures.empty() ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace host

@@ -1,0 +1,131 @@
+#include "host/command/Telling.h"
+
+#include "automation/Text.h"
+
+namespace host {
+
+namespace {
+
+using automation::toUtf8;
+
+std::string listed(const std::vector<std::u16string>& texts) {
+    std::string all;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        all += (i == 0 ? "" : i + 1 == texts.size() ? " and " : ", ") + toUtf8(texts[i]);
+    }
+    return all;
+}
+
+std::string quoted(const std::u16string& text) {
+    return "\"" + toUtf8(text) + "\"";
+}
+
+std::string counted(std::size_t number, const std::string& what) {
+    return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+}
+
+/// `marked ZOR1 to ZOR4`; empty where nothing is.
+std::string marked(const std::vector<std::u16string>& identities) {
+    std::vector<std::u16string> present;
+    std::copy_if(identities.begin(), identities.end(), std::back_inserter(present),
+                 [](const std::u16string& identity) { return !identity.empty(); });
+    if (present.size() <= 2) {
+        return present.empty() ? "" : "marked " + listed(present);
+    }
+    return "marked " + toUtf8(present.front()) + " to " + toUtf8(present.back());
+}
+
+} // namespace
+
+void Telling::delivered(const std::vector<std::u16string>& names) {
+    story_.chapter("The course delivers " + listed(names) + " into " + toUtf8(world_.hostFolder()));
+    isAmongMoves_ = false;
+}
+
+void Telling::performing(const language::Statement& statement) {
+    if (!isAmongMoves_) {
+        story_.chapter("The learner's moves");
+        isAmongMoves_ = true;
+    }
+    story_.statement(statement.place.line, toUtf8(statement.text));
+}
+
+void Telling::calling(HostCall call) {
+    story_.chapter("The host calls " + toUtf8(nameOf(call)));
+    isAmongMoves_ = false;
+    before_.emplace(world_);
+}
+
+void Telling::called(HostCall /*call*/, const automation::Error* error) {
+    const Snapshot after(world_);
+    tellPowerPoint(*before_, after);
+    tellFiles(*before_, after);
+    tellPresentations(*before_, after);
+    tellFolders(*before_, after);
+    if (error != nullptr) {
+        story_.sentence(std::string("The module raises the error ") + error->what());
+    }
+}
+
+void Telling::judged(const Reading& reading) {
+    story_.sentence("The host reads " + reading.display());
+}
+
+void Telling::tellPowerPoint(const Snapshot& before, const Snapshot& after) {
+    if (after.window != before.window) {
+        story_.sentence(after.window == 0 ? "PowerPoint has ended" : "PowerPoint has started");
+    }
+    if (after.dialogs < before.dialogs) {
+        story_.sentence(counted(before.dialogs - after.dialogs, "dialog") + " closed");
+    }
+}
+
+void Telling::tellFiles(const Snapshot& before, const Snapshot& after) {
+    const std::vector<std::u16string> come = without(after.files, before.files);
+    const std::vector<std::u16string> gone = without(before.files, after.files);
+    if (!come.empty()) {
+        story_.sentence(gone.empty() ? "New in the folder: " + listed(come)
+                                     : "In the folder " + listed(come) + " stands in the place of " + listed(gone));
+    } else if (!gone.empty()) {
+        story_.sentence("Removed from the folder: " + listed(gone));
+    }
+}
+
+void Telling::tellPresentations(const Snapshot& before, const Snapshot& after) {
+    for (const OpenPresentation& open : after.presentations.value_or(std::vector<OpenPresentation>())) {
+        if (before.find(open.fullName) == nullptr) {
+            tellMarks(open);
+        }
+    }
+    for (const OpenPresentation& open : before.presentations.value_or(std::vector<OpenPresentation>())) {
+        if (after.presentations && after.find(open.fullName) == nullptr) {
+            story_.sentence(toUtf8(open.name) + " is closed");
+        }
+    }
+}
+
+void Telling::tellMarks(const OpenPresentation& open) {
+    std::vector<std::u16string> identities;
+    for (const SlideMarks& slide : open.slides) {
+        identities.push_back(slide.identity);
+    }
+    const std::string slides = marked(identities);
+    story_.sentence(toUtf8(open.name) + " is open: " + counted(open.slides.size(), "slide") +
+                    (slides.empty() ? "" : ", " + slides));
+    for (std::size_t i = 0; i < open.slides.size(); ++i) {
+        if (const std::string shapes = marked(open.slides[i].shapes); !shapes.empty()) {
+            story_.sentence("The shapes of slide " + std::to_string(i + 1) + " are " + shapes);
+        }
+    }
+}
+
+void Telling::tellFolders(const Snapshot& before, const Snapshot& after) {
+    for (std::size_t i = 0; i < after.folders.size(); ++i) {
+        if (after.folders.at(i) != before.folders.at(i)) {
+            story_.sentence("PowerPoint's folder " + toUtf8(folderSettings::names[i]) + " is " +
+                            quoted(after.folders.at(i)) + " instead of " + quoted(before.folders.at(i)));
+        }
+    }
+}
+
+} // namespace host

@@ -1,0 +1,58 @@
+#include "host/command/Commands.h"
+#include "host/run/Runner.h"
+
+#include "automation/Text.h"
+
+#include <ostream>
+
+namespace host {
+
+namespace {
+
+struct Tally {
+    std::size_t passed = 0;
+    std::size_t failed = 0;
+};
+
+void verifyFile(const language::ScenarioFile& file, const WorldMaker& makeWorld, Tally& tally, std::ostream& out) {
+    std::optional<Runner> runner;
+    try {
+        runner.emplace(file, makeWorld);
+    } catch (const language::Failure& failure) {
+        out << failure.remark.in(file.name) << " (the course)\n";
+        tally.failed += file.scenarios.size();
+        return;
+    }
+    for (const language::Scenario& scenario : file.scenarios) {
+        const Outcome outcome = runner->run(scenario);
+        for (const language::Remark& failure : outcome.failures) {
+            out << failure.in(file.name) << " (\"" << automation::toUtf8(scenario.title) << "\")" << std::endl;
+        }
+        ++(outcome.failures.empty() ? tally.passed : tally.failed);
+    }
+}
+
+std::vector<std::filesystem::path> named(const VerifyRequest& request, const Library& library) {
+    std::vector<std::filesystem::path> paths(request.files.begin(), request.files.end());
+    for (const std::int32_t question : request.questions) {
+        paths.push_back(library.fileOf(question));
+    }
+    return paths.empty() ? library.files() : paths;
+}
+
+} // namespace
+
+ExitCode verify(const VerifyRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
+    std::vector<language::ScenarioFile> files;
+    for (const std::filesystem::path& path : named(request, library)) {
+        files.push_back(load(path));
+    }
+    Tally tally;
+    for (const language::ScenarioFile& file : files) {
+        verifyFile(file, makeWorld, tally, out);
+    }
+    out << tally.passed << " passed, " << tally.failed << " failed\n";
+    return tally.failed == 0 ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace host

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "automation/Value.h"
+#include "host/language/Expectation.h"
+#include "host/language/Place.h"
+
+#include <memory>
+#include <variant>
+
+namespace host::language {
+
+struct Expression;
+struct Statement;
+
+/// A literal or a named constant.
+struct Literal {
+    automation::Value value;
+};
+
+/// An argument left out.
+struct Omitted {};
+
+/// A name with its arguments: of a variable or of the application where `object` is null, else a member of `object`.
+/// The empty name stands for the default member.
+struct Reference {
+    std::unique_ptr<Expression> object;
+    std::u16string name;
+    std::vector<Expression> arguments;
+};
+
+/// `&`, `+`, `-` between two operands, or `-` before one.
+struct Operation {
+    char16_t sign = u'&';
+    std::vector<Expression> operands;
+};
+
+struct Expression {
+    Place place;
+    std::variant<Literal, Omitted, Reference, Operation> node;
+};
+
+/// `x = value`, `x.Member = value`, with or without `Set`.
+struct Assignment {
+    Expression target; ///< a reference
+    Expression value;
+    bool isSet = false;
+};
+
+/// A member called for what it does.
+struct Call {
+    Expression target; ///< a reference
+};
+
+/// One TestePoint, and what the host must read.
+struct Check {
+    Expectation expected;
+};
+
+/// A value that must be found.
+struct ExpectValue {
+    Expression actual;
+    Expression wanted;
+};
+
+/// A statement that must raise.
+struct ExpectError {
+    ExpectedError error;
+    std::unique_ptr<Statement> statement;
+};
+
+struct Statement {
+    Place place;
+    std::u16string text; ///< the line as it is written, without blanks around it and without its comment
+    std::variant<Call, Assignment, Check, ExpectValue, ExpectError> node;
+};
+
+/// What happens from one InitQuestion to the closing of the question.
+struct Scenario {
+    Place place;
+    std::u16string title;
+    bool startsBeforeInitQuestion = false; ///< the scenario states InitQuestion itself
+    std::vector<Statement> statements;
+
+    /// What the last check of the scenario expects; null where it has none.
+    [[nodiscard]] const Expectation* lastExpectation() const;
+};
+
+/// A scenario file.
+struct ScenarioFile {
+    std::string name;
+    std::int32_t question = 0;
+    std::vector<Statement> course; ///< statements that build the presentation delivered
+    std::vector<Scenario> scenarios;
+};
+
+} // namespace host::language

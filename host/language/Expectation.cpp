@@ -1,0 +1,71 @@
+#include "host/language/Expectation.h"
+
+#include "automation/Text.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+std::string quoted(const std::u16string& text) {
+    return "\"" + automation::toUtf8(text) + "\"";
+}
+
+std::string verdict(bool isRemark, const std::u16string& letter, const std::vector<std::u16string>& complement) {
+    std::string text = isRemark         ? "a success with the remark " + quoted(letter)
+                       : letter.empty() ? std::string("a success")
+                                        : "the letter " + quoted(letter);
+    for (std::size_t i = 0; i < complement.size(); ++i) {
+        text += (i == 0 ? " with the complement " : ", ") + quoted(complement[i]);
+    }
+    return text;
+}
+
+} // namespace
+
+std::string Reading::display() const {
+    if (error) {
+        return std::string("the error ") + error->what();
+    }
+    return erreurGenerale ? "the general error " + quoted(causeErreur) : verdict(bravoNuance, causeErreur, complement);
+}
+
+bool ExpectedError::matches(const automation::Error& error) const {
+    return error.number() == number && std::all_of(parts.begin(), parts.end(), [&](const std::u16string& part) {
+               return error.source().find(part) != std::u16string::npos;
+           });
+}
+
+std::string ExpectedError::display() const {
+    std::string text = "the error " + std::string(automation::Error(number, {}, {}).what());
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        text += (i == 0 ? " from a source with " : " and ") + quoted(parts[i]);
+    }
+    return text;
+}
+
+bool Expectation::matches(const Reading& reading) const {
+    if (kind == Kind::Error || reading.error) {
+        return kind == Kind::Error && reading.error && error.matches(*reading.error);
+    }
+    if (kind == Kind::General || reading.erreurGenerale) {
+        return kind == Kind::General && reading.erreurGenerale && reading.causeErreur == letter;
+    }
+    return reading.bravoNuance == (kind == Kind::Remark) && reading.causeErreur == letter &&
+           reading.complement == complement;
+}
+
+bool Expectation::isSuccess() const noexcept {
+    return kind == Kind::Success || kind == Kind::Remark || (kind == Kind::Error && error.number == 0);
+}
+
+std::string Expectation::display() const {
+    switch (kind) {
+    case Kind::Error: return error.display();
+    case Kind::General: return "the general error " + quoted(letter);
+    default: return verdict(kind == Kind::Remark, letter, complement);
+    }
+}
+
+} // namespace host

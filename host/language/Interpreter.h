@@ -1,0 +1,60 @@
+#pragma once
+
+#include "automation/Object.h"
+#include "host/language/Ast.h"
+
+#include <map>
+
+namespace host::language {
+
+/// What statements act on.
+class Stage {
+public:
+    Stage() = default;
+    virtual ~Stage() = default;
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    Stage(Stage&&) = delete;
+    Stage& operator=(Stage&&) = delete;
+
+    /// PowerPoint's application, whose members are named without more. Raises CannotCreateObject (429) where it does
+    /// not run.
+    virtual automation::ObjectPtr application() = 0;
+    /// An object of the language's own, by its name; null where there is none.
+    virtual automation::ObjectPtr object(std::u16string_view name) = 0;
+    /// One TestePoint of the host, and what it reads then.
+    virtual Reading testePoint() = 0;
+};
+
+/// Performs statements, late-bound, and keeps their variables.
+class Interpreter {
+public:
+    /// `stage` must outlive the interpreter.
+    explicit Interpreter(Stage& stage) : stage_(stage) {}
+
+    /// Raises Failure where the statement raises, or finds something else than it expects.
+    void execute(const Statement& statement);
+    /// Raises Failure where reading it raises.
+    [[nodiscard]] automation::Value evaluate(const Expression& expression);
+    /// Drops what the variables hold.
+    void forget() noexcept { variables_.clear(); }
+
+private:
+    void perform(const Call& call);
+    void perform(const Assignment& assignment);
+    void perform(const Check& check);
+    void perform(const ExpectValue& expectation);
+    void perform(const ExpectError& expectation);
+
+    automation::Value valueOf(const Expression& expression);
+    automation::Value valueOf(const Reference& reference, Place place);
+    automation::Value valueOf(const Operation& operation, Place place);
+    std::vector<automation::Value> argumentsOf(const Reference& reference);
+    automation::Value head(const Reference& reference, std::span<automation::Value> arguments);
+
+    Stage& stage_;
+    std::map<std::u16string, automation::Value> variables_; ///< by their names in lower case
+    Place place_;                                           ///< of the statement being performed
+};
+
+} // namespace host::language

@@ -1,0 +1,155 @@
+#include "host/language/Lexer.h"
+
+#include "automation/Text.h"
+
+#include <charconv>
+
+namespace host::language {
+
+namespace {
+
+using automation::toUtf8;
+
+bool isDigit(char16_t c) {
+    return c >= u'0' && c <= u'9';
+}
+
+bool isHexDigit(char16_t c) {
+    return isDigit(c) || (c >= u'A' && c <= u'F') || (c >= u'a' && c <= u'f');
+}
+
+/// Accented letters belong to names as well.
+bool startsName(char16_t c) {
+    return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'_' || c >= 0x00C0;
+}
+
+class Lexer {
+public:
+    Lexer(std::u16string_view line, std::size_t number) : line_(line), number_(number) {}
+
+    std::vector<Token> run() {
+        std::vector<Token> tokens;
+        Place end = here();
+        for (skipBlanks(); !atEnd(); skipBlanks()) {
+            tokens.push_back(next());
+            end = here();
+        }
+        tokens.push_back({TokenKind::End, end, {}, {}});
+        return tokens;
+    }
+
+private:
+    [[nodiscard]] char16_t peek(std::size_t ahead = 0) const {
+        return position_ + ahead < line_.size() ? line_[position_ + ahead] : u'\0';
+    }
+    [[nodiscard]] bool atEnd() const { return position_ >= line_.size() || peek() == u'#' || peek() == u'\''; }
+    [[nodiscard]] Place here() const { return {number_, position_ + 1}; }
+
+    void skipBlanks() {
+        while (peek() == u' ' || peek() == u'\t' || peek() == u'\r' || peek() == 0x00A0 || peek() == 0xFEFF) {
+            ++position_;
+        }
+    }
+
+    template <typename Test> std::u16string_view take(const Test& belongs) {
+        const std::size_t start = position_;
+        while (position_ < line_.size() && belongs(line_[position_])) {
+            ++position_;
+        }
+        return line_.substr(start, position_ - start);
+    }
+
+    Token next() {
+        const Place place = here();
+        const char16_t c = peek();
+        if (startsName(c)) {
+            return {TokenKind::Name,
+                    place,
+                    std::u16string(take([](char16_t x) { return startsName(x) || isDigit(x); })),
+                    {}};
+        }
+        if (isDigit(c)) {
+            return {TokenKind::Number, place, {}, number()};
+        }
+        if (c == u'&' && (peek(1) == u'H' || peek(1) == u'h') && isHexDigit(peek(2))) {
+            return {TokenKind::Number, place, {}, hexadecimal()};
+        }
+        if (c == u'"') {
+            return {TokenKind::Text, place, {}, text()};
+        }
+        if (std::u16string_view(u".,()=&+-:").find(c) == std::u16string_view::npos) {
+            throw SyntaxError({place, "expected a statement, found '" + toUtf8({&c, 1}) + "'"});
+        }
+        ++position_;
+        return {TokenKind::Symbol, place, std::u16string(1, c), {}};
+    }
+
+    /// A quote inside a text is doubled.
+    std::u16string text() {
+        const Place opening = here();
+        std::u16string result;
+        for (++position_; position_ < line_.size(); ++position_) {
+            if (line_[position_] == u'"' && peek(1) != u'"') {
+                ++position_;
+                return result;
+            }
+            position_ += line_[position_] == u'"' ? 1 : 0;
+            result += line_[position_];
+        }
+        throw SyntaxError({opening, "expected a closing quote for this text"});
+    }
+
+    automation::Value number() {
+        const Place place = here();
+        std::string digits = toUtf8(take(isDigit));
+        if (peek() == u'.' && isDigit(peek(1))) {
+            ++position_;
+            digits += "." + toUtf8(take(isDigit));
+            double real = 0;
+            std::from_chars(digits.data(), digits.data() + digits.size(), real);
+            return real;
+        }
+        return whole<std::int32_t>(digits, 10, place);
+    }
+
+    automation::Value hexadecimal() {
+        const Place place = here();
+        position_ += 2;
+        return static_cast<std::int32_t>(whole<std::uint32_t>(toUtf8(take(isHexDigit)), 16, place));
+    }
+
+    template <typename Integer> static Integer whole(const std::string& digits, int base, Place place) {
+        Integer integer = 0;
+        if (std::from_chars(digits.data(), digits.data() + digits.size(), integer, base).ec != std::errc()) {
+            throw SyntaxError({place, "expected a number that fits into 32 bits"});
+        }
+        return integer;
+    }
+
+    std::u16string_view line_;
+    std::size_t number_;
+    std::size_t position_ = 0;
+};
+
+} // namespace
+
+bool Token::isWord(std::u16string_view word) const {
+    return kind == TokenKind::Name && automation::equalIgnoringCase(text, word);
+}
+
+std::string Token::display() const {
+    switch (kind) {
+    case TokenKind::Text:
+    case TokenKind::Number: return toUtf8(value.display());
+    case TokenKind::Name:
+    case TokenKind::Symbol: return "'" + toUtf8(text) + "'";
+    case TokenKind::End: break;
+    }
+    return "the end of the line";
+}
+
+std::vector<Token> tokenize(std::u16string_view line, std::size_t lineNumber) {
+    return Lexer(line, lineNumber).run();
+}
+
+} // namespace host::language

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "automation/Value.h"
+#include "host/language/Place.h"
+
+#include <string>
+
+namespace host::language {
+
+enum class TokenKind : std::uint8_t { Name, Text, Number, Symbol, End };
+
+/// One word, literal or sign of a line.
+struct Token {
+    TokenKind kind = TokenKind::End;
+    Place place;
+    std::u16string text;     ///< of a name or a sign, as it is written
+    automation::Value value; ///< of a literal
+
+    [[nodiscard]] bool isSymbol(char16_t sign) const { return kind == TokenKind::Symbol && text.front() == sign; }
+    /// True for a name, its case ignored.
+    [[nodiscard]] bool isWord(std::u16string_view word) const;
+    /// The token as a message mentions it.
+    [[nodiscard]] std::string display() const;
+};
+
+/// The tokens of one line and, right behind them, their end. A comment starts at `#` or `'`. Raises SyntaxError.
+[[nodiscard]] std::vector<Token> tokenize(std::u16string_view line, std::size_t lineNumber);
+
+} // namespace host::language

@@ -1,0 +1,170 @@
+#include "host/language/Parser.h"
+
+#include "automation/Text.h"
+#include "host/language/LineParser.h"
+
+#include <algorithm>
+
+namespace host::language {
+
+namespace {
+
+Statement statementOf(std::u16string_view line, const std::vector<Token>& tokens) {
+    Statement statement = LineParser(tokens).statement();
+    const std::size_t first = tokens.front().place.column;
+    statement.text = line.substr(first - 1, tokens.back().place.column - first);
+    return statement;
+}
+
+class FileParser {
+public:
+    explicit FileParser(std::string fileName) { file_.name = std::move(fileName); }
+
+    ScenarioFile run(std::u16string_view text) {
+        std::size_t number = 1;
+        for (std::size_t start = 0; start <= text.size(); ++number) {
+            const std::size_t stop = std::min(text.find(u'\n', start), text.size());
+            line(text.substr(start, stop - start), number);
+            start = stop + 1;
+        }
+        guarded([&] { finish({number - 1, 1}); });
+        if (!wrong_.empty()) {
+            throw WrongLines(file_.name, std::move(wrong_));
+        }
+        return std::move(file_);
+    }
+
+private:
+    template <typename Step> void guarded(const Step& step) {
+        try {
+            step();
+        } catch (const SyntaxError& error) {
+            wrong_.push_back(error.remark);
+        }
+    }
+
+    void line(std::u16string_view line, std::size_t number) {
+        guarded([&] {
+            const std::vector<Token> tokens = tokenize(line, number);
+            if (tokens.size() > 1) {
+                content(line, tokens);
+            }
+        });
+    }
+
+    void content(std::u16string_view line, const std::vector<Token>& tokens) {
+        LineParser words(tokens);
+        const Place place = words.peek().place;
+        if (waiting_ != nullptr) {
+            ExpectError& expectation = *std::exchange(waiting_, nullptr);
+            expectation.statement = std::make_unique<Statement>(statementOf(line, tokens));
+            block_->back().text += u' ' + expectation.statement->text;
+        } else if (words.takeWord(u"question")) {
+            question(words, place);
+        } else {
+            block(words, place, line, tokens);
+        }
+    }
+
+    void block(LineParser& words, Place place, std::u16string_view line, const std::vector<Token>& tokens) {
+        if (file_.question == 0) {
+            file_.question = unknown;
+            wrong_.push_back({place, "expected 'question' and its number before anything else"});
+        }
+        if (words.takeWord(u"course")) {
+            course(words, place);
+        } else if (words.takeWord(u"scenario")) {
+            scenario(words, place);
+        } else if (words.takeWord(u"before")) {
+            before(words, place);
+        } else {
+            add(statementOf(line, tokens));
+        }
+    }
+
+    void question(LineParser& words, Place place) {
+        if (file_.question > 0) {
+            throw SyntaxError({place, "expected one question only"});
+        }
+        file_.question = words.number("the number of the question");
+        words.end();
+    }
+
+    void course(LineParser& words, Place place) {
+        words.end();
+        if (block_ != nullptr) {
+            throw SyntaxError({place, "expected one course only, before the scenarios"});
+        }
+        block_ = &file_.course;
+    }
+
+    void scenario(LineParser& words, Place place) {
+        if (block_ == nullptr) {
+            throw SyntaxError({place, "expected 'course' before the first scenario"});
+        }
+        Scenario scenario{place, words.text("the title of the scenario, in quotes"), false, {}};
+        words.end();
+        const auto isSame = [&](const Scenario& other) { return other.title == scenario.title; };
+        if (std::any_of(file_.scenarios.begin(), file_.scenarios.end(), isSame)) {
+            throw SyntaxError({place, "expected a title of its own: there is a scenario of this title already"});
+        }
+        file_.scenarios.push_back(std::move(scenario));
+        block_ = &file_.scenarios.back().statements;
+    }
+
+    void before(LineParser& words, Place place) {
+        if (!words.takeWord(u"InitQuestion")) {
+            throw SyntaxError({words.peek().place, "expected 'InitQuestion', found " + words.peek().display()});
+        }
+        words.end();
+        if (file_.scenarios.empty() || !block_->empty()) {
+            throw SyntaxError({place, "expected 'before InitQuestion' right after the title of a scenario"});
+        }
+        file_.scenarios.back().startsBeforeInitQuestion = true;
+    }
+
+    void add(Statement statement) {
+        if (block_ == nullptr) {
+            throw SyntaxError({statement.place, "expected 'course' or 'scenario' before the first statement"});
+        }
+        if (block_ == &file_.course && std::holds_alternative<Check>(statement.node)) {
+            throw SyntaxError({statement.place, "expected a statement that builds the presentation: "
+                                                "checks belong to scenarios"});
+        }
+        block_->push_back(std::move(statement));
+        auto* const expectation = std::get_if<ExpectError>(&block_->back().node);
+        waiting_ = expectation != nullptr && !expectation->statement ? expectation : nullptr;
+    }
+
+    void finish(Place end) const {
+        if (waiting_ != nullptr) {
+            throw SyntaxError({end, "expected the statement that must raise the error"});
+        }
+        if (wrong_.empty() && file_.question == 0) {
+            throw SyntaxError({end, "expected 'question' and its number"});
+        }
+    }
+
+    static constexpr std::int32_t unknown = -1;
+
+    ScenarioFile file_;
+    std::vector<Statement>* block_ = nullptr;
+    ExpectError* waiting_ = nullptr; ///< an `expect error` whose statement comes on the next line
+    std::vector<Remark> wrong_;
+};
+
+} // namespace
+
+ScenarioFile parse(std::string fileName, std::string_view text) {
+    return FileParser(std::move(fileName)).run(automation::fromUtf8(text));
+}
+
+Statement parseStatement(std::u16string_view line) {
+    return statementOf(line, tokenize(line, 1));
+}
+
+Expression parseExpression(std::u16string_view text) {
+    return LineParser(tokenize(text, 1)).wholeExpression();
+}
+
+} // namespace host::language

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "host/language/Ast.h"
+
+#include <string>
+#include <string_view>
+
+namespace host::language {
+
+/// Reads a scenario file given as UTF-8 text. Raises WrongLines with every wrong line of it.
+///
+///     question 306                    the question that the file is about
+///
+///     course                          the statements that build the presentation delivered
+///       Presentations.Add
+///       ActivePresentation.Slides.Add 1, ppLayoutBlank
+///
+///     scenario "a rectangle"          a learner's moves after InitQuestion, and what the host reads
+///       Set s = ActivePresentation.Slides(1).Shapes.AddShape(msoShapeRectangle, 20, 20, 100, 60)
+///       s.Fill.ForeColor.RGB = RGB(255, 0, 0)
+///       check success
+///
+///     scenario "a file is missing"
+///       before InitQuestion           the scenario states InitQuestion itself
+///       Files.Delete "07305306.ppt"
+///       expect error 53 "SERVICE Renomme": Host.InitQuestion
+///
+/// One line is one statement; a block ends where the next begins, indented or not. A check is one of
+///
+///     check "B"                       the letter, no remark, nothing complementary
+///     check "C" complement " 3"       with complementary texts, several after commas
+///     check success                   no letter
+///     check remark "F"                a success that carries a remark
+///     check general "AK"              a general error
+///     check error 0 "SERVICE X"       TestePoint raises a number, with parts that its source contains
+///
+/// and `expect x = y` asks for a value, `expect error 91 "SERVICE X": statement` for a raised error (the statement may
+/// also stand on the next line).
+[[nodiscard]] ScenarioFile parse(std::string fileName, std::string_view text);
+
+/// One statement, as it is typed at a prompt. Raises SyntaxError.
+[[nodiscard]] Statement parseStatement(std::u16string_view line);
+/// One expression. Raises SyntaxError.
+[[nodiscard]] Expression parseExpression(std::u16string_view text);
+
+} // namespace host::language

@@ -1,0 +1,43 @@
+#include "host/moves/FilesMoves.h"
+
+namespace host {
+
+std::u16string FilesMoves::path(const std::u16string& name) const {
+    return name.find(u'\\') == std::u16string::npos ? world_.hostFolder() + name : name;
+}
+
+void FilesMoves::create(const std::u16string& name) {
+    world_.writeFile(path(name), {});
+}
+
+void FilesMoves::copy(const std::u16string& from, const std::u16string& to) {
+    world_.writeFile(path(to), world_.readFile(path(from)));
+}
+
+void FilesMoves::remove(const std::u16string& name) {
+    world_.deleteFile(path(name));
+}
+
+void FilesMoves::makeReadOnly(const std::u16string& name) {
+    world_.setFileAttributes(path(name), attributes::readOnly);
+}
+
+void FilesMoves::makeHidden(const std::u16string& name) {
+    world_.setFileAttributes(path(name), attributes::hidden);
+}
+
+bool FilesMoves::exists(const std::u16string& name) {
+    return world_.fileExists(path(name));
+}
+
+const automation::MemberTable& FilesMoves::members() const {
+    using automation::method;
+    static const automation::MemberTable table{
+        method<&FilesMoves::create>(u"Create"),         method<&FilesMoves::copy>(u"Copy"),
+        method<&FilesMoves::remove>(u"Delete"),         method<&FilesMoves::makeReadOnly>(u"MakeReadOnly"),
+        method<&FilesMoves::makeHidden>(u"MakeHidden"), method<&FilesMoves::exists>(u"Exists"),
+    };
+    return table;
+}
+
+} // namespace host

@@ -1,0 +1,25 @@
+#include "host/moves/PowerPointMoves.h"
+
+namespace host {
+
+const automation::MemberTable& PowerPointMoves::members() const {
+    using automation::method;
+    using automation::property;
+    static const automation::MemberTable table{
+        method<&PowerPointMoves::start>(u"Start"),
+        method<&PowerPointMoves::close>(u"Close"),
+        method<&PowerPointMoves::kill>(u"Kill"),
+        method<&PowerPointMoves::hide>(u"Hide"),
+        method<&PowerPointMoves::minimize>(u"Minimize"),
+        method<&PowerPointMoves::stopAnswering>(u"StopAnswering"),
+        method<&PowerPointMoves::answerAgain>(u"AnswerAgain"),
+        method<&PowerPointMoves::openDialog>(u"OpenDialog"),
+        method<&PowerPointMoves::uninstall>(u"Uninstall"),
+        property<&PowerPointMoves::isRunning>(u"IsRunning"),
+        property<&PowerPointMoves::dialogs>(u"Dialogs"),
+        property<&PowerPointMoves::window>(u"Window"),
+    };
+    return table;
+}
+
+} // namespace host

@@ -1,0 +1,39 @@
+#include "host/moves/RegistryMoves.h"
+
+namespace host {
+
+std::u16string RegistryMoves::text(const std::u16string& key, const std::u16string& name) {
+    return world_.registryText(key, name);
+}
+
+void RegistryMoves::setText(const std::u16string& key, const std::u16string& name, const std::u16string& text) {
+    world_.setRegistryText(key, name, text);
+}
+
+void RegistryMoves::remove(const std::u16string& key, const std::u16string& name) {
+    world_.deleteRegistryValue(key, name);
+}
+
+std::u16string RegistryMoves::recentFolder(const std::u16string& name) {
+    return world_.registryText(folderSettings::key, name);
+}
+
+void RegistryMoves::setRecentFolder(const std::u16string& name, const std::u16string& folder) {
+    world_.setRegistryText(folderSettings::key, name, folder);
+}
+
+const automation::MemberTable& RegistryMoves::members() const {
+    using automation::method;
+    using automation::property;
+    static const automation::MemberTable table{
+        method<&RegistryMoves::deny>(u"Deny"),
+        method<&RegistryMoves::allow>(u"Allow"),
+        property<&RegistryMoves::text, &RegistryMoves::setText>(u"Text"),
+        method<&RegistryMoves::remove>(u"Delete"),
+        property<&RegistryMoves::recentFolder, &RegistryMoves::setRecentFolder>(u"RecentFolder"),
+        method<&RegistryMoves::setMeasurementSystem>(u"SetMeasurementSystem"),
+    };
+    return table;
+}
+
+} // namespace host

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "host/language/Ast.h"
+#include "host/world/World.h"
+
+namespace host {
+
+/// The files that a course delivers for its questions: the presentation that the course block of a scenario file
+/// builds, and whatever other files the block creates in the host's folder.
+class Course {
+public:
+    /// Builds the files in a world of their own. Raises language::Failure where a statement raises.
+    Course(const language::ScenarioFile& file, const WorldMaker& makeWorld);
+
+    /// Puts the files into the host's folder, the presentation under its name for a question: "07305" and the number.
+    /// Returns their names.
+    std::vector<std::u16string> deliver(World& world, std::int32_t question) const;
+
+private:
+    Bytes presentation_;
+    std::vector<std::pair<std::u16string, Bytes>> others_;
+};
+
+} // namespace host

@@ -1,0 +1,82 @@
+#include "host/run/Snapshot.h"
+
+#include "automation/LateBound.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace host {
+
+namespace {
+
+using automation::LateBound;
+using automation::ObjectPtr;
+
+/// Every item of a collection.
+template <typename Take> void forEach(const LateBound& collection, const Take& take) {
+    const auto count = collection.get(u"Count").to<std::int32_t>();
+    for (std::int32_t i = 1; i <= count; ++i) {
+        take(LateBound(collection.call(u"Item", i).to<ObjectPtr>()));
+    }
+}
+
+LateBound member(const LateBound& object, std::u16string_view name) {
+    return LateBound(object.get(name).to<ObjectPtr>());
+}
+
+std::u16string identityOf(const LateBound& marked) {
+    return member(marked, u"Tags").call(u"Item", u"Identite").to<std::u16string>();
+}
+
+SlideMarks marksOf(const LateBound& slide) {
+    SlideMarks marks{identityOf(slide), {}};
+    forEach(member(slide, u"Shapes"), [&](const LateBound& shape) { marks.shapes.push_back(identityOf(shape)); });
+    return marks;
+}
+
+OpenPresentation read(const LateBound& presentation) {
+    OpenPresentation result{presentation.get(u"Name").to<std::u16string>(),
+                            presentation.get(u"FullName").to<std::u16string>(),
+                            presentation.get(u"Saved").to<bool>(),
+                            {}};
+    forEach(member(presentation, u"Slides"), [&](const LateBound& slide) { result.slides.push_back(marksOf(slide)); });
+    return result;
+}
+
+std::optional<std::vector<OpenPresentation>> presentationsIn(World& world) {
+    try {
+        std::vector<OpenPresentation> all;
+        forEach(member(LateBound(world.application()), u"Presentations"),
+                [&](const LateBound& presentation) { all.push_back(read(presentation)); });
+        return all;
+    } catch (const automation::Error&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+Snapshot::Snapshot(World& world)
+    : window(world.mainWindow()), dialogs(world.dialogs()), files(world.filesIn(world.hostFolder())),
+      presentations(presentationsIn(world)) {
+    std::transform(std::begin(folderSettings::names), std::end(folderSettings::names), folders.begin(),
+                   [&](std::u16string_view name) { return world.registryText(folderSettings::key, name); });
+}
+
+const OpenPresentation* Snapshot::find(std::u16string_view fullName) const {
+    if (!presentations) {
+        return nullptr;
+    }
+    const auto found = std::find_if(presentations->begin(), presentations->end(),
+                                    [&](const OpenPresentation& open) { return open.fullName == fullName; });
+    return found == presentations->end() ? nullptr : &*found;
+}
+
+std::vector<std::u16string> without(const std::vector<std::u16string>& first,
+                                    const std::vector<std::u16string>& second) {
+    std::vector<std::u16string> rest;
+    std::set_difference(first.begin(), first.end(), second.begin(), second.end(), std::back_inserter(rest));
+    return rest;
+}
+
+} // namespace host

@@ -1,0 +1,47 @@
+#include "host/run/WorldStage.h"
+
+#include "automation/Text.h"
+#include "host/moves/FilesMoves.h"
+#include "host/moves/HostMoves.h"
+#include "host/moves/PowerPointMoves.h"
+#include "host/moves/RegistryMoves.h"
+
+namespace host {
+
+using automation::ObjectPtr;
+
+WorldStage::WorldStage(World& world, TrainingHost* host) : world_(world), host_(host) {
+    objects_ = {{u"PowerPoint", std::make_shared<PowerPointMoves>(world)},
+                {u"Registry", std::make_shared<RegistryMoves>(world)},
+                {u"Files", std::make_shared<FilesMoves>(world)}};
+    if (host != nullptr) {
+        objects_.emplace_back(u"Host", std::make_shared<HostMoves>(*host));
+    }
+}
+
+ObjectPtr WorldStage::application() {
+    ObjectPtr application = world_.application();
+    if (!application) {
+        throw automation::Error(static_cast<std::int32_t>(automation::RunTimeError::CannotCreateObject),
+                                u"exercise-host", u"PowerPoint does not run");
+    }
+    return application;
+}
+
+ObjectPtr WorldStage::object(std::u16string_view name) {
+    for (const auto& [known, object] : objects_) {
+        if (automation::equalIgnoringCase(known, name)) {
+            return object;
+        }
+    }
+    return nullptr;
+}
+
+Reading WorldStage::testePoint() {
+    if (host_ == nullptr) {
+        automation::raise(automation::RunTimeError::ObjectNotSet);
+    }
+    return host_->check();
+}
+
+} // namespace host

@@ -1,0 +1,237 @@
+#include "module/Module.h"
+
+#include "automation/Text.h"
+#include "exercises/Catalogue.h"
+#include "module/QuestionMembers.h"
+#include "module/TemplatesFolder.h"
+#include "platform/ErrorReport.h"
+
+#include <exception>
+
+namespace k73053 {
+
+using automation::LateBound;
+using automation::ObjectPtr;
+using automation::Value;
+using platform::ignoringErrors;
+
+namespace {
+
+constexpr std::int32_t unknownWindow = -1;
+constexpr std::int32_t firstQuestion = 301;
+constexpr std::int32_t lastQuestion = 323;
+
+/// Runs steps that must all be tried, and raises the first error when they have been.
+class AllOf {
+public:
+    template <typename Step> AllOf& then(const Step& step) noexcept {
+        try {
+            step();
+        } catch (...) {
+            if (!first_) {
+                first_ = std::current_exception();
+            }
+        }
+        return *this;
+    }
+    void raiseFirst() const {
+        if (first_) {
+            std::rethrow_exception(first_);
+        }
+    }
+
+private:
+    std::exception_ptr first_;
+};
+
+} // namespace
+
+Module::Module(exercises::API& api, const platform::Services& services)
+    : api_(api), services_(services), session_(services), settings_(services.registry), staging_(services.files, api) {}
+
+Module::~Module() {
+    settings_.restoreLeftovers();
+}
+
+void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& folder, ObjectPtr& application,
+                          std::int32_t& window, const std::u16string& /*unused*/) {
+    settings_.createKey();
+    obtainPowerPoint(application, window);
+    settings_.SauveParamUser(session_.application);
+    session_.FermeDialogues(session_.window);
+    if (question_) {
+        FermeQuestion();
+    }
+    platform::reporting(u"Module", u"InitQuestion", platform::ReportedObject::Description,
+                        [&] { createQuestion(questionNumber, folder); });
+    stageQuestion(folder);
+    prepareQuestion(folder);
+}
+
+void Module::obtainPowerPoint(ObjectPtr& application, std::int32_t& window) {
+    if (window != unknownWindow && !services_.windows.className(window)) {
+        application = nullptr;
+        session_.application = ppt::Application();
+        window = unknownWindow;
+        session_.window = 0;
+    }
+    if (!application) {
+        return startPowerPoint(application, window);
+    }
+    if (!automation::isSame(application, session_.application.object())) {
+        started_ = false;
+    }
+    static_cast<void>(session_.PowerPointVisible());
+    session_.application = ppt::Application(application);
+    session_.window = window;
+    if (!session_.PowerPointVisible()) {
+        application = nullptr;
+        startPowerPoint(application, window);
+    }
+}
+
+void Module::startPowerPoint(ObjectPtr& application, std::int32_t& window) {
+    session_.GetApplication();
+    started_ = true;
+    application = session_.application.object();
+    window = session_.window;
+}
+
+void Module::createQuestion(std::int32_t questionNumber, const std::u16string& folder) {
+    questionNumber_ = questionNumber;
+    if (questionNumber >= firstQuestion && questionNumber <= lastQuestion) {
+        question_ =
+            LateBound(exercises::createQuestion(u"Question0" + automation::decimal(questionNumber), {api_, services_}));
+    }
+    staging_.hostFolder = folder;
+    staging_.templatesFolder = templatesFolder(services_.registry);
+    services_.files.makeDirectories(staging_.templatesFolder);
+}
+
+void Module::stageQuestion(const std::u16string& folder) {
+    staging_.Nettoyage(question_, session_.application);
+    staging_.Renomme(question_);
+    const LateBound files(question_.get(members::FichiersDeTravail).to<ObjectPtr>());
+    const LateBound first(files.call(members::Item, std::int32_t{1}).to<ObjectPtr>());
+    api_.PremierFichier = first.get(members::NomDest).to<std::u16string>();
+    api_.DossierHote = folder;
+}
+
+void Module::prepareQuestion(const std::u16string& folder) {
+    settings_.commandBarsWillChange();
+    session_.InitCommandBar();
+    session_.application.CommandBars().DisplayTooltips(true);
+
+    Value application(session_.application.object());
+    Value hostFolder(folder);
+    Value templates(staging_.templatesFolder);
+    question_.call(members::Prepare, Value::reference(application), Value::reference(hostFolder),
+                   Value::reference(templates));
+    session_.application = ppt::Application(application);
+
+    settings_.ChangeDir(question_.get(members::PathDossierParDefaut).to<std::u16string>(), staging_.templatesFolder);
+    ignoringErrors(
+        [&] { session_.application.ShowStartupDialog(session_.startupDialog ? ppt::msoTrue : ppt::msoFalse); });
+    session_.ActiveFenetre();
+}
+
+void Module::TestePoint() {
+    generalError_ = false;
+    if (!session_.PowerPointVisible()) {
+        return failGenerally(u"AK");
+    }
+    if (!session_.PowerPointRepond()) {
+        return failGenerally(u"%AL");
+    }
+    if (!session_.ActiveFenetre()) {
+        return failGenerally(u"AM");
+    }
+    if (!staging_.VerifieTravail(questionNumber_, session_.application, causeText_)) {
+        generalError_ = true;
+        return;
+    }
+    question_.call(members::TestePoint);
+}
+
+void Module::failGenerally(std::u16string_view cause) {
+    generalError_ = true;
+    causeText_ = cause;
+}
+
+std::u16string Module::CauseErreur() const {
+    return generalError_ ? causeText_ : question_.get(members::CauseErreur).to<std::u16string>();
+}
+
+bool Module::BravoNuance() const {
+    return question_.get(members::BravoNuance).to<bool>();
+}
+
+ObjectPtr Module::Complement() const {
+    return question_.get(members::ComplementInfo).to<ObjectPtr>();
+}
+
+void Module::FermeQuestion() {
+    // The learner's settings and the question are given back whatever PowerPoint refuses on the way.
+    AllOf steps;
+    steps.then([&] { leavePowerPointAsFound(); });
+    if (question_) {
+        steps.then([&] { settings_.RestaureParamUser(); });
+    }
+    steps.then([&] { question_.call(members::Fermer); });
+    question_ = LateBound();
+    steps.raiseFirst();
+}
+
+void Module::leavePowerPointAsFound() {
+    if (!session_.PowerPointVisible()) {
+        return;
+    }
+    session_.FermeDialogues(session_.window);
+    session_.readKeptSettings();
+    if (session_.PowerPointRepond()) {
+        AllOf()
+            .then([&] { staging_.Nettoyage(question_, session_.application); })
+            .then([&] { settings_.restoreCommandBars(session_.application); })
+            .raiseFirst();
+    }
+}
+
+void Module::Fermer() {
+    FermeQuestion();
+}
+
+void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
+    AllOf steps;
+    if (question_) {
+        steps.then([&] { FermeQuestion(); });
+    }
+    settings_.restoreLeftovers();
+    steps.then([&] {
+        if (session_.PowerPointVisible() && started_) {
+            const ppt::Application hosts(application);
+            hosts.Quit();
+            window = 0;
+            application = nullptr;
+        }
+    });
+    session_.application = ppt::Application();
+    session_.window = 0;
+    steps.raiseFirst();
+}
+
+const automation::MemberTable& Module::members() const {
+    using automation::method;
+    static const automation::MemberTable table{
+        method<&Module::InitQuestion>(u"InitQuestion"),
+        method<&Module::TestePoint>(u"TestePoint"),
+        method<&Module::ErreurGenerale>(u"ErreurGenerale"),
+        method<&Module::CauseErreur>(u"CauseErreur"),
+        method<&Module::BravoNuance>(u"BravoNuance"),
+        method<&Module::Complement>(u"Complement"),
+        method<&Module::Fermer>(u"Fermer"),
+        method<&Module::Quitter>(u"Quitter"),
+    };
+    return table;
+}
+
+} // namespace k73053

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "automation/MemberTable.h"
+#include "module/Session.h"
+#include "module/Staging.h"
+#include "module/UserSettings.h"
+
+namespace k73053 {
+
+/// The one object that the host creates: it turns the host's calls into work on one PowerPoint session and one question
+/// at a time. Its members are the host's interface `AbstractModule`.
+class Module final : public automation::Published {
+public:
+    /// The variables shared by all questions, and the system's services; both must outlive this object.
+    Module(exercises::API& api, const platform::Services& services);
+    /// Folders that no close could restore are tried once more.
+    ~Module() override;
+    Module(const Module&) = delete;
+    Module& operator=(const Module&) = delete;
+    Module(Module&&) = delete;
+    Module& operator=(Module&&) = delete;
+
+    /// Stages and prepares a question (301 to 323) in the host's folder, which ends with a backslash. The host's
+    /// PowerPoint and window handle (-1 unknown) are replaced by those in use. The last argument is not used.
+    void InitQuestion(std::int32_t questionNumber, const std::u16string& folder, automation::ObjectPtr& application,
+                      std::int32_t& window, const std::u16string& unused);
+    /// Checks the learner's work; the verdict is read through the next four.
+    void TestePoint();
+    /// True when the last check did not reach the question's own.
+    [[nodiscard]] bool ErreurGenerale() const noexcept { return generalError_; }
+    /// Outcome code of the last check.
+    [[nodiscard]] std::u16string CauseErreur() const;
+    /// True when the question was passed with a remark.
+    [[nodiscard]] bool BravoNuance() const;
+    /// Complementary texts of the last check.
+    [[nodiscard]] automation::ObjectPtr Complement() const;
+    /// Closes the question and restores the learner's settings.
+    void Fermer();
+    /// Closes a question still held, and PowerPoint where the module started it.
+    void Quitter(automation::ObjectPtr& application, std::int32_t& window);
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+private:
+    /// Makes sure that a visible PowerPoint answers: the host's, or one attached to or started.
+    void obtainPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
+    void startPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
+    void createQuestion(std::int32_t questionNumber, const std::u16string& folder);
+    void stageQuestion(const std::u16string& folder);
+    void prepareQuestion(const std::u16string& folder);
+    void FermeQuestion();
+    void leavePowerPointAsFound();
+    void failGenerally(std::u16string_view cause);
+
+    exercises::API& api_;
+    platform::Services services_;
+    Session session_;
+    UserSettings settings_;
+    Staging staging_;
+    automation::LateBound question_;
+    std::u16string causeText_;
+    bool generalError_ = false;
+    std::int32_t questionNumber_ = 0;
+    bool started_ = false; ///< the module itself obtained or started PowerPoint
+};
+
+} // namespace k73053

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/Services.h"
+#include "ppt/Application.h"
+
+namespace k73053 {
+
+/// The PowerPoint in use: how it is obtained, tested, brought forward and put into the state that the exercises expect.
+class Session {
+public:
+    explicit Session(const platform::Services& services) : services_(services) {}
+
+    ppt::Application application;
+    platform::WindowHandle window = 0; ///< PowerPoint's main window; 0 when none
+    bool startupDialog = false; ///< `ShowStartupDialog` as read when the session was obtained or a question closed
+    bool taskPane = false;      ///< the "Task Pane" bar was shown when the last question closed
+
+    /// Attaches to the running PowerPoint or starts one, and shows it. Where none can be started the application
+    /// becomes nothing and the error goes to the error report.
+    void GetApplication();
+
+    /// True if PowerPoint's window is visible. Otherwise an invisible PowerPoint that still answers is quit.
+    [[nodiscard]] bool PowerPointVisible();
+
+    /// True if PowerPoint answers: its window state can be read and written.
+    [[nodiscard]] bool PowerPointRepond() const noexcept;
+
+    /// Maximises PowerPoint and brings its window to the foreground; false if there is no window.
+    bool ActiveFenetre();
+
+    /// Brings a window to the foreground and sends it ESC.
+    void EnvoieEchap(platform::WindowHandle handle);
+
+    /// Closes the first modal dialog that belongs to a window, and first those that belong to the dialog.
+    void FermeDialogues(platform::WindowHandle handle);
+
+    /// Shows the command bars "standard", "formatting" and "Drawing" in their places and gives "Task Pane" the
+    /// visibility kept. What a bar refuses is passed over.
+    void InitCommandBar();
+
+    /// Reads the settings to be kept from one question to the next; what cannot be read stays.
+    void readKeptSettings();
+
+private:
+    [[nodiscard]] ppt::CommandBar bar(std::u16string_view name) const noexcept;
+
+    const platform::Services services_;
+};
+
+} // namespace k73053

@@ -1,0 +1,127 @@
+#include "module/UserSettings.h"
+
+#include "module/RegistryError.h"
+#include "platform/ErrorReport.h"
+
+namespace k73053 {
+
+using platform::ignoringErrors;
+using platform::OpenKey;
+using platform::Registry;
+
+namespace {
+
+constexpr std::u16string_view recentFolderListKey = u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList";
+constexpr std::u16string_view separateKeys = u"SOFTWARE\\Microsoft\\Office\\10.0\\Powerpoint\\Recent Folder List\\";
+
+std::u16string withoutNul(std::u16string text) {
+    if (text.ends_with(u'\0')) {
+        text.pop_back();
+    }
+    return text;
+}
+
+} // namespace
+
+UserSettings::UserSettings(Registry& registry, std::u16string_view officeVersion)
+    : registry_(registry), version_(officeVersion) {}
+
+void UserSettings::createKey() {
+    if (version_ == office2003) {
+        Registry::Key key = Registry::Key::None;
+        if (registry_.create(recentFolderListKey, key) == Registry::success) {
+            registry_.close(key);
+        }
+    }
+}
+
+void UserSettings::SauveParamUser(const ppt::Application& application) {
+    const std::int32_t bars = application.CommandBars().Count();
+    std::vector<bool> visible;
+    for (std::int32_t i = 1; i <= bars; ++i) {
+        visible.push_back(application.CommandBars().Item(i).Visible());
+    }
+    for (RecentFolder& folder : folders_) {
+        const OpenKey key(registry_, keyOf(folder), Registry::queryAndSet);
+        if (!key.isOpen()) {
+            raiseFor(folder);
+        }
+        const auto data = key.query(valueOf(folder));
+        if (!folder.changed) {
+            folder.saved = withoutNul(data.value_or(u""));
+        }
+    }
+    if (!barsChanged_) {
+        barsVisible_ = std::move(visible);
+    }
+}
+
+void UserSettings::ChangeDir(const std::u16string& folder, const std::u16string& templatesFolder) {
+    platform::reporting(u"Module", u"ChangeDir", platform::ReportedObject::Description, [&] {
+        const std::size_t length = folder.size();
+        for (RecentFolder& recent : folders_) {
+            const OpenKey key(registry_, keyOf(recent), Registry::queryAndSet);
+            if (!key.isOpen()) {
+                raiseFor(recent);
+            }
+            recent.changed = true;
+            // The last three are given a size of 0, so that only "Default" receives a usable folder.
+            const bool isDefault = recent.name == u"Default";
+            const std::u16string& data = recent.name == u"TemplateDir" ? templatesFolder : folder;
+            key.set(valueOf(recent), data, isDefault ? length : 0);
+        }
+    });
+}
+
+void UserSettings::RestaureParamUser() {
+    barsChanged_ = false;
+    const RecentFolder* refused = nullptr;
+    for (RecentFolder& folder : folders_) {
+        if (!restore(folder) && refused == nullptr) {
+            refused = &folder;
+        }
+    }
+    if (refused != nullptr) {
+        raiseFor(*refused);
+    }
+}
+
+void UserSettings::restoreLeftovers() noexcept {
+    for (RecentFolder& folder : folders_) {
+        if (folder.changed) {
+            ignoringErrors([&] { static_cast<void>(restore(folder)); });
+        }
+    }
+}
+
+void UserSettings::restoreCommandBars(const ppt::Application& application) noexcept {
+    barsChanged_ = false;
+    for (std::size_t i = 0; i < barsVisible_.size(); ++i) {
+        ignoringErrors(
+            [&] { application.CommandBars().Item(static_cast<std::int32_t>(i + 1)).Visible(barsVisible_[i]); });
+    }
+}
+
+bool UserSettings::restore(RecentFolder& folder) {
+    const OpenKey key(registry_, keyOf(folder), Registry::queryAndSet);
+    if (key.isOpen() && key.set(valueOf(folder), folder.saved, folder.saved.size() + 1)) {
+        folder.changed = false;
+    }
+    return key.isOpen();
+}
+
+std::u16string UserSettings::keyOf(const RecentFolder& folder) const {
+    return version_ == office2003 ? std::u16string(recentFolderListKey)
+                                  : std::u16string(separateKeys).append(folder.name);
+}
+
+std::u16string_view UserSettings::valueOf(const RecentFolder& folder) const {
+    return version_ == office2003 ? folder.name : std::u16string_view();
+}
+
+void UserSettings::raiseFor(const RecentFolder& folder) const {
+    raiseRegistryError(u"SOFTWARE\\Microsoft\\Office\\" + version_ + u"\\Powerpoint\\Recent Folder List\\" +
+                       std::u16string(folder.name));
+}
+
+} // namespace k73053

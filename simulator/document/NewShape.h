@@ -1,0 +1,23 @@
+#pragma once
+
+#include "simulator/document/Shape.h"
+
+/// Shapes as PowerPoint makes them, before they are put on a slide.
+namespace simulator::newShape {
+
+[[nodiscard]] ShapePtr autoShape(std::int32_t autoShapeType, const Frame& frame);
+[[nodiscard]] ShapePtr textBox(const Frame& frame);
+/// A line from one point to another.
+[[nodiscard]] ShapePtr line(const Node& begin, const Node& end);
+/// A picture; its alternative text is the name of its file, without folder and extension.
+[[nodiscard]] ShapePtr picture(std::u16string_view fileName, const Frame& frame);
+/// A WordArt object, as large as its text needs.
+[[nodiscard]] ShapePtr wordArt(const TextEffect& effect, float left, float top);
+/// A freeform through corners, closed where the ends meet.
+[[nodiscard]] ShapePtr freeform(std::vector<Node> corners);
+[[nodiscard]] ShapePtr placeholder(PpPlaceholderType type, const Frame& frame);
+
+/// What the name of a shape begins with until it is given one: "Rectangle", "Text Box" and so on.
+[[nodiscard]] std::u16string_view baseName(const Shape& shape) noexcept;
+
+} // namespace simulator::newShape

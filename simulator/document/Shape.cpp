@@ -1,0 +1,196 @@
+#include "simulator/document/Shape.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace simulator {
+
+namespace {
+
+constexpr float masterUnitsPerPoint = 8;
+
+/// Grows from nothing around points.
+class Bounds {
+public:
+    void include(float x, float y) noexcept {
+        left_ = std::min(left_, x);
+        top_ = std::min(top_, y);
+        right_ = std::max(right_, x);
+        bottom_ = std::max(bottom_, y);
+    }
+    [[nodiscard]] Frame frame() const noexcept {
+        return left_ > right_ ? Frame() : Frame{left_, top_, right_ - left_, bottom_ - top_};
+    }
+
+private:
+    static constexpr float infinity = std::numeric_limits<float>::infinity();
+    float left_ = infinity;
+    float top_ = infinity;
+    float right_ = -infinity;
+    float bottom_ = -infinity;
+};
+
+/// Carries places from one frame to another. Edges are carried rather than lengths, so that what touched the old
+/// frame touches the new one.
+class Mapping {
+public:
+    Mapping(const Frame& from, const Frame& to) noexcept : from_(from), to_(to) {}
+
+    [[nodiscard]] float x(float at) const noexcept { return along(at, from_.left, from_.width, to_.left, to_.width); }
+    [[nodiscard]] float y(float at) const noexcept { return along(at, from_.top, from_.height, to_.top, to_.height); }
+
+    [[nodiscard]] Frame frame(const Frame& at) const noexcept {
+        const float left = x(at.left);
+        const float top = y(at.top);
+        return {left, top, x(at.left + at.width) - left, y(at.top + at.height) - top};
+    }
+
+private:
+    static float along(float at, float from, float fromLength, float to, float toLength) noexcept {
+        const float scale = fromLength == 0 ? 1 : toLength / fromLength;
+        return toMasterUnits(to + (at - from) * scale);
+    }
+
+    Frame from_;
+    Frame to_;
+};
+
+bool endsMeet(const std::vector<Node>& nodes) noexcept {
+    return nodes.size() > 2 && nodes.front().x == nodes.back().x && nodes.front().y == nodes.back().y;
+}
+
+} // namespace
+
+float toMasterUnits(float points) noexcept {
+    return std::round(points * masterUnitsPerPoint) / masterUnitsPerPoint + 0.0F; // the sum turns -0 into 0
+}
+
+Frame boundsOf(const std::vector<ShapePtr>& shapes) noexcept {
+    Bounds bounds;
+    for (const ShapePtr& shape : shapes) {
+        const Frame& frame = shape->frame();
+        bounds.include(frame.left, frame.top);
+        bounds.include(frame.left + frame.width, frame.top + frame.height);
+    }
+    return bounds.frame();
+}
+
+Frame boundsOf(const std::vector<Node>& nodes) noexcept {
+    Bounds bounds;
+    for (const Node& node : nodes) {
+        bounds.include(node.x, node.y);
+    }
+    return bounds.frame();
+}
+
+void Shape::setFrame(const Frame& frame) {
+    place(
+        {toMasterUnits(frame.left), toMasterUnits(frame.top), toMasterUnits(frame.width), toMasterUnits(frame.height)});
+    refitGroups();
+}
+
+void Shape::place(const Frame& frame) {
+    frame_ = frame;
+    if (!items_.empty()) {
+        const Mapping mapping(boundsOf(items_), frame);
+        for (const ShapePtr& item : items_) {
+            item->place(mapping.frame(item->frame_));
+        }
+        frame_ = boundsOf(items_);
+    }
+    if (!nodes.empty()) {
+        const Mapping mapping(boundsOf(nodes), frame);
+        for (Node& node : nodes) {
+            node = {mapping.x(node.x), mapping.y(node.y), node.curve};
+        }
+        frame_ = boundsOf(nodes);
+    }
+}
+
+void Shape::refitGroups() const {
+    for (ShapePtr outer = group(); outer; outer = outer->group()) {
+        outer->frame_ = boundsOf(outer->items_);
+    }
+}
+
+void Shape::setNodes(std::vector<Node> corners) {
+    const bool closedWithoutEnds = closed && !endsMeet(nodes);
+    for (Node& corner : corners) {
+        corner = {toMasterUnits(corner.x), toMasterUnits(corner.y), corner.curve};
+    }
+    nodes = std::move(corners);
+    closed = closedWithoutEnds || endsMeet(nodes);
+    frame_ = boundsOf(nodes);
+    refitGroups();
+}
+
+void Shape::adopt(const ShapePtr& group, std::vector<ShapePtr> items) {
+    for (const ShapePtr& item : items) {
+        item->group_ = group;
+        item->settle(group->slide);
+        item->formerGroup = 0;
+    }
+    group->items_ = std::move(items);
+    group->frame_ = boundsOf(group->items_);
+    group->refitGroups();
+}
+
+std::vector<ShapePtr> Shape::release() {
+    for (const ShapePtr& item : items_) {
+        item->group_.reset();
+        item->formerGroup = id;
+    }
+    return std::exchange(items_, {});
+}
+
+void Shape::release(const ShapePtr& item) {
+    const ShapePtr released = item;
+    std::erase(items_, released);
+    released->group_.reset();
+    frame_ = boundsOf(items_);
+    refitGroups();
+}
+
+void Shape::replace(const ShapePtr& item, const ShapePtr& other) {
+    other->group_ = std::exchange(item->group_, {});
+    other->settle(slide);
+    std::replace(items_.begin(), items_.end(), item, other);
+    frame_ = boundsOf(items_);
+    refitGroups();
+}
+
+void Shape::settle(const std::weak_ptr<Slide>& ground) noexcept {
+    slide = ground;
+    for (const ShapePtr& item : items_) {
+        item->settle(ground);
+    }
+}
+
+void Shape::showShadow(bool shown) noexcept {
+    shadow.visible = shown;
+    if (shown) {
+        threeD.visible = false;
+    }
+}
+
+void Shape::showThreeD(bool shown) noexcept {
+    threeD.visible = shown;
+    if (shown) {
+        shadow.visible = false;
+    }
+}
+
+ShapePtr Shape::clone() const {
+    auto copy = std::make_shared<Shape>(*this);
+    copy->slide.reset();
+    copy->group_.reset();
+    copy->formerGroup = 0;
+    for (ShapePtr& item : copy->items_) {
+        item = item->clone();
+        item->group_ = copy;
+    }
+    return copy;
+}
+
+} // namespace simulator

@@ -1,0 +1,108 @@
+#include "simulator/document/TextUnits.h"
+
+#include <algorithm>
+
+namespace simulator {
+
+namespace {
+
+using Spans = std::vector<Span>;
+
+/// What can end a sentence.
+constexpr std::u16string_view closing = u".!?\u2026";
+
+/// Cuts a text behind every place for which `ends` is true.
+template <typename Ends> Spans cut(std::u16string_view text, const Ends& ends) {
+    Spans spans;
+    std::size_t start = 0;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        if (place + 1 == text.size() || ends(place)) {
+            spans.push_back({start, place + 1 - start});
+            start = place + 1;
+        }
+    }
+    return spans;
+}
+
+Spans linesOf(std::u16string_view text) {
+    return cut(text, [text](std::size_t place) {
+        return text[place] == TextStory::paragraphMark || text[place] == TextStory::lineBreak;
+    });
+}
+
+Spans sentencesOf(std::u16string_view text) {
+    bool closed = false;
+    return cut(text, [text, &closed](std::size_t place) {
+        if (!TextStory::isBlank(text[place])) {
+            closed = closing.find(text[place]) != std::u16string_view::npos;
+        }
+        const bool blankHere = TextStory::isBlank(text[place]);
+        const bool goesOn = TextStory::isBlank(text[place + 1]) || text[place + 1] == TextStory::paragraphMark;
+        return text[place] == TextStory::paragraphMark || (closed && blankHere && !goesOn);
+    });
+}
+
+Spans runsOf(const TextStory& story) {
+    Spans spans;
+    std::size_t start = 0;
+    for (const TextStory::Run& run : story.runs()) {
+        spans.push_back({start, run.length});
+        start += run.length;
+    }
+    return spans;
+}
+
+/// The units of a story that a range touches.
+std::span<const Span> touching(const TextStory& story, Span range, const Spans& units) {
+    const bool whole = range.start == 0 && range.end() == story.text().size();
+    if (whole) {
+        return units;
+    }
+    const auto first = std::upper_bound(units.begin(), units.end(), range.start,
+                                        [](std::size_t place, const Span& unit) { return place < unit.end(); });
+    const auto last = std::lower_bound(first, units.end(), range.end(),
+                                       [](const Span& unit, std::size_t place) { return unit.start < place; });
+    return {first, last};
+}
+
+template <typename Use> auto withUnits(const TextStory& story, Span range, TextUnit unit, const Use& use) {
+    switch (unit) {
+    case TextUnit::Word: return use(touching(story, range, story.words()));
+    case TextUnit::Paragraph: return use(touching(story, range, story.paragraphs()));
+    case TextUnit::Sentence: return use(touching(story, range, sentencesOf(story.text())));
+    case TextUnit::Line: return use(touching(story, range, linesOf(story.text())));
+    case TextUnit::Run: return use(touching(story, range, runsOf(story)));
+    case TextUnit::Range:
+    case TextUnit::Character: break;
+    }
+    return use(std::span<const Span>(&range, 1));
+}
+
+} // namespace
+
+std::size_t countUnits(const TextStory& story, Span range, TextUnit unit) {
+    if (unit == TextUnit::Character || range.length == 0) {
+        return range.length;
+    }
+    return withUnits(story, range, unit, [](std::span<const Span> units) { return units.size(); });
+}
+
+Span spanOfUnits(const TextStory& story, Span range, TextUnit unit, std::size_t first, std::size_t count) {
+    if (unit == TextUnit::Character) {
+        const std::size_t skipped = std::min(first, range.length);
+        return {range.start + skipped, std::min(count, range.length - skipped)};
+    }
+    return withUnits(story, range, unit, [&](std::span<const Span> units) -> Span {
+        if (first >= units.size() || range.length == 0) {
+            return {range.end(), 0};
+        }
+        const std::size_t start = std::max(units[first].start, range.start);
+        if (count == 0) {
+            return {start, 0};
+        }
+        const std::size_t last = first + std::min(count, units.size() - first) - 1;
+        return {start, std::min(units[last].end(), range.end()) - start};
+    });
+}
+
+} // namespace simulator

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "simulator/objects/PowerPointObject.h"
+
+namespace simulator {
+
+class CommandBarsObject;
+class DocumentWindowObject;
+class DocumentWindowsObject;
+class PresentationObject;
+class PresentationsObject;
+
+/// Application: PowerPoint itself. An invisible one has no active window and no active presentation.
+class ApplicationObject final : public PowerPointObject {
+public:
+    using PowerPointObject::PowerPointObject;
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+    /// All stand for the one PowerPoint of their session.
+    [[nodiscard]] bool isSame(const Object& other) const noexcept override;
+
+    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    [[nodiscard]] std::shared_ptr<PresentationsObject> presentations() const;
+    [[nodiscard]] std::shared_ptr<DocumentWindowsObject> windows() const;
+    [[nodiscard]] std::shared_ptr<CommandBarsObject> commandBars() const;
+    /// Raises an invalid request where there is none.
+    [[nodiscard]] std::shared_ptr<DocumentWindowObject> activeWindow() const;
+    /// Raises an invalid request where there is none.
+    [[nodiscard]] std::shared_ptr<PresentationObject> activePresentation() const;
+
+    [[nodiscard]] std::u16string name() const { return u"Microsoft PowerPoint"; }
+    [[nodiscard]] std::u16string version() const { return u"11.0"; }
+    [[nodiscard]] std::u16string caption() const { return session()->title(); }
+    [[nodiscard]] std::int32_t hwnd() const { return session()->window().handle(); }
+
+    [[nodiscard]] MsoTriState active() const;
+    void activate() const { session()->window().activate(); }
+    [[nodiscard]] MsoTriState visible() const;
+    /// Raises an invalid request where a visible PowerPoint is to be hidden.
+    void setVisible(MsoTriState visible) const;
+    [[nodiscard]] PpWindowState windowState() const { return session()->window().state(); }
+    /// Raises an invalid request for a value outside 1 to 3.
+    void setWindowState(PpWindowState state) const;
+    [[nodiscard]] MsoTriState showStartupDialog() const;
+    void setShowStartupDialog(MsoTriState shown) const;
+
+    /// Ends PowerPoint; what was not saved is lost.
+    void quit() const { session()->end(); }
+};
+
+} // namespace simulator

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "simulator/document/Color.h"
+#include "simulator/objects/PowerPointObject.h"
+
+#include <functional>
+
+namespace simulator {
+
+/// ColorFormat: a colour of whatever it was asked from, read and written where it stands.
+class ColorFormatObject final : public PowerPointObject {
+public:
+    using Getter = std::function<Color()>;
+    using Setter = std::function<void(Color)>;
+    using Scheme = std::function<ColorScheme()>;
+
+    /// The three functions raise `errors::gone` where what bears the colour is gone.
+    ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme) noexcept;
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    /// Red in the low byte; a colour of the scheme reads as the scheme has it.
+    [[nodiscard]] std::int32_t rgb() const;
+    /// Raises an invalid request for a value outside 0 to 0xFFFFFF.
+    void setRgb(std::int32_t rgb);
+    /// 0 for a colour that is not of the scheme.
+    [[nodiscard]] PpColorSchemeIndex schemeColor() const;
+    /// Raises an invalid request for a place outside 1 to 8.
+    void setSchemeColor(PpColorSchemeIndex place);
+    [[nodiscard]] MsoColorType type() const;
+
+private:
+    Getter getter_;
+    Setter setter_;
+    Scheme scheme_;
+};
+
+} // namespace simulator

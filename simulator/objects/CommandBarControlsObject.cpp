@@ -1,0 +1,29 @@
+#include "simulator/objects/CommandBarControlsObject.h"
+
+#include "simulator/objects/CollectionLookup.h"
+#include "simulator/objects/CommandBarObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& CommandBarControlsObject::members() const {
+    using automation::property;
+    using This = CommandBarControlsObject;
+    static const automation::MemberTable table{
+        property<&This::parent>(u"Parent"),
+        property<&This::count>(u"Count"),
+        property<&This::item>(u"Item").asDefault(),
+    };
+    return table;
+}
+
+std::shared_ptr<CommandBarControlObject> CommandBarControlsObject::item(const automation::Value& index) const {
+    const auto nameAt = [this](std::size_t place) { return controls()[place].caption; };
+    const std::size_t place = placeIn(controls().size(), index, u"CommandBarControls.Item", nameAt);
+    return std::make_shared<CommandBarControlObject>(session(), bar_, place);
+}
+
+std::shared_ptr<CommandBarObject> CommandBarControlsObject::parent() const {
+    return std::make_shared<CommandBarObject>(session(), bar_);
+}
+
+} // namespace simulator

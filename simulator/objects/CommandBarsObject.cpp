@@ -1,0 +1,40 @@
+#include "simulator/objects/CommandBarsObject.h"
+
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/CollectionLookup.h"
+
+namespace simulator {
+
+const automation::MemberTable& CommandBarsObject::members() const {
+    using automation::property;
+    using This = CommandBarsObject;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::application>(u"Parent"),
+        property<&This::activeMenuBar>(u"ActiveMenuBar"),
+        property<&This::count>(u"Count"),
+        property<&This::displayTooltips, &This::setDisplayTooltips>(u"DisplayTooltips"),
+        property<&This::item>(u"Item").asDefault(),
+    };
+    return table;
+}
+
+std::int32_t CommandBarsObject::count() const {
+    return static_cast<std::int32_t>(session()->settings().commandBars.bars.size());
+}
+
+std::shared_ptr<CommandBarObject> CommandBarsObject::item(const automation::Value& index) const {
+    const auto& bars = session()->settings().commandBars.bars;
+    const auto nameAt = [&](std::size_t place) { return bars[place].name; };
+    return std::make_shared<CommandBarObject>(session(), placeIn(bars.size(), index, u"CommandBars.Item", nameAt));
+}
+
+std::shared_ptr<CommandBarObject> CommandBarsObject::activeMenuBar() const {
+    return item(u"Menu Bar");
+}
+
+std::shared_ptr<ApplicationObject> CommandBarsObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+} // namespace simulator

@@ -1,0 +1,88 @@
+#include "simulator/objects/DocumentWindowObject.h"
+
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/CollectionLookup.h"
+#include "simulator/objects/PanesObject.h"
+#include "simulator/objects/PresentationObject.h"
+#include "simulator/objects/SelectionObject.h"
+#include "simulator/objects/TriState.h"
+#include "simulator/objects/ViewObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& DocumentWindowObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = DocumentWindowObject;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::presentation>(u"Parent"),
+        property<&This::selection>(u"Selection"),
+        property<&This::view>(u"View"),
+        property<&This::presentation>(u"Presentation"),
+        property<&This::viewType, &This::setViewType>(u"ViewType"),
+        property<&This::active>(u"Active"),
+        property<&This::caption>(u"Caption").asDefault(),
+        property<&This::activePane>(u"ActivePane"),
+        property<&This::panes>(u"Panes"),
+        method<&This::activate>(u"Activate"),
+        method<&This::close>(u"Close"),
+    };
+    return table;
+}
+
+bool DocumentWindowObject::isSame(const Object& other) const noexcept {
+    const auto* const window = dynamic_cast<const DocumentWindowObject*>(&other);
+    return window != nullptr && isSameReference(window->window_, window_);
+}
+
+std::u16string DocumentWindowObject::caption() const {
+    return simulator::alive(window()->presentation)->name;
+}
+
+MsoTriState DocumentWindowObject::active() const {
+    return triState(window() == session()->activeWindow());
+}
+
+void DocumentWindowObject::setViewType(std::int32_t type) const {
+    constexpr std::int32_t firstView = 1;
+    constexpr std::int32_t lastView = 12;
+    if (type < firstView || type > lastView) {
+        errors::invalidRequest(u"DocumentWindow.ViewType", u"La valeur n'est pas un mode d'affichage.");
+    }
+    const DocumentWindowPtr shown = window();
+    if (shown->viewType == type) {
+        return;
+    }
+    shown->viewType = type;
+    shown->selection.selectNothing();
+    if (const SlidePtr slide = shown->shown(); slide && type == DocumentWindow::slideSorterView) {
+        shown->selection.selectSlides({slide});
+    }
+}
+
+std::shared_ptr<ApplicationObject> DocumentWindowObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::shared_ptr<PresentationObject> DocumentWindowObject::presentation() const {
+    return std::make_shared<PresentationObject>(session(), window()->presentation);
+}
+
+std::shared_ptr<ViewObject> DocumentWindowObject::view() const {
+    return std::make_shared<ViewObject>(session(), window());
+}
+
+std::shared_ptr<SelectionObject> DocumentWindowObject::selection() const {
+    return std::make_shared<SelectionObject>(session(), window());
+}
+
+std::shared_ptr<PanesObject> DocumentWindowObject::panes() const {
+    return std::make_shared<PanesObject>(session(), window());
+}
+
+std::shared_ptr<PaneObject> DocumentWindowObject::activePane() const {
+    return panes()->active();
+}
+
+} // namespace simulator

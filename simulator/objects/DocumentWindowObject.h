@@ -1,0 +1,49 @@
+#pragma once
+
+#include "simulator/objects/PowerPointObject.h"
+
+namespace simulator {
+
+class ApplicationObject;
+class PaneObject;
+class PanesObject;
+class PresentationObject;
+class SelectionObject;
+class ViewObject;
+
+/// DocumentWindow: a window on a presentation. Members raise `errors::gone` once it is closed.
+class DocumentWindowObject final : public PowerPointObject {
+public:
+    DocumentWindowObject(SessionPtr session, std::weak_ptr<DocumentWindow> window) noexcept
+        : PowerPointObject(std::move(session)), window_(std::move(window)) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+    /// True for another reference to the same window.
+    [[nodiscard]] bool isSame(const Object& other) const noexcept override;
+
+    /// Name of the presentation shown.
+    [[nodiscard]] std::u16string caption() const;
+    [[nodiscard]] MsoTriState active() const;
+    [[nodiscard]] std::int32_t viewType() const { return window()->viewType; }
+    /// Another view starts with nothing selected, the slide sorter with the slide shown. Raises an invalid request
+    /// outside 1 to 12.
+    void setViewType(std::int32_t type) const;
+
+    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    [[nodiscard]] std::shared_ptr<PresentationObject> presentation() const;
+    [[nodiscard]] std::shared_ptr<ViewObject> view() const;
+    [[nodiscard]] std::shared_ptr<SelectionObject> selection() const;
+    [[nodiscard]] std::shared_ptr<PanesObject> panes() const;
+    [[nodiscard]] std::shared_ptr<PaneObject> activePane() const;
+
+    void activate() const { session()->activate(window()); }
+    /// Closes the window, and its presentation with the last one.
+    void close() const { session()->closeWindow(window()); }
+
+private:
+    [[nodiscard]] DocumentWindowPtr window() const { return simulator::alive(window_); }
+
+    std::weak_ptr<DocumentWindow> window_;
+};
+
+} // namespace simulator

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "simulator/objects/DocumentWindowObject.h"
+
+#include <optional>
+
+namespace simulator {
+
+/// DocumentWindows: the document windows of PowerPoint or of one presentation, the active one first.
+class DocumentWindowsObject final : public PowerPointObject {
+public:
+    using PowerPointObject::PowerPointObject;
+    /// The windows of one presentation.
+    DocumentWindowsObject(SessionPtr session, std::weak_ptr<Presentation> presentation) noexcept
+        : PowerPointObject(std::move(session)), presentation_(std::move(presentation)) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    [[nodiscard]] std::int32_t count() const;
+    /// By place from 1, or by caption. Raises an invalid request where there is none.
+    [[nodiscard]] std::shared_ptr<DocumentWindowObject> item(const automation::Value& index) const;
+    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+
+private:
+    [[nodiscard]] std::vector<DocumentWindowPtr> windows() const;
+
+    std::optional<std::weak_ptr<Presentation>> presentation_;
+};
+
+} // namespace simulator

@@ -1,0 +1,94 @@
+#include "simulator/objects/FontObject.h"
+
+#include "simulator/objects/TextRangeObject.h"
+#include "simulator/objects/TriState.h"
+
+namespace simulator {
+
+namespace {
+
+constexpr float mixedSize = -2;
+constexpr float largestSize = 4000;
+
+/// Raises where the text ends before the part of it that bears a colour.
+void requireText(const TextPart& part) {
+    part.read([&part](const TextStory& story, Span) {
+        if (part.span.length != 0 && part.span.start >= story.text().size()) {
+            errors::invalidRequest(u"ColorFormat", u"Le texte qui portait cette couleur n'existe plus.");
+        }
+    });
+}
+
+ColorScheme schemeOf(const Shape& shape) {
+    return alive(alive(shape.slide)->presentation)->colors;
+}
+
+} // namespace
+
+FontObject::FontObject(SessionPtr session, TextPart part) noexcept
+    : PowerPointObject(std::move(session)), part_(std::move(part)) {}
+
+const automation::MemberTable& FontObject::members() const {
+    using automation::property;
+    using This = FontObject;
+    using Format = CharacterFormat;
+    static const automation::MemberTable table{
+        property<&This::parent>(u"Parent"),
+        property<&This::color>(u"Color"),
+        property<&This::style<&Format::bold>, &This::setStyle<&Format::bold>>(u"Bold"),
+        property<&This::style<&Format::italic>, &This::setStyle<&Format::italic>>(u"Italic"),
+        property<&This::style<&Format::underline>, &This::setStyle<&Format::underline>>(u"Underline"),
+        property<&This::size, &This::setSize>(u"Size"),
+        property<&This::name, &This::setName>(u"Name"),
+    };
+    return table;
+}
+
+std::u16string FontObject::name() const {
+    return part_.common(&CharacterFormat::fontName).value_or(std::u16string());
+}
+
+void FontObject::setName(const std::u16string& name) {
+    if (name.empty()) {
+        errors::invalidValue(u"Font.Name");
+    }
+    part_.change(&CharacterFormat::fontName, name);
+}
+
+float FontObject::size() const {
+    return part_.common(&CharacterFormat::size).value_or(mixedSize);
+}
+
+void FontObject::setSize(float points) {
+    errors::demandWithin(points, 1.0F, largestSize, u"Font.Size");
+    part_.change(&CharacterFormat::size, points);
+}
+
+std::shared_ptr<ColorFormatObject> FontObject::color() const {
+    const TextPart part = part_;
+    return std::make_shared<ColorFormatObject>(
+        session(),
+        [part] {
+            requireText(part);
+            return part.read([](const TextStory& story, Span span) { return story.formatAt(span.start).color; });
+        },
+        [part](Color color) {
+            requireText(part);
+            part.change(&CharacterFormat::color, color);
+        },
+        [part] { return schemeOf(*part.shape()); });
+}
+
+automation::ObjectPtr FontObject::parent() const {
+    return std::make_shared<TextRangeObject>(session(), part_.reference(), part_.span);
+}
+
+MsoTriState FontObject::styleOf(bool CharacterFormat::*property) const {
+    return triState(part_.common(property));
+}
+
+void FontObject::changeStyle(bool CharacterFormat::*property, MsoTriState on) {
+    part_.change(property, on != msoFalse);
+}
+
+} // namespace simulator

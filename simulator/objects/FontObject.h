@@ -1,0 +1,40 @@
+#pragma once
+
+#include "simulator/objects/ColorFormatObject.h"
+#include "simulator/objects/TextPart.h"
+
+namespace simulator {
+
+/// Font: how the characters of a range look. Members raise `errors::gone` where the shape is gone.
+class FontObject final : public PowerPointObject {
+public:
+    FontObject(SessionPtr session, TextPart part) noexcept;
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    /// Empty where the characters differ.
+    [[nodiscard]] std::u16string name() const;
+    void setName(const std::u16string& name);
+    /// Points; -2 where the characters differ.
+    [[nodiscard]] float size() const;
+    /// Raises an invalid request outside 1 to 4000 points.
+    void setSize(float points);
+    /// Mixed where the characters differ.
+    template <bool CharacterFormat::*property> [[nodiscard]] MsoTriState style() const { return styleOf(property); }
+    /// Any value but msoFalse means yes.
+    template <bool CharacterFormat::*property> void setStyle(MsoTriState on) { changeStyle(property, on); }
+    /// The colour of the range's first character, read at the time of the call; written to the whole range. Its members
+    /// raise an invalid request once the text ends before the range.
+    [[nodiscard]] std::shared_ptr<ColorFormatObject> color() const;
+
+    /// The text range.
+    [[nodiscard]] automation::ObjectPtr parent() const;
+
+private:
+    [[nodiscard]] MsoTriState styleOf(bool CharacterFormat::*property) const;
+    void changeStyle(bool CharacterFormat::*property, MsoTriState on);
+
+    TextPart part_;
+};
+
+} // namespace simulator

@@ -1,0 +1,35 @@
+#include "simulator/objects/FreeformBuilderObject.h"
+
+#include "simulator/document/NewShape.h"
+#include "simulator/objects/SegmentArguments.h"
+#include "simulator/objects/ShapeObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& FreeformBuilderObject::members() const {
+    using automation::method;
+    using This = FreeformBuilderObject;
+    static const automation::MemberTable table{
+        method<&This::addNodes>(u"AddNodes"),
+        method<&This::convertToShape>(u"ConvertToShape"),
+    };
+    return table;
+}
+
+void FreeformBuilderObject::addNodes(MsoSegmentType segmentType, MsoEditingType editingType, float x1, float y1,
+                                     std::optional<float> x2, std::optional<float> y2, std::optional<float> x3,
+                                     std::optional<float> y3) {
+    const SegmentArguments segment{segmentType, editingType, x1, y1, x2, y2, x3, y3};
+    segment.drawOn(path_, u"FreeformBuilder.AddNodes");
+}
+
+std::shared_ptr<ShapeObject> FreeformBuilderObject::convertToShape() {
+    if (path_.segments() == 0) {
+        errors::invalidRequest(u"FreeformBuilder.ConvertToShape", u"La forme libre n'a pas de segment.");
+    }
+    const ShapePtr shape = newShape::freeform(path_.nodes());
+    nodes().change([&shape](Slide& slide) { slide.add(shape, newShape::baseName(*shape)); });
+    return std::make_shared<ShapeObject>(session(), shape);
+}
+
+} // namespace simulator

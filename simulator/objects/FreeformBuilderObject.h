@@ -1,0 +1,29 @@
+#pragma once
+
+#include "simulator/document/FreeformPath.h"
+#include "simulator/objects/NodeSet.h"
+
+namespace simulator {
+
+class ShapeObject;
+
+/// FreeformBuilder: a freeform while it is drawn on a slide.
+class FreeformBuilderObject final : public NodeSetObject<Slide> {
+public:
+    /// Starts at a point, in points on the slide.
+    FreeformBuilderObject(SessionPtr session, std::weak_ptr<Slide> slide, float x, float y)
+        : NodeSetObject(std::move(session), std::move(slide)), path_({x, y}) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    /// Draws a straight segment or a smooth curve to the first point, or a curve with two control points and its end.
+    void addNodes(MsoSegmentType segmentType, MsoEditingType editingType, float x1, float y1, std::optional<float> x2,
+                  std::optional<float> y2, std::optional<float> x3, std::optional<float> y3);
+    /// Puts the freeform on the slide, in front; raises an invalid request where nothing was drawn.
+    std::shared_ptr<ShapeObject> convertToShape();
+
+private:
+    FreeformPath path_;
+};
+
+} // namespace simulator

@@ -1,0 +1,27 @@
+#include "simulator/objects/GroupShapesObject.h"
+
+#include "simulator/objects/ShapeObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& GroupShapesObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = GroupShapesObject;
+    static const automation::MemberTable table{
+        method<&This::item>(u"Item").asDefault(),
+        property<&This::count>(u"Count"),
+        property<&This::parent>(u"Parent"),
+    };
+    return table;
+}
+
+std::shared_ptr<ShapeObject> GroupShapesObject::item(const automation::Value& index) const {
+    return std::make_shared<ShapeObject>(session(), elementAt(node()->items(), index, u"GroupShapes.Item"));
+}
+
+std::shared_ptr<ShapeObject> GroupShapesObject::parent() const {
+    return std::make_shared<ShapeObject>(session(), node());
+}
+
+} // namespace simulator

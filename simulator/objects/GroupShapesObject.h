@@ -1,0 +1,23 @@
+#pragma once
+
+#include "simulator/objects/NodeSet.h"
+
+namespace simulator {
+
+class ShapeObject;
+
+/// GroupShapes: the items of a group, from back to front; a group inside the group is one item.
+class GroupShapesObject final : public NodeSetObject<Shape> {
+public:
+    using NodeSetObject::NodeSetObject;
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->items().size()); }
+    /// By place from 1, or by name.
+    [[nodiscard]] std::shared_ptr<ShapeObject> item(const automation::Value& index) const;
+    /// The group.
+    [[nodiscard]] std::shared_ptr<ShapeObject> parent() const;
+};
+
+} // namespace simulator

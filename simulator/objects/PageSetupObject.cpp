@@ -1,0 +1,36 @@
+#include "simulator/objects/PageSetupObject.h"
+
+namespace simulator {
+
+namespace {
+constexpr float smallest = 72;
+constexpr float largest = 4032;
+} // namespace
+
+const automation::MemberTable& PageSetupObject::members() const {
+    using automation::property;
+    using This = PageSetupObject;
+    static const automation::MemberTable table{
+        property<&This::slideHeight, &This::setSlideHeight>(u"SlideHeight"),
+        property<&This::slideWidth, &This::setSlideWidth>(u"SlideWidth"),
+        property<&This::slideOrientation>(u"SlideOrientation"),
+    };
+    return table;
+}
+
+void PageSetupObject::setSlideWidth(float points) {
+    errors::demandWithin(points, smallest, largest, u"PageSetup.SlideWidth");
+    nodes().change([points](Presentation& presentation) { presentation.slideWidth = toMasterUnits(points); });
+}
+
+void PageSetupObject::setSlideHeight(float points) {
+    errors::demandWithin(points, smallest, largest, u"PageSetup.SlideHeight");
+    nodes().change([points](Presentation& presentation) { presentation.slideHeight = toMasterUnits(points); });
+}
+
+std::int32_t PageSetupObject::slideOrientation() const {
+    const PresentationPtr presentation = node();
+    return presentation->slideWidth >= presentation->slideHeight ? 1 : 2;
+}
+
+} // namespace simulator

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "simulator/objects/PowerPointObject.h"
+
+namespace simulator {
+
+class DocumentWindowObject;
+
+/// Pane: a pane of a document window.
+class PaneObject final : public PowerPointObject {
+public:
+    /// `index` is from 1.
+    PaneObject(SessionPtr session, std::weak_ptr<DocumentWindow> window, std::int32_t index) noexcept
+        : PowerPointObject(std::move(session)), window_(std::move(window)), index_(index) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    [[nodiscard]] MsoTriState active() const;
+    /// In normal view: thumbnails, slide or notes page; else the view of the window.
+    [[nodiscard]] std::int32_t viewType() const;
+    /// Gives the pane the focus. In the outline pane the slide shown is selected; leaving it selects nothing.
+    void activate() const;
+    [[nodiscard]] std::shared_ptr<DocumentWindowObject> parent() const;
+
+private:
+    std::weak_ptr<DocumentWindow> window_;
+    std::int32_t index_;
+};
+
+} // namespace simulator

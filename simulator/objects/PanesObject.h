@@ -1,0 +1,25 @@
+#pragma once
+
+#include "simulator/objects/PaneObject.h"
+
+namespace simulator {
+
+/// Panes: outline, slide and notes in normal view; a single one in any other view.
+class PanesObject final : public PowerPointObject {
+public:
+    PanesObject(SessionPtr session, std::weak_ptr<DocumentWindow> window) noexcept
+        : PowerPointObject(std::move(session)), window_(std::move(window)) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    [[nodiscard]] std::int32_t count() const;
+    /// By place from 1. Raises out of range.
+    [[nodiscard]] std::shared_ptr<PaneObject> item(std::int32_t index) const;
+    [[nodiscard]] std::shared_ptr<PaneObject> active() const;
+    [[nodiscard]] std::shared_ptr<DocumentWindowObject> parent() const;
+
+private:
+    std::weak_ptr<DocumentWindow> window_;
+};
+
+} // namespace simulator

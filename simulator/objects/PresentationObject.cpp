@@ -1,0 +1,145 @@
+#include "simulator/objects/PresentationObject.h"
+
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/CollectionLookup.h"
+#include "simulator/objects/DocumentWindowsObject.h"
+#include "simulator/objects/PageSetupObject.h"
+#include "simulator/objects/PresentationsObject.h"
+#include "simulator/objects/SlidesObject.h"
+#include "simulator/objects/TagsObject.h"
+#include "simulator/objects/TriState.h"
+
+namespace simulator {
+
+namespace {
+
+std::u16string_view extensionOf(PpSaveAsFileType format) {
+    switch (format) {
+    case ppSaveAsPresentation:
+    case ppSaveAsDefault: return u".ppt";
+    case ppSaveAsTemplate: return u".pot";
+    case ppSaveAsShow: return u".pps";
+    case ppSaveAsRTF: return u".rtf";
+    }
+    errors::invalidRequest(u"Presentation.SaveAs", u"Ce format de fichier n'est pas géré.");
+}
+
+} // namespace
+
+const automation::MemberTable& PresentationObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = PresentationObject;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::parent>(u"Parent"),
+        property<&This::slides>(u"Slides"),
+        property<&This::pageSetup>(u"PageSetup"),
+        property<&This::tags>(u"Tags"),
+        property<&This::windows>(u"Windows"),
+        property<&This::name>(u"Name").asDefault(),
+        property<&This::fullName>(u"FullName"),
+        property<&This::path>(u"Path"),
+        property<&This::readOnly>(u"ReadOnly"),
+        property<&This::saved, &This::setSaved>(u"Saved"),
+        property<&This::snapToGrid, &This::setSnapToGrid>(u"SnapToGrid"),
+        method<&This::close>(u"Close"),
+        method<&This::save>(u"Save"),
+        method<&This::saveAs>(u"SaveAs"),
+        method<&This::saveCopyAs>(u"SaveCopyAs"),
+    };
+    return table;
+}
+
+bool PresentationObject::isSame(const Object& other) const noexcept {
+    const auto* const presentation = dynamic_cast<const PresentationObject*>(&other);
+    return presentation != nullptr && isSameReference(presentation->presentation_, presentation_);
+}
+
+std::u16string PresentationObject::fullName() const {
+    const PresentationPtr presentation = document();
+    return presentation->path.empty() ? presentation->name : presentation->path;
+}
+
+std::u16string PresentationObject::path() const {
+    const std::u16string full = document()->path;
+    const std::size_t end = full.find_last_of(u'\\');
+    return end == std::u16string::npos ? std::u16string() : full.substr(0, end);
+}
+
+MsoTriState PresentationObject::readOnly() const {
+    return triState(document()->readOnly);
+}
+
+MsoTriState PresentationObject::saved() const {
+    return triState(document()->saved);
+}
+
+void PresentationObject::setSaved(MsoTriState saved) const {
+    document()->saved = saved != msoFalse;
+}
+
+MsoTriState PresentationObject::snapToGrid() const {
+    return triState(document()->snapToGrid);
+}
+
+void PresentationObject::setSnapToGrid(MsoTriState snaps) const {
+    const PresentationPtr presentation = document();
+    presentation->snapToGrid = snaps != msoFalse;
+    presentation->saved = false;
+}
+
+std::shared_ptr<ApplicationObject> PresentationObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::shared_ptr<PresentationsObject> PresentationObject::parent() const {
+    return std::make_shared<PresentationsObject>(session());
+}
+
+std::shared_ptr<SlidesObject> PresentationObject::slides() const {
+    return std::make_shared<SlidesObject>(session(), document());
+}
+
+std::shared_ptr<TagsObject> PresentationObject::tags() const {
+    return std::make_shared<TagsObject>(session(), document());
+}
+
+std::shared_ptr<PageSetupObject> PresentationObject::pageSetup() const {
+    return std::make_shared<PageSetupObject>(session(), document());
+}
+
+std::shared_ptr<DocumentWindowsObject> PresentationObject::windows() const {
+    return std::make_shared<DocumentWindowsObject>(session(), document());
+}
+
+void PresentationObject::saveAs(const std::u16string& fileName, std::optional<PpSaveAsFileType> format,
+                                std::optional<MsoTriState> embedFonts) const {
+    const PpSaveAsFileType type = format.value_or(ppSaveAsDefault);
+    if (type == ppSaveAsRTF) {
+        saveCopyAs(fileName, format, embedFonts);
+        return;
+    }
+    session()->saveAs(document(), target(fileName, type));
+}
+
+void PresentationObject::saveCopyAs(const std::u16string& fileName, std::optional<PpSaveAsFileType> format,
+                                    std::optional<MsoTriState> /*embedFonts*/) const {
+    const PpSaveAsFileType type = format.value_or(ppSaveAsDefault);
+    const std::u16string file = target(fileName, type);
+    const PresentationPtr presentation = document();
+    if (type == ppSaveAsRTF) {
+        session()->store().saveOutline(*presentation, file);
+    } else {
+        session()->store().save(*presentation, file);
+    }
+}
+
+std::u16string PresentationObject::target(const std::u16string& fileName, PpSaveAsFileType format) const {
+    const std::u16string file = session()->fullPath(fileName);
+    const std::u16string_view extension = extensionOf(format);
+    const bool hasExtension = file.find(u'.', file.find_last_of(u'\\') + 1) != std::u16string::npos;
+    return hasExtension ? file : file + std::u16string(extension);
+}
+
+} // namespace simulator

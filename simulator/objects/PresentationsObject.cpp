@@ -1,0 +1,52 @@
+#include "simulator/objects/PresentationsObject.h"
+
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/CollectionLookup.h"
+
+namespace simulator {
+
+const automation::MemberTable& PresentationsObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = PresentationsObject;
+    static const automation::MemberTable table{
+        property<&This::count>(u"Count"),
+        property<&This::application>(u"Application"),
+        property<&This::application>(u"Parent"),
+        method<&This::item>(u"Item").asDefault(),
+        method<&This::add>(u"Add"),
+        method<&This::open>(u"Open"),
+    };
+    return table;
+}
+
+std::int32_t PresentationsObject::count() const {
+    return static_cast<std::int32_t>(session()->presentations().size());
+}
+
+std::shared_ptr<PresentationObject> PresentationsObject::item(const automation::Value& index) const {
+    const auto& open = session()->presentations();
+    const auto nameAt = [&](std::size_t place) { return open[place]->name; };
+    const std::size_t place = placeIn(open.size(), index, u"Presentations.Item", nameAt);
+    return std::make_shared<PresentationObject>(session(), open[place]);
+}
+
+std::shared_ptr<PresentationObject> PresentationsObject::add(std::optional<MsoTriState> withWindow) const {
+    return std::make_shared<PresentationObject>(session(), session()->create(withWindow != msoFalse));
+}
+
+std::shared_ptr<PresentationObject> PresentationsObject::open(const std::u16string& fileName,
+                                                              std::optional<MsoTriState> readOnly,
+                                                              std::optional<MsoTriState> untitled,
+                                                              std::optional<MsoTriState> withWindow) const {
+    const PresentationPtr presentation =
+        session()->open(fileName, readOnly.value_or(msoFalse) != msoFalse, untitled.value_or(msoFalse) != msoFalse,
+                        withWindow != msoFalse);
+    return std::make_shared<PresentationObject>(session(), presentation);
+}
+
+std::shared_ptr<ApplicationObject> PresentationsObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+} // namespace simulator

@@ -1,0 +1,417 @@
+#include "simulator/objects/ShapeMembers.h"
+
+#include "simulator/document/Grouping.h"
+#include "simulator/document/Stacking.h"
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/FillFormatObject.h"
+#include "simulator/objects/GroupShapesObject.h"
+#include "simulator/objects/LineFormatObject.h"
+#include "simulator/objects/NodesObject.h"
+#include "simulator/objects/PlaceholderFormatObject.h"
+#include "simulator/objects/ShadowFormatObject.h"
+#include "simulator/objects/ShapeCopies.h"
+#include "simulator/objects/ShapeObject.h"
+#include "simulator/objects/ShapeRangeObject.h"
+#include "simulator/objects/ShapeSelecting.h"
+#include "simulator/objects/SlideObject.h"
+#include "simulator/objects/TagsObject.h"
+#include "simulator/objects/TextEffectFormatObject.h"
+#include "simulator/objects/TextFrameObject.h"
+#include "simulator/objects/ThreeDFormatObject.h"
+#include "simulator/objects/TriState.h"
+
+#include <cmath>
+
+namespace simulator {
+
+namespace {
+
+constexpr std::int32_t lastAutoShape = 137;
+
+float Frame::*otherSide(float Frame::*side) noexcept {
+    return side == &Frame::width ? &Frame::height : &Frame::width;
+}
+
+float Frame::*edgeBefore(float Frame::*side) noexcept {
+    return side == &Frame::width ? &Frame::left : &Frame::top;
+}
+
+/// Gives a side of a shape a length; its top left corner stays.
+Frame resized(const Shape& shape, float Frame::*side, float points) noexcept {
+    Frame frame = shape.frame();
+    if (shape.lockAspectRatio && frame.*side != 0) {
+        frame.*otherSide(side) *= points / frame.*side;
+    }
+    frame.*side = points;
+    return frame;
+}
+
+/// Degrees from 0, and less than 360.
+float turned(float degrees) noexcept {
+    const float rest = std::fmod(degrees, 360.0F);
+    return rest < 0 ? rest + 360.0F : rest + 0.0F;
+}
+
+} // namespace
+
+const automation::MemberTable& ShapeMembers::sharedMembers() {
+    using automation::method;
+    using automation::property;
+    using This = ShapeMembers;
+    constexpr auto left = &Frame::left;
+    constexpr auto top = &Frame::top;
+    constexpr auto width = &Frame::width;
+    constexpr auto height = &Frame::height;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::parent>(u"Parent"),
+        method<&This::apply>(u"Apply"),
+        method<&This::erase>(u"Delete"),
+        method<&This::flip>(u"Flip"),
+        method<&This::moveBy<left>>(u"IncrementLeft"),
+        method<&This::incrementRotation>(u"IncrementRotation"),
+        method<&This::moveBy<top>>(u"IncrementTop"),
+        method<&This::pickUp>(u"PickUp"),
+        method<&This::scale<height>>(u"ScaleHeight"),
+        method<&This::scale<width>>(u"ScaleWidth"),
+        method<&This::ungroup>(u"Ungroup"),
+        method<&This::zOrder>(u"ZOrder"),
+        property<&This::autoShapeType, &This::setAutoShapeType>(u"AutoShapeType"),
+        property<&This::fill>(u"Fill"),
+        property<&This::groupItems>(u"GroupItems"),
+        property<&This::length<height>, &This::resizeTo<height>>(u"Height"),
+        property<&This::horizontalFlip>(u"HorizontalFlip"),
+        property<&This::length<left>, &This::moveTo<left>>(u"Left"),
+        property<&This::line>(u"Line"),
+        property<&This::lockAspectRatio, &This::setLockAspectRatio>(u"LockAspectRatio"),
+        property<&This::name, &This::setName>(u"Name"),
+        property<&This::shapeNodes>(u"Nodes"),
+        property<&This::rotation, &This::setRotation>(u"Rotation"),
+        property<&This::shadow>(u"Shadow"),
+        property<&This::textEffect>(u"TextEffect"),
+        property<&This::threeD>(u"ThreeD"),
+        property<&This::length<top>, &This::moveTo<top>>(u"Top"),
+        property<&This::type>(u"Type"),
+        property<&This::verticalFlip>(u"VerticalFlip"),
+        property<&This::visible, &This::setVisible>(u"Visible"),
+        property<&This::length<width>, &This::resizeTo<width>>(u"Width"),
+        property<&This::zOrderPosition>(u"ZOrderPosition"),
+        property<&This::placeholderFormat>(u"PlaceholderFormat"),
+        property<&This::tags>(u"Tags"),
+        method<&This::cut>(u"Cut"),
+        method<&This::copy>(u"Copy"),
+        method<&This::select>(u"Select"),
+        method<&This::duplicate>(u"Duplicate"),
+        property<&This::textFrame>(u"TextFrame"),
+        property<&This::hasTextFrame>(u"HasTextFrame"),
+        property<&This::alternativeText, &This::setAlternativeText>(u"AlternativeText"),
+        property<&This::parentGroup>(u"ParentGroup"),
+        property<&This::child>(u"Child"),
+        property<&This::id>(u"Id"),
+    };
+    return table;
+}
+
+std::shared_ptr<ApplicationObject> ShapeMembers::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::shared_ptr<SlideObject> ShapeMembers::parent() const {
+    return std::make_shared<SlideObject>(session(), nodes().first()->slide);
+}
+
+std::u16string ShapeMembers::name() const {
+    return nodes().only()->name;
+}
+
+void ShapeMembers::setName(const std::u16string& name) {
+    const ShapePtr shape = nodes().only();
+    const bool keepsName = automation::equalIgnoringCase(shape->name, name);
+    if (!keepsName && simulator::alive(shape->slide)->isNameTaken(name)) {
+        errors::invalidRequest(u"Shape.Name", u"Une autre forme de la diapositive porte ce nom.");
+    }
+    nodes().change([&name](Shape& renamed) { renamed.name = name; });
+}
+
+std::int32_t ShapeMembers::id() const {
+    return nodes().only()->id;
+}
+
+MsoShapeType ShapeMembers::type() const {
+    return read(MsoShapeType{-2}, &Shape::type);
+}
+
+std::int32_t ShapeMembers::autoShapeType() const {
+    return read(msoShapeMixed, &Shape::autoShapeType);
+}
+
+void ShapeMembers::setAutoShapeType(std::int32_t type) {
+    errors::demandWithin(type, msoShapeRectangle, lastAutoShape, u"Shape.AutoShapeType");
+    nodes().change([type](Shape& shape) {
+        if (shape.type != msoAutoShape) {
+            errors::invalidRequest(u"Shape.AutoShapeType", u"La forme n'est pas une forme automatique.");
+        }
+        shape.autoShapeType = type;
+    });
+}
+
+std::u16string ShapeMembers::alternativeText() const {
+    return read(std::u16string(), &Shape::alternativeText);
+}
+
+void ShapeMembers::setAlternativeText(const std::u16string& text) {
+    nodes().change([&text](Shape& shape) { shape.alternativeText = text; });
+}
+
+MsoTriState ShapeMembers::visible() const {
+    return readState(&Shape::visible);
+}
+
+void ShapeMembers::setVisible(MsoTriState visible) {
+    nodes().change([visible](Shape& shape) { shape.visible = visible != msoFalse; });
+}
+
+float ShapeMembers::rotation() const {
+    return read(mixedLength, &Shape::rotation);
+}
+
+void ShapeMembers::setRotation(float degrees) {
+    nodes().change([degrees](Shape& shape) { shape.rotation = turned(degrees); });
+}
+
+MsoTriState ShapeMembers::lockAspectRatio() const {
+    return readState(&Shape::lockAspectRatio);
+}
+
+void ShapeMembers::setLockAspectRatio(MsoTriState locked) {
+    nodes().change([locked](Shape& shape) { shape.lockAspectRatio = locked != msoFalse; });
+}
+
+MsoTriState ShapeMembers::horizontalFlip() const {
+    return readState(&Shape::horizontalFlip);
+}
+
+MsoTriState ShapeMembers::verticalFlip() const {
+    return readState(&Shape::verticalFlip);
+}
+
+void ShapeMembers::incrementRotation(float degrees) {
+    nodes().change([degrees](Shape& shape) { shape.rotation = turned(shape.rotation + degrees); });
+}
+
+void ShapeMembers::flip(MsoFlipCmd command) {
+    errors::demandWithin(command, msoFlipHorizontal, msoFlipVertical, u"Shape.Flip");
+    bool Shape::*const flag = command == msoFlipHorizontal ? &Shape::horizontalFlip : &Shape::verticalFlip;
+    nodes().change([flag](Shape& shape) { shape.*flag = !(shape.*flag); });
+}
+
+void ShapeMembers::zOrder(MsoZOrderCmd command) {
+    errors::demandWithin(command, msoBringToFront, msoSendBackward, u"Shape.ZOrder");
+    const SlidePtr slide = slideOfOutermost(u"Shape.ZOrder");
+    restack(*slide, nodes().all(), command);
+    markChanged(*slide);
+}
+
+std::int32_t ShapeMembers::zOrderPosition() const {
+    const ShapePtr shape = nodes().only();
+    const ShapePtr group = shape->group();
+    const std::vector<ShapePtr>& around = group ? group->items() : simulator::alive(shape->slide)->shapes();
+    return static_cast<std::int32_t>(std::find(around.begin(), around.end(), shape) - around.begin()) + 1;
+}
+
+std::shared_ptr<TagsObject> ShapeMembers::tags() const {
+    return std::make_shared<TagsObject>(session(), nodes().only());
+}
+
+std::shared_ptr<FillFormatObject> ShapeMembers::fill() const {
+    return std::make_shared<FillFormatObject>(session(), nodes());
+}
+
+std::shared_ptr<LineFormatObject> ShapeMembers::line() const {
+    return std::make_shared<LineFormatObject>(session(), nodes());
+}
+
+std::shared_ptr<ShadowFormatObject> ShapeMembers::shadow() const {
+    return std::make_shared<ShadowFormatObject>(session(), nodes());
+}
+
+std::shared_ptr<ThreeDFormatObject> ShapeMembers::threeD() const {
+    return std::make_shared<ThreeDFormatObject>(session(), nodes());
+}
+
+std::shared_ptr<TextEffectFormatObject> ShapeMembers::textEffect() const {
+    return std::make_shared<TextEffectFormatObject>(session(), nodes());
+}
+
+MsoTriState ShapeMembers::hasTextFrame() const {
+    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.text.has_value()); });
+}
+
+std::shared_ptr<TextFrameObject> ShapeMembers::textFrame() const {
+    const ShapePtr shape = nodes().only();
+    if (!shape->text) {
+        errors::invalidRequest(u"Shape.TextFrame", u"La forme ne peut pas contenir de texte.");
+    }
+    return std::make_shared<TextFrameObject>(session(), shape);
+}
+
+std::shared_ptr<PlaceholderFormatObject> ShapeMembers::placeholderFormat() const {
+    const ShapePtr shape = nodes().only();
+    if (!shape->placeholder) {
+        errors::invalidRequest(u"Shape.PlaceholderFormat", u"La forme n'est pas un espace réservé.");
+    }
+    return std::make_shared<PlaceholderFormatObject>(session(), shape);
+}
+
+std::shared_ptr<NodesObject> ShapeMembers::shapeNodes() const {
+    const ShapePtr shape = nodes().only();
+    if (shape->type != msoFreeform) {
+        errors::invalidRequest(u"Shape.Nodes", u"La forme n'est pas une forme libre.");
+    }
+    return std::make_shared<NodesObject>(session(), shape);
+}
+
+std::shared_ptr<GroupShapesObject> ShapeMembers::groupItems() const {
+    const ShapePtr shape = nodes().only();
+    if (shape->type != msoGroup) {
+        errors::invalidRequest(u"Shape.GroupItems", u"Ce membre n'est accessible que pour un groupe.");
+    }
+    return std::make_shared<GroupShapesObject>(session(), shape);
+}
+
+std::shared_ptr<ShapeObject> ShapeMembers::parentGroup() const {
+    const ShapePtr group = nodes().only()->group();
+    if (!group) {
+        errors::invalidRequest(u"Shape.ParentGroup", u"La forme ne fait pas partie d'un groupe.");
+    }
+    return std::make_shared<ShapeObject>(session(), group);
+}
+
+MsoTriState ShapeMembers::child() const {
+    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.group() != nullptr); });
+}
+
+std::shared_ptr<ShapeRangeObject> ShapeMembers::ungroup() {
+    const SlidePtr slide = slideOfOutermost(u"Shape.Ungroup");
+    std::vector<ShapePtr> items;
+    for (const ShapePtr& shape : nodes().all()) {
+        if (shape->type == msoGroup) {
+            const std::vector<ShapePtr> released = simulator::ungroup(*slide, shape);
+            items.insert(items.end(), released.begin(), released.end());
+        }
+    }
+    if (items.empty()) {
+        errors::invalidRequest(u"Shape.Ungroup", u"La forme n'est pas un groupe.");
+    }
+    markChanged(*slide);
+    return rangeOf(items);
+}
+
+void ShapeMembers::erase() {
+    for (const ShapePtr& shape : nodes().all()) {
+        markChanged(*shape);
+        simulator::erase(shape);
+    }
+}
+
+std::shared_ptr<ShapeRangeObject> ShapeMembers::duplicate() {
+    const std::vector<ShapePtr> copies = simulator::duplicate(nodes().all());
+    markChanged(*nodes().first());
+    return rangeOf(copies);
+}
+
+void ShapeMembers::copy() const {
+    copyTo(session()->clipboard(), nodes().all());
+}
+
+void ShapeMembers::cut() {
+    copy();
+    erase();
+}
+
+void ShapeMembers::select(std::optional<MsoTriState> replace) const {
+    static_cast<void>(nodes().first());
+    selectShapes(*session(), nodes().all(), replace.value_or(msoTrue) != msoFalse);
+}
+
+void ShapeMembers::pickUp() const {
+    session()->clipboard().format = nodes().only()->clone();
+}
+
+void ShapeMembers::apply() {
+    const ShapePtr model = session()->clipboard().format;
+    if (!model) {
+        errors::invalidRequest(u"Shape.Apply", u"Aucune mise en forme n'a été prélevée.");
+    }
+    leavesOf(nodes()).change([&model](Shape& shape) {
+        shape.fill = model->fill;
+        shape.line = model->line;
+        shape.shadow = model->shadow;
+        shape.threeD = model->threeD;
+    });
+}
+
+std::shared_ptr<ShapeRangeObject> ShapeMembers::rangeOf(const std::vector<ShapePtr>& shapes) const {
+    return std::make_shared<ShapeRangeObject>(session(), shapes);
+}
+
+SlidePtr ShapeMembers::slideOfOutermost(std::u16string_view member) const {
+    for (std::size_t place = 0; place < nodes().size(); ++place) {
+        if (nodes().at(place)->group()) {
+            errors::invalidRequest(member, u"La forme fait partie d'un groupe.");
+        }
+    }
+    return simulator::alive(nodes().first()->slide);
+}
+
+template <typename Value> Value ShapeMembers::read(Value mixed, Value Shape::*part) const {
+    return nodes().common(mixed, [part](const Shape& shape) { return shape.*part; });
+}
+
+MsoTriState ShapeMembers::readState(bool Shape::*part) const {
+    return nodes().common(msoTriStateMixed, [part](const Shape& shape) { return triState(shape.*part); });
+}
+
+float ShapeMembers::readLength(float Frame::*part) const {
+    return nodes().common(mixedLength, [part](const Shape& shape) { return shape.frame().*part; });
+}
+
+void ShapeMembers::writeEdge(float Frame::*edge, float points) {
+    nodes().change([edge, points](Shape& shape) {
+        Frame frame = shape.frame();
+        frame.*edge = points;
+        shape.setFrame(frame);
+    });
+}
+
+void ShapeMembers::writeSide(float Frame::*side, float points) {
+    if (points < 0) {
+        errors::invalidValue(u"Shape (membre inconnu)");
+    }
+    nodes().change([side, points](Shape& shape) { shape.setFrame(resized(shape, side, points)); });
+}
+
+void ShapeMembers::shiftEdge(float Frame::*edge, float points) {
+    nodes().change([edge, points](Shape& shape) {
+        Frame frame = shape.frame();
+        frame.*edge += points;
+        shape.setFrame(frame);
+    });
+}
+
+void ShapeMembers::scaleSide(float Frame::*side, float factor, MsoTriState relativeToOriginalSize,
+                             std::optional<MsoScaleFrom> from) {
+    const MsoScaleFrom fixed = from.value_or(msoScaleFromTopLeft);
+    errors::demandWithin(fixed, msoScaleFromTopLeft, msoScaleFromBottomRight, u"Shape (membre inconnu)");
+    if (relativeToOriginalSize != msoFalse || factor < 0) {
+        errors::invalidValue(u"Shape (membre inconnu)");
+    }
+    nodes().change([side, factor, fixed](Shape& shape) {
+        const float before = shape.frame().*side;
+        Frame frame = resized(shape, side, before * factor);
+        frame.*edgeBefore(side) -= (frame.*side - before) * static_cast<float>(fixed) / 2;
+        shape.setFrame(frame);
+    });
+}
+
+} // namespace simulator

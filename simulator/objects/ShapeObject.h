@@ -1,0 +1,16 @@
+#pragma once
+
+#include "simulator/objects/ShapeMembers.h"
+
+namespace simulator {
+
+/// Shape: one shape of a slide, or one item of a group.
+class ShapeObject final : public ShapeMembers {
+public:
+    ShapeObject(SessionPtr session, std::weak_ptr<Shape> shape) noexcept
+        : ShapeMembers(std::move(session), std::move(shape)) {}
+
+    [[nodiscard]] const automation::MemberTable& members() const override { return sharedMembers(); }
+};
+
+} // namespace simulator

@@ -1,0 +1,141 @@
+#include "simulator/objects/SlideMembers.h"
+
+#include "simulator/document/SlideLayout.h"
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/PresentationObject.h"
+#include "simulator/objects/ShapesObject.h"
+#include "simulator/objects/SlideRangeObject.h"
+#include "simulator/objects/TagsObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& SlideMembers::sharedMembers() {
+    using automation::method;
+    using automation::property;
+    using This = SlideMembers;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::parent>(u"Parent"),
+        property<&This::shapes>(u"Shapes"),
+        property<&This::name, &This::setName>(u"Name"),
+        property<&This::slideId>(u"SlideID"),
+        method<&This::select>(u"Select"),
+        method<&This::cut>(u"Cut"),
+        method<&This::copy>(u"Copy"),
+        property<&This::layout, &This::setLayout>(u"Layout"),
+        method<&This::duplicate>(u"Duplicate"),
+        method<&This::erase>(u"Delete"),
+        property<&This::tags>(u"Tags"),
+        property<&This::slideIndex>(u"SlideIndex"),
+        property<&This::slideIndex>(u"SlideNumber"),
+        method<&This::moveTo>(u"MoveTo"),
+    };
+    return table;
+}
+
+std::shared_ptr<ApplicationObject> SlideMembers::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::shared_ptr<PresentationObject> SlideMembers::parent() const {
+    return std::make_shared<PresentationObject>(session(), presentation());
+}
+
+std::shared_ptr<ShapesObject> SlideMembers::shapes() const {
+    return std::make_shared<ShapesObject>(session(), nodes().only());
+}
+
+std::shared_ptr<TagsObject> SlideMembers::tags() const {
+    return std::make_shared<TagsObject>(session(), nodes().only());
+}
+
+std::int32_t SlideMembers::slideIndex() const {
+    return static_cast<std::int32_t>(presentation()->placeOf(*nodes().only())) + 1;
+}
+
+std::int32_t SlideMembers::slideId() const {
+    return nodes().only()->id;
+}
+
+std::u16string SlideMembers::name() const {
+    return nodes().only()->name;
+}
+
+void SlideMembers::setName(const std::u16string& name) {
+    const bool keepsName = automation::equalIgnoringCase(nodes().only()->name, name);
+    if (!keepsName && presentation()->isNameTaken(name)) {
+        errors::invalidRequest(u"Slide.Name", u"Une autre diapositive porte ce nom.");
+    }
+    nodes().change([&name](Slide& slide) { slide.name = name; });
+}
+
+PpSlideLayout SlideMembers::layout() const {
+    return nodes().common(PpSlideLayout{-2}, [](const Slide& slide) { return slide.layout; });
+}
+
+void SlideMembers::setLayout(PpSlideLayout layout) {
+    if (!placeholdersOf(layout)) {
+        errors::invalidValue(u"Slide.Layout");
+    }
+    nodes().change([layout](Slide& slide) { layOut(slide, layout); });
+}
+
+void SlideMembers::erase() {
+    const PresentationPtr document = presentation();
+    for (const SlidePtr& slide : nodes().all()) {
+        document->remove(slide);
+    }
+    markChanged(*document);
+}
+
+std::shared_ptr<SlideRangeObject> SlideMembers::duplicate() {
+    const PresentationPtr document = presentation();
+    std::size_t place = 0;
+    for (const SlidePtr& slide : nodes().all()) {
+        place = std::max(place, document->placeOf(*slide) + 1);
+    }
+    std::vector<SlidePtr> copies;
+    for (const SlidePtr& slide : nodes().all()) {
+        copies.push_back(slide->clone());
+        document->insert(copies.back(), place++);
+    }
+    markChanged(*document);
+    return std::make_shared<SlideRangeObject>(session(), copies);
+}
+
+void SlideMembers::copy() const {
+    Clipboard& clipboard = session()->clipboard();
+    clipboard.shapes.clear();
+    clipboard.text.clear();
+    clipboard.slides.clear();
+    for (const SlidePtr& slide : nodes().all()) {
+        clipboard.slides.push_back(slide->clone());
+    }
+}
+
+void SlideMembers::cut() {
+    copy();
+    erase();
+}
+
+void SlideMembers::moveTo(std::int32_t toPos) {
+    const PresentationPtr document = presentation();
+    document->move(nodes().only(), placeIn(document->slides().size(), toPos, u"Slide.MoveTo"));
+    markChanged(*document);
+}
+
+void SlideMembers::select() const {
+    const DocumentWindowPtr window = session()->windowOf(*presentation());
+    if (!window) {
+        errors::invalidRequest(u"Slide.Select", u"La présentation n'est affichée dans aucune fenêtre.");
+    }
+    window->show(nodes().first());
+    window->selection.selectSlides(nodes().all());
+    window->activePane = DocumentWindow::outlinePane;
+}
+
+PresentationPtr SlideMembers::presentation() const {
+    return simulator::alive(nodes().first()->presentation);
+}
+
+} // namespace simulator

@@ -1,0 +1,103 @@
+#include "simulator/objects/SlidesObject.h"
+
+#include "simulator/document/SlideLayout.h"
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/PresentationObject.h"
+#include "simulator/objects/SlideObject.h"
+#include "simulator/objects/SlideRangeObject.h"
+
+#include <algorithm>
+
+namespace simulator {
+
+const automation::MemberTable& SlidesObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = SlidesObject;
+    static const automation::MemberTable table{
+        property<&This::count>(u"Count"),
+        property<&This::application>(u"Application"),
+        property<&This::parent>(u"Parent"),
+        method<&This::item>(u"Item").asDefault(),
+        method<&This::findBySlideId>(u"FindBySlideID"),
+        method<&This::add>(u"Add"),
+        method<&This::insertFromFile>(u"InsertFromFile"),
+        method<&This::paste>(u"Paste"),
+    };
+    return table;
+}
+
+std::shared_ptr<ApplicationObject> SlidesObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::shared_ptr<PresentationObject> SlidesObject::parent() const {
+    return std::make_shared<PresentationObject>(session(), node());
+}
+
+std::shared_ptr<SlideObject> SlidesObject::item(const automation::Value& index) const {
+    return std::make_shared<SlideObject>(session(), elementAt(node()->slides(), index, u"Slides.Item"));
+}
+
+std::shared_ptr<SlideObject> SlidesObject::findBySlideId(std::int32_t slideId) const {
+    const PresentationPtr presentation = node();
+    const auto found = std::find_if(presentation->slides().begin(), presentation->slides().end(),
+                                    [slideId](const SlidePtr& slide) { return slide->id == slideId; });
+    if (found == presentation->slides().end()) {
+        errors::invalidRequest(u"Slides.FindBySlideID", u"Aucune diapositive ne porte cet identificateur.");
+    }
+    return std::make_shared<SlideObject>(session(), *found);
+}
+
+std::shared_ptr<SlideObject> SlidesObject::add(std::int32_t index, PpSlideLayout layout) {
+    const PresentationPtr presentation = node();
+    const std::size_t place = placeIn(presentation->slides().size() + 1, index, u"Slides.Add");
+    if (!placeholdersOf(layout)) {
+        errors::invalidValue(u"Slides.Add");
+    }
+    const auto slide = std::make_shared<Slide>();
+    presentation->insert(slide, place);
+    layOut(*slide, layout);
+    markChanged(*presentation);
+    return std::make_shared<SlideObject>(session(), slide);
+}
+
+std::int32_t SlidesObject::insertFromFile(const std::u16string& fileName, std::int32_t index,
+                                          std::optional<std::int32_t> slideStart,
+                                          std::optional<std::int32_t> slideEnd) {
+    const std::size_t place = placeIn(node()->slides().size() + 1, index + 1, u"Slides.InsertFromFile");
+    const PresentationPtr file = session()->store().load(session()->fullPath(fileName));
+    const std::size_t count = file->slides().size();
+    const std::size_t first = placeIn(count, slideStart.value_or(1), u"Slides.InsertFromFile");
+    const std::int32_t end = slideEnd.value_or(-1);
+    const std::size_t last = end == -1 ? count - 1 : placeIn(count, end, u"Slides.InsertFromFile");
+    std::vector<SlidePtr> slides;
+    for (std::size_t i = first; i <= last; ++i) {
+        slides.push_back(file->slides()[i]);
+    }
+    return static_cast<std::int32_t>(insertCopies(slides, place).size());
+}
+
+std::shared_ptr<SlideRangeObject> SlidesObject::paste(std::optional<std::int32_t> index) {
+    const std::size_t behindLast = node()->slides().size() + 1;
+    const std::size_t place = index ? placeIn(behindLast, *index, u"Slides.Paste") : behindLast - 1;
+    if (session()->clipboard().slides.empty()) {
+        errors::invalidRequest(u"Slides.Paste", u"Le Presse-papiers ne contient pas de diapositive.");
+    }
+    return std::make_shared<SlideRangeObject>(session(), insertCopies(session()->clipboard().slides, place));
+}
+
+std::vector<SlidePtr> SlidesObject::insertCopies(const std::vector<SlidePtr>& slides, std::size_t place) {
+    const PresentationPtr presentation = node();
+    std::vector<SlidePtr> copies;
+    for (const SlidePtr& slide : slides) {
+        copies.push_back(slide->clone());
+        presentation->insert(copies.back(), place++);
+    }
+    if (!copies.empty()) {
+        markChanged(*presentation);
+    }
+    return copies;
+}
+
+} // namespace simulator

@@ -1,0 +1,78 @@
+#include "simulator/objects/TagsObject.h"
+
+#include "simulator/objects/CollectionLookup.h"
+
+namespace simulator {
+
+namespace {
+
+template <typename Bearer> std::shared_ptr<TagList> tagsOf(const std::shared_ptr<Bearer>& bearer) noexcept {
+    return std::shared_ptr<TagList>(bearer, &bearer->tags);
+}
+
+std::weak_ptr<Presentation> presentationOf(const std::weak_ptr<Slide>& reference) noexcept {
+    const SlidePtr slide = reference.lock();
+    return slide ? slide->presentation : std::weak_ptr<Presentation>();
+}
+
+} // namespace
+
+TagsObject::TagsObject(SessionPtr session, const PresentationPtr& presentation) noexcept
+    : PowerPointObject(std::move(session)), tags_(tagsOf(presentation)), presentation_(presentation) {}
+
+TagsObject::TagsObject(SessionPtr session, const SlidePtr& slide) noexcept
+    : PowerPointObject(std::move(session)), tags_(tagsOf(slide)), presentation_(slide->presentation) {}
+
+TagsObject::TagsObject(SessionPtr session, const ShapePtr& shape) noexcept
+    : PowerPointObject(std::move(session)), tags_(tagsOf(shape)), presentation_(presentationOf(shape->slide)) {}
+
+const automation::MemberTable& TagsObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = TagsObject;
+    static const automation::MemberTable table{
+        method<&This::item>(u"Item").asDefault(), property<&This::count>(u"Count"), method<&This::add>(u"Add"),
+        method<&This::remove>(u"Delete"),         method<&This::name>(u"Name"),     method<&This::value>(u"Value"),
+    };
+    return table;
+}
+
+bool TagsObject::isSame(const Object& other) const noexcept {
+    const auto* const peer = dynamic_cast<const TagsObject*>(&other);
+    return peer != nullptr && isSameReference(tags_, peer->tags_);
+}
+
+std::int32_t TagsObject::count() const {
+    return static_cast<std::int32_t>(simulator::alive(tags_)->all().size());
+}
+
+std::u16string TagsObject::item(const std::u16string& name) const {
+    return simulator::alive(tags_)->value(name);
+}
+
+std::u16string TagsObject::name(std::int32_t index) const {
+    const auto tags = simulator::alive(tags_);
+    return tags->all()[placeIn(tags->all().size(), index, u"Tags.Name")].first;
+}
+
+std::u16string TagsObject::value(std::int32_t index) const {
+    const auto tags = simulator::alive(tags_);
+    return tags->all()[placeIn(tags->all().size(), index, u"Tags.Value")].second;
+}
+
+void TagsObject::add(const std::u16string& name, const std::u16string& value) {
+    change([&](TagList& tags) { tags.add(name, value); });
+}
+
+void TagsObject::remove(const std::u16string& name) {
+    change([&](TagList& tags) { tags.remove(name); });
+}
+
+template <typename Change> void TagsObject::change(const Change& change) {
+    change(*simulator::alive(tags_));
+    if (const PresentationPtr presentation = presentation_.lock()) {
+        markChanged(*presentation);
+    }
+}
+
+} // namespace simulator

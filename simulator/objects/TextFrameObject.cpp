@@ -1,0 +1,104 @@
+#include "simulator/objects/TextFrameObject.h"
+
+#include "simulator/objects/ShapeObject.h"
+#include "simulator/objects/TriState.h"
+
+#include <limits>
+
+namespace simulator {
+
+namespace {
+
+constexpr Span everything{0, std::numeric_limits<std::size_t>::max()};
+constexpr float widest = 1584; ///< points
+
+} // namespace
+
+TextFrameObject::TextFrameObject(SessionPtr session, std::weak_ptr<Shape> shape) noexcept
+    : PowerPointObject(std::move(session)), part_(std::move(shape), everything) {}
+
+const automation::MemberTable& TextFrameObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = TextFrameObject;
+    using Layout = TextLayout;
+    static const automation::MemberTable table{
+        property<&This::parent>(u"Parent"),
+        property<&This::hasText>(u"HasText"),
+        property<&This::textRange>(u"TextRange"),
+        method<&This::deleteText>(u"DeleteText"),
+        property<&This::autoSize, &This::setAutoSize>(u"AutoSize"),
+        property<&This::wordWrap, &This::setWordWrap>(u"WordWrap"),
+        property<&This::margin<&Layout::marginLeft>, &This::setMargin<&Layout::marginLeft>>(u"MarginLeft"),
+        property<&This::margin<&Layout::marginTop>, &This::setMargin<&Layout::marginTop>>(u"MarginTop"),
+        property<&This::margin<&Layout::marginRight>, &This::setMargin<&Layout::marginRight>>(u"MarginRight"),
+        property<&This::margin<&Layout::marginBottom>, &This::setMargin<&Layout::marginBottom>>(u"MarginBottom"),
+        property<&This::orientation, &This::setOrientation>(u"Orientation"),
+        property<&This::verticalAnchor, &This::setVerticalAnchor>(u"VerticalAnchor"),
+    };
+    return table;
+}
+
+MsoTriState TextFrameObject::hasText() const {
+    return triState(part_.read([](const TextStory&, Span span) { return span.length != 0; }));
+}
+
+std::shared_ptr<TextRangeObject> TextFrameObject::textRange() const {
+    const Span whole = part_.read([](const TextStory&, Span span) { return span; });
+    return std::make_shared<TextRangeObject>(session(), part_.reference(), whole);
+}
+
+void TextFrameObject::deleteText() {
+    part_.edit([](TextStory& story, Span span) { story.replace(span, {}); });
+}
+
+PpAutoSize TextFrameObject::autoSize() const {
+    return layout().autoSize;
+}
+
+void TextFrameObject::setAutoSize(PpAutoSize autoSize) {
+    errors::demandWithin(autoSize, ppAutoSizeNone, ppAutoSizeShapeToFitText, u"TextFrame.AutoSize");
+    part_.edit([autoSize](TextStory& story, Span) { story.layout.autoSize = autoSize; });
+}
+
+MsoTriState TextFrameObject::wordWrap() const {
+    return triState(layout().wordWrap);
+}
+
+void TextFrameObject::setWordWrap(MsoTriState wraps) {
+    part_.edit([wraps](TextStory& story, Span) { story.layout.wordWrap = wraps != msoFalse; });
+}
+
+void TextFrameObject::changeMargin(float TextLayout::*margin, float points) {
+    errors::demandWithin(points, 0.0F, widest, u"TextFrame.Margin");
+    part_.edit([margin, points](TextStory& story, Span) { story.layout.*margin = points; });
+}
+
+MsoTextOrientation TextFrameObject::orientation() const {
+    return layout().orientation;
+}
+
+void TextFrameObject::setOrientation(MsoTextOrientation orientation) {
+    errors::demandWithin(orientation, msoTextOrientationHorizontal, msoTextOrientationHorizontalRotatedFarEast,
+                         u"TextFrame.Orientation");
+    part_.edit([orientation](TextStory& story, Span) { story.layout.orientation = orientation; });
+}
+
+MsoVerticalAnchor TextFrameObject::verticalAnchor() const {
+    return layout().anchor;
+}
+
+void TextFrameObject::setVerticalAnchor(MsoVerticalAnchor anchor) {
+    errors::demandWithin(anchor, msoAnchorTop, msoAnchorBottomBaseLine, u"TextFrame.VerticalAnchor");
+    part_.edit([anchor](TextStory& story, Span) { story.layout.anchor = anchor; });
+}
+
+automation::ObjectPtr TextFrameObject::parent() const {
+    return std::make_shared<ShapeObject>(session(), part_.shape());
+}
+
+TextLayout TextFrameObject::layout() const {
+    return part_.read([](const TextStory& story, Span) { return story.layout; });
+}
+
+} // namespace simulator

@@ -1,0 +1,200 @@
+#include "simulator/process/Session.h"
+
+#include "automation/Error.h"
+#include "automation/Text.h"
+#include "simulator/objects/PowerPointObject.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace simulator {
+
+namespace {
+
+std::u16string fileName(std::u16string_view path) {
+    return std::u16string(path.substr(path.find_last_of(u"\\:") + 1));
+}
+
+template <typename T> void take(std::vector<T>& list, const T& element) {
+    list.erase(std::remove(list.begin(), list.end(), element), list.end());
+}
+
+} // namespace
+
+Session::Session(MainWindow& window, PresentationStore& store, Settings& settings)
+    : window_(window), store_(store), settings_(settings) {
+    updateTitle();
+}
+
+void Session::admit() const {
+    switch (state_) {
+    case State::Running: return;
+    case State::Busy:
+        throw automation::Error(automation::remote::callRejected, {}, u"L'appel a été rejeté par l'appelé.");
+    case State::Gone:
+        throw automation::Error(automation::remote::serverUnavailable, {}, u"Le serveur RPC n'est pas disponible.");
+    }
+}
+
+void Session::setBusy(bool busy) noexcept {
+    if (state_ != State::Gone) {
+        state_ = busy ? State::Busy : State::Running;
+    }
+}
+
+void Session::end() {
+    if (std::exchange(state_, State::Gone) == State::Gone) {
+        return;
+    }
+    windows_.clear();
+    presentations_.clear();
+    clipboard_ = {};
+    window_.close();
+    if (const auto handler = std::exchange(onEnd_, nullptr)) {
+        handler();
+    }
+}
+
+std::u16string Session::title() const {
+    const PresentationPtr presentation = windows_.empty() ? nullptr : windows_.front()->presentation.lock();
+    return presentation ? u"Microsoft PowerPoint - [" + presentation->name + u"]" : u"Microsoft PowerPoint";
+}
+
+PresentationPtr Session::create(bool withWindow) {
+    if (withWindow) {
+        demandFrame();
+    }
+    const auto presentation = std::make_shared<Presentation>();
+    presentation->name = nextName();
+    presentations_.push_back(presentation);
+    if (withWindow) {
+        addWindow(presentation);
+    }
+    return presentation;
+}
+
+PresentationPtr Session::open(std::u16string_view path, bool readOnly, bool untitled, bool withWindow) {
+    if (withWindow) {
+        demandFrame();
+    }
+    const std::u16string file = fullPath(path);
+    PresentationPtr presentation = untitled ? nullptr : presentationAt(file);
+    if (!presentation) {
+        presentation = store_.load(file);
+        presentation->path = untitled ? std::u16string() : file;
+        presentation->name = untitled ? nextName() : fileName(file);
+        presentation->readOnly = !untitled && (readOnly || store_.isReadOnly(file));
+        presentation->saved = true;
+        presentations_.push_back(presentation);
+    }
+    if (withWindow) {
+        show(presentation);
+    }
+    return presentation;
+}
+
+void Session::close(const PresentationPtr& presentation) {
+    const PresentationPtr closed = presentation;
+    const auto showsIt = [&](const DocumentWindowPtr& window) { return window->presentation.lock() == closed; };
+    windows_.erase(std::remove_if(windows_.begin(), windows_.end(), showsIt), windows_.end());
+    take(presentations_, closed);
+    updateTitle();
+}
+
+void Session::save(const PresentationPtr& presentation) {
+    if (presentation->readOnly) {
+        errors::invalidRequest(u"Presentation.Save : Cette présentation est en lecture seule.");
+    }
+    if (presentation->path.empty()) {
+        saveAs(presentation, presentation->name + u".ppt");
+        return;
+    }
+    store_.save(*presentation, presentation->path);
+    presentation->saved = true;
+}
+
+void Session::saveAs(const PresentationPtr& presentation, std::u16string_view path) {
+    const std::u16string file = fullPath(path);
+    if (const PresentationPtr holder = presentationAt(file); holder && holder != presentation) {
+        errors::invalidRequest(u"Presentation.SaveAs : Une présentation de ce nom est déjà ouverte.");
+    }
+    store_.save(*presentation, file);
+    presentation->path = file;
+    presentation->name = fileName(file);
+    presentation->readOnly = false;
+    presentation->saved = true;
+    updateTitle();
+}
+
+std::u16string Session::fullPath(std::u16string_view path) const {
+    const bool hasFolder = path.find(u':') != std::u16string_view::npos || path.starts_with(u"\\");
+    return hasFolder ? std::u16string(path) : settings_.documentsFolder + u"\\" + std::u16string(path);
+}
+
+PresentationPtr Session::presentationAt(std::u16string_view path) const {
+    const auto liesThere = [path](const PresentationPtr& presentation) {
+        return automation::equalIgnoringCase(presentation->path, path);
+    };
+    const auto found = std::find_if(presentations_.begin(), presentations_.end(), liesThere);
+    return found == presentations_.end() ? nullptr : *found;
+}
+
+void Session::activate(const DocumentWindowPtr& window) {
+    const auto found = std::find(windows_.begin(), windows_.end(), window);
+    if (found != windows_.end()) {
+        std::rotate(windows_.begin(), found, found + 1);
+        updateTitle();
+    }
+}
+
+void Session::closeWindow(const DocumentWindowPtr& window) {
+    const PresentationPtr presentation = window->presentation.lock();
+    take(windows_, DocumentWindowPtr(window));
+    if (presentation && !windowOf(*presentation)) {
+        close(presentation);
+    }
+    updateTitle();
+}
+
+DocumentWindowPtr Session::activeWindow() const {
+    return windows_.empty() || !window_.isVisible() ? nullptr : windows_.front();
+}
+
+DocumentWindowPtr Session::windowOf(const Presentation& presentation) const {
+    const auto showsIt = [&](const DocumentWindowPtr& window) {
+        return window->presentation.lock().get() == &presentation;
+    };
+    const auto found = std::find_if(windows_.begin(), windows_.end(), showsIt);
+    return found == windows_.end() ? nullptr : *found;
+}
+
+void Session::demandFrame() const {
+    if (!window_.isVisible()) {
+        errors::invalidRequest(u"Presentations (membre inconnu) : La fenêtre principale de PowerPoint n'existe pas.");
+    }
+}
+
+void Session::addWindow(const PresentationPtr& presentation) {
+    const auto window = std::make_shared<DocumentWindow>();
+    window->presentation = presentation;
+    windows_.insert(windows_.begin(), window);
+    updateTitle();
+}
+
+void Session::show(const PresentationPtr& presentation) {
+    if (const DocumentWindowPtr window = windowOf(*presentation)) {
+        activate(window);
+    } else {
+        addWindow(presentation);
+    }
+}
+
+void Session::updateTitle() {
+    window_.setTitle(title());
+}
+
+std::u16string Session::nextName() {
+    return u"Présentation" + automation::decimal(++untitled_);
+}
+
+} // namespace simulator

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "automation/Object.h"
+#include "simulator/process/Session.h"
+#include "simulator/system/EmbeddedMainWindow.h"
+
+namespace simulator {
+
+/// PowerPoint as a program of the computer: installed or not, running at most once.
+class EmbeddedProcess {
+public:
+    /// All must outlive this object.
+    EmbeddedProcess(EmbeddedWindows& windows, PresentationStore& store, Settings& settings) noexcept
+        : windows_(windows), store_(store), settings_(settings) {}
+    ~EmbeddedProcess() { end(); }
+    EmbeddedProcess(const EmbeddedProcess&) = delete;
+    EmbeddedProcess& operator=(const EmbeddedProcess&) = delete;
+    EmbeddedProcess(EmbeddedProcess&&) = delete;
+    EmbeddedProcess& operator=(EmbeddedProcess&&) = delete;
+
+    /// Starts PowerPoint, invisible; nothing happens where it runs already. Raises CannotCreateObject (429) where it is
+    /// not installed.
+    void start();
+    void end();
+    [[nodiscard]] bool isRunning() const noexcept;
+    void uninstall() noexcept { installed_ = false; }
+
+    /// The run in progress; null where there is none.
+    [[nodiscard]] SessionPtr session() const noexcept { return isRunning() ? session_ : nullptr; }
+    /// The application object of the run in progress; null where there is none.
+    [[nodiscard]] automation::ObjectPtr application() const;
+
+private:
+    EmbeddedWindows& windows_;
+    PresentationStore& store_;
+    Settings& settings_;
+    bool installed_ = true;
+    std::unique_ptr<EmbeddedMainWindow> window_; ///< of the last run, ended or not
+    SessionPtr session_;
+};
+
+} // namespace simulator

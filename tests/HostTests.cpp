@@ -1,0 +1,167 @@
+#include "automation/LateBound.h"
+#include "automation/Text.h"
+#include "host/command/Commands.h"
+#include "host/language/Parser.h"
+#include "host/run/Guard.h"
+#include "host/run/Runner.h"
+#include "host/world/EmbeddedWorld.h"
+#include "host/world/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using automation::LateBound;
+using automation::ObjectPtr;
+using host::ExitCode;
+using host::HostCall;
+
+constexpr const char* course = "question 306\n"
+                               "course\n"
+                               "Presentations.Add\n"
+                               "ActivePresentation.Slides.Add 1, ppLayoutTitle\n"
+                               "ActivePresentation.Slides(1).Shapes(1).TextFrame.TextRange.Text = \"faire\"\n";
+constexpr const char* success = "scenario \"four times\"\n"
+                                "ActivePresentation.Slides(1).Shapes(1).TextFrame.TextRange.Text = "
+                                "\"créer créer créer créer\"\n"
+                                "check remark \"F\"\n";
+
+/// A library that holds one file for question 306.
+class HostTest : public testing::Test {
+protected:
+    void write(const std::string& text) { std::ofstream(folder_.path() / "0306.scn") << text; }
+    [[nodiscard]] host::Library library() const { return host::Library(folder_.path()); }
+    [[nodiscard]] std::string file() const { return (folder_.path() / "0306.scn").string(); }
+
+    std::string verify(ExitCode expected) {
+        std::ostringstream out;
+        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out), expected);
+        return out.str();
+    }
+    std::string run(const host::RunRequest& request, ExitCode expected) {
+        std::ostringstream out;
+        EXPECT_EQ(host::run(request, library(), host::makeEmbeddedWorld, out), expected);
+        return out.str();
+    }
+
+private:
+    host::TemporaryFolder folder_;
+};
+
+TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
+    write(std::string(course) + success +
+          "scenario \"a wrong letter\"\n check \"B\"\n"
+          "scenario \"a move that raises\"\n  ActivePresentation.Slides(9).Delete\n"
+          "scenario \"a working file left\"\nHost.Fermer\nFiles.Create \"Méthodologie.ppt\"\n"
+          "scenario \"a folder changed\"\nHost.Fermer\nRegistry.RecentFolder(\"Default\") = \"D:\\\"\n"
+          "scenario \"PowerPoint gone\"\nPowerPoint.Close\nPresentations.Add\n");
+    const std::string out = verify(ExitCode::FellShort);
+    EXPECT_NE(
+        out.find(file() + ":10:2: expected the letter \"B\", the host reads the letter \"A\" (\"a wrong letter\")"),
+        std::string::npos);
+    EXPECT_NE(out.find(file() + ":12:22: error "), std::string::npos);
+    EXPECT_NE(out.find(file() + ":13:1: the working file Méthodologie.ppt is left"), std::string::npos);
+    EXPECT_NE(out.find(file() + ":16:1: the learner's folder Default was \""), std::string::npos);
+    EXPECT_NE(out.find(file() + ":21:1: error 429 PowerPoint does not run"), std::string::npos);
+    EXPECT_TRUE(out.ends_with("\n1 passed, 5 failed\n")) << out;
+}
+
+TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
+    write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\nscenario \"b\"\n");
+    const std::string out = verify(ExitCode::FellShort);
+    EXPECT_TRUE(out.starts_with(file() + ":3:15: error 438")) << out;
+    EXPECT_TRUE(out.ends_with("\n0 passed, 2 failed\n")) << out;
+}
+
+TEST_F(HostTest, RunTellsTheRoadAndEndsWithTheFourValues) {
+    write(std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n" + success);
+    const std::string out = run({}, ExitCode::Good);
+    for (const char* const told :
+         {"07305306.ppt", "The host calls InitQuestion", "PowerPoint has started",
+          "Méthodologie.ppt stands in the place of 07305306.ppt", "1 slide, marked ZOR1",
+          "PowerPoint's folder Default is \"C:\\Formation\\\" instead of ", "      9  ActivePresentation",
+          "The host reads a success with the remark \"F\"", "The host calls Fermer", "Méthodologie.ppt is closed",
+          "Removed from the folder: Méthodologie.ppt", "The host calls Quitter", "PowerPoint has ended"}) {
+        EXPECT_NE(out.find(told), std::string::npos) << told << " is not told in\n" << out;
+    }
+    EXPECT_TRUE(out.ends_with("\nErreurGenerale: False\nCauseErreur: F\nBravoNuance: True\nComplement: \n")) << out;
+}
+
+TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
+    write(std::string(course) + success +
+          "scenario \"three\"\nActivePresentation.Slides(1).Shapes(1).TextFrame."
+          "TextRange.Text = \"créer créer créer\"\ncheck \"C\" complement \" 3\"\n");
+    const auto object = nlohmann::json::parse(run({306, "three", true, true}, ExitCode::Good));
+    EXPECT_EQ(object["CauseErreur"], "C");
+    EXPECT_EQ(object["ErreurGenerale"], false);
+    EXPECT_EQ(object["BravoNuance"], false);
+    EXPECT_EQ(object["Complement"], nlohmann::json({" 3"}));
+    EXPECT_EQ(object["passed"], true);
+    const std::string story = object["story"].dump();
+    for (const char* const call : {"Presentations.Open(", "Files.rename(", "Registry.set(", "Windows.findWindow("}) {
+        EXPECT_NE(story.find(call), std::string::npos) << call;
+    }
+}
+
+TEST_F(HostTest, WhatDoesNotExistIsWrongUsage) {
+    write(std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n");
+    std::ostringstream out;
+    const auto tell = [&](const host::RunRequest& request) {
+        static_cast<void>(host::run(request, library(), host::makeEmbeddedWorld, out));
+    };
+    EXPECT_THROW(tell({307, {}, false, false}), host::UsageError);
+    EXPECT_THROW(tell({306, {}, false, false}), host::UsageError);
+    EXPECT_THROW(tell({306, "something", false, false}), host::UsageError);
+    write("question 306\ncourse\nscenario \"a\"\ncheck A\n");
+    EXPECT_THROW(tell({}), host::language::WrongLines);
+}
+
+TEST_F(HostTest, AnObjectLeftAliveIsNoticed) {
+    struct Keeper final : host::Witness {
+        Keeper(host::World& keptWorld, ObjectPtr& keptObject) : world(keptWorld), kept(keptObject) {}
+        void judged(const host::Reading& /*reading*/) override {
+            kept = LateBound(world.application()).get(u"Presentations").to<ObjectPtr>();
+        }
+        host::World& world;
+        ObjectPtr& kept;
+    };
+    ObjectPtr kept;
+    const host::language::ScenarioFile file = host::language::parse("f", std::string(course) + success);
+    const host::Runner runner(file, host::makeEmbeddedWorld);
+    const auto outcome =
+        runner.run(file.scenarios[0], [&](host::World& world) { return std::make_unique<Keeper>(world, kept); });
+    ASSERT_EQ(outcome.failures.size(), 1U);
+    EXPECT_EQ(outcome.failures[0].message, "1 automation objects left alive");
+}
+
+TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
+    const host::WorldPtr world = host::makeEmbeddedWorld();
+    world->startPowerPoint();
+    const auto presentations = [&] {
+        return LateBound(LateBound(world->application()).get(u"Presentations").to<ObjectPtr>());
+    };
+    const auto findingsOf = [&](const auto& meddle) {
+        host::Guard guard(*world);
+        guard.calling(HostCall::TestePoint);
+        meddle(LateBound(presentations().call(u"Item", std::int32_t{1}).to<ObjectPtr>()));
+        guard.called(HostCall::TestePoint, nullptr);
+        return guard.findings();
+    };
+    presentations().call(u"Add");
+    EXPECT_EQ(findingsOf([](const LateBound&) {}), std::vector<std::string>());
+    const std::vector<std::string> changed = findingsOf([](const LateBound& presentation) {
+        LateBound(presentation.get(u"Slides").to<ObjectPtr>()).call(u"Add", std::int32_t{1}, std::int32_t{12});
+    });
+    ASSERT_EQ(changed.size(), 1U);
+    EXPECT_TRUE(changed[0].starts_with("TestePoint changed the learner's presentation ")) << changed[0];
+    const std::vector<std::string> closed =
+        findingsOf([](const LateBound& presentation) { presentation.call(u"Close"); });
+    ASSERT_EQ(closed.size(), 1U);
+    EXPECT_TRUE(closed[0].starts_with("TestePoint closed the learner's presentation ")) << closed[0];
+}
+
+} // namespace

@@ -1,0 +1,247 @@
+#include "automation/Error.h"
+#include "automation/Text.h"
+#include "host/language/Interpreter.h"
+#include "host/language/Parser.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using automation::Access;
+using automation::Value;
+using host::Expectation;
+using host::Reading;
+using namespace host::language;
+
+/// An object that answers every member with itself or a number, and writes down what it is asked.
+class Recorder final : public automation::Object, public std::enable_shared_from_this<Recorder> {
+public:
+    explicit Recorder(std::u16string path, std::vector<std::u16string>& log) : path_(std::move(path)), log_(log) {}
+
+    Value invoke(const automation::Name& name, Access access, std::span<Value> arguments) override {
+        std::u16string line = path_ + u"." + std::u16string(name.text());
+        const auto shown = access == Access::Put ? arguments.first(arguments.size() - 1) : arguments;
+        for (const Value& argument : shown) {
+            line += u" " + argument.display();
+        }
+        if (access == Access::Put) {
+            log_.push_back(line + u" = " + arguments.back().display());
+            return {};
+        }
+        if (name.matches(u"Left")) {
+            return 110.1F;
+        }
+        if (name.matches(u"Text") || name.isDefault()) {
+            return u"faire";
+        }
+        if (name.matches(u"Fail")) {
+            throw automation::Error(9, u"SERVICE Here", u"no such thing");
+        }
+        if (name.matches(u"Gone")) {
+            automation::raise(automation::RunTimeError::MemberNotFound);
+        }
+        log_.push_back(line);
+        return name.matches(u"Nobody") ? Value(nullptr)
+                                       : Value(std::make_shared<Recorder>(u"." + std::u16string(name.text()), log_));
+    }
+
+private:
+    std::u16string path_;
+    std::vector<std::u16string>& log_;
+};
+
+class FakeStage final : public Stage {
+public:
+    automation::ObjectPtr application() override { return std::make_shared<Recorder>(u"App", log); }
+    automation::ObjectPtr object(std::u16string_view name) override {
+        return name == u"Host" ? std::make_shared<Recorder>(u"Host", log) : nullptr;
+    }
+    Reading testePoint() override { return reading; }
+
+    Reading reading;
+    std::vector<std::u16string> log;
+};
+
+/// What a scenario of these lines fails with; empty where it passes.
+std::string outcomeOf(FakeStage& stage, const std::string& lines) {
+    const ScenarioFile file = parse("t.scn", "question 306\ncourse\nscenario \"t\"\n" + lines);
+    Interpreter interpreter(stage);
+    try {
+        for (const Statement& statement : file.scenarios.front().statements) {
+            interpreter.execute(statement);
+        }
+        return {};
+    } catch (const Failure& failure) {
+        return failure.remark.in(file.name);
+    }
+}
+
+TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
+    struct WrongLine {
+        const char* line;
+        const char* message;
+    };
+    constexpr WrongLine wrongLines[] = {
+        {"s.", "t.scn:4:3: expected the name of a member, found the end of the line"},
+        {"s.Left =", "t.scn:4:9: expected a value: a text, a number, a constant or a name, found the end of the line"},
+        {"s.Left = 3 4", "t.scn:4:12: expected the end of the line, found 4"},
+        {"  s.Add(1, 2", "t.scn:4:13: expected ')', found the end of the line"},
+        {"s.Text = \"créer", "t.scn:4:10: expected a closing quote for this text"},
+        {"s.Text = \"été\" ;", "t.scn:4:16: expected a statement, found ';'"},
+        {"s.Left = 9999999999", "t.scn:4:10: expected a number that fits into 32 bits"},
+        {"s.AutoShapeType = msoShapeRectangel",
+         "t.scn:4:19: expected a constant of PowerPoint or Office, found 'msoShapeRectangel'"},
+        {"Set 3 = s", "t.scn:4:5: expected a variable or a member, found 3"},
+        {"Set Host = s", "t.scn:4:5: expected a variable, found the fixed name 'Host'"},
+        {"msoTrue = 3", "t.scn:4:1: expected a variable, found the fixed name 'msoTrue'"},
+        {"Presentations(1) = 3", "t.scn:4:1: expected a variable or a member before '='"},
+        {"s.Add(1) 2", "t.scn:4:10: expected '=' or the end of the line, found 2"},
+        {"3.Left = 2", "t.scn:4:1: expected a statement, found 3"},
+        {"check B", "t.scn:4:7: expected a letter in quotes, success, remark, general or error, found 'B'"},
+        {"check \"C\" complement 3", "t.scn:4:22: expected a complementary text, in quotes, found 3"},
+        {"check general \"AK\" complement \"x\"", "t.scn:4:20: expected the end of the line, found 'complement'"},
+        {"check error \"CLASSE\"", "t.scn:4:13: expected the number of the error, found \"CLASSE\""},
+        {"expect s.Left", "t.scn:4:14: expected '=', found the end of the line"},
+        {"expect error 91 Host.Fermer", "t.scn:4:17: expected ':', found 'Host'"},
+        {"expect error 91:\nscenario \"u\"", "t.scn:5:1: expected a statement, found 'scenario'"},
+        {"expect error 91:", "t.scn:4:1: expected the statement that must raise the error"},
+        {"scenario other", "t.scn:4:10: expected the title of the scenario, in quotes, found 'other'"},
+        {"scenario \"t\"", "t.scn:4:1: expected a title of its own: there is a scenario of this title already"},
+        {"s.Delete\nbefore InitQuestion",
+         "t.scn:5:1: expected 'before InitQuestion' right after the title of a scenario"},
+        {"course", "t.scn:4:1: expected one course only, before the scenarios"},
+        {"question 307", "t.scn:4:1: expected one question only"},
+    };
+    for (const WrongLine& wrong : wrongLines) {
+        try {
+            (void)parse("t.scn", std::string("question 306\ncourse\nscenario \"t\"\n") + wrong.line);
+            ADD_FAILURE() << "taken: " << wrong.line;
+        } catch (const WrongLines& found) {
+            EXPECT_EQ(found.remarks.front().in(found.file), wrong.message);
+        }
+    }
+}
+
+TEST(Language, NamesWhatIsWrongWithAWholeFile) {
+    const std::pair<const char*, std::vector<std::string>> files[] = {
+        {"", {"1:1: expected 'question' and its number"}},
+        {"course\nscenario \"a\"\n", {"1:1: expected 'question' and its number before anything else"}},
+        {"question three", {"1:10: expected the number of the question, found 'three'"}},
+        {"question 306\nPresentations.Add", {"2:1: expected 'course' or 'scenario' before the first statement"}},
+        {"question 306\nscenario \"a\"", {"2:1: expected 'course' before the first scenario"}},
+        {"question 306\ncourse\n check \"A\"",
+         {"3:2: expected a statement that builds the presentation: checks belong to scenarios"}},
+        {"question 306\r\ncourse\r\nscenario \"a\"\r\n a.b(\r\n ' a remark\r\n a.b)\r\n",
+         {"4:6: expected a value: a text, a number, a constant or a name, found the end of the line",
+          "6:5: expected a value: a text, a number, a constant or a name, found ')'"}},
+    };
+    for (const auto& [text, expected] : files) {
+        try {
+            (void)parse("f", text);
+            ADD_FAILURE() << "taken: " << text;
+        } catch (const WrongLines& found) {
+            std::vector<std::string> messages;
+            for (const Remark& remark : found.remarks) {
+                messages.push_back(remark.in("").substr(1));
+            }
+            EXPECT_EQ(messages, expected);
+        }
+    }
+}
+
+TEST(Language, StatementsReachMembersAsMacrosDo) {
+    const std::pair<const char*, std::vector<std::u16string>> statements[] = {
+        {"Presentations.Add", {u"App.Presentations", u".Presentations.Add"}},
+        {"Presentations.Add()", {u"App.Presentations", u".Presentations.Add"}},
+        {"Set p = Application.Presentations(1) # the first\np.Close ' no question",
+         {u"App.Presentations 1", u".Presentations.Close"}},
+        {"ActiveWindow.Zoom msoTrue, , -1.5, \"a \"\"b\"\"\"",
+         {u"App.ActiveWindow", u".ActiveWindow.Zoom -1 Missing -1.5 \"a \"b\"\""}},
+        {"ActiveWindow.Do(, RGB(255, 300, 1), Array(1, Nothing))",
+         {u"App.ActiveWindow", u".ActiveWindow.Do Missing 131071 Array(1, Nothing)"}},
+        {"Host.Tags(\"a\", 2) = &H800403E8", {u"Host.Tags \"a\" 2 = -2147220504"}},
+        {"Set s = Host.Thing\nS.Name = s", {u"Host.Thing", u".Thing.Name = \"faire\""}},
+        {"n = 2 - 3 + 10.5\nHost.Put \"x\" & vbCr & n, True, -n, msoThreeD20, MSOSHAPESUN",
+         {u"Host.Put \"x\r9.5\" True -9.5 20 23"}},
+    };
+    for (const auto& [lines, calls] : statements) {
+        FakeStage stage;
+        EXPECT_EQ(outcomeOf(stage, lines), "");
+        EXPECT_EQ(stage.log, calls) << lines;
+    }
+}
+
+TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"expect Host.Left = 110.1\nexpect Host.Text = \"faire\"\nexpect Host.Nobody = Nothing\nexpect True = -1", ""},
+        {"expect Host.Thing = \"faire\"", ""},
+        {"expect Host.Left = 110.125", "t.scn:4:1: expected 110.125, found 110.1"},
+        {"expect Host.Text = \"Faire\"", "t.scn:4:1: expected \"Faire\", found \"faire\""},
+        {"expect 1 = \"1\"", "t.scn:4:1: expected \"1\", found 1"},
+        {"Host.A.Fail", "t.scn:4:8: error 9 no such thing [SERVICE Here]"},
+        {"Host.Nobody.B = 1", "t.scn:4:13: error 91 Variable objet ou variable de bloc With non définie [K73053]"},
+        {"Set s = Host.Thing\nSet s.Parent = s(2)", "t.scn:5:16: error 424 Objet requis [K73053]"},
+        {"Set s = 3", "t.scn:4:9: error 424 Objet requis [K73053]"},
+        {"x.Delete\n", ""},
+        {"Gone.Delete", "t.scn:4:1: error 438 'Gone' is neither a variable nor a member of PowerPoint's application "
+                        "[K73053]"},
+        {"expect error 9 \"SERVICE Here\": Host.Fail\nexpect error 9:\n  Host.Fail", ""},
+        {"expect error 9 \"There\": Host.Fail", "t.scn:4:30: expected the error 9 from a source with \"There\", found "
+                                                "the error 9 no such thing [SERVICE Here]"},
+        {"expect error &H800403E8: Host.Fail",
+         "t.scn:4:31: expected the error 800403E8, found the error 9 no such thing [SERVICE Here]"},
+        {"expect error 9: Host.Thing", "t.scn:4:1: expected the error 9, nothing was raised"},
+    };
+    for (const auto& [lines, expected] : cases) {
+        FakeStage stage;
+        EXPECT_EQ(outcomeOf(stage, lines), expected) << lines;
+    }
+}
+
+TEST(Language, ChecksTellVerdictsApart) {
+    const automation::Error zero(0, u"CLASSE Question0305\n\r - SERVICE TestePoint", {});
+    const std::vector<std::pair<const char*, Reading>> verdicts = {
+        {"check success", {{}, false, u"", false, {}}},
+        {"check \"B\"", {{}, false, u"B", false, {}}},
+        {"check \"b\"", {{}, false, u"b", false, {}}},
+        {"check \"C\" complement \" 3\"", {{}, false, u"C", false, {u" 3"}}},
+        {"check \"C\" complement \" 3\", \"\"", {{}, false, u"C", false, {u" 3", u""}}},
+        {"check \"C\"", {{}, false, u"C", false, {}}},
+        {"check remark \"C\"", {{}, false, u"C", true, {}}},
+        {"check general \"C\"", {{}, true, u"C", false, {}}},
+        {"check error 0 \"CLASSE Question0305\" \"SERVICE TestePoint\"", {zero, false, u"", false, {}}},
+        {"check error 91", {automation::Error(91, {}, {}), false, u"", false, {}}},
+    };
+    for (const auto& [check, unused] : verdicts) {
+        for (const auto& [other, reading] : verdicts) {
+            FakeStage stage;
+            stage.reading = reading;
+            const std::string outcome = outcomeOf(stage, check);
+            EXPECT_EQ(outcome.empty(), std::string_view(check) == other) << check << " against " << other;
+        }
+    }
+    FakeStage stage;
+    stage.reading = verdicts[4].second;
+    EXPECT_EQ(outcomeOf(stage, "check remark \"F\""), "t.scn:4:1: expected a success with the remark \"F\", the host "
+                                                      "reads the letter \"C\" with the complement \" 3\", \"\"");
+}
+
+TEST(Language, AScenarioFileHasItsParts) {
+    const ScenarioFile file =
+        parse("t.scn", "' heading\nQuestion 305\nCourse\n  A.B\n\nScenario \"one\"\nbefore initquestion\n"
+                       "  check \"A\"\n check error 0  # passes\nscenario \"two\"\n");
+    EXPECT_EQ(file.question, 305);
+    ASSERT_EQ(file.course.size(), 1U);
+    EXPECT_EQ(file.course[0].place, (Place{4, 3}));
+    ASSERT_EQ(file.scenarios.size(), 2U);
+    const Scenario& one = file.scenarios[0];
+    EXPECT_EQ(parse("t", "question 306\ncourse\nexpect error 5 \"X\":  # raises\n  A.B 2 ").course[0].text,
+              u"expect error 5 \"X\": A.B 2");
+    EXPECT_TRUE(one.startsBeforeInitQuestion);
+    EXPECT_EQ(one.statements.at(1).text, u"check error 0");
+    EXPECT_TRUE(one.lastExpectation()->isSuccess());
+    EXPECT_FALSE(file.scenarios[1].startsBeforeInitQuestion);
+    EXPECT_EQ(file.scenarios[1].lastExpectation(), nullptr);
+}
+
+} // namespace
