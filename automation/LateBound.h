@@ -35,7 +35,7 @@ private:
         if (!object_) {
             raise(RunTimeError::ObjectNotSet);
         }
-        std::array<Value, sizeof...(Arguments)> values{Value(std::forward<Arguments>(arguments))...};
+        std::array<Value, sizeof...(Arguments)> values{{Value(std::forward<Arguments>(arguments))...}};
         return object_->invoke(name, access, values);
     }
 

@@ -8,10 +8,11 @@ MemberTable::MemberTable(std::initializer_list<Member> members) : members_(membe
     index();
 }
 
-MemberTable::MemberTable(const MemberTable& inherited, std::initializer_list<Member> own)
-    : members_(inherited.members_) {
-    members_.insert(members_.end(), own);
-    index();
+MemberTable MemberTable::with(std::initializer_list<Member> more) const {
+    MemberTable both = *this;
+    both.members_.insert(both.members_.end(), more);
+    both.index();
+    return both;
 }
 
 void MemberTable::index() {

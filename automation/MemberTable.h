@@ -44,8 +44,9 @@ struct Member {
 class MemberTable {
 public:
     MemberTable(std::initializer_list<Member> members);
-    /// The members of another table, and then those of a class that publishes more.
-    MemberTable(const MemberTable& inherited, std::initializer_list<Member> own);
+
+    /// These members, and then those of a class that publishes more.
+    [[nodiscard]] MemberTable with(std::initializer_list<Member> more) const;
 
     [[nodiscard]] const std::vector<Member>& members() const noexcept { return members_; }
 

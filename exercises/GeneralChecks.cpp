@@ -24,12 +24,13 @@ void API::VerifiePresentation(const ppt::Application& application) {
             continue;
         }
         OuverteSousNom = true;
-        if (lowerCase(application.Presentations().Item(i).FullName()) != workingPath) {
+        const std::u16string path = application.Presentations().Item(i).FullName();
+        if (lowerCase(path) != workingPath) {
             continue;
         }
         DansDossierHote = true;
         // By path and not by identity: PowerPoint hands out a new object for the same presentation.
-        if (application.Presentations().Item(i).FullName() == application.ActivePresentation().FullName()) {
+        if (path == application.ActivePresentation().FullName()) {
             PresentationActive = true;
             return;
         }

@@ -63,6 +63,10 @@ void Question::Fermer() {
     complementInfo_ = nullptr;
 }
 
+void Question::cause(std::u16string_view code) {
+    causeErreur_ = code;
+}
+
 ppt::Slide Question::diapositive(std::int16_t slide) const {
     return application_.ActivePresentation().Slides().Item(slide);
 }

@@ -75,7 +75,7 @@ protected:
     [[nodiscard]] std::u16string_view className() const noexcept { return className_; }
 
     /// Leaves an outcome code.
-    void cause(std::u16string_view code) { causeErreur_ = std::u16string(code); }
+    void cause(std::u16string_view code);
     /// Marks a success that carries a remark.
     void bravo() noexcept { bravoNuance_ = -1; }
     /// Adds a complementary text to the current check's.

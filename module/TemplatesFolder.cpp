@@ -60,8 +60,9 @@ std::u16string requiredValue(Registry& registry, std::u16string_view key, std::u
 }
 
 std::u16string defaultTemplates(Registry& registry) {
-    return withoutNuls(requiredValue(registry, shellFoldersKey, u"AppData")) + u"\\Microsoft\\" +
-           requiredValue(registry, generalKey, u"Templates");
+    std::u16string folder = withoutNuls(requiredValue(registry, shellFoldersKey, u"AppData"));
+    folder += u"\\Microsoft\\";
+    return folder += requiredValue(registry, generalKey, u"Templates");
 }
 
 } // namespace

@@ -97,8 +97,12 @@ void UserSettings::restoreLeftovers() noexcept {
 void UserSettings::restoreCommandBars(const ppt::Application& application) noexcept {
     barsChanged_ = false;
     for (std::size_t i = 0; i < barsVisible_.size(); ++i) {
-        ignoringErrors(
-            [&] { application.CommandBars().Item(static_cast<std::int32_t>(i + 1)).Visible(barsVisible_[i]); });
+        ignoringErrors([&] {
+            const ppt::CommandBar bar = application.CommandBars().Item(static_cast<std::int32_t>(i + 1));
+            if (bar.Visible() != barsVisible_[i]) {
+                bar.Visible(barsVisible_[i]);
+            }
+        });
     }
 }
 

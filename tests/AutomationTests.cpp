@@ -60,14 +60,14 @@ TEST(Value, ConvertsAsAutomationDoes) {
 
 TEST(Value, RaisesWhatDoesNotConvert) {
     const auto number = [](RunTimeError error) { return static_cast<std::int32_t>(error); };
-    EXPECT_EQ(errorNumber([] { Value(32768).to<std::int16_t>(); }), number(RunTimeError::Overflow));
-    EXPECT_EQ(errorNumber([] { Value(3e9).to<std::int32_t>(); }), number(RunTimeError::Overflow));
-    EXPECT_EQ(errorNumber([] { Value(1e300).to<float>(); }), number(RunTimeError::Overflow));
-    EXPECT_EQ(errorNumber([] { Value(u"").to<std::int32_t>(); }), number(RunTimeError::TypeMismatch));
-    EXPECT_EQ(errorNumber([] { Value(u"12x").to<double>(); }), number(RunTimeError::TypeMismatch));
-    EXPECT_EQ(errorNumber([] { Value(Missing()).to<std::u16string>(); }), number(RunTimeError::TypeMismatch));
-    EXPECT_EQ(errorNumber([] { Value(nullptr).to<std::int32_t>(); }), number(RunTimeError::ObjectNotSet));
-    EXPECT_EQ(errorNumber([] { Value(1).to<ObjectPtr>(); }), number(RunTimeError::ObjectRequired));
+    EXPECT_EQ(errorNumber([] { return Value(32768).to<std::int16_t>(); }), number(RunTimeError::Overflow));
+    EXPECT_EQ(errorNumber([] { return Value(3e9).to<std::int32_t>(); }), number(RunTimeError::Overflow));
+    EXPECT_EQ(errorNumber([] { return Value(1e300).to<float>(); }), number(RunTimeError::Overflow));
+    EXPECT_EQ(errorNumber([] { return Value(u"").to<std::int32_t>(); }), number(RunTimeError::TypeMismatch));
+    EXPECT_EQ(errorNumber([] { return Value(u"12x").to<double>(); }), number(RunTimeError::TypeMismatch));
+    EXPECT_EQ(errorNumber([] { return Value(Missing()).to<std::u16string>(); }), number(RunTimeError::TypeMismatch));
+    EXPECT_EQ(errorNumber([] { return Value(nullptr).to<std::int32_t>(); }), number(RunTimeError::ObjectNotSet));
+    EXPECT_EQ(errorNumber([] { return Value(1).to<ObjectPtr>(); }), number(RunTimeError::ObjectRequired));
 }
 
 TEST(Integer, OverflowsInItsOwnType) {

@@ -1,6 +1,6 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
-#include "host/command/Commands.h"
+#include "host/command/CommandLine.h"
 #include "host/language/Parser.h"
 #include "host/run/Guard.h"
 #include "host/run/Runner.h"
@@ -71,10 +71,11 @@ TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
 }
 
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
-    write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\nscenario \"b\"\n");
+    write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\n");
     const std::string out = verify(ExitCode::FellShort);
     EXPECT_TRUE(out.starts_with(file() + ":3:15: error 438")) << out;
     EXPECT_TRUE(out.ends_with("\n0 passed, 2 failed\n")) << out;
+    EXPECT_NE(run({}, ExitCode::FellShort).find(":3:15: error 438"), std::string::npos);
 }
 
 TEST_F(HostTest, RunTellsTheRoadAndEndsWithTheFourValues) {
@@ -83,9 +84,10 @@ TEST_F(HostTest, RunTellsTheRoadAndEndsWithTheFourValues) {
     for (const char* const told :
          {"07305306.ppt", "The host calls InitQuestion", "PowerPoint has started",
           "Méthodologie.ppt stands in the place of 07305306.ppt", "1 slide, marked ZOR1",
-          "PowerPoint's folder Default is \"C:\\Formation\\\" instead of ", "      9  ActivePresentation",
-          "The host reads a success with the remark \"F\"", "The host calls Fermer", "Méthodologie.ppt is closed",
-          "Removed from the folder: Méthodologie.ppt", "The host calls Quitter", "PowerPoint has ended"}) {
+          "PowerPoint's folder Default is C:\\Formation\\ instead of ", "PowerPoint's folders are the learner's again",
+          "      9  ActivePresentation", "The host reads a success with the remark \"F\"", "The host calls Fermer",
+          "Méthodologie.ppt is closed", "Removed from the folder: Méthodologie.ppt", "The host calls Quitter",
+          "PowerPoint has ended"}) {
         EXPECT_NE(out.find(told), std::string::npos) << told << " is not told in\n" << out;
     }
     EXPECT_TRUE(out.ends_with("\nErreurGenerale: False\nCauseErreur: F\nBravoNuance: True\nComplement: \n")) << out;
@@ -107,17 +109,45 @@ TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
     }
 }
 
-TEST_F(HostTest, WhatDoesNotExistIsWrongUsage) {
-    write(std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n");
-    std::ostringstream out;
-    const auto tell = [&](const host::RunRequest& request) {
-        static_cast<void>(host::run(request, library(), host::makeEmbeddedWorld, out));
+TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
+    struct Case {
+        std::vector<std::string> arguments;
+        ExitCode expected;
+        const char* printed;
     };
-    EXPECT_THROW(tell({307, {}, false, false}), host::UsageError);
-    EXPECT_THROW(tell({306, {}, false, false}), host::UsageError);
-    EXPECT_THROW(tell({306, "something", false, false}), host::UsageError);
-    write("question 306\ncourse\nscenario \"a\"\ncheck A\n");
-    EXPECT_THROW(tell({}), host::language::WrongLines);
+    const std::string good = std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n";
+    const std::vector<Case> cases = {
+        {{"--help"}, ExitCode::Good, "Exit codes: 0 good"},
+        {{"--version"}, ExitCode::Good, "1.2.3"},
+        {{}, ExitCode::WrongUsage, "subcommand is required"},
+        {{"walk"}, ExitCode::WrongUsage, "subcommand is required"},
+        {{"run", "many"}, ExitCode::WrongUsage, "many"},
+        {{"run", "307"}, ExitCode::WrongUsage, "no scenario file: "},
+        {{"run"}, ExitCode::WrongUsage, "has no scenario that ends in a success"},
+        {{"run", "--scenario", "something"}, ExitCode::WrongUsage, "has no scenario \"something\""},
+        {{"run", "306", "--scenario", "nothing"}, ExitCode::Good, "CauseErreur: A\n"},
+        {{"verify"}, ExitCode::Good, "1 passed, 0 failed\n"},
+        {{"verify", "306", "--file", file()}, ExitCode::Good, "2 passed, 0 failed\n"},
+        {{"verify", "--scenarios", "nowhere"}, ExitCode::WrongUsage, "no folder of scenarios: nowhere"},
+        {{"list"}, ExitCode::Good, "0306.scn: question 306\n    nothing\n"},
+    };
+    const auto printedBy = [&](const Case& asked) {
+        std::ostringstream out;
+        EXPECT_EQ(
+            host::runCommandLine(asked.arguments, library().folder(), "1.2.3", host::makeEmbeddedWorld, {out, out}),
+            asked.expected)
+            << asked.printed;
+        return out.str();
+    };
+    write(good);
+    for (const Case& asked : cases) {
+        const std::string printed = printedBy(asked);
+        EXPECT_NE(printed.find(asked.printed), std::string::npos) << printed;
+    }
+    write(good + "check A\n\ncheck remark\n");
+    EXPECT_EQ(printedBy({{"verify"}, ExitCode::WrongUsage, "wrong lines"}),
+              file() + ":8:7: expected a letter in quotes, success, remark, general or error, found 'A'\n" + file() +
+                  ":10:13: expected the letter of the remark, in quotes, found the end of the line\n");
 }
 
 TEST_F(HostTest, AnObjectLeftAliveIsNoticed) {

@@ -19,6 +19,7 @@ constexpr std::int32_t msoTrue = -1;
 constexpr std::int32_t msoFalse = 0;
 constexpr std::int32_t msoShapeRectangle = 1;
 constexpr std::int32_t msoFreeform = 5;
+constexpr std::int32_t msoGroup = 6;
 constexpr std::int32_t ppLayoutBlank = 12;
 constexpr std::int32_t ppSaveAsRTF = 6;
 
@@ -52,7 +53,7 @@ protected:
     [[nodiscard]] static LateBound shapesOf(const LateBound& presentation, std::int32_t slide = 1) {
         return ask(ask(ask(presentation, u"Slides"), u"Item", slide), u"Shapes");
     }
-    [[nodiscard]] static LateBound rectangle(const LateBound& shapes) {
+    static LateBound rectangle(const LateBound& shapes) {
         return ask(shapes, u"AddShape", msoShapeRectangle, 20.0F, 20.0F, 100.0F, 60.0F);
     }
     [[nodiscard]] bool exists(std::u16string_view name) const {
@@ -228,6 +229,39 @@ TEST_F(PowerPointTest, TellsTheSelectionAsItIs) {
     EXPECT_EQ(number(selection(), u"Type"), 0);
     say(ask(window(), u"View"), u"Paste");
     EXPECT_EQ(number(shapes, u"Count"), 1);
+}
+
+TEST_F(PowerPointTest, SelectsItemsWithinTheirGroup) {
+    const LateBound deck = this->deck(1);
+    const LateBound shapes = shapesOf(deck);
+    for (int i = 0; i < 3; ++i) {
+        rectangle(shapes);
+    }
+    const LateBound group = ask(ask(shapes, u"Range"), u"Group");
+    say(ask(ask(group, u"GroupItems"), u"Item", 2), u"Select");
+    EXPECT_EQ(number(ask(ask(selection(), u"ShapeRange"), u"Item", 1), u"Type"), msoGroup);
+    EXPECT_EQ(number(selection(), u"HasChildShapeRange"), msoTrue);
+    EXPECT_EQ(number(ask(selection(), u"ChildShapeRange"), u"Count"), 1);
+    say(selection(), u"Delete");
+    EXPECT_EQ(number(shapes, u"Count"), 1);
+    EXPECT_EQ(number(ask(group, u"GroupItems"), u"Count"), 2);
+    EXPECT_EQ(number(selection(), u"HasChildShapeRange"), msoFalse);
+}
+
+TEST_F(PowerPointTest, PastesSlidesBehindTheOneShown) {
+    const LateBound deck = this->deck(3);
+    const LateBound slides = ask(deck, u"Slides");
+    ask(slides, u"Item", 3).put(u"Name", u"Dernière");
+    rectangle(shapesOf(deck, 1));
+    say(ask(slides, u"Item", 1), u"Copy");
+    const LateBound view = ask(window(), u"View");
+    for (const std::int32_t shown : {2, 4}) {
+        say(view, u"GotoSlide", shown);
+        say(view, u"Paste");
+        EXPECT_EQ(number(shapesOf(deck, shown + 1), u"Count"), 1) << shown;
+    }
+    EXPECT_EQ(number(slides, u"Count"), 5);
+    EXPECT_EQ(text(ask(slides, u"Item", 4), u"Name"), u"Dernière");
 }
 
 TEST_F(PowerPointTest, TellsWhetherTheCurveSelectedIsOpen) {

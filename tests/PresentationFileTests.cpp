@@ -1,8 +1,9 @@
-#include "automation/Error.h"
 #include "automation/Text.h"
 #include "simulator/document/NewShape.h"
 #include "simulator/files/FilePresentationStore.h"
 #include "simulator/files/JsonPresentationFormat.h"
+#include "tests/Errors.h"
+#include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@
 namespace simulator {
 namespace {
 
-constexpr std::int32_t openingFailed = static_cast<std::int32_t>(0x80048240U);
+constexpr auto requestRefused = static_cast<std::int32_t>(0x80048240U);
 
 /// Every member of a shape with a value that it does not have by itself.
 ShapePtr richRectangle() {
@@ -146,27 +147,20 @@ TEST(PresentationFormat, RefusesDamagedFiles) {
 /// A store over a folder of its own.
 class PresentationStoreTest : public testing::Test {
 protected:
-    PresentationStoreTest() {
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
-    }
-    ~PresentationStoreTest() override { std::filesystem::remove_all(folder); }
-
     std::string contents(const std::string& name) const {
         std::ifstream stream(folder / name, std::ios::binary);
         return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
     }
-    template <typename Act> static void expectError(const Act& act, std::u16string_view named) {
-        try {
-            act();
-            ADD_FAILURE() << "nothing was raised for " << automation::toUtf8(named);
-        } catch (const automation::Error& error) {
-            EXPECT_EQ(error.number(), openingFailed);
-            EXPECT_NE(error.description().find(named), std::u16string::npos) << error.what();
-        }
+    /// Demands PowerPoint's own error, and that it names the file.
+    template <typename Act> static void expectError(const Act& act, std::u16string_view path) {
+        const auto error = errorOf(act);
+        ASSERT_TRUE(error) << automation::toUtf8(path);
+        EXPECT_EQ(error->number(), requestRefused);
+        EXPECT_NE(error->description().find(path), std::u16string::npos) << error->what();
     }
 
-    std::filesystem::path folder = std::filesystem::temp_directory_path() / "presentation-store-test";
+    tests::TemporaryFolder temporary;
+    std::filesystem::path folder = temporary.path();
     FilePresentationStore store{[this](std::u16string_view path) {
         return folder / std::filesystem::path(std::u16string(path.substr(path.rfind(u'\\') + 1)));
     }};

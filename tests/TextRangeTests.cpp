@@ -1,8 +1,9 @@
-#include "automation/LateBound.h"
 #include "automation/Text.h"
 #include "simulator/files/FilePresentationStore.h"
 #include "simulator/objects/TextFrameObject.h"
 #include "simulator/system/EmbeddedMainWindow.h"
+#include "tests/Errors.h"
+#include "tests/Script.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +11,14 @@ namespace simulator {
 namespace {
 
 using automation::LateBound;
-using automation::Missing;
 using automation::Value;
+using tests::ask;
+using tests::say;
 
 constexpr std::int32_t red = 0x0000FF;
 constexpr std::int32_t blue = 0xFF0000;
+constexpr auto objectGone = static_cast<std::int32_t>(0x80048010U);
+constexpr auto requestRefused = static_cast<std::int32_t>(0x80048240U);
 
 std::string utf8(const Value& value) {
     return automation::toUtf8(value.to<std::u16string>());
@@ -38,12 +42,6 @@ protected:
     }
     [[nodiscard]] LateBound whole() const { return LateBound(frame.get(u"TextRange").to<automation::ObjectPtr>()); }
 
-    template <typename... Arguments>
-    static LateBound ask(const LateBound& object, std::u16string_view member, Arguments... arguments) {
-        std::array<Value, sizeof...(Arguments)> values{Value(arguments)...};
-        const Value answer = object.object()->invoke(member, automation::Access::GetOrCall, values);
-        return LateBound(answer.to<automation::ObjectPtr>());
-    }
     static void paint(const LateBound& range, std::int32_t rgb) { ask(ask(range, u"Font"), u"Color").put(u"RGB", rgb); }
     static std::int32_t colorOf(const LateBound& range) {
         return ask(ask(range, u"Font"), u"Color").get(u"RGB").to<std::int32_t>();
@@ -97,8 +95,8 @@ TEST_F(TextRange, GivesUnitsOfItself) {
         EXPECT_EQ(part.get(u"Length"), Value(static_cast<std::int32_t>(test.text.size()))) << label;
     }
     EXPECT_EQ(all.get(u"Count"), Value(1));
-    EXPECT_THROW(ask(all, u"Words", 0), automation::Error);
-    EXPECT_THROW(ask(all, u"Words", 1, -2), automation::Error);
+    EXPECT_EQ(errorNumber([&] { say(all, u"Words", 0); }), requestRefused);
+    EXPECT_EQ(errorNumber([&] { say(all, u"Words", 1, -2); }), requestRefused);
 }
 
 TEST_F(TextRange, CountsWithinPartsOfTheText) {
@@ -159,7 +157,7 @@ TEST_F(TextRange, WritesThroughItself) {
     EXPECT_EQ(colorOf(ask(whole(), u"Words", 3)), red);
     EXPECT_NE(colorOf(ask(whole(), u"Words", 2)), red);
 
-    last.object()->invoke(u"Delete", automation::Access::Call, {});
+    last.call(u"Delete");
     EXPECT_EQ(last.get(u"Length"), Value(0));
     ask(whole(), u"Characters", 3, 0).put(u"Text", u" a\r\n");
     EXPECT_EQ(utf8(whole().get(u"Text")), "Il a\r sait ");
@@ -199,7 +197,7 @@ TEST_F(TextRange, FindsAndReplaces) {
             EXPECT_EQ(all.get(u"Length"), whole().get(u"Length"));
         }
     }
-    EXPECT_THROW(ask(text(searched), u"Find", u"faire", -1), automation::Error);
+    EXPECT_EQ(errorNumber([&] { say(text(searched), u"Find", u"faire", -1); }), requestRefused);
 }
 
 TEST_F(TextRange, KeepsTheFormatOfEachWordReplaced) {
@@ -255,9 +253,9 @@ TEST_F(TextRange, AnswersMixedWhereFormatsDiffer) {
         EXPECT_EQ(test.all.get(test.member), test.value) << label;
         test.all.put(test.member, before);
     }
-    EXPECT_THROW(font.put(u"Size", 0), automation::Error);
-    EXPECT_THROW(all.put(u"IndentLevel", 6), automation::Error);
-    EXPECT_THROW(paragraphs.put(u"Alignment", 77), automation::Error);
+    EXPECT_EQ(errorNumber([&] { font.put(u"Size", 0); }), requestRefused);
+    EXPECT_EQ(errorNumber([&] { all.put(u"IndentLevel", 6); }), requestRefused);
+    EXPECT_EQ(errorNumber([&] { paragraphs.put(u"Alignment", 77); }), requestRefused);
 }
 
 TEST_F(TextRange, GivesColorsThatLive) {
@@ -275,22 +273,26 @@ TEST_F(TextRange, GivesColorsThatLive) {
     EXPECT_EQ(colorOf(ask(whole(), u"Words", 2)), 0x123456);
     EXPECT_EQ(colorOf(ask(whole(), u"Words", 3)), blue);
 
-    ask(whole(), u"Words", 2).put(u"Text", u"tout à fait ");
-    EXPECT_EQ(color.get(u"RGB"), Value(0x123456));
-    ask(whole(), u"Characters", 5, 99).put(u"Text", u"");
-    EXPECT_THROW(color.get(u"RGB"), automation::Error);
-    EXPECT_THROW(color.put(u"RGB", red), automation::Error);
+    say(whole(), u"InsertBefore", u"Police et Taille des ");
+    EXPECT_EQ(color.get(u"RGB"), Value(0x123456)) << "it follows its characters";
+    say(whole(), u"Replace", u"parfaitement", u"tout à fait");
+    paint(whole(), red);
+    EXPECT_EQ(color.get(u"RGB"), Value(red)) << "the blank after the word is still there";
+    ask(whole(), u"Paragraphs", 1).put(u"Text", u"rien");
+    paint(whole(), blue);
+    EXPECT_EQ(color.get(u"RGB"), Value(red)) << "the last colour of what is gone";
+    EXPECT_EQ(errorNumber([&] { color.put(u"RGB", red); }), requestRefused);
 }
 
 TEST_F(TextRange, CopiesCutsPastesAndChangesCase) {
     const LateBound all = text(u"un deux trois");
-    EXPECT_THROW(all.call(u"Paste"), automation::Error);
+    EXPECT_EQ(errorNumber([&] { all.call(u"Paste"); }), requestRefused);
     ask(all, u"Words", 2).call(u"Cut");
     EXPECT_EQ(utf8(whole().get(u"Text")), "un trois");
     EXPECT_EQ(utf8(ask(ask(whole(), u"Characters", 9, 0), u"Paste").get(u"Text")), "deux ");
     EXPECT_EQ(utf8(whole().get(u"Text")), "un troisdeux ");
     EXPECT_EQ(utf8(ask(ask(whole(), u"Words", 2), u"TrimText").get(u"Text")), "troisdeux");
-    EXPECT_THROW(ask(whole(), u"Characters", 1, 0).call(u"Copy"), automation::Error);
+    EXPECT_EQ(errorNumber([&] { ask(whole(), u"Characters", 1, 0).call(u"Copy"); }), requestRefused);
 
     struct Case {
         PpChangeCase change;
@@ -312,7 +314,7 @@ TEST_F(TextRange, CopiesCutsPastesAndChangesCase) {
 
 TEST_F(TextRange, SelectsWhereItsSlideIsShown) {
     const LateBound all = text(u"un deux");
-    EXPECT_THROW(all.call(u"Select"), automation::Error);
+    EXPECT_EQ(errorNumber([&] { all.call(u"Select"); }), requestRefused);
     window.setVisible(true);
     presentation = session->create(true);
     slide->presentation.reset();
@@ -342,7 +344,8 @@ TEST_F(TextRange, KeepsTheLayoutOfItsFrame) {
     for (const Case& test : cases) {
         EXPECT_EQ(frame.get(test.member), test.first) << automation::toUtf8(test.member);
         frame.put(test.member, test.second);
-        EXPECT_THROW(frame.put(test.member, test.refused), automation::Error) << automation::toUtf8(test.member);
+        EXPECT_EQ(errorNumber([&] { frame.put(test.member, test.refused); }), requestRefused)
+            << automation::toUtf8(test.member);
         EXPECT_EQ(frame.get(test.member), test.second) << automation::toUtf8(test.member);
     }
     frame.put(u"WordWrap", false);
@@ -363,9 +366,8 @@ TEST_F(TextRange, RaisesOnceItsShapeIsGone) {
         {font, u"Bold"},     {color, u"RGB"},       {paragraphs, u"Alignment"},
         {all, u"BoundLeft"}, {all, u"Delete"},
     };
-    for (const auto& [object, member] : members) {
-        EXPECT_THROW(object.object()->invoke(member, automation::Access::GetOrCall, {}), automation::Error)
-            << automation::toUtf8(member);
+    for (const auto& asked : members) {
+        EXPECT_EQ(errorNumber([&] { say(asked.first, asked.second); }), objectGone) << automation::toUtf8(asked.second);
     }
 }
 

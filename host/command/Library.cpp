@@ -32,6 +32,13 @@ fs::path Library::fileOf(std::int32_t question) const {
     return folder_ / ("0" + std::to_string(question) + extension);
 }
 
+std::vector<fs::path> Library::filesOf(const std::vector<std::int32_t>& questions) const {
+    std::vector<fs::path> paths(questions.size());
+    std::transform(questions.begin(), questions.end(), paths.begin(),
+                   [this](std::int32_t question) { return fileOf(question); });
+    return paths;
+}
+
 language::ScenarioFile load(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file || !fs::is_regular_file(path)) {

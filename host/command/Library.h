@@ -16,6 +16,7 @@ public:
     [[nodiscard]] std::vector<std::filesystem::path> files() const;
     /// The file of a question, whether it exists or not.
     [[nodiscard]] std::filesystem::path fileOf(std::int32_t question) const;
+    [[nodiscard]] std::vector<std::filesystem::path> filesOf(const std::vector<std::int32_t>& questions) const;
 
 private:
     std::filesystem::path folder_;

@@ -7,11 +7,7 @@
 namespace host {
 
 ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out) {
-    std::vector<std::filesystem::path> paths;
-    for (const std::int32_t question : questions) {
-        paths.push_back(library.fileOf(question));
-    }
-    for (const std::filesystem::path& path : questions.empty() ? library.files() : paths) {
+    for (const std::filesystem::path& path : questions.empty() ? library.files() : library.filesOf(questions)) {
         const language::ScenarioFile file = load(path);
         out << path.filename().string() << ": question " << file.question << '\n';
         for (const language::Scenario& scenario : file.scenarios) {

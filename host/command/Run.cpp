@@ -49,6 +49,7 @@ nlohmann::ordered_json toJson(const ScenarioFile& file, const Scenario& scenario
     const Reading& reading = outcome.lastReading;
     nlohmann::ordered_json object;
     object["question"] = file.question;
+    object["file"] = file.name;
     object["scenario"] = toUtf8(scenario.title);
     object["passed"] = outcome.failures.empty();
     object["failures"] = nlohmann::ordered_json::array();

@@ -16,10 +16,6 @@ std::string listed(const std::vector<std::u16string>& texts) {
     return all;
 }
 
-std::string quoted(const std::u16string& text) {
-    return "\"" + toUtf8(text) + "\"";
-}
-
 std::string counted(std::size_t number, const std::string& what) {
     return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
@@ -54,16 +50,20 @@ void Telling::calling(HostCall call) {
     story_.chapter("The host calls " + toUtf8(nameOf(call)));
     isAmongMoves_ = false;
     before_.emplace(world_);
+    if (!learnersFolders_) {
+        learnersFolders_ = before_->folders;
+    }
 }
 
 void Telling::called(HostCall /*call*/, const automation::Error* error) {
     const Snapshot after(world_);
     tellPowerPoint(*before_, after);
+    tellClosed(*before_, after);
     tellFiles(*before_, after);
-    tellPresentations(*before_, after);
+    tellOpened(*before_, after);
     tellFolders(*before_, after);
     if (error != nullptr) {
-        story_.sentence(std::string("The module raises the error ") + error->what());
+        story_.sentence("The module raises the " + inWords(*error));
     }
 }
 
@@ -91,12 +91,15 @@ void Telling::tellFiles(const Snapshot& before, const Snapshot& after) {
     }
 }
 
-void Telling::tellPresentations(const Snapshot& before, const Snapshot& after) {
+void Telling::tellOpened(const Snapshot& before, const Snapshot& after) {
     for (const OpenPresentation& open : after.presentations.value_or(std::vector<OpenPresentation>())) {
         if (before.find(open.fullName) == nullptr) {
             tellMarks(open);
         }
     }
+}
+
+void Telling::tellClosed(const Snapshot& before, const Snapshot& after) {
     for (const OpenPresentation& open : before.presentations.value_or(std::vector<OpenPresentation>())) {
         if (after.presentations && after.find(open.fullName) == nullptr) {
             story_.sentence(toUtf8(open.name) + " is closed");
@@ -120,11 +123,27 @@ void Telling::tellMarks(const OpenPresentation& open) {
 }
 
 void Telling::tellFolders(const Snapshot& before, const Snapshot& after) {
+    if (after.folders == before.folders) {
+        return;
+    }
+    if (after.folders == learnersFolders_) {
+        return story_.sentence("PowerPoint's folders are the learner's again");
+    }
+    std::vector<std::u16string> emptied;
     for (std::size_t i = 0; i < after.folders.size(); ++i) {
-        if (after.folders.at(i) != before.folders.at(i)) {
-            story_.sentence("PowerPoint's folder " + toUtf8(folderSettings::names[i]) + " is " +
-                            quoted(after.folders.at(i)) + " instead of " + quoted(before.folders.at(i)));
+        const std::u16string name(folderSettings::names.at(i));
+        if (after.folders.at(i) == before.folders.at(i)) {
+            continue;
         }
+        if (after.folders.at(i).empty()) {
+            emptied.push_back(name);
+        } else {
+            story_.sentence("PowerPoint's folder " + toUtf8(name) + " is " + toUtf8(after.folders.at(i)) +
+                            " instead of " + toUtf8(before.folders.at(i)));
+        }
+    }
+    if (!emptied.empty()) {
+        story_.sentence("PowerPoint's folders " + listed(emptied) + " are emptied");
     }
 }
 

@@ -21,15 +21,17 @@ public:
 
 private:
     void tellPowerPoint(const Snapshot& before, const Snapshot& after);
+    void tellClosed(const Snapshot& before, const Snapshot& after);
     void tellFiles(const Snapshot& before, const Snapshot& after);
-    void tellPresentations(const Snapshot& before, const Snapshot& after);
+    void tellOpened(const Snapshot& before, const Snapshot& after);
     void tellMarks(const OpenPresentation& open);
     void tellFolders(const Snapshot& before, const Snapshot& after);
 
     World& world_;
     Story& story_;
-    std::optional<Snapshot> before_; ///< the call that is on its way
-    bool isAmongMoves_ = false;      ///< the chapter of the learner's moves is open
+    std::optional<Snapshot> before_;                               ///< the call that is on its way
+    std::optional<std::array<std::u16string, 4>> learnersFolders_; ///< before the first call
+    bool isAmongMoves_ = false;                                    ///< the chapter of the learner's moves is open
 };
 
 } // namespace host

@@ -15,16 +15,9 @@ struct Tally {
 };
 
 void verifyFile(const language::ScenarioFile& file, const WorldMaker& makeWorld, Tally& tally, std::ostream& out) {
-    std::optional<Runner> runner;
-    try {
-        runner.emplace(file, makeWorld);
-    } catch (const language::Failure& failure) {
-        out << failure.remark.in(file.name) << " (the course)\n";
-        tally.failed += file.scenarios.size();
-        return;
-    }
+    const Runner runner(file, makeWorld);
     for (const language::Scenario& scenario : file.scenarios) {
-        const Outcome outcome = runner->run(scenario);
+        const Outcome outcome = runner.run(scenario);
         for (const language::Remark& failure : outcome.failures) {
             out << failure.in(file.name) << " (\"" << automation::toUtf8(scenario.title) << "\")" << std::endl;
         }
@@ -33,10 +26,8 @@ void verifyFile(const language::ScenarioFile& file, const WorldMaker& makeWorld,
 }
 
 std::vector<std::filesystem::path> named(const VerifyRequest& request, const Library& library) {
-    std::vector<std::filesystem::path> paths(request.files.begin(), request.files.end());
-    for (const std::int32_t question : request.questions) {
-        paths.push_back(library.fileOf(question));
-    }
+    std::vector<std::filesystem::path> paths = library.filesOf(request.questions);
+    paths.insert(paths.end(), request.files.begin(), request.files.end());
     return paths.empty() ? library.files() : paths;
 }
 

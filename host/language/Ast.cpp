@@ -1,14 +1,14 @@
 #include "host/language/Ast.h"
 
+#include <algorithm>
+
 namespace host::language {
 
 const Expectation* Scenario::lastExpectation() const {
-    for (auto statement = statements.rbegin(); statement != statements.rend(); ++statement) {
-        if (const auto* const check = std::get_if<Check>(&statement->node)) {
-            return &check->expected;
-        }
-    }
-    return nullptr;
+    const auto last = std::find_if(statements.rbegin(), statements.rend(), [](const Statement& statement) {
+        return std::holds_alternative<Check>(statement.node);
+    });
+    return last == statements.rend() ? nullptr : &std::get<Check>(last->node).expected;
 }
 
 } // namespace host::language

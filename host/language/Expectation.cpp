@@ -24,9 +24,20 @@ std::string verdict(bool isRemark, const std::u16string& letter, const std::vect
 
 } // namespace
 
+std::string inWords(const automation::Error& error) {
+    std::string text = "error ";
+    for (const char c : std::string_view(error.what())) {
+        const bool isBreak = c == '\r' || c == '\n';
+        if (!((isBreak || c == ' ') && text.back() == ' ')) {
+            text += isBreak ? ' ' : c;
+        }
+    }
+    return text;
+}
+
 std::string Reading::display() const {
     if (error) {
-        return std::string("the error ") + error->what();
+        return "the " + inWords(*error);
     }
     return erreurGenerale ? "the general error " + quoted(causeErreur) : verdict(bravoNuance, causeErreur, complement);
 }
@@ -38,7 +49,7 @@ bool ExpectedError::matches(const automation::Error& error) const {
 }
 
 std::string ExpectedError::display() const {
-    std::string text = "the error " + std::string(automation::Error(number, {}, {}).what());
+    std::string text = "the " + inWords(automation::Error(number, {}, {}));
     for (std::size_t i = 0; i < parts.size(); ++i) {
         text += (i == 0 ? " from a source with " : " and ") + quoted(parts[i]);
     }

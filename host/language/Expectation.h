@@ -8,6 +8,9 @@
 
 namespace host {
 
+/// An error in words, on one line: `error 53 Fichier introuvable [CLASSE Module - SERVICE Renomme]`.
+[[nodiscard]] std::string inWords(const automation::Error& error);
+
 /// What a host reads after a TestePoint.
 struct Reading {
     std::optional<automation::Error> error; ///< what TestePoint, or reading its verdict, raised

@@ -65,7 +65,7 @@ void Interpreter::execute(const Statement& statement) {
     try {
         std::visit([this](const auto& node) { perform(node); }, statement.node);
     } catch (const Raised& raised) {
-        throw Failure({raised.place, std::string("error ") + raised.error.what()});
+        throw Failure({raised.place, inWords(raised.error)});
     }
 }
 
@@ -73,7 +73,7 @@ Value Interpreter::evaluate(const Expression& expression) {
     try {
         return valueOf(expression);
     } catch (const Raised& raised) {
-        throw Failure({raised.place, std::string("error ") + raised.error.what()});
+        throw Failure({raised.place, inWords(raised.error)});
     }
 }
 
@@ -120,7 +120,7 @@ void Interpreter::perform(const ExpectError& expectation) {
             return;
         }
         throw Failure(
-            {raised.place, "expected " + expectation.error.display() + ", found the error " + raised.error.what()});
+            {raised.place, "expected " + expectation.error.display() + ", found the " + inWords(raised.error)});
     }
     throw Failure({place_, "expected " + expectation.error.display() + ", nothing was raised"});
 }

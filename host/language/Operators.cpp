@@ -3,6 +3,7 @@
 #include "automation/Error.h"
 #include "automation/Object.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace host::language {
@@ -74,15 +75,14 @@ Value colorOf(std::span<const Value> parts) {
     if (parts.size() != 3) {
         automation::raise(RunTimeError::WrongNumberOfArguments);
     }
-    std::int32_t color = 0;
-    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
-        const auto strength = part->to<std::int32_t>();
-        if (strength < 0) {
+    const auto strength = [&](std::size_t place) {
+        const auto part = parts[place].to<std::int32_t>();
+        if (part < 0) {
             automation::raise(RunTimeError::InvalidProcedureCall);
         }
-        color = color * 256 + std::min(strength, 255);
-    }
-    return color;
+        return std::min(part, 255);
+    };
+    return strength(0) + strength(1) * 0x100 + strength(2) * 0x10000;
 }
 
 } // namespace host::language

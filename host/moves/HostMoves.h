@@ -7,14 +7,17 @@ namespace host {
 
 /// `Host`: what the training host does beside checking.
 ///
-///     Host.InitQuestion                     begins the file's question once more, with the course's files delivered
-///     anew Host.InitQuestion 307                 ... another question Host.InitQuestion 306, "C:\Ailleurs\"     ... in
-///     another folder Host.TestePoint                       a check whose verdict nobody reads Host.Fermer Host.Quitter
-///     Host.Deliver                          puts the course's files into the host's folder without beginning a
-///     question Set Host.Application = Application    the host brings a PowerPoint of its own ... Host.Window =
-///     PowerPoint.Window       ... and the handle of its window, -1 unknown Host.ForgetPowerPoint                 the
-///     host holds no PowerPoint any more expect Host.CauseErreur = ""          also Host.ErreurGenerale and
-///     Host.BravoNuance expect Host.Folder = "C:\Formation\"  the host's folder
+/// - `Host.InitQuestion` begins the file's question once more, with the course's files delivered anew
+/// - `Host.InitQuestion 307` begins another question
+/// - `Host.InitQuestion 306, "C:\Ailleurs\"` begins one in another folder
+/// - `Host.TestePoint` is a check whose verdict nobody reads
+/// - `Host.Fermer`, `Host.Quitter` end the question and the session
+/// - `Host.Deliver` puts the course's files into the host's folder without beginning a question
+/// - `Set Host.Application = Application` has the host bring a PowerPoint of its own
+/// - `Host.Window = PowerPoint.Window` gives the handle of that PowerPoint's window, -1 unknown
+/// - `Host.ForgetPowerPoint` leaves the host without a PowerPoint
+/// - `expect Host.CauseErreur = ""` reads the module's answer, as do `Host.ErreurGenerale` and `Host.BravoNuance`
+/// - `expect Host.Folder = "C:\Formation\"` reads the host's folder
 class HostMoves final : public automation::Published {
 public:
     /// `host` must outlive this object.

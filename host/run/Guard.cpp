@@ -55,7 +55,7 @@ std::vector<std::string> Guard::findings() {
     std::vector<std::string> all = findings_;
     for (std::size_t i = 0; firstFolders_ && i < now.folders.size(); ++i) {
         if (now.folders.at(i) != firstFolders_->at(i)) {
-            all.push_back("the learner's folder " + toUtf8(folderSettings::names[i]) + " was \"" +
+            all.push_back("the learner's folder " + toUtf8(folderSettings::names.at(i)) + " was \"" +
                           toUtf8(firstFolders_->at(i)) + "\" and now is \"" + toUtf8(now.folders.at(i)) + "\"");
         }
     }

@@ -17,7 +17,7 @@ template <typename Step> bool passes(language::Place place, std::vector<Remark>&
     } catch (const language::Failure& failure) {
         remarks.push_back(failure.remark);
     } catch (const automation::Error& error) {
-        remarks.push_back({place, std::string("error ") + error.what()});
+        remarks.push_back({place, inWords(error)});
     } catch (const std::exception& error) {
         remarks.push_back({place, error.what()});
     }
@@ -36,10 +36,15 @@ void performAll(Exercise& exercise, const language::Scenario& scenario) {
 } // namespace
 
 Runner::Runner(const language::ScenarioFile& file, WorldMaker makeWorld)
-    : file_(file), makeWorld_(std::move(makeWorld)), course_(file, makeWorld_) {}
+    : file_(file), makeWorld_(std::move(makeWorld)) {
+    passes({}, courseFailures_, [&] { course_.emplace(file, makeWorld_); });
+}
 
 Outcome Runner::run(const language::Scenario& scenario, const WitnessMaker& makeWitness,
                     const automation::ObserverPtr& observer) const {
+    if (!course_) {
+        return {courseFailures_, {}};
+    }
     const std::size_t aliveBefore = automation::Object::alive();
     Outcome outcome;
     passes(scenario.place, outcome.failures, [&] { outcome = runIn(*makeWorld_(observer), scenario, makeWitness); });
@@ -61,7 +66,7 @@ Outcome Runner::runIn(World& world, const language::Scenario& scenario, const Wi
     }
     std::vector<Remark> remarks;
     std::vector<Remark> closing;
-    Exercise exercise(world, course_, file_.question, witnesses);
+    Exercise exercise(world, *course_, file_.question, witnesses);
     const bool isPerformed = passes(scenario.place, remarks, [&] { performAll(exercise, scenario); });
     passes(scenario.place, closing, [&] { exercise.finish(); });
     for (const std::vector<std::string>& findings : {guard.findings(), world.leftOpen()}) {

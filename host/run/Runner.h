@@ -15,8 +15,8 @@ struct Outcome {
 /// object alive.
 class Runner {
 public:
-    /// Builds the course's files. Raises language::Failure where one of its statements raises. `file` must outlive this
-    /// object.
+    /// Builds the course's files; where that fails, every scenario fails with the place in the course. `file` must
+    /// outlive this object.
     Runner(const language::ScenarioFile& file, WorldMaker makeWorld);
 
     /// Makes the witness of a scenario, which sees its world.
@@ -32,7 +32,8 @@ private:
 
     const language::ScenarioFile& file_;
     WorldMaker makeWorld_;
-    Course course_;
+    std::optional<Course> course_;
+    std::vector<language::Remark> courseFailures_;
 };
 
 } // namespace host

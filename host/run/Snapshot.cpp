@@ -12,6 +12,9 @@ namespace {
 using automation::LateBound;
 using automation::ObjectPtr;
 
+/// The tag by which the module knows slides and shapes again.
+constexpr std::u16string_view identityTag = u"Identite";
+
 /// Every item of a collection.
 template <typename Take> void forEach(const LateBound& collection, const Take& take) {
     const auto count = collection.get(u"Count").to<std::int32_t>();
@@ -25,7 +28,7 @@ LateBound member(const LateBound& object, std::u16string_view name) {
 }
 
 std::u16string identityOf(const LateBound& marked) {
-    return member(marked, u"Tags").call(u"Item", u"Identite").to<std::u16string>();
+    return member(marked, u"Tags").call(u"Item", identityTag).to<std::u16string>();
 }
 
 SlideMarks marksOf(const LateBound& slide) {
@@ -59,7 +62,7 @@ std::optional<std::vector<OpenPresentation>> presentationsIn(World& world) {
 Snapshot::Snapshot(World& world)
     : window(world.mainWindow()), dialogs(world.dialogs()), files(world.filesIn(world.hostFolder())),
       presentations(presentationsIn(world)) {
-    std::transform(std::begin(folderSettings::names), std::end(folderSettings::names), folders.begin(),
+    std::transform(folderSettings::names.begin(), folderSettings::names.end(), folders.begin(),
                    [&](std::u16string_view name) { return world.registryText(folderSettings::key, name); });
 }
 

@@ -7,33 +7,22 @@ namespace {
 using automation::ObjectPtr;
 using automation::Value;
 
-/// The host's application reference and window handle, passed by reference and taken back however the call ends.
-class Exchanged {
-public:
-    Exchanged(ObjectPtr& application, std::int32_t& window)
-        : application_(application), window_(window), applicationValue_(application), windowValue_(window) {}
-    ~Exchanged() {
-        if (applicationValue_.isObject()) {
-            application_ = applicationValue_.as<ObjectPtr>();
-        }
-        if (windowValue_.is<std::int32_t>()) {
-            window_ = windowValue_.as<std::int32_t>();
-        }
+/// Passes the host's application reference and window handle by reference, and takes them back however the call ends.
+template <typename Call> void exchanging(ObjectPtr& application, std::int32_t& window, const Call& call) {
+    Value applicationValue(application);
+    Value windowValue(window);
+    const auto takeBack = [&] {
+        application = applicationValue.to<ObjectPtr>();
+        window = windowValue.to<std::int32_t>();
+    };
+    try {
+        call(Value::reference(applicationValue), Value::reference(windowValue));
+    } catch (...) {
+        takeBack();
+        throw;
     }
-    Exchanged(const Exchanged&) = delete;
-    Exchanged& operator=(const Exchanged&) = delete;
-    Exchanged(Exchanged&&) = delete;
-    Exchanged& operator=(Exchanged&&) = delete;
-
-    Value application() { return Value::reference(applicationValue_); }
-    Value window() { return Value::reference(windowValue_); }
-
-private:
-    ObjectPtr& application_;
-    std::int32_t& window_;
-    Value applicationValue_;
-    Value windowValue_;
-};
+    takeBack();
+}
 
 } // namespace
 
@@ -42,8 +31,9 @@ void LateBoundModule::initQuestion(std::int32_t number, const std::u16string& fo
     if (observer_) {
         application = automation::observed(automation::unobserved(application), observer_);
     }
-    Exchanged exchanged(application, window);
-    module_.call(u"InitQuestion", number, folder, exchanged.application(), exchanged.window(), u"");
+    exchanging(application, window, [&](const Value& applicationReference, const Value& windowReference) {
+        module_.call(u"InitQuestion", number, folder, applicationReference, windowReference, std::u16string());
+    });
 }
 
 void LateBoundModule::testePoint() {
@@ -77,8 +67,9 @@ void LateBoundModule::fermer() {
 }
 
 void LateBoundModule::quitter(ObjectPtr& application, std::int32_t& window) {
-    Exchanged exchanged(application, window);
-    module_.call(u"Quitter", exchanged.application(), exchanged.window());
+    exchanging(application, window, [&](const Value& applicationReference, const Value& windowReference) {
+        module_.call(u"Quitter", applicationReference, windowReference);
+    });
 }
 
 } // namespace host

@@ -3,6 +3,7 @@
 #include "automation/observe/Observer.h"
 #include "host/world/ModuleClient.h"
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -94,7 +95,7 @@ inline constexpr std::uint32_t hidden = 2;
 /// PowerPoint's four folder settings, in their registry key.
 namespace folderSettings {
 inline constexpr std::u16string_view key = u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList";
-inline constexpr std::u16string_view names[] = {u"Default", u"MultimediaDir", u"PictureDir", u"TemplateDir"};
+inline constexpr std::array<std::u16string_view, 4> names{u"Default", u"MultimediaDir", u"PictureDir", u"TemplateDir"};
 } // namespace folderSettings
 
 } // namespace host

@@ -6,11 +6,11 @@
 
 namespace platform {
 
-namespace {
-
 using automation::Border;
 using automation::ObserverPtr;
 using automation::Value;
+
+namespace observed {
 
 /// One border with its observer: passes calls on as crossings.
 class Gate {
@@ -231,19 +231,19 @@ private:
     Gate gate_;
 };
 
-} // namespace
+} // namespace observed
 
 struct ObservedServices::Parts {
     Parts(const Services& inner, const ObserverPtr& observer)
         : windows(inner.windows, observer), registry(inner.registry, observer), files(inner.files, observer),
           keyboard(inner.keyboard, observer), locale(inner.locale, observer), servers(inner.servers, observer) {}
 
-    ObservedWindows windows;
-    ObservedRegistry registry;
-    ObservedFiles files;
-    ObservedKeyboard keyboard;
-    ObservedLocale locale;
-    ObservedServers servers;
+    observed::ObservedWindows windows;
+    observed::ObservedRegistry registry;
+    observed::ObservedFiles files;
+    observed::ObservedKeyboard keyboard;
+    observed::ObservedLocale locale;
+    observed::ObservedServers servers;
     Services services{windows, registry, files, keyboard, locale, servers};
 };
 

@@ -22,6 +22,9 @@ inline constexpr std::int32_t msoShapeMixed = -2;
 inline constexpr std::int32_t msoShapeRectangle = 1;
 inline constexpr std::int32_t msoShapeOval = 9;
 
+/// Numbers of AutoShapes run from 1 (msoShapeRectangle) to this one.
+inline constexpr std::int32_t lastAutoShape = 137;
+
 enum MsoFillType : std::int32_t {
     msoFillMixed = -2,
     msoFillSolid = 1,

@@ -20,10 +20,9 @@ ShapePtr group(Slide& slide, const std::vector<ShapePtr>& shapes) {
 }
 
 std::vector<ShapePtr> ungroup(Slide& slide, const ShapePtr& group) {
-    const ShapePtr dropped = group;
-    std::size_t place = slide.placeOf(*dropped);
-    slide.remove(dropped);
-    std::vector<ShapePtr> items = dropped->release();
+    std::size_t place = slide.placeOf(*group);
+    std::vector<ShapePtr> items = group->release();
+    slide.remove(group);
     for (const ShapePtr& item : items) {
         slide.insert(item, place++);
     }

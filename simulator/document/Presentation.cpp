@@ -1,6 +1,7 @@
 #include "simulator/document/Presentation.h"
 
 #include "automation/Text.h"
+#include "simulator/document/Order.h"
 
 #include <algorithm>
 
@@ -15,27 +16,21 @@ void Presentation::insert(const SlidePtr& slide, std::size_t place) {
         slide->name = u"Slide" + automation::decimal(slide->id - reservedIds);
     }
     slide->presentation = weak_from_this();
-    slides_.insert(slides_.begin() + static_cast<std::ptrdiff_t>(std::min(place, slides_.size())), slide);
+    order::insert(slides_, slide, place);
 }
 
 void Presentation::remove(const SlidePtr& slide) {
-    const SlidePtr removed = slide;
-    if (std::erase(slides_, removed) != 0) {
+    if (const SlidePtr removed = order::take(slides_, slide)) {
         removed->presentation.reset();
     }
 }
 
 std::size_t Presentation::placeOf(const Slide& slide) const noexcept {
-    const auto found = std::find_if(slides_.begin(), slides_.end(),
-                                    [&slide](const SlidePtr& candidate) { return candidate.get() == &slide; });
-    return static_cast<std::size_t>(found - slides_.begin());
+    return order::placeOf(slides_, slide);
 }
 
 void Presentation::move(const SlidePtr& slide, std::size_t place) {
-    const SlidePtr kept = slide;
-    if (std::erase(slides_, kept) != 0) {
-        slides_.insert(slides_.begin() + static_cast<std::ptrdiff_t>(std::min(place, slides_.size())), kept);
-    }
+    order::move(slides_, slide, place);
 }
 
 bool Presentation::isNameTaken(std::u16string_view wanted) const noexcept {

@@ -1,5 +1,7 @@
 #include "simulator/document/Shape.h"
 
+#include "simulator/document/Order.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -145,17 +147,17 @@ std::vector<ShapePtr> Shape::release() {
 }
 
 void Shape::release(const ShapePtr& item) {
-    const ShapePtr released = item;
-    std::erase(items_, released);
-    released->group_.reset();
+    if (const ShapePtr released = order::take(items_, item)) {
+        released->group_.reset();
+    }
     frame_ = boundsOf(items_);
     refitGroups();
 }
 
-void Shape::replace(const ShapePtr& item, const ShapePtr& other) {
-    other->group_ = std::exchange(item->group_, {});
-    other->settle(slide);
-    std::replace(items_.begin(), items_.end(), item, other);
+void Shape::replace(const ShapePtr& item, const ShapePtr& successor) {
+    successor->group_ = std::exchange(item->group_, {});
+    successor->settle(slide);
+    std::replace(items_.begin(), items_.end(), item, successor);
     frame_ = boundsOf(items_);
     refitGroups();
 }

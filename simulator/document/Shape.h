@@ -84,7 +84,7 @@ public:
     /// Takes one item out of a group, whose frame shrinks to the others.
     void release(const ShapePtr& item);
     /// Puts another shape in the place of an item.
-    void replace(const ShapePtr& item, const ShapePtr& other);
+    void replace(const ShapePtr& item, const ShapePtr& successor);
 
     /// Shows or hides the shadow; a shadow takes the third dimension away.
     void showShadow(bool shown) noexcept;

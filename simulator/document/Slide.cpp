@@ -1,6 +1,7 @@
 #include "simulator/document/Slide.h"
 
 #include "automation/Text.h"
+#include "simulator/document/Order.h"
 
 #include <algorithm>
 
@@ -36,27 +37,21 @@ void Slide::add(const ShapePtr& shape, std::u16string_view baseName) {
 void Slide::insert(const ShapePtr& shape, std::size_t place) {
     forEachInside(*shape, [this](Shape& part) { lastShapeId_ = std::max(lastShapeId_, part.id); });
     shape->settle(weak_from_this());
-    shapes_.insert(shapes_.begin() + static_cast<std::ptrdiff_t>(std::min(place, shapes_.size())), shape);
+    order::insert(shapes_, shape, place);
 }
 
 void Slide::remove(const ShapePtr& shape) {
-    const ShapePtr removed = shape;
-    if (std::erase(shapes_, removed) != 0) {
+    if (const ShapePtr removed = order::take(shapes_, shape)) {
         removed->settle({});
     }
 }
 
 std::size_t Slide::placeOf(const Shape& shape) const noexcept {
-    const auto found = std::find_if(shapes_.begin(), shapes_.end(),
-                                    [&shape](const ShapePtr& candidate) { return candidate.get() == &shape; });
-    return static_cast<std::size_t>(found - shapes_.begin());
+    return order::placeOf(shapes_, shape);
 }
 
 void Slide::move(const ShapePtr& shape, std::size_t place) {
-    const ShapePtr kept = shape;
-    if (std::erase(shapes_, kept) != 0) {
-        shapes_.insert(shapes_.begin() + static_cast<std::ptrdiff_t>(std::min(place, shapes_.size())), kept);
-    }
+    order::move(shapes_, shape, place);
 }
 
 bool Slide::isNameTaken(std::u16string_view wanted) const noexcept {

@@ -9,7 +9,7 @@ namespace simulator {
 
 /// A placeholder that a layout puts on a slide, with its place on a slide of 720 x 540 points.
 struct LayoutPlaceholder {
-    PpPlaceholderType type;
+    PpPlaceholderType type = ppPlaceholderTitle;
     Frame frame;
 };
 

@@ -64,6 +64,7 @@ Span TextStory::replace(Span span, std::u16string_view text, const CharacterForm
     const Span old = clipped(span);
     const std::u16string fresh = withParagraphMarks(text);
     Run run{fresh.size(), format};
+    anchors_.follow(old, fresh.size(), [this](std::size_t place) { return formatAt(place); });
     replaceParagraphFormats(old, fresh);
     if (text_.empty()) {
         runs_.clear();

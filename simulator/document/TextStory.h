@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/document/TextFormat.h"
+#include "simulator/document/TextAnchors.h"
 
 #include <cstddef>
 #include <span>
@@ -8,15 +8,6 @@
 #include <vector>
 
 namespace simulator {
-
-/// A stretch of a story: characters from `start` (from 0).
-struct Span {
-    std::size_t start = 0;
-    std::size_t length = 0;
-
-    [[nodiscard]] std::size_t end() const noexcept { return start + length; }
-    friend bool operator==(const Span&, const Span&) = default;
-};
 
 /// The text of a shape: characters and paragraphs with their formats, and how they stand in the shape. Paragraphs end
 /// with U+000D (the last one without), line breaks are U+000B. Spans that reach past the end are cut there.
@@ -64,6 +55,12 @@ public:
             text_[place] = change(text_[place]);
         }
         indexed_ = false;
+    }
+
+    /// Goes on looking at the characters of a span while the text changes.
+    [[nodiscard]] std::shared_ptr<TextAnchor> anchor(Span span) {
+        const Span within = clipped(span);
+        return anchors_.add(within, formatAt(within.start));
     }
 
     /// The runs that a span touches, at least one.
@@ -119,6 +116,7 @@ private:
     void index() const;
 
     std::u16string text_;
+    TextAnchors anchors_;
     std::vector<Run> runs_{Run()};
     std::vector<ParagraphFormat> paragraphFormats_{ParagraphFormat()};
     mutable std::vector<Span> words_;

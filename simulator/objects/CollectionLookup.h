@@ -3,6 +3,9 @@
 #include "automation/Text.h"
 #include "simulator/objects/PowerPointObject.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace simulator {
 
 /// True when two weak references stand for the same object, gone or not.
@@ -42,6 +45,28 @@ template <typename Node>
                                                      const automation::Value& index, std::u16string_view member) {
     const auto nameAt = [&elements](std::size_t place) -> const std::u16string& { return elements[place]->name; };
     return elements[placeIn(elements.size(), index, member, nameAt)];
+}
+
+/// The slides or shapes that `index` names: one, those of an array of places and names, each once, or all where it is
+/// left out.
+template <typename Node>
+[[nodiscard]] std::vector<std::shared_ptr<Node>> elementsAt(const std::vector<std::shared_ptr<Node>>& elements,
+                                                            const std::optional<automation::Value>& index,
+                                                            std::u16string_view member) {
+    if (!index) {
+        return elements;
+    }
+    if (!index->template is<automation::Array>()) {
+        return {elementAt(elements, *index, member)};
+    }
+    std::vector<std::shared_ptr<Node>> named;
+    for (const automation::Value& one : index->template as<automation::Array>()) {
+        const std::shared_ptr<Node>& element = elementAt(elements, one, member);
+        if (std::find(named.begin(), named.end(), element) == named.end()) {
+            named.push_back(element);
+        }
+    }
+    return named;
 }
 
 } // namespace simulator

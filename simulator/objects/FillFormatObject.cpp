@@ -90,7 +90,7 @@ void FillFormatObject::patterned(std::int32_t pattern) {
 void FillFormatObject::oneColorGradient(std::int32_t style, std::int32_t variant, float degree) {
     errors::demandWithin(degree, 0.0F, 1.0F, u"FillFormat.OneColorGradient");
     becomeGradient(style, variant);
-    const std::int32_t level = static_cast<std::int32_t>(degree * 255.0F);
+    const auto level = static_cast<std::int32_t>(degree * 255.0F);
     nodes().change([level](Shape& shape) { shape.fill.back = Color::direct(level * 0x010101); });
 }
 

@@ -10,15 +10,6 @@ namespace {
 constexpr float mixedSize = -2;
 constexpr float largestSize = 4000;
 
-/// Raises where the text ends before the part of it that bears a colour.
-void requireText(const TextPart& part) {
-    part.read([&part](const TextStory& story, Span) {
-        if (part.span.length != 0 && part.span.start >= story.text().size()) {
-            errors::invalidRequest(u"ColorFormat", u"Le texte qui portait cette couleur n'existe plus.");
-        }
-    });
-}
-
 ColorScheme schemeOf(const Shape& shape) {
     return alive(alive(shape.slide)->presentation)->colors;
 }
@@ -66,15 +57,23 @@ void FontObject::setSize(float points) {
 
 std::shared_ptr<ColorFormatObject> FontObject::color() const {
     const TextPart part = part_;
+    const auto anchor = part_.anchored();
+    // Between two characters there is nothing to follow: the colour is that of the text to come there.
+    const auto gone = [anchor, isBetween = anchor->span.length == 0] { return anchor->span.length == 0 && !isBetween; };
     return std::make_shared<ColorFormatObject>(
         session(),
-        [part] {
-            requireText(part);
-            return part.read([](const TextStory& story, Span span) { return story.formatAt(span.start).color; });
+        [part, anchor, gone] {
+            return part.read([&](const TextStory& story, Span) {
+                return (gone() ? anchor->format : story.formatAt(anchor->span.start)).color;
+            });
         },
-        [part](Color color) {
-            requireText(part);
-            part.change(&CharacterFormat::color, color);
+        [part, anchor, gone](Color color) {
+            if (gone()) {
+                errors::invalidRequest(u"ColorFormat", u"Le texte qui portait cette couleur n'existe plus.");
+            }
+            TextPart now = part;
+            now.span = anchor->span;
+            now.change(&CharacterFormat::color, color);
         },
         [part] { return schemeOf(*part.shape()); });
 }

@@ -23,8 +23,9 @@ public:
     template <bool CharacterFormat::*property> [[nodiscard]] MsoTriState style() const { return styleOf(property); }
     /// Any value but msoFalse means yes.
     template <bool CharacterFormat::*property> void setStyle(MsoTriState on) { changeStyle(property, on); }
-    /// The colour of the range's first character, read at the time of the call; written to the whole range. Its members
-    /// raise an invalid request once the text ends before the range.
+    /// The colour of the range's first character, read at the time of the call; written to the whole range. It follows
+    /// its characters while the text changes; once they are gone it answers with their last colour, and writing it
+    /// raises an invalid request.
     [[nodiscard]] std::shared_ptr<ColorFormatObject> color() const;
 
     /// The text range.

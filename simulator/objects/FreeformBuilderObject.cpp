@@ -28,7 +28,9 @@ std::shared_ptr<ShapeObject> FreeformBuilderObject::convertToShape() {
         errors::invalidRequest(u"FreeformBuilder.ConvertToShape", u"La forme libre n'a pas de segment.");
     }
     const ShapePtr shape = newShape::freeform(path_.nodes());
-    nodes().change([&shape](Slide& slide) { slide.add(shape, newShape::baseName(*shape)); });
+    const SlidePtr slide = simulator::alive(slide_);
+    slide->add(shape, newShape::baseName(*shape));
+    markChanged(*slide);
     return std::make_shared<ShapeObject>(session(), shape);
 }
 

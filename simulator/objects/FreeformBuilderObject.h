@@ -1,18 +1,20 @@
 #pragma once
 
 #include "simulator/document/FreeformPath.h"
-#include "simulator/objects/NodeSet.h"
+#include "simulator/objects/PowerPointObject.h"
+
+#include <optional>
 
 namespace simulator {
 
 class ShapeObject;
 
 /// FreeformBuilder: a freeform while it is drawn on a slide.
-class FreeformBuilderObject final : public NodeSetObject<Slide> {
+class FreeformBuilderObject final : public PowerPointObject {
 public:
     /// Starts at a point, in points on the slide.
     FreeformBuilderObject(SessionPtr session, std::weak_ptr<Slide> slide, float x, float y)
-        : NodeSetObject(std::move(session), std::move(slide)), path_({x, y}) {}
+        : PowerPointObject(std::move(session)), slide_(std::move(slide)), path_({x, y}) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -23,6 +25,7 @@ public:
     std::shared_ptr<ShapeObject> convertToShape();
 
 private:
+    std::weak_ptr<Slide> slide_;
     FreeformPath path_;
 };
 

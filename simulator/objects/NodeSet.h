@@ -52,7 +52,7 @@ public:
 
     /// What `read` answers for all nodes alike, or `mixed`.
     template <typename Value, typename Read> [[nodiscard]] Value common(Value mixed, const Read& read) const {
-        const Value answer = read(*first());
+        Value answer = read(*first());
         for (std::size_t place = 1; place < nodes_.size(); ++place) {
             if (!(read(*at(place)) == answer)) {
                 return mixed;
@@ -71,9 +71,8 @@ public:
     }
 
     friend bool operator==(const NodeSet& left, const NodeSet& right) noexcept {
-        return std::equal(
-            left.nodes_.begin(), left.nodes_.end(), right.nodes_.begin(), right.nodes_.end(),
-            [](const auto& one, const auto& other) { return !one.owner_before(other) && !other.owner_before(one); });
+        return std::equal(left.nodes_.begin(), left.nodes_.end(), right.nodes_.begin(), right.nodes_.end(),
+                          isSameReference<Node>);
     }
 
 private:

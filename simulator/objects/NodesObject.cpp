@@ -1,6 +1,7 @@
 #include "simulator/objects/NodesObject.h"
 
 #include "simulator/objects/SegmentArguments.h"
+#include "simulator/objects/ShapeNodeObject.h"
 
 #include <algorithm>
 
@@ -63,8 +64,8 @@ const automation::MemberTable& NodesObject::members() const {
 
 std::shared_ptr<ShapeNodeObject> NodesObject::item(std::int32_t index) const {
     const ShapePtr shape = node();
-    static_cast<void>(placeIn(shape->nodes.size(), index, u"ShapeNodes.Item"));
-    return std::make_shared<ShapeNodeObject>(session(), shape, index);
+    const std::size_t place = placeIn(shape->nodes.size(), index, u"ShapeNodes.Item");
+    return std::make_shared<ShapeNodeObject>(session(), shape, place);
 }
 
 void NodesObject::remove(std::int32_t index) {
@@ -119,28 +120,6 @@ template <typename Edit> void NodesObject::edit(std::int32_t index, std::u16stri
         edit(edited, placeIn(edited.size(), index, member));
         shape.setNodes(std::move(edited));
     });
-}
-
-const automation::MemberTable& ShapeNodeObject::members() const {
-    using automation::property;
-    using This = ShapeNodeObject;
-    static const automation::MemberTable table{
-        property<&This::points>(u"Points"),
-        property<&This::segmentType>(u"SegmentType"),
-    };
-    return table;
-}
-
-automation::Array ShapeNodeObject::points() const {
-    const ShapePtr shape = node();
-    const Node& at = shape->nodes[placeIn(shape->nodes.size(), index_, u"ShapeNode.Points")];
-    return {automation::Array{at.x, at.y}};
-}
-
-MsoSegmentType ShapeNodeObject::segmentType() const {
-    const ShapePtr shape = node();
-    const std::size_t place = placeIn(shape->nodes.size(), index_, u"ShapeNode.SegmentType");
-    return isControl(shape->nodes, place) || isControl(shape->nodes, place + 1) ? msoSegmentCurve : msoSegmentLine;
 }
 
 } // namespace simulator

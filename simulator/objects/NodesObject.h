@@ -15,6 +15,7 @@ public:
     [[nodiscard]] const automation::MemberTable& members() const override;
 
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->nodes.size()); }
+    /// By place from 1.
     [[nodiscard]] std::shared_ptr<ShapeNodeObject> item(std::int32_t index) const;
     /// Removes a corner with the segment that leads to it; a curve whose control point is removed becomes straight.
     /// Raises an invalid request where fewer than two corners would be left.
@@ -29,23 +30,6 @@ public:
 private:
     /// Gives `edit` a copy of the nodes and the place from 0 of one of them, and the shape what it makes of it.
     template <typename Edit> void edit(std::int32_t index, std::u16string_view member, const Edit& edit);
-};
-
-/// ShapeNode: one corner or control point of a freeform, by its place.
-class ShapeNodeObject final : public NodeSetObject<Shape> {
-public:
-    ShapeNodeObject(SessionPtr session, const ShapePtr& shape, std::int32_t index) noexcept
-        : NodeSetObject(std::move(session), shape), index_(index) {}
-
-    [[nodiscard]] const automation::MemberTable& members() const override;
-
-    /// An array of one point, which is an array of its two coordinates.
-    [[nodiscard]] automation::Array points() const;
-    /// Of the segment behind a corner, or of the one that a control point belongs to.
-    [[nodiscard]] MsoSegmentType segmentType() const;
-
-private:
-    std::int32_t index_;
 };
 
 } // namespace simulator

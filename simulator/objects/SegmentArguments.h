@@ -10,10 +10,10 @@ namespace simulator {
 /// A segment of a freeform as the members that draw one take it: a straight one or a smooth curve to a first point, or
 /// a curve with two control points and its end. Points on the slide.
 struct SegmentArguments {
-    MsoSegmentType type;
-    MsoEditingType editing;
-    float x1;
-    float y1;
+    MsoSegmentType type = msoSegmentLine;
+    MsoEditingType editing = msoEditingAuto;
+    float x1 = 0;
+    float y1 = 0;
     std::optional<float> x2;
     std::optional<float> y2;
     std::optional<float> x3;

@@ -20,81 +20,31 @@
 #include "simulator/objects/ThreeDFormatObject.h"
 #include "simulator/objects/TriState.h"
 
-#include <cmath>
-
 namespace simulator {
-
-namespace {
-
-constexpr std::int32_t lastAutoShape = 137;
-
-float Frame::*otherSide(float Frame::*side) noexcept {
-    return side == &Frame::width ? &Frame::height : &Frame::width;
-}
-
-float Frame::*edgeBefore(float Frame::*side) noexcept {
-    return side == &Frame::width ? &Frame::left : &Frame::top;
-}
-
-/// Gives a side of a shape a length; its top left corner stays.
-Frame resized(const Shape& shape, float Frame::*side, float points) noexcept {
-    Frame frame = shape.frame();
-    if (shape.lockAspectRatio && frame.*side != 0) {
-        frame.*otherSide(side) *= points / frame.*side;
-    }
-    frame.*side = points;
-    return frame;
-}
-
-/// Degrees from 0, and less than 360.
-float turned(float degrees) noexcept {
-    const float rest = std::fmod(degrees, 360.0F);
-    return rest < 0 ? rest + 360.0F : rest + 0.0F;
-}
-
-} // namespace
 
 const automation::MemberTable& ShapeMembers::sharedMembers() {
     using automation::method;
     using automation::property;
     using This = ShapeMembers;
-    constexpr auto left = &Frame::left;
-    constexpr auto top = &Frame::top;
-    constexpr auto width = &Frame::width;
-    constexpr auto height = &Frame::height;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = geometryMembers().with({
         property<&This::application>(u"Application"),
         property<&This::parent>(u"Parent"),
         method<&This::apply>(u"Apply"),
         method<&This::erase>(u"Delete"),
-        method<&This::flip>(u"Flip"),
-        method<&This::moveBy<left>>(u"IncrementLeft"),
-        method<&This::incrementRotation>(u"IncrementRotation"),
-        method<&This::moveBy<top>>(u"IncrementTop"),
         method<&This::pickUp>(u"PickUp"),
-        method<&This::scale<height>>(u"ScaleHeight"),
-        method<&This::scale<width>>(u"ScaleWidth"),
         method<&This::ungroup>(u"Ungroup"),
         method<&This::zOrder>(u"ZOrder"),
         property<&This::autoShapeType, &This::setAutoShapeType>(u"AutoShapeType"),
         property<&This::fill>(u"Fill"),
         property<&This::groupItems>(u"GroupItems"),
-        property<&This::length<height>, &This::resizeTo<height>>(u"Height"),
-        property<&This::horizontalFlip>(u"HorizontalFlip"),
-        property<&This::length<left>, &This::moveTo<left>>(u"Left"),
         property<&This::line>(u"Line"),
-        property<&This::lockAspectRatio, &This::setLockAspectRatio>(u"LockAspectRatio"),
         property<&This::name, &This::setName>(u"Name"),
         property<&This::shapeNodes>(u"Nodes"),
-        property<&This::rotation, &This::setRotation>(u"Rotation"),
         property<&This::shadow>(u"Shadow"),
         property<&This::textEffect>(u"TextEffect"),
         property<&This::threeD>(u"ThreeD"),
-        property<&This::length<top>, &This::moveTo<top>>(u"Top"),
         property<&This::type>(u"Type"),
-        property<&This::verticalFlip>(u"VerticalFlip"),
         property<&This::visible, &This::setVisible>(u"Visible"),
-        property<&This::length<width>, &This::resizeTo<width>>(u"Width"),
         property<&This::zOrderPosition>(u"ZOrderPosition"),
         property<&This::placeholderFormat>(u"PlaceholderFormat"),
         property<&This::tags>(u"Tags"),
@@ -108,7 +58,7 @@ const automation::MemberTable& ShapeMembers::sharedMembers() {
         property<&This::parentGroup>(u"ParentGroup"),
         property<&This::child>(u"Child"),
         property<&This::id>(u"Id"),
-    };
+    });
     return table;
 }
 
@@ -169,40 +119,6 @@ MsoTriState ShapeMembers::visible() const {
 
 void ShapeMembers::setVisible(MsoTriState visible) {
     nodes().change([visible](Shape& shape) { shape.visible = visible != msoFalse; });
-}
-
-float ShapeMembers::rotation() const {
-    return read(mixedLength, &Shape::rotation);
-}
-
-void ShapeMembers::setRotation(float degrees) {
-    nodes().change([degrees](Shape& shape) { shape.rotation = turned(degrees); });
-}
-
-MsoTriState ShapeMembers::lockAspectRatio() const {
-    return readState(&Shape::lockAspectRatio);
-}
-
-void ShapeMembers::setLockAspectRatio(MsoTriState locked) {
-    nodes().change([locked](Shape& shape) { shape.lockAspectRatio = locked != msoFalse; });
-}
-
-MsoTriState ShapeMembers::horizontalFlip() const {
-    return readState(&Shape::horizontalFlip);
-}
-
-MsoTriState ShapeMembers::verticalFlip() const {
-    return readState(&Shape::verticalFlip);
-}
-
-void ShapeMembers::incrementRotation(float degrees) {
-    nodes().change([degrees](Shape& shape) { shape.rotation = turned(shape.rotation + degrees); });
-}
-
-void ShapeMembers::flip(MsoFlipCmd command) {
-    errors::demandWithin(command, msoFlipHorizontal, msoFlipVertical, u"Shape.Flip");
-    bool Shape::*const flag = command == msoFlipHorizontal ? &Shape::horizontalFlip : &Shape::verticalFlip;
-    nodes().change([flag](Shape& shape) { shape.*flag = !(shape.*flag); });
 }
 
 void ShapeMembers::zOrder(MsoZOrderCmd command) {
@@ -330,7 +246,6 @@ void ShapeMembers::cut() {
 }
 
 void ShapeMembers::select(std::optional<MsoTriState> replace) const {
-    static_cast<void>(nodes().first());
     selectShapes(*session(), nodes().all(), replace.value_or(msoTrue) != msoFalse);
 }
 
@@ -362,56 +277,6 @@ SlidePtr ShapeMembers::slideOfOutermost(std::u16string_view member) const {
         }
     }
     return simulator::alive(nodes().first()->slide);
-}
-
-template <typename Value> Value ShapeMembers::read(Value mixed, Value Shape::*part) const {
-    return nodes().common(mixed, [part](const Shape& shape) { return shape.*part; });
-}
-
-MsoTriState ShapeMembers::readState(bool Shape::*part) const {
-    return nodes().common(msoTriStateMixed, [part](const Shape& shape) { return triState(shape.*part); });
-}
-
-float ShapeMembers::readLength(float Frame::*part) const {
-    return nodes().common(mixedLength, [part](const Shape& shape) { return shape.frame().*part; });
-}
-
-void ShapeMembers::writeEdge(float Frame::*edge, float points) {
-    nodes().change([edge, points](Shape& shape) {
-        Frame frame = shape.frame();
-        frame.*edge = points;
-        shape.setFrame(frame);
-    });
-}
-
-void ShapeMembers::writeSide(float Frame::*side, float points) {
-    if (points < 0) {
-        errors::invalidValue(u"Shape (membre inconnu)");
-    }
-    nodes().change([side, points](Shape& shape) { shape.setFrame(resized(shape, side, points)); });
-}
-
-void ShapeMembers::shiftEdge(float Frame::*edge, float points) {
-    nodes().change([edge, points](Shape& shape) {
-        Frame frame = shape.frame();
-        frame.*edge += points;
-        shape.setFrame(frame);
-    });
-}
-
-void ShapeMembers::scaleSide(float Frame::*side, float factor, MsoTriState relativeToOriginalSize,
-                             std::optional<MsoScaleFrom> from) {
-    const MsoScaleFrom fixed = from.value_or(msoScaleFromTopLeft);
-    errors::demandWithin(fixed, msoScaleFromTopLeft, msoScaleFromBottomRight, u"Shape (membre inconnu)");
-    if (relativeToOriginalSize != msoFalse || factor < 0) {
-        errors::invalidValue(u"Shape (membre inconnu)");
-    }
-    nodes().change([side, factor, fixed](Shape& shape) {
-        const float before = shape.frame().*side;
-        Frame frame = resized(shape, side, before * factor);
-        frame.*edgeBefore(side) -= (frame.*side - before) * static_cast<float>(fixed) / 2;
-        shape.setFrame(frame);
-    });
 }
 
 } // namespace simulator

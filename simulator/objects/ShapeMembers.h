@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/objects/NodeSet.h"
+#include "simulator/objects/ShapeGeometry.h"
 
 namespace simulator {
 
@@ -22,9 +22,9 @@ class ThreeDFormatObject;
 /// The members that Shape and ShapeRange have in common. A property of several shapes reads as their common value, or
 /// as mixed; writing it writes all. Lengths are points, kept to an eighth of a point. Every member raises
 /// `errors::gone` once a shape has been deleted.
-class ShapeMembers : public NodeSetObject<Shape> {
+class ShapeMembers : public ShapeGeometry {
 public:
-    using NodeSetObject::NodeSetObject;
+    using ShapeGeometry::ShapeGeometry;
 
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     /// The slide.
@@ -43,27 +43,6 @@ public:
     void setAlternativeText(const std::u16string& text);
     [[nodiscard]] MsoTriState visible() const;
     void setVisible(MsoTriState visible);
-
-    template <float Frame::*part> [[nodiscard]] float length() const { return readLength(part); }
-    template <float Frame::*edge> void moveTo(float points) { writeEdge(edge, points); }
-    /// Raises an invalid request for a negative size. The other side follows where the aspect ratio is locked.
-    template <float Frame::*side> void resizeTo(float points) { writeSide(side, points); }
-    /// Degrees, 0 to 360.
-    [[nodiscard]] float rotation() const;
-    void setRotation(float degrees);
-    [[nodiscard]] MsoTriState lockAspectRatio() const;
-    void setLockAspectRatio(MsoTriState locked);
-    [[nodiscard]] MsoTriState horizontalFlip() const;
-    [[nodiscard]] MsoTriState verticalFlip() const;
-
-    template <float Frame::*edge> void moveBy(float points) { shiftEdge(edge, points); }
-    void incrementRotation(float degrees);
-    /// Relative to the present size; to the original one is an invalid request, since it is not known.
-    template <float Frame::*side>
-    void scale(float factor, MsoTriState relativeToOriginalSize, std::optional<MsoScaleFrom> from) {
-        scaleSide(side, factor, relativeToOriginalSize, from);
-    }
-    void flip(MsoFlipCmd command);
 
     /// Raises an invalid request for an item of a group.
     void zOrder(MsoZOrderCmd command);
@@ -103,16 +82,6 @@ protected:
     [[nodiscard]] std::shared_ptr<ShapeRangeObject> rangeOf(const std::vector<ShapePtr>& shapes) const;
     /// The slide of the shapes, which must stand directly on it: an invalid request is raised for items of groups.
     [[nodiscard]] SlidePtr slideOfOutermost(std::u16string_view member) const;
-
-private:
-    template <typename Value> [[nodiscard]] Value read(Value mixed, Value Shape::*part) const;
-    [[nodiscard]] MsoTriState readState(bool Shape::*part) const;
-    [[nodiscard]] float readLength(float Frame::*part) const;
-    void writeEdge(float Frame::*edge, float points);
-    void writeSide(float Frame::*side, float points);
-    void shiftEdge(float Frame::*edge, float points);
-    void scaleSide(float Frame::*side, float factor, MsoTriState relativeToOriginalSize,
-                   std::optional<MsoScaleFrom> from);
 };
 
 } // namespace simulator

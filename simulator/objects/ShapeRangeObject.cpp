@@ -13,14 +13,14 @@ const automation::MemberTable& ShapeRangeObject::members() const {
     using automation::method;
     using automation::property;
     using This = ShapeRangeObject;
-    static const automation::MemberTable table(sharedMembers(), {
-                                                                    method<&This::item>(u"Item").asDefault(),
-                                                                    property<&This::count>(u"Count"),
-                                                                    method<&This::group>(u"Group"),
-                                                                    method<&This::regroup>(u"Regroup"),
-                                                                    method<&This::align>(u"Align"),
-                                                                    method<&This::distribute>(u"Distribute"),
-                                                                });
+    static const automation::MemberTable table = sharedMembers().with({
+        method<&This::item>(u"Item").asDefault(),
+        property<&This::count>(u"Count"),
+        method<&This::group>(u"Group"),
+        method<&This::regroup>(u"Regroup"),
+        method<&This::align>(u"Align"),
+        method<&This::distribute>(u"Distribute"),
+    });
     return table;
 }
 

@@ -16,6 +16,9 @@ DocumentWindowPtr windowFor(const Session& session, const Presentation& presenta
 } // namespace
 
 void selectShapes(const Session& session, const std::vector<ShapePtr>& shapes, bool replace) {
+    if (shapes.empty()) {
+        errors::invalidRequest(u"Shape (membre inconnu)", u"Il n'y a rien à sélectionner.");
+    }
     const SlidePtr slide = alive(shapes.front()->slide);
     const DocumentWindowPtr window = windowFor(session, *alive(slide->presentation));
     const bool takesShapes =

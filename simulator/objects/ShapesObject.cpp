@@ -12,13 +12,10 @@
 #include "simulator/objects/SlideObject.h"
 #include "simulator/objects/TriState.h"
 
-#include <algorithm>
-
 namespace simulator {
 
 namespace {
 
-constexpr std::int32_t lastAutoShape = 137;
 constexpr std::int32_t lastTextEffect = 29;
 
 /// Sides of a picture whose size is left out, in points.
@@ -95,24 +92,8 @@ std::shared_ptr<ShapeObject> ShapesObject::item(const automation::Value& index) 
     return objectOf(elementAt(node()->shapes(), index, u"Shapes.Item"));
 }
 
-std::shared_ptr<ShapeRangeObject> ShapesObject::range(std::optional<automation::Value> index) const {
-    const SlidePtr slide = node();
-    std::vector<ShapePtr> shapes;
-    const auto add = [&](const automation::Value& one) {
-        const ShapePtr& shape = elementAt(slide->shapes(), one, u"Shapes.Range");
-        if (std::find(shapes.begin(), shapes.end(), shape) == shapes.end()) {
-            shapes.push_back(shape);
-        }
-    };
-    if (!index) {
-        shapes = slide->shapes();
-    } else if (!index->is<automation::Array>()) {
-        add(*index);
-    } else {
-        const auto& elements = index->as<automation::Array>();
-        std::for_each(elements.begin(), elements.end(), add);
-    }
-    return std::make_shared<ShapeRangeObject>(session(), shapes);
+std::shared_ptr<ShapeRangeObject> ShapesObject::range(const std::optional<automation::Value>& index) const {
+    return std::make_shared<ShapeRangeObject>(session(), elementsAt(node()->shapes(), index, u"Shapes.Range"));
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::addShape(std::int32_t type, float left, float top, float width,
@@ -205,9 +186,7 @@ std::shared_ptr<FreeformBuilderObject> ShapesObject::buildFreeform(MsoEditingTyp
 }
 
 void ShapesObject::selectAll() const {
-    if (const SlidePtr slide = node(); !slide->shapes().empty()) {
-        selectShapes(*session(), slide->shapes(), true);
-    }
+    selectShapes(*session(), node()->shapes(), true);
 }
 
 MsoTriState ShapesObject::hasTitle() const {

@@ -25,7 +25,7 @@ public:
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<ShapeObject> item(const automation::Value& index) const;
     /// The shape that an index or a name stands for, those of an array of them, or all shapes.
-    [[nodiscard]] std::shared_ptr<ShapeRangeObject> range(std::optional<automation::Value> index) const;
+    [[nodiscard]] std::shared_ptr<ShapeRangeObject> range(const std::optional<automation::Value>& index) const;
 
     /// An AutoShape of a type from 1 (msoShapeRectangle) to 137.
     std::shared_ptr<ShapeObject> addShape(std::int32_t type, float left, float top, float width, float height);

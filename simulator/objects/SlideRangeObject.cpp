@@ -8,10 +8,10 @@ const automation::MemberTable& SlideRangeObject::members() const {
     using automation::method;
     using automation::property;
     using This = SlideRangeObject;
-    static const automation::MemberTable table(sharedMembers(), {
-                                                                    method<&This::item>(u"Item").asDefault(),
-                                                                    property<&This::count>(u"Count"),
-                                                                });
+    static const automation::MemberTable table = sharedMembers().with({
+        method<&This::item>(u"Item").asDefault(),
+        property<&This::count>(u"Count"),
+    });
     return table;
 }
 

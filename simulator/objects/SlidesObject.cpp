@@ -22,6 +22,7 @@ const automation::MemberTable& SlidesObject::members() const {
         method<&This::findBySlideId>(u"FindBySlideID"),
         method<&This::add>(u"Add"),
         method<&This::insertFromFile>(u"InsertFromFile"),
+        method<&This::range>(u"Range"),
         method<&This::paste>(u"Paste"),
     };
     return table;
@@ -37,6 +38,10 @@ std::shared_ptr<PresentationObject> SlidesObject::parent() const {
 
 std::shared_ptr<SlideObject> SlidesObject::item(const automation::Value& index) const {
     return std::make_shared<SlideObject>(session(), elementAt(node()->slides(), index, u"Slides.Item"));
+}
+
+std::shared_ptr<SlideRangeObject> SlidesObject::range(const std::optional<automation::Value>& index) const {
+    return std::make_shared<SlideRangeObject>(session(), elementsAt(node()->slides(), index, u"Slides.Range"));
 }
 
 std::shared_ptr<SlideObject> SlidesObject::findBySlideId(std::int32_t slideId) const {

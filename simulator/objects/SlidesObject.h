@@ -21,6 +21,8 @@ public:
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->slides().size()); }
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<SlideObject> item(const automation::Value& index) const;
+    /// The slide that an index or a name stands for, those of an array of them, or all slides.
+    [[nodiscard]] std::shared_ptr<SlideRangeObject> range(const std::optional<automation::Value>& index) const;
     /// Raises an invalid request where no slide has this id.
     [[nodiscard]] std::shared_ptr<SlideObject> findBySlideId(std::int32_t slideId) const;
     /// Adds a slide with the placeholders of its layout at a place from 1 to one behind the last; raises out of range,

@@ -32,6 +32,9 @@ public:
         return use(story, story.clipped(span));
     }
 
+    /// Goes on looking at the part's characters while the text changes.
+    [[nodiscard]] std::shared_ptr<TextAnchor> anchored() const { return storyOf(*shape()).anchor(span); }
+
     /// The value that a property has in all characters; nothing where they differ.
     template <typename Value> [[nodiscard]] std::optional<Value> common(Value CharacterFormat::*property) const {
         return read([property](const TextStory& story, Span within) {

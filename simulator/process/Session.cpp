@@ -64,7 +64,7 @@ PresentationPtr Session::create(bool withWindow) {
     if (withWindow) {
         demandFrame();
     }
-    const auto presentation = std::make_shared<Presentation>();
+    auto presentation = std::make_shared<Presentation>();
     presentation->name = nextName();
     presentations_.push_back(presentation);
     if (withWindow) {

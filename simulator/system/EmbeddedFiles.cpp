@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <fstream>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace simulator {
@@ -49,7 +50,7 @@ std::vector<std::u16string> partsOf(std::u16string_view path) {
 
 /// The entry of a folder that has a name, case ignored; the name as it stands where there is none.
 fs::path entry(const fs::path& folder, std::u16string_view name) {
-    const fs::path exact = folder / fs::path(std::u16string(name));
+    fs::path exact = folder / fs::path(std::u16string(name));
     std::error_code failed;
     if (fs::exists(exact, failed)) {
         return exact;
@@ -74,7 +75,7 @@ bool isFolder(const fs::path& path) {
 
 } // namespace
 
-EmbeddedFiles::EmbeddedFiles(const fs::path& root) : root_(root) {
+EmbeddedFiles::EmbeddedFiles(fs::path root) : root_(std::move(root)) {
     fs::create_directories(root_ / "C");
 }
 
@@ -103,7 +104,7 @@ std::uint32_t EmbeddedFiles::attributesOf(const fs::path& file) const {
     return found == attributes_.end() ? 0 : found->second;
 }
 
-void EmbeddedFiles::create(std::u16string_view path) {
+void EmbeddedFiles::create(std::u16string_view path) const {
     const fs::path file = realPath(path);
     fs::create_directories(file.parent_path());
     if (!std::ofstream(file)) {

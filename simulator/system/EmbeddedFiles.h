@@ -21,7 +21,7 @@ public:
     using IsOpen = std::function<bool(const std::filesystem::path&)>;
 
     /// Creates the root and drive C where they are missing.
-    explicit EmbeddedFiles(const std::filesystem::path& root);
+    explicit EmbeddedFiles(std::filesystem::path root);
 
     /// Where a Windows path lies on the real disk; never outside the root.
     [[nodiscard]] std::filesystem::path realPath(std::u16string_view path) const;
@@ -30,7 +30,7 @@ public:
     /// 0 for a normal file, and for one that does not exist.
     [[nodiscard]] std::uint32_t attributes(std::u16string_view path) const;
     /// Creates an empty file and the folders that it needs.
-    void create(std::u16string_view path);
+    void create(std::u16string_view path) const;
     void setIsOpen(IsOpen isOpen) { isOpen_ = std::move(isOpen); }
 
     void clearAttributes(std::u16string_view path) override;

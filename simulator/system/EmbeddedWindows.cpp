@@ -10,6 +10,14 @@ namespace simulator {
 
 using platform::WindowHandle;
 
+namespace {
+
+auto isHandle(WindowHandle window) {
+    return [window](const auto& each) { return each.handle == window; };
+}
+
+} // namespace
+
 WindowHandle EmbeddedWindows::create(WindowTraits traits) {
     last_ += 2;
     windows_.insert(windows_.begin(), Window{.handle = last_, .traits = std::move(traits)});
@@ -20,7 +28,7 @@ void EmbeddedWindows::destroy(WindowHandle window) {
     while (const WindowHandle owned = ownedBy(window)) {
         destroy(owned);
     }
-    std::erase_if(windows_, [window](const Window& each) { return each.handle == window; });
+    std::erase_if(windows_, isHandle(window));
 }
 
 void EmbeddedWindows::setTitle(WindowHandle window, std::u16string_view title) {
@@ -130,13 +138,13 @@ void EmbeddedWindows::send(WindowHandle window, std::uint32_t message) {
 }
 
 const EmbeddedWindows::Window* EmbeddedWindows::find(WindowHandle window) const {
-    const auto found =
-        std::find_if(windows_.begin(), windows_.end(), [&](const Window& each) { return each.handle == window; });
+    const auto found = std::find_if(windows_.begin(), windows_.end(), isHandle(window));
     return found == windows_.end() ? nullptr : &*found;
 }
 
 EmbeddedWindows::Window* EmbeddedWindows::find(WindowHandle window) {
-    return const_cast<Window*>(std::as_const(*this).find(window));
+    const auto found = std::find_if(windows_.begin(), windows_.end(), isHandle(window));
+    return found == windows_.end() ? nullptr : &*found;
 }
 
 WindowHandle EmbeddedWindows::root(WindowHandle window) const {

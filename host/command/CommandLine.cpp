@@ -1,0 +1,88 @@
+#include "host/command/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+
+namespace host {
+
+namespace {
+
+constexpr const char* purpose = "Runs the exercises of a PowerPoint course: stages a question, makes a learner's moves "
+                                "and asks the module for its verdict.";
+
+constexpr const char* examples = R"(Examples:
+  exercise-host run                      the whole road of question 306
+  exercise-host run 307 --json           the same of 307, as one JSON object
+  exercise-host run 306 --scenario "one occurrence forgotten" --trace
+  exercise-host verify                   all scenarios of all questions
+  exercise-host verify 306 307
+  exercise-host verify --file mine.scn   a scenario file of your own
+  exercise-host list                     the questions and their scenarios
+
+Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file.)";
+
+/// The command line with all that it can ask for.
+struct CommandLine {
+    explicit CommandLine(const std::filesystem::path& scenarios, const std::string& version)
+        : folder(scenarios.string()) {
+        app.footer(examples);
+        app.set_version_flag("--version", version);
+        app.require_subcommand(1);
+        app.add_option("--scenarios", folder, "Folder of the scenario files")->capture_default_str();
+
+        run.add_option("question", runRequest.question, "Number of the question")->capture_default_str();
+        run.add_option("--scenario", runRequest.scenario, "Title of the scenario (the first that ends in a success)");
+        run.add_flag("--json", runRequest.asJson, "Print one JSON object");
+        run.add_flag("--trace", runRequest.withTrace, "List every call that leaves the module, its time and outcome");
+
+        verify.add_option("questions", verifyRequest.questions, "Numbers of questions (all)");
+        verify.add_option("--file", verifyRequest.files, "A scenario file");
+
+        list.add_option("questions", listed, "Numbers of questions (all)");
+
+        for (CLI::App* const command : {&run, &verify, &list}) {
+            command->fallthrough();
+        }
+    }
+
+    CLI::App app{purpose, "exercise-host"};
+    std::string folder;
+    RunRequest runRequest;
+    VerifyRequest verifyRequest;
+    std::vector<std::int32_t> listed;
+    CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
+    CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
+    CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
+};
+
+ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output output) {
+    const Library library(asked.folder);
+    try {
+        if (asked.run) {
+            return run(asked.runRequest, library, makeWorld, output.out);
+        }
+        return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out)
+                            : list(asked.listed, library, output.out);
+    } catch (const language::WrongLines& wrong) {
+        for (const language::Remark& remark : wrong.remarks) {
+            output.error << remark.in(wrong.file) << '\n';
+        }
+    } catch (const UsageError& error) {
+        output.error << "exercise-host: " << error.what() << '\n';
+    }
+    return ExitCode::WrongUsage;
+}
+
+} // namespace
+
+ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
+                        const std::string& version, const WorldMaker& makeWorld, Output output) {
+    CommandLine line(scenarios, version);
+    try {
+        line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::ParseError& error) {
+        return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
+    }
+    return perform(line, makeWorld, output);
+}
+
+} // namespace host

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/command/Commands.h"
+
+namespace host {
+
+/// Where a program writes.
+struct Output {
+    std::ostream& out;
+    std::ostream& error;
+};
+
+/// Does what the arguments of a command line say (the program's name left out). `scenarios` is the folder of the
+/// scenario files where the command line names no other.
+[[nodiscard]] ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
+                                      const std::string& version, const WorldMaker& makeWorld, Output output);
+
+} // namespace host
