@@ -37,6 +37,8 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     int view = 0;
     app.add_option("--View", view, "Register for programs of 32 or 64 bits")->check(CLI::IsMember({32, 64}));
     app.add_flag("--Embedding", options.isEmbedding, "Started by an automation client: stay invisible");
+    std::string standby;
+    app.add_option("--Standby", standby, "Wait unseen until a client creates PowerPoint; this event tells when it can");
     app.add_flag("--Hidden", options.isHidden, "Start invisible");
     app.add_flag("--Minimised", options.isMinimised, "Start minimised");
     app.add_option("--Slow", options.slowness, "Milliseconds that every call takes")->check(CLI::NonNegativeNumber);
@@ -53,6 +55,7 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
         return {std::nullopt, text.str(), code == 0 ? 0 : wrongUsage};
     }
     options.task = registers ? Options::Task::Register : unregisters ? Options::Task::Unregister : Options::Task::Run;
+    options.standbyEvent.assign(standby.begin(), standby.end());
     options.view = view == 32 ? View::Bits32 : view == 64 ? View::Bits64 : View::Own;
     return {options, {}, 0};
 }

@@ -1,6 +1,6 @@
 #include "automation/Error.h"
 #include "simulator/win32/Registration.h"
-#include "simulator/win32/StandIn.h"
+#include "simulator/win32/Server.h"
 
 #include <objbase.h>
 
@@ -16,7 +16,7 @@ void perform(const Options& options) {
     case Options::Task::Unregister: return simulator::standin::unregisterServer(options.view);
     case Options::Task::Run: break;
     }
-    simulator::standin::StandIn().run(options);
+    simulator::standin::Server(options).run();
 }
 
 /// A program with windows has no console of its own: it writes to the one that it was started from.
