@@ -73,8 +73,9 @@ protected:
     [[nodiscard]] IUnknown* identity() noexcept { return static_cast<First*>(this); }
     [[nodiscard]] ReferenceCount& count() noexcept { return count_; }
 
-private:
-    [[nodiscard]] void* find(REFIID wanted) noexcept {
+    /// The interface of that identity, without a reference; null where there is none. A class adds those that its own
+    /// are derived from.
+    [[nodiscard]] virtual void* find(REFIID wanted) noexcept {
         if (IsEqualIID(wanted, __uuidof(IUnknown))) {
             return identity();
         }
@@ -83,6 +84,7 @@ private:
         return found;
     }
 
+private:
     ReferenceCount count_;
     CountedAlive alive_;
 };

@@ -5,6 +5,7 @@
 #include "automation/com/ObjectDispatch.h"
 #include "automation/observe/Observer.h"
 
+#include <atomic>
 #include <mutex>
 #include <unordered_map>
 
@@ -37,6 +38,16 @@ ComPtr<IDispatch> ownDispatch(const Object* object) {
     const std::lock_guard lock(all.mutex);
     const auto found = all.byObject.find(object);
     return found == all.byObject.end() ? nullptr : found->second->dispatch();
+}
+
+std::atomic<DispatchMaker> maker = nullptr;
+
+ComPtr<IDispatch> madeFor(const std::shared_ptr<Published>& object) {
+    const DispatchMaker make = maker;
+    if (ComPtr<IDispatch> made = make != nullptr ? make(object) : nullptr) {
+        return made;
+    }
+    return ComPtr<IDispatch>(makeCom<ObjectDispatch>(object).get());
 }
 
 ObjectPtr serverOf(IDispatch* dispatch, ComPtr<IUnknown> identity) {
@@ -79,10 +90,14 @@ ComPtr<IDispatch> dispatchOf(const ObjectPtr& object) {
     if (ComPtr<IDispatch> standing = ownDispatch(inner.get())) {
         return standing;
     }
-    if (auto published = std::dynamic_pointer_cast<Published>(inner)) {
-        return ComPtr<IDispatch>(makeCom<ObjectDispatch>(std::move(published)).get());
+    if (const auto published = std::dynamic_pointer_cast<Published>(inner)) {
+        return madeFor(published);
     }
     raise(RunTimeError::TypeMismatch);
+}
+
+void makeDispatchBy(DispatchMaker newMaker) noexcept {
+    maker = newMaker;
 }
 
 Standing::Standing(ObjectPtr object, IDispatch* dispatch, IUnknown* identity, ReferenceCount& count)

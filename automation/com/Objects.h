@@ -1,6 +1,6 @@
 #pragma once
 
-#include "automation/Object.h"
+#include "automation/MemberTable.h"
 #include "automation/com/ComObject.h"
 #include "automation/com/MemberIds.h"
 
@@ -11,9 +11,14 @@ namespace automation::com {
 /// which is the same object as long as one is held on it. Null is nothing.
 [[nodiscard]] ObjectPtr objectOf(IDispatch* dispatch, const MemberIdsPtr& ids = nullptr);
 
-/// An object as COM is given it: one that came from COM as it came, a published one behind an ObjectDispatch, the same
-/// one as long as it is held. Nothing is null. Raises TypeMismatch (13) for any other object.
+/// An object as COM is given it: one that came from COM as it came, a published one behind what the maker makes for it,
+/// the same one as long as it is held. Nothing is null. Raises TypeMismatch (13) for any other object.
 [[nodiscard]] ComPtr<IDispatch> dispatchOf(const ObjectPtr& object);
+
+/// Makes the COM object that stands for a published one. Without a maker, or where it gives null, it is an
+/// ObjectDispatch.
+using DispatchMaker = ComPtr<IDispatch> (*)(const std::shared_ptr<Published>& object);
+void makeDispatchBy(DispatchMaker maker) noexcept;
 
 /// For the lifetime of a COM object, makes known that it stands for an object of this library, so that the one is found
 /// again from the other.

@@ -5,3 +5,6 @@
 
 #include <objbase.h>
 #include <oleauto.h>
+
+// A macro by the name of a property of PowerPoint's colours.
+#undef RGB

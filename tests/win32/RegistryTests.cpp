@@ -75,7 +75,7 @@ TEST_F(RegistryTest, StoresTextsInTheSizeAskedFor) {
     }
     EXPECT_TRUE(key.set(u"Empty", u"", 0));
     EXPECT_EQ(stored(L"Empty").size, 0U);
-    EXPECT_EQ(key.query(u"Missing"), u"");
+    EXPECT_EQ(key.query(u"Missing"), std::nullopt);
 }
 
 TEST_F(RegistryTest, SaysWhatALongerValueNeeds) {
@@ -107,7 +107,7 @@ TEST_F(RegistryTest, ReadsTextsOnly) {
     store(L"Odd", REG_SZ, L"ab", 3);
     store(L"Expandable", REG_EXPAND_SZ, L"%APPDATA%", 20);
     const OpenKey key(registry_, path, Registry::read);
-    EXPECT_EQ(key.query(u"Number"), u"");
+    EXPECT_EQ(key.query(u"Number"), std::nullopt);
     EXPECT_EQ(key.query(u"Odd"), u"a") << "half a character is none";
     EXPECT_EQ(key.query(u"Expandable"), std::u16string(u"%APPDATA%\0", 10));
     std::size_t length = 100;
@@ -147,7 +147,7 @@ TEST_F(RegistryTest, OpensWithTheAccessAskedFor) {
     EXPECT_FALSE(readOnly.set(u"Value", u"x", 1));
     const OpenKey writeOnly(registry_, path, KEY_SET_VALUE);
     EXPECT_TRUE(writeOnly.set(u"Value", u"x", 1));
-    EXPECT_EQ(writeOnly.query(u"Value"), u"");
+    EXPECT_EQ(writeOnly.query(u"Value"), std::nullopt);
     Registry::Key again{};
     EXPECT_EQ(registry_.create(path, again), Registry::success) << "a key that is there is opened";
     EXPECT_EQ(OpenKey(registry_, path, Registry::read).query(u"Value"), u"x");
