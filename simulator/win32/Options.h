@@ -17,9 +17,8 @@ struct Options {
 
     Task task = Task::Run;
     View view = View::Own;
-    bool isEmbedding = false; ///< started by the system for an automation client
-    std::wstring
-        standbyEvent; ///< set once clients can create PowerPoint, which does not run until then; empty for none
+    bool isEmbedding = false;  ///< started by the system for an automation client
+    std::wstring standbyEvent; ///< set while clients can create PowerPoint, which does not run until then
     bool isHidden = false;
     bool isMinimised = false;
     std::int32_t slowness = 0; ///< milliseconds

@@ -25,9 +25,10 @@ bool showRunning() {
     return true;
 }
 
-void announce(const std::wstring& eventName) {
+/// Sets or resets the event of whoever has it wait; there may be none.
+void tell(const std::wstring& eventName, bool isWaiting) {
     if (const HANDLE event = OpenEventW(EVENT_MODIFY_STATE, FALSE, eventName.c_str())) {
-        SetEvent(event);
+        static_cast<void>(isWaiting ? SetEvent(event) : ResetEvent(event));
         CloseHandle(event);
     }
 }
@@ -66,12 +67,13 @@ void Server::run() {
     const auto factory = automation::com::makeCom<Factory>(*this);
     automation::com::check(
         CoRegisterClassObject(applicationClass, factory.get(), CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &classEntry_));
-    announce(options_.standbyEvent);
+    tell(options_.standbyEvent, true);
     pump();
 }
 
 PowerPointRun& Server::powerPoint() {
     if (!powerPoint_) {
+        tell(options_.standbyEvent, false);
         powerPoint_.emplace(options_, [this] { end(); });
     }
     return *powerPoint_;
