@@ -22,7 +22,7 @@ Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a 
 
 /// The command line with all that it can ask for.
 struct CommandLine {
-    explicit CommandLine(const std::filesystem::path& scenarios, const std::string& version)
+    CommandLine(const std::filesystem::path& scenarios, const std::string& version, bool hasCom)
         : folder(scenarios.string()) {
         app.footer(examples);
         app.set_version_flag("--version", version);
@@ -39,6 +39,13 @@ struct CommandLine {
 
         list.add_option("questions", listed, "Numbers of questions (all)");
 
+        if (hasCom) {
+            for (CLI::App* const command : {&run, &verify}) {
+                command->add_flag(
+                    "--com", withCom,
+                    "Drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
+            }
+        }
         for (CLI::App* const command : {&run, &verify, &list}) {
             command->fallthrough();
         }
@@ -49,6 +56,7 @@ struct CommandLine {
     RunRequest runRequest;
     VerifyRequest verifyRequest;
     std::vector<std::int32_t> listed;
+    bool withCom = false;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
     CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
@@ -75,14 +83,15 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output o
 } // namespace
 
 ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
-                        const std::string& version, const WorldMaker& makeWorld, Output output) {
-    CommandLine line(scenarios, version);
+                        const std::string& version, const WorldMaker& makeWorld, Output output,
+                        const std::function<WorldMaker()>& makeComWorlds) {
+    CommandLine line(scenarios, version, makeComWorlds != nullptr);
     try {
         line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    return perform(line, makeWorld, output);
+    return perform(line, line.withCom ? makeComWorlds() : makeWorld, output);
 }
 
 } // namespace host
