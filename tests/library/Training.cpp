@@ -1,5 +1,6 @@
 #include "tests/library/Training.h"
 
+#include "automation/Text.h"
 #include "automation/com/Objects.h"
 #include "automation/com/WideText.h"
 #include "platform/win32/Win32Servers.h"
