@@ -39,11 +39,9 @@ void appendClass(std::vector<Entry>& entries, const table::Class& row, const std
 
 void appendTypeLibrary(std::vector<Entry>& entries, const std::wstring& libraryPath) {
     const std::wstring key = L"TypeLib\\" + wide(table::typeLibrary) + L'\\' + wide(table::version);
-    const std::wstring folder = libraryPath.substr(0, libraryPath.find_last_of(L'\\'));
     entries.insert(entries.end(), {
                                       {key, L"", wide(table::typeLibraryName), true},
                                       {key + L"\\FLAGS", L"", L"0", true},
-                                      {key + L"\\HELPDIR", L"", folder, true},
                                       {key + L"\\0\\" + std::wstring(platformName), L"", libraryPath},
                                   });
 }
