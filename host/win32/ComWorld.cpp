@@ -94,6 +94,7 @@ public:
     void startPowerPoint() override { powerPoint_.start(); }
     void closePowerPoint() override { powerPoint_.close(); }
     void killPowerPoint() override { powerPoint_.kill(); }
+    void killPowerPointAtCall(std::int32_t n) override { powerPoint_.standIn().call(u"DieAtCall", n); }
     void hidePowerPoint() override { powerPoint_.hide(); }
     void minimizePowerPoint() override { powerPoint_.minimize(); }
     void setBusy(bool busy) override { powerPoint_.standIn().put(u"Busy", busy); }
