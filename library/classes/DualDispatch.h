@@ -44,7 +44,7 @@ private:
     Object& object_;
 };
 
-/// Runs an operation of an interface that gives nothing.
+/// Runs an operation of an interface.
 template <typename Operation> [[nodiscard]] HRESULT run(Operation&& operation) noexcept {
     return automation::com::guarded([&] {
         std::forward<Operation>(operation)();
@@ -66,14 +66,22 @@ template <typename Interface> void store(Interface*& place, const automation::Ob
     place = automation::com::dispatchOf(object).template as<Interface>().release();
 }
 
+/// What a pointer of the caller's refers to; raises E_POINTER for null.
+template <typename T> [[nodiscard]] T& required(T* place) {
+    if (place == nullptr) {
+        automation::com::check(E_POINTER);
+    }
+    return *place;
+}
+
 /// Runs an operation of an interface and stores what it gives; nothing, where it fails.
 template <typename Result, typename Operation>
 [[nodiscard]] HRESULT give(Result* result, Operation&& operation) noexcept {
-    if (result == nullptr) {
-        return E_POINTER;
-    }
-    *result = Result();
-    return run([&] { store(*result, std::forward<Operation>(operation)()); });
+    return run([&] {
+        Result& place = required(result);
+        place = Result();
+        store(place, std::forward<Operation>(operation)());
+    });
 }
 
 } // namespace library

@@ -13,11 +13,11 @@ using automation::com::Bstr;
 /// there goes back to the host however it ends.
 class HostReferences {
 public:
-    HostReferences(IDispatch** hostsApplication, LONG* hostsWindow)
+    HostReferences(IDispatch*& hostsApplication, LONG& hostsWindow)
         : hostsApplication_(hostsApplication), hostsWindow_(hostsWindow),
-          given_(automation::com::objectOf(*hostsApplication)), application_(given_), window_(*hostsWindow) {}
+          given_(automation::com::objectOf(hostsApplication)), application_(given_), window_(hostsWindow) {}
     ~HostReferences() {
-        *hostsWindow_ = window_;
+        hostsWindow_ = window_;
         if (!automation::isSame(application_, given_)) {
             giveBackApplication();
         }
@@ -35,7 +35,7 @@ private:
         VARIANT place;
         VariantInit(&place);
         place.vt = VT_BYREF | VT_DISPATCH;
-        place.ppdispVal = hostsApplication_;
+        place.ppdispVal = &hostsApplication_;
         try {
             automation::com::assign(place, application_);
         } catch (...) {
@@ -43,8 +43,8 @@ private:
         }
     }
 
-    IDispatch** hostsApplication_;
-    LONG* hostsWindow_;
+    IDispatch*& hostsApplication_;
+    LONG& hostsWindow_;
     ObjectPtr given_;
     ObjectPtr application_;
     std::int32_t window_;
@@ -54,11 +54,8 @@ private:
 
 HRESULT ModuleDispatch::InitQuestion(LONG number, BSTR folder, IDispatch** application, LONG* window,
                                      BSTR unused) noexcept {
-    if (application == nullptr || window == nullptr) {
-        return E_POINTER;
-    }
     return run([&] {
-        HostReferences host(application, window);
+        HostReferences host(required(application), required(window));
         object().InitQuestion(number, Bstr::textOf(folder), host.application(), host.window(), Bstr::textOf(unused));
     });
 }
@@ -88,11 +85,8 @@ HRESULT ModuleDispatch::Fermer() noexcept {
 }
 
 HRESULT ModuleDispatch::Quitter(IDispatch** application, LONG* window) noexcept {
-    if (application == nullptr || window == nullptr) {
-        return E_POINTER;
-    }
     return run([&] {
-        HostReferences host(application, window);
+        HostReferences host(required(application), required(window));
         object().Quitter(host.application(), host.window());
     });
 }

@@ -11,6 +11,7 @@
 
 namespace {
 
+using automation::LateBound;
 using automation::Value;
 using automation::com::Bstr;
 using automation::com::ComPtr;
@@ -81,7 +82,7 @@ TEST_F(ClassTest, ReadsThroughTheHostsInterfaceWhatQuestionsAdd) {
     ASSERT_TRUE(hosts);
     EXPECT_EQ(own->ComplementInfo_add(Bstr(u"Élève").get(), 0), S_OK);
     EXPECT_EQ(hosts->add(nullptr, 7), S_OK);
-    const automation::LateBound late(automation::com::objectOf(hosts.get()));
+    const LateBound late(automation::com::objectOf(hosts.get()));
     late.call(u"ComplementInfo_add", u"trois", 0);
 
     LONG count = 0;
@@ -113,8 +114,8 @@ TEST_F(ClassTest, GivesCopiesOfWorkingFiles) {
     EXPECT_EQ(source.text(), u"07305301.ppt");
     EXPECT_EQ(destination.text(), u"Méthodologie.ppt");
     EXPECT_EQ(isModel, VARIANT_TRUE);
-    const automation::LateBound late(automation::com::objectOf(files.get()));
-    const automation::LateBound record(late.call(u"Item", 1).to<automation::ObjectPtr>());
+    const LateBound late(automation::com::objectOf(files.get()));
+    const LateBound record(late.call(u"Item", 1).to<automation::ObjectPtr>());
     EXPECT_EQ(record.get(u"NomDest"), Value(u"Méthodologie.ppt"));
     EXPECT_EQ(record.get(u"Modele"), Value(true));
 }
@@ -157,8 +158,44 @@ TEST_F(ClassTest, AnswersWithoutAQuestion) {
     LONG window = 0;
     IDispatch* application = nullptr;
     EXPECT_EQ(module->InitQuestion(301, nullptr, nullptr, &window, nullptr), E_POINTER);
+    EXPECT_NE(errorOfInterface(E_POINTER).description, expected.description) << "nothing is left of an earlier error";
     EXPECT_EQ(module->Quitter(&application, nullptr), E_POINTER);
     EXPECT_EQ(module->Quitter(&application, &window), S_OK) << "nothing is held, nothing was started";
+}
+
+TEST_F(ClassTest, ServesClientsOfAnotherApartment) {
+    const auto own = library_.create<IComplementInfo>(CLSID_ComplementInfo);
+    ComPtr<IStream> passage;
+    ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(IID_IComplementInfo, own.get(), passage.receive()), S_OK);
+    HANDLE const done = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    std::thread client([stream = passage.release(), done] {
+        CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+        void* passed = nullptr;
+        EXPECT_EQ(CoGetInterfaceAndReleaseStream(stream, IID_IComplementInfo, &passed), S_OK);
+        if (const auto texts = ComPtr<IComplementInfo>::adopt(static_cast<IComplementInfo*>(passed))) {
+            EXPECT_EQ(texts->ComplementInfo_add(Bstr(u"Élève").get(), 0), S_OK);
+            const LateBound late(automation::com::objectOf(texts.get()));
+            EXPECT_EQ(late.call(u"item", 1), Value(u"Élève"));
+            try {
+                late.call(u"item", 2);
+                ADD_FAILURE() << "nothing was raised";
+            } catch (const automation::Error& error) {
+                EXPECT_TRUE(error.is(automation::RunTimeError::SubscriptOutOfRange));
+                EXPECT_EQ(error.source(), u"K73053");
+            }
+        }
+        CoUninitialize();
+        SetEvent(done);
+    });
+    // The calls arrive as messages of this thread.
+    while (MsgWaitForMultipleObjects(1, &done, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+            DispatchMessageW(&message);
+        }
+    }
+    client.join();
+    CloseHandle(done);
 }
 
 TEST_F(ClassTest, ServesSeveralThreads) {

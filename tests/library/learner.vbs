@@ -1,13 +1,15 @@
 ' learner.vbs deliver FOLDER: the course's presentation for question 314.
 ' learner.vbs draw: what question 314 asks for.
 Option Explicit
-Dim powerPoint, deck
+Dim powerPoint, deck, shapes
 Set powerPoint = CreateObject("PowerPoint.application.11")
 Select Case WScript.Arguments(0)
 Case "deliver"
     powerPoint.Visible = True
     Set deck = powerPoint.Presentations.Add
-    deck.Slides.Add 1, 12
+    Set shapes = deck.Slides.Add(1, 12).Shapes
+    shapes.AddShape 23, 481.625, 368.375, 194.75, 125.125
+    shapes.AddTextbox 1, 57.875, 35, 444.5, 40.875
     deck.SaveAs WScript.Arguments(1) & "\07305314.ppt"
     deck.Close
 Case "draw"
