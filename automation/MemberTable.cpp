@@ -4,20 +4,6 @@
 
 namespace automation {
 
-namespace {
-
-bool answers(const Member& member, Access access) {
-    switch (access) {
-    case Access::Get: return member.read != nullptr && !member.isMethod;
-    case Access::Call: return member.read != nullptr && member.isMethod;
-    case Access::GetOrCall: return member.read != nullptr;
-    case Access::Put: return member.write != nullptr;
-    }
-    return false;
-}
-
-} // namespace
-
 MemberTable::MemberTable(std::initializer_list<Member> members) : members_(members) {
     index();
 }
@@ -60,7 +46,7 @@ const Member* MemberTable::find(const Name& name) const noexcept {
 
 Value MemberTable::invoke(Object& object, const Name& name, Access access, std::span<Value> arguments) const {
     const Member* const member = find(name);
-    if (member == nullptr || !answers(*member, access)) {
+    if (member == nullptr || !member->answers(access)) {
         raise(RunTimeError::MemberNotFound);
     }
     if (access == Access::Put) {

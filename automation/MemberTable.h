@@ -21,6 +21,17 @@ struct Member {
     bool isIndexable = false; ///< a getter without arguments: arguments given go to the default member of its result
     bool isDefault = false;
 
+    /// True where the member can be reached so.
+    [[nodiscard]] constexpr bool answers(Access access) const noexcept {
+        switch (access) {
+        case Access::Get: return read != nullptr && !isMethod;
+        case Access::Call: return read != nullptr && isMethod;
+        case Access::GetOrCall: return read != nullptr;
+        case Access::Put: return write != nullptr;
+        }
+        return false;
+    }
+
     /// The same member, answering also when no name is given.
     [[nodiscard]] constexpr Member asDefault() const noexcept {
         Member copy = *this;

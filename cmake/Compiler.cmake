@@ -4,17 +4,24 @@ add_library(compiler INTERFACE)
 if(MSVC)
     target_compile_options(compiler INTERFACE /W4 /WX /utf-8 /permissive- /EHsc)
 else()
-    target_compile_options(compiler INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Werror)
+    target_compile_options(compiler INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    if(NOT WIN32) # the interfaces of COM have no virtual destructors
+        target_compile_options(compiler INTERFACE -Wnon-virtual-dtor)
+    endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
         # gcc 12 sees overlaps and overruns in its own std::string once assignments are inlined.
         target_compile_options(compiler INTERFACE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow
-                               -Wno-stringop-overread)
+                                -Wno-stringop-overread)
     endif()
     if(K73053_SANITIZE)
         set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
         target_compile_options(compiler INTERFACE ${sanitizers})
         target_link_options(compiler INTERFACE ${sanitizers})
     endif()
+endif()
+
+if(WIN32)
+    target_compile_definitions(compiler INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0601 _WIN32_WINNT=0x0601)
 endif()
 
 target_precompile_headers(compiler INTERFACE

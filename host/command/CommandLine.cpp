@@ -18,7 +18,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify --file mine.scn   a scenario file of your own
   exercise-host list                     the questions and their scenarios
 
-Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file.)";
+Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
+scenario hung.)";
 
 /// Takes a question's number as its file is named, too: 0306 is 306.
 std::string questionNumber(const std::string& text) {
@@ -27,7 +28,7 @@ std::string questionNumber(const std::string& text) {
 
 /// The command line with all that it can ask for.
 struct CommandLine {
-    explicit CommandLine(const std::filesystem::path& scenarios, const std::string& version)
+    CommandLine(const std::filesystem::path& scenarios, const std::string& version, bool hasCom)
         : folder(scenarios.string()) {
         app.footer(examples);
         app.set_version_flag("--version", version);
@@ -47,6 +48,13 @@ struct CommandLine {
 
         list.add_option("questions", listed, "Numbers of questions (all)")->transform(questionNumber);
 
+        if (hasCom) {
+            for (CLI::App* const command : {&run, &verify}) {
+                command->add_flag(
+                    "--com", withCom,
+                    "Drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
+            }
+        }
         for (CLI::App* const command : {&run, &verify, &list}) {
             command->fallthrough();
         }
@@ -57,6 +65,7 @@ struct CommandLine {
     RunRequest runRequest;
     VerifyRequest verifyRequest;
     std::vector<std::int32_t> listed;
+    bool withCom = false;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
     CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
@@ -86,14 +95,15 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output o
 } // namespace
 
 ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
-                        const std::string& version, const WorldMaker& makeWorld, Output output) {
-    CommandLine line(scenarios, version);
+                        const std::string& version, const WorldMaker& makeWorld, Output output,
+                        const std::function<WorldMaker()>& makeComWorlds) {
+    CommandLine line(scenarios, version, makeComWorlds != nullptr);
     try {
         line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    const ExitCode code = perform(line, makeWorld, output);
+    const ExitCode code = perform(line, line.withCom ? makeComWorlds() : makeWorld, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";
         return ExitCode::WrongUsage;

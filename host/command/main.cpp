@@ -1,5 +1,8 @@
 #include "host/command/CommandLine.h"
 #include "host/world/EmbeddedWorld.h"
+#ifdef _WIN32
+#include "host/win32/ComWorld.h"
+#endif
 
 #include <iostream>
 
@@ -11,10 +14,17 @@ std::filesystem::path scenarioFolder(const std::filesystem::path& program) {
     return std::filesystem::is_directory(beside) ? beside : std::filesystem::path(EXERCISE_HOST_SCENARIOS);
 }
 
+/// COM is Windows' alone.
+#ifdef _WIN32
+constexpr auto comWorlds = &host::makeComWorlds;
+#else
+constexpr std::nullptr_t comWorlds = nullptr;
+#endif
+
 } // namespace
 
 int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     return static_cast<int>(host::runCommandLine(arguments, scenarioFolder(argv[0]), EXERCISE_HOST_VERSION,
-                                                 host::makeEmbeddedWorld, {std::cout, std::cerr}));
+                                                 host::makeEmbeddedWorld, {std::cout, std::cerr}, comWorlds));
 }

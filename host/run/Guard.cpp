@@ -7,14 +7,14 @@ namespace host {
 using automation::toUtf8;
 
 void Guard::calling(HostCall call) {
-    before_.emplace(world_);
+    before_.emplace(look());
     if (call == HostCall::InitQuestion && !firstFolders_) {
         firstFolders_ = before_->folders;
     }
 }
 
 void Guard::called(HostCall call, const automation::Error* /*error*/) {
-    const Snapshot after(world_);
+    const Snapshot after = look();
     if (call == HostCall::InitQuestion) {
         for (std::u16string& name : without(after.files, before_->files)) {
             workingFiles_.insert(std::move(name));
@@ -28,10 +28,14 @@ void Guard::called(HostCall call, const automation::Error* /*error*/) {
     comparePresentations(call, after);
 }
 
-bool Guard::isOfTheExercise(const OpenPresentation& open) const {
+Snapshot Guard::look() const {
+    return Snapshot(world_, [this](const std::u16string& fullName) { return !isOfTheExercise(fullName); });
+}
+
+bool Guard::isOfTheExercise(const std::u16string& fullName) const {
     const std::u16string folder = world_.hostFolder();
-    return automation::equalIgnoringCase(open.fullName.substr(0, folder.size()), folder) ||
-           workingPresentations_.contains(open.fullName);
+    return automation::equalIgnoringCase(fullName.substr(0, folder.size()), folder) ||
+           workingPresentations_.contains(fullName);
 }
 
 void Guard::comparePresentations(HostCall call, const Snapshot& after) {
@@ -39,7 +43,7 @@ void Guard::comparePresentations(HostCall call, const Snapshot& after) {
         return;
     }
     for (const OpenPresentation& open : *before_->presentations) {
-        if (isOfTheExercise(open)) {
+        if (isOfTheExercise(open.fullName)) {
             continue;
         }
         const OpenPresentation* const now = after.find(open.fullName);
@@ -51,7 +55,7 @@ void Guard::comparePresentations(HostCall call, const Snapshot& after) {
 }
 
 std::vector<std::string> Guard::findings() {
-    const Snapshot now(world_);
+    const Snapshot now = look();
     std::vector<std::string> all = findings_;
     for (std::size_t i = 0; firstFolders_ && i < now.folders.size(); ++i) {
         if (now.folders.at(i) != firstFolders_->at(i)) {

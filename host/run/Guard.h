@@ -21,7 +21,8 @@ public:
     [[nodiscard]] std::vector<std::string> findings();
 
 private:
-    [[nodiscard]] bool isOfTheExercise(const OpenPresentation& open) const;
+    [[nodiscard]] Snapshot look() const;
+    [[nodiscard]] bool isOfTheExercise(const std::u16string& fullName) const;
     void comparePresentations(HostCall call, const Snapshot& after);
 
     World& world_;

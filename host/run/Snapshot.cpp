@@ -37,20 +37,23 @@ SlideMarks marksOf(const LateBound& slide) {
     return marks;
 }
 
-OpenPresentation read(const LateBound& presentation) {
+OpenPresentation read(const LateBound& presentation, const Snapshot::WantsSlides& wantsSlides) {
     OpenPresentation result{presentation.get(u"Name").to<std::u16string>(),
                             presentation.get(u"FullName").to<std::u16string>(),
                             presentation.get(u"Saved").to<bool>(),
                             {}};
-    forEach(member(presentation, u"Slides"), [&](const LateBound& slide) { result.slides.push_back(marksOf(slide)); });
+    if (!wantsSlides || wantsSlides(result.fullName)) {
+        forEach(member(presentation, u"Slides"),
+                [&](const LateBound& slide) { result.slides.push_back(marksOf(slide)); });
+    }
     return result;
 }
 
-std::optional<std::vector<OpenPresentation>> presentationsIn(World& world) {
+std::optional<std::vector<OpenPresentation>> presentationsIn(World& world, const Snapshot::WantsSlides& wantsSlides) {
     try {
         std::vector<OpenPresentation> all;
         forEach(member(LateBound(world.application()), u"Presentations"),
-                [&](const LateBound& presentation) { all.push_back(read(presentation)); });
+                [&](const LateBound& presentation) { all.push_back(read(presentation, wantsSlides)); });
         return all;
     } catch (const automation::Error&) {
         return std::nullopt;
@@ -59,9 +62,9 @@ std::optional<std::vector<OpenPresentation>> presentationsIn(World& world) {
 
 } // namespace
 
-Snapshot::Snapshot(World& world)
+Snapshot::Snapshot(World& world, const WantsSlides& wantsSlides)
     : window(world.mainWindow()), dialogs(world.dialogs()), files(world.filesIn(world.hostFolder())),
-      presentations(presentationsIn(world)) {
+      presentations(presentationsIn(world, wantsSlides)) {
     std::transform(folderSettings::names.begin(), folderSettings::names.end(), folders.begin(),
                    [&](std::u16string_view name) { return world.registryText(folderSettings::key, name); });
 }

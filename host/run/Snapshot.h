@@ -27,7 +27,11 @@ struct OpenPresentation {
 
 /// What can be seen of a world at one moment.
 struct Snapshot {
-    explicit Snapshot(World& world);
+    /// Tells by its full name whether the slides of a presentation are wanted: reading them takes its time.
+    using WantsSlides = std::function<bool(const std::u16string&)>;
+
+    /// With the slides of all presentations where nothing is said.
+    explicit Snapshot(World& world, const WantsSlides& wantsSlides = nullptr);
 
     /// The presentation open under a full name; null where there is none.
     [[nodiscard]] const OpenPresentation* find(std::u16string_view fullName) const;

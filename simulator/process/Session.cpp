@@ -28,7 +28,11 @@ Session::Session(MainWindow& window, PresentationStore& store, Settings& setting
 
 void Session::admit() const {
     switch (state_) {
-    case State::Running: return;
+    case State::Running:
+        if (onCall_) {
+            onCall_();
+        }
+        return;
     case State::Busy:
         throw automation::Error(automation::remote::callRejected, {}, u"L'appel a été rejeté par l'appelé.");
     case State::Gone:

@@ -52,6 +52,8 @@ public:
     void setBusy(bool busy) noexcept;
     /// Ends the run: documents are dropped unsaved, the window and its dialogs closed. Harmless when it has ended.
     void end();
+    /// Called for every automation call that is let in.
+    void onCall(std::function<void()> handler) { onCall_ = std::move(handler); }
     /// Called once when the run ends.
     void onEnd(std::function<void()> handler) { onEnd_ = std::move(handler); }
 
@@ -104,6 +106,7 @@ private:
     std::vector<PresentationPtr> presentations_;
     std::vector<DocumentWindowPtr> windows_;
     Clipboard clipboard_;
+    std::function<void()> onCall_;
     std::function<void()> onEnd_;
     int untitled_ = 0;
 };

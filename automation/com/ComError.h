@@ -1,0 +1,51 @@
+#pragma once
+
+#include "automation/Error.h"
+
+#include "automation/com/Ole.h"
+
+#include <utility>
+
+namespace automation::com {
+
+/// An EXCEPINFO that owns its texts.
+class ExceptionInfo : public EXCEPINFO {
+public:
+    ExceptionInfo() noexcept : EXCEPINFO() {}
+    ~ExceptionInfo() { clear(); }
+    ExceptionInfo(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+    ExceptionInfo(ExceptionInfo&&) = delete;
+    ExceptionInfo& operator=(ExceptionInfo&&) = delete;
+
+    void clear() noexcept;
+};
+
+/// The error that a failing call stands for: a run-time error for what IDispatch itself refuses, any other status by
+/// its own number with the system's text.
+[[nodiscard]] Error errorOf(HRESULT status);
+
+/// The error that a member raised. What a server would only fill in when asked is not asked for.
+[[nodiscard]] Error errorOf(const EXCEPINFO& raised);
+
+/// Raises the error of a failing call.
+void check(HRESULT status);
+
+/// The status by which an error leaves the library: 0x800A0000 + n for run-time numbers, other numbers as they are. The
+/// number 0, which would mean success, leaves as 5 does.
+[[nodiscard]] HRESULT statusOf(const Error& error) noexcept;
+
+/// The exception being handled as a status, with the thread's error object set to say the same; where `raised` is
+/// given, it is filled alike and the status is DISP_E_EXCEPTION. To be called in a handler.
+[[nodiscard]] HRESULT reportCurrent(EXCEPINFO* raised = nullptr) noexcept;
+
+/// Runs an operation at the border to COM, from which nothing but a status leaves.
+template <typename Operation> [[nodiscard]] HRESULT guarded(Operation&& operation) noexcept {
+    try {
+        return std::forward<Operation>(operation)();
+    } catch (...) {
+        return reportCurrent();
+    }
+}
+
+} // namespace automation::com

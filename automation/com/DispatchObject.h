@@ -1,0 +1,41 @@
+#pragma once
+
+#include "automation/Object.h"
+#include "automation/com/ComPtr.h"
+#include "automation/com/MemberIds.h"
+
+namespace automation::com {
+
+/// An object that lives behind an IDispatch, usually in another process: one call, one Invoke. What it hands out shares
+/// the member ids that were looked up; names without a scope are looked up once per object.
+///
+/// An error of the server keeps its number (0x800A0000 + n is n), source, description and help. Once the process behind
+/// it is gone, every further call fails with the same error, without being made.
+class DispatchObject final : public Object {
+public:
+    /// `identity` is what `identityOf` gives for `dispatch`.
+    DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> identity, MemberIdsPtr ids) noexcept;
+
+    /// Properties are read and written as such and methods called as such; an object that a property does not take by
+    /// value is set by reference. Arguments passed by reference come back also where the member raises.
+    Value invoke(const Name& name, Access access, std::span<Value> arguments) override;
+
+    [[nodiscard]] bool isSame(const Object& other) const noexcept override;
+
+    [[nodiscard]] const ComPtr<IDispatch>& dispatch() const noexcept { return dispatch_; }
+
+private:
+    [[nodiscard]] DISPID idOf(const Name& name);
+    [[nodiscard]] DISPID lookUp(const Name& name);
+    void requireAlive() const;
+    /// Raises the error of a failing status, and remembers it where the process behind the object is gone.
+    void require(HRESULT status);
+
+    ComPtr<IDispatch> dispatch_;
+    ComPtr<IUnknown> identity_;
+    MemberIdsPtr ids_;
+    MemberIds ownIds_;
+    HRESULT gone_ = S_OK;
+};
+
+} // namespace automation::com

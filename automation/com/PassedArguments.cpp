@@ -1,0 +1,60 @@
+#include "automation/com/PassedArguments.h"
+
+#include "automation/Error.h"
+#include "automation/com/Objects.h"
+#include "automation/com/VariantReader.h"
+
+namespace automation::com {
+
+namespace {
+
+/// True where a variable still holds the object that a value passed there.
+bool holdsStill(const Variant& variable, const Value& value) {
+    return variable.vt == VT_DISPATCH && value.isObject() &&
+           dispatchOf(value.as<ObjectPtr>()).get() == variable.pdispVal;
+}
+
+} // namespace
+
+PassedArguments::PassedArguments(std::span<Value> arguments, Access access)
+    : arguments_(arguments), variables_(arguments.size()), passed_(arguments.size()) {
+    if (access == Access::Put && arguments.empty()) {
+        raise(RunTimeError::WrongNumberOfArguments);
+    }
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const bool isNewValue = access == Access::Put && i + 1 == arguments.size();
+        Variant& place = passed_[arguments.size() - 1 - i];
+        if (arguments[i].variable() != nullptr && !isNewValue) {
+            variables_[i] = variantOf(arguments[i]);
+            place = Variant::reference(variables_[i]);
+        } else {
+            place = variantOf(arguments[i]);
+        }
+    }
+    parameters_.rgvarg = passed_.data();
+    parameters_.cArgs = static_cast<UINT>(passed_.size());
+    if (access == Access::Put) {
+        parameters_.rgdispidNamedArgs = &newValue_;
+        parameters_.cNamedArgs = 1;
+    }
+}
+
+void PassedArguments::writeBack(const MemberIdsPtr& ids) {
+    VariantReader reader(ids);
+    for (std::size_t i = 0; i < arguments_.size(); ++i) {
+        const bool referred = isReference(passed_[arguments_.size() - 1 - i]);
+        if (referred && !holdsStill(variables_[i], arguments_[i])) {
+            *arguments_[i].variable() = reader.read(variables_[i]);
+        }
+    }
+}
+
+void PassedArguments::tryWriteBack(const MemberIdsPtr& ids) noexcept {
+    try {
+        writeBack(ids);
+    } catch (...) {
+        return;
+    }
+}
+
+} // namespace automation::com

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "automation/Object.h"
+#include "automation/com/MemberIds.h"
+#include "automation/com/Variant.h"
+
+#include <span>
+#include <vector>
+
+namespace automation::com {
+
+/// The arguments of one call to an IDispatch, in its order (the last one first).
+class PassedArguments {
+public:
+    /// Those passed by reference refer to variables held here.
+    PassedArguments(std::span<Value> arguments, Access access);
+
+    [[nodiscard]] DISPPARAMS& parameters() noexcept { return parameters_; }
+
+    /// Writes what the callee left in by-reference arguments to the variables behind them; objects left alone stay what
+    /// they were.
+    void writeBack(const MemberIdsPtr& ids);
+    /// The same where the callee has raised: its error is the one that counts.
+    void tryWriteBack(const MemberIdsPtr& ids) noexcept;
+
+private:
+    std::span<Value> arguments_;
+    std::vector<Variant> variables_; ///< contents of the by-reference arguments, in the order of `arguments_`
+    std::vector<Variant> passed_;
+    DISPPARAMS parameters_{};
+    DISPID newValue_ = DISPID_PROPERTYPUT;
+};
+
+} // namespace automation::com

@@ -1,0 +1,205 @@
+#include "automation/com/Variant.h"
+
+#include "automation/Error.h"
+#include "automation/com/ComError.h"
+#include "automation/com/Objects.h"
+#include "automation/com/WideText.h"
+
+#include <cstring>
+#include <limits>
+#include <new>
+
+namespace automation::com {
+
+namespace {
+
+/// Fills a fresh VARIANT with the alternative that a value holds.
+class Writer {
+public:
+    explicit Writer(VARIANT& out) noexcept : out_(out) {}
+
+    void operator()(Empty) const noexcept { out_.vt = VT_EMPTY; }
+    void operator()(Missing) const noexcept {
+        out_.vt = VT_ERROR;
+        out_.scode = DISP_E_PARAMNOTFOUND;
+    }
+    void operator()(bool truth) const noexcept {
+        out_.vt = VT_BOOL;
+        out_.boolVal = truth ? VARIANT_TRUE : VARIANT_FALSE;
+    }
+    void operator()(std::int16_t number) const noexcept {
+        out_.vt = VT_I2;
+        out_.iVal = number;
+    }
+    void operator()(std::int32_t number) const noexcept {
+        out_.vt = VT_I4;
+        out_.lVal = number;
+    }
+    void operator()(float number) const noexcept {
+        out_.vt = VT_R4;
+        out_.fltVal = number;
+    }
+    void operator()(double number) const noexcept {
+        out_.vt = VT_R8;
+        out_.dblVal = number;
+    }
+    void operator()(const std::u16string& text) const {
+        out_.bstrVal = Bstr(text).release();
+        out_.vt = VT_BSTR;
+    }
+    void operator()(const ObjectPtr& object) const {
+        out_.pdispVal = dispatchOf(object).release();
+        out_.vt = VT_DISPATCH;
+    }
+    void operator()(const Array& elements) const {
+        if (elements.size() > std::numeric_limits<LONG>::max()) {
+            raise(RunTimeError::OutOfMemory);
+        }
+        SAFEARRAY* const array = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(elements.size()));
+        if (array == nullptr) {
+            throw std::bad_alloc();
+        }
+        out_.parray = array;
+        out_.vt = VT_ARRAY | VT_VARIANT;
+        auto* const places = static_cast<VARIANT*>(array->pvData);
+        for (std::size_t i = 0; i < elements.size(); ++i) {
+            places[i] = variantOf(elements[i]).release();
+        }
+    }
+    void operator()(Value* variable) const { variable->visit(*this); }
+
+private:
+    VARIANT& out_;
+};
+
+template <typename T> T& required(T* place) {
+    if (place == nullptr) {
+        raise(RunTimeError::InvalidProcedureCall);
+    }
+    return *place;
+}
+
+template <typename T, typename Stored> void store(Stored* place, const Value& value) {
+    Stored& stored = required(place);
+    stored = value.to<T>();
+}
+
+void storeTruth(VARIANT_BOOL* place, const Value& value) {
+    VARIANT_BOOL& stored = required(place);
+    stored = value.to<bool>() ? VARIANT_TRUE : VARIANT_FALSE;
+}
+
+template <typename Interface> void storeObject(Interface** place, const Value& value) {
+    Interface*& stored = required(place);
+    ComPtr<Interface> object(dispatchOf(value.to<ObjectPtr>()).get());
+    const auto former = ComPtr<Interface>::adopt(stored);
+    stored = object.release();
+}
+
+void storeText(BSTR* place, const Value& value) {
+    BSTR& stored = required(place);
+    Bstr text(value.to<std::u16string>());
+    SysFreeString(stored);
+    stored = text.release();
+}
+
+void storeVariant(VARIANT* place, const Value& value) {
+    VARIANT& stored = required(place);
+    Variant content = variantOf(value);
+    VariantClear(&stored);
+    stored = content.release();
+}
+
+void storeArray(SAFEARRAY** place, const Value& value) {
+    SAFEARRAY*& stored = required(place);
+    Variant content = variantOf(value.to<Array>());
+    SafeArrayDestroy(stored);
+    stored = content.release().parray;
+}
+
+/// Types that no value is of.
+void storeConverted(void* place, VARTYPE type, const Value& value) {
+    if (place == nullptr) {
+        raise(RunTimeError::InvalidProcedureCall);
+    }
+    const Variant stored = converted(variantOf(value.to<double>()), type);
+    // A decimal alone lies over the whole VARIANT, its type included.
+    const void* const content = type == VT_DECIMAL ? static_cast<const void*>(&stored.decVal) : &stored.llVal;
+    std::memcpy(place, content, sizeOf(type));
+    if (type == VT_DECIMAL) {
+        static_cast<DECIMAL*>(place)->wReserved = 0;
+    }
+}
+
+} // namespace
+
+Variant converted(const VARIANT& variant, VARTYPE type) {
+    VARIANT source = variant; // the system only reads it, without saying so in its signature
+    Variant result;
+    check(VariantChangeTypeEx(&result, &source, LOCALE_INVARIANT, 0, type));
+    return result;
+}
+
+std::size_t sizeOf(VARTYPE type) noexcept {
+    if ((type & VT_ARRAY) != 0) {
+        return sizeof(SAFEARRAY*);
+    }
+    switch (type) {
+    case VT_I1:
+    case VT_UI1: return 1;
+    case VT_I2:
+    case VT_UI2:
+    case VT_BOOL: return 2;
+    case VT_I4:
+    case VT_UI4:
+    case VT_INT:
+    case VT_UINT:
+    case VT_ERROR:
+    case VT_R4: return 4;
+    case VT_I8:
+    case VT_UI8:
+    case VT_R8:
+    case VT_CY:
+    case VT_DATE: return 8;
+    case VT_DECIMAL: return sizeof(DECIMAL);
+    case VT_BSTR:
+    case VT_DISPATCH:
+    case VT_UNKNOWN: return sizeof(void*);
+    default: return 0;
+    }
+}
+
+Variant variantOf(const Value& value) {
+    Variant result;
+    value.visit(Writer(result));
+    return result;
+}
+
+void assign(const VARIANT& reference, const Value& value) {
+    switch (reference.vt & ~VT_BYREF) {
+    case VT_VARIANT: return storeVariant(reference.pvarVal, value);
+    case VT_I2: return store<std::int16_t>(reference.piVal, value);
+    case VT_I4:
+    case VT_INT: return store<std::int32_t>(reference.plVal, value);
+    case VT_R4: return store<float>(reference.pfltVal, value);
+    case VT_R8: return store<double>(reference.pdblVal, value);
+    case VT_BOOL: return storeTruth(reference.pboolVal, value);
+    case VT_BSTR: return storeText(reference.pbstrVal, value);
+    case VT_DISPATCH: return storeObject(reference.ppdispVal, value);
+    case VT_UNKNOWN: return storeObject(reference.ppunkVal, value);
+    case VT_ARRAY | VT_VARIANT: return storeArray(reference.pparray, value);
+    case VT_I1:
+    case VT_UI1:
+    case VT_UI2:
+    case VT_UI4:
+    case VT_UINT:
+    case VT_I8:
+    case VT_UI8:
+    case VT_CY:
+    case VT_DATE:
+    case VT_DECIMAL: return storeConverted(reference.byref, static_cast<VARTYPE>(reference.vt & ~VT_BYREF), value);
+    default: raise(RunTimeError::TypeMismatch);
+    }
+}
+
+} // namespace automation::com

@@ -1,0 +1,5 @@
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)
+
+set(CMAKE_EXE_LINKER_FLAGS_INIT ${linking})
+set(CMAKE_SHARED_LINKER_FLAGS_INIT ${linking})

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/world/World.h"
+
+namespace host {
+
+/// Worlds on this desktop: the registered library, driven through COM, with the registered PowerPoint in a process of
+/// its own, the current user's registry and the disk. What a world changes of the last two it puts back in the end.
+///
+/// Opening dialogs, being busy and being uninstalled are asked of the stand-in alone. The calling thread enters COM for
+/// as long as the maker lives; a PowerPoint that runs already must be the stand-in, and is ended. Worlds raise where
+/// they are to observe the calls of the library, which nobody outside can.
+[[nodiscard]] WorldMaker makeComWorlds();
+
+} // namespace host

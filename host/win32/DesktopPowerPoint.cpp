@@ -1,0 +1,149 @@
+#include "host/win32/DesktopPowerPoint.h"
+
+#include "automation/com/ComError.h"
+#include "automation/com/Objects.h"
+#include "host/win32/Handle.h"
+#include "platform/win32/Win32Servers.h"
+#include "simulator/win32/StandInIdentity.h"
+
+namespace host {
+
+namespace {
+
+namespace standin = simulator::standin;
+
+using automation::ObjectPtr;
+using automation::com::ComPtr;
+
+constexpr std::u16string_view programmaticId = u"PowerPoint.Application.11";
+constexpr DWORD patience = 10000;
+
+HWND findFrame() noexcept {
+    return FindWindowW(standin::frameClass, nullptr);
+}
+
+Handle processOf(HWND window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    return Handle(OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, id));
+}
+
+bool isModalAbove(HWND dialog, HWND frame) noexcept {
+    const bool isModal = (GetWindowLongW(dialog, GWL_EXSTYLE) & WS_EX_DLGMODALFRAME) != 0;
+    return isModal && dialog != frame && GetAncestor(dialog, GA_ROOTOWNER) == frame;
+}
+
+struct DialogCount {
+    HWND frame;
+    std::size_t count = 0;
+};
+
+BOOL CALLBACK countDialog(HWND window, LPARAM data) {
+    auto& dialogs = *reinterpret_cast<DialogCount*>(data);
+    dialogs.count += isModalAbove(window, dialogs.frame) ? 1 : 0;
+    return TRUE;
+}
+
+} // namespace
+
+ObjectPtr DesktopPowerPoint::application() {
+    const HWND frame = findFrame();
+    if (frame == nullptr || frame != holder_) {
+        forget();
+    }
+    if (frame != nullptr && !application_) {
+        try {
+            application_ = platform::Win32Servers().attach(programmaticId);
+            holder_ = frame;
+        } catch (const automation::Error&) {
+            return nullptr;
+        }
+    }
+    return application_;
+}
+
+std::int32_t DesktopPowerPoint::window() const {
+    return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(findFrame()));
+}
+
+void DesktopPowerPoint::start() {
+    if (!application()) {
+        application_ = platform::Win32Servers().create(programmaticId);
+        automation::LateBound(application_).put(u"Visible", true);
+        holder_ = findFrame();
+    }
+    ShowWindow(holder_, SW_SHOW);
+    SetForegroundWindow(holder_);
+}
+
+void DesktopPowerPoint::close() {
+    const HWND frame = findFrame();
+    const Handle process = processOf(frame);
+    forget();
+    SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
+    if (process && !process.isSignalled(patience)) {
+        automation::raise(automation::RunTimeError::PermissionDenied);
+    }
+}
+
+void DesktopPowerPoint::kill() {
+    const Handle process = processOf(findFrame());
+    forget();
+    if (process) {
+        TerminateProcess(process.get(), 1);
+        WaitForSingleObject(process.get(), patience);
+    }
+}
+
+void DesktopPowerPoint::dismiss() {
+    const HWND frame = findFrame();
+    forget();
+    SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
+    if (findFrame() != nullptr) {
+        kill();
+    }
+}
+
+void DesktopPowerPoint::hide() const {
+    ShowWindow(findFrame(), SW_HIDE);
+}
+
+void DesktopPowerPoint::minimize() const {
+    ShowWindow(findFrame(), SW_MINIMIZE);
+}
+
+std::size_t DesktopPowerPoint::dialogs() const {
+    DialogCount dialogs{findFrame()};
+    if (dialogs.frame != nullptr) {
+        EnumWindows(&countDialog, reinterpret_cast<LPARAM>(&dialogs));
+    }
+    return dialogs.count;
+}
+
+const automation::LateBound& DesktopPowerPoint::standIn() {
+    if (findFrame() != holder_) {
+        forget();
+    }
+    if (!standIn_) {
+        ComPtr<IUnknown> running;
+        if (FAILED(GetActiveObject(standin::controlClass, nullptr, running.receive()))) {
+            automation::raise(automation::RunTimeError::CannotCreateObject);
+        }
+        standIn_ = automation::LateBound(automation::com::objectOf(running.as<IDispatch>().get()));
+        holder_ = findFrame();
+    }
+    return standIn_;
+}
+
+bool DesktopPowerPoint::isStandIn() {
+    ComPtr<IUnknown> running;
+    return SUCCEEDED(GetActiveObject(standin::controlClass, nullptr, running.receive()));
+}
+
+void DesktopPowerPoint::forget() noexcept {
+    application_ = nullptr;
+    standIn_ = automation::LateBound();
+    holder_ = nullptr;
+}
+
+} // namespace host

@@ -1,0 +1,105 @@
+#include "host/win32/Standby.h"
+
+#include "simulator/win32/StandInIdentity.h"
+
+#include <array>
+
+namespace host {
+
+namespace {
+
+namespace standin = simulator::standin;
+
+constexpr std::size_t wanted = 2;
+constexpr DWORD patience = 20000;
+
+/// The command that starts the stand-in, as it is registered for this program; empty where it is not what PowerPoint's
+/// name stands for.
+std::wstring registeredProgram() {
+    CLSID id{};
+    if (FAILED(CLSIDFromProgID(standin::programmaticIds[0], &id)) || !IsEqualCLSID(id, standin::applicationClass)) {
+        return {};
+    }
+    std::array<wchar_t, 40> text{};
+    StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+    const std::wstring key = L"CLSID\\" + std::wstring(text.data()) + L"\\LocalServer32";
+    std::array<wchar_t, 1024> program{};
+    DWORD size = sizeof(program);
+    const LSTATUS status =
+        RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, program.data(), &size);
+    return status == ERROR_SUCCESS ? program.data() : std::wstring();
+}
+
+Handle jobThatEndsItsProcesses() {
+    Handle job(CreateJobObjectW(nullptr, nullptr));
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+    return job;
+}
+
+} // namespace
+
+Standby::Standby() : program_(registeredProgram()), job_(jobThatEndsItsProcesses()) {}
+
+Standby::~Standby() {
+    forgetTaken();
+    for (const Waiting& each : waiting_) {
+        // A process that is killed would stay known to Wine as one that offers PowerPoint.
+        if (each.ready.isSignalled(patience)) {
+            PostThreadMessageW(each.thread, WM_QUIT, 0, 0);
+        }
+    }
+    for (const Waiting& each : waiting_) {
+        WaitForSingleObject(each.process.get(), patience);
+    }
+}
+
+void Standby::prepare() {
+    if (program_.empty()) {
+        return;
+    }
+    forgetTaken();
+    while (waiting_.size() < wanted) {
+        start();
+    }
+    waitForOne();
+}
+
+void Standby::forgetTaken() {
+    std::erase_if(waiting_, [](Waiting& each) {
+        const bool isReady = each.ready.isSignalled();
+        const bool wasTaken = each.wasReady && !isReady;
+        each.wasReady = isReady;
+        return wasTaken || each.process.isSignalled();
+    });
+}
+
+void Standby::start() {
+    const std::wstring name =
+        L"K73053-standby-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++started_);
+    Waiting one;
+    one.ready = Handle(CreateEventW(nullptr, TRUE, FALSE, name.c_str()));
+    std::wstring command = program_ + L" /Standby:" + name;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process{};
+    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process) !=
+        FALSE) {
+        CloseHandle(process.hThread);
+        one.process = Handle(process.hProcess);
+        one.thread = process.dwThreadId;
+        AssignProcessToJobObject(job_.get(), process.hProcess);
+    }
+    waiting_.push_back(std::move(one));
+}
+
+void Standby::waitForOne() {
+    std::array<HANDLE, wanted> events{};
+    for (std::size_t i = 0; i < wanted; ++i) {
+        events.at(i) = waiting_[i].ready.get();
+    }
+    WaitForMultipleObjects(static_cast<DWORD>(wanted), events.data(), FALSE, patience);
+}
+
+} // namespace host

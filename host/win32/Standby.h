@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/win32/Handle.h"
+
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// Keeps a process of the stand-in waiting, so that creating PowerPoint takes no time. Does nothing where a real
+/// PowerPoint is registered.
+class Standby {
+public:
+    Standby();
+    Standby(const Standby&) = delete;
+    Standby& operator=(const Standby&) = delete;
+    Standby(Standby&&) = delete;
+    Standby& operator=(Standby&&) = delete;
+    ~Standby();
+
+    /// Sees to it that one waits, and that another is on its way.
+    void prepare();
+
+private:
+    struct Waiting {
+        Handle process;
+        DWORD thread = 0; ///< its main thread
+        Handle ready;     ///< set while it can be created
+        bool wasReady = false;
+    };
+
+    /// Forgets those that have become PowerPoint, or have ended.
+    void forgetTaken();
+    void start();
+    void waitForOne();
+
+    std::wstring program_; ///< empty where there is no stand-in
+    Handle job_;           ///< ends them where this process could not
+    std::vector<Waiting> waiting_;
+    unsigned started_ = 0;
+};
+
+} // namespace host

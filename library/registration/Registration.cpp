@@ -1,0 +1,93 @@
+#include "library/registration/Registration.h"
+
+#include "library/registration/Entries.h"
+#include "library/registration/RegistryKey.h"
+
+#include <algorithm>
+#include <ranges>
+
+namespace library {
+
+namespace {
+
+const std::wstring classesKey = L"Software\\Classes";
+constexpr REGSAM otherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+
+HKEY rootOf(Scope scope) noexcept {
+    return scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+}
+
+std::wstring pathOf(const std::wstring& key) {
+    return classesKey + L'\\' + key;
+}
+
+void write(HKEY root, const Entry& entry) {
+    RegistryKey::create(root, pathOf(entry.key)).setText(entry.name, entry.text);
+}
+
+/// Deletes a key that is bare, and those above it that this leaves bare.
+void deleteBare(HKEY root, std::wstring key) {
+    while (!key.empty()) {
+        const std::wstring path = pathOf(key);
+        if (!RegistryKey::open(root, path, KEY_QUERY_VALUE).isBare()) {
+            return;
+        }
+        checkRegistry(RegDeleteKeyW(root, path.c_str()));
+        const std::size_t end = key.find_last_of(L'\\');
+        key.resize(end == std::wstring::npos ? 0 : end);
+    }
+}
+
+void remove(HKEY root, const Entry& entry) {
+    if (const auto key = RegistryKey::open(root, pathOf(entry.key), KEY_SET_VALUE)) {
+        key.deleteValue(entry.name);
+    }
+    deleteBare(root, entry.key);
+}
+
+bool isOtherRegistered(HKEY root) {
+    return std::ranges::any_of(serverKeys(), [&](const std::wstring& key) {
+        return static_cast<bool>(RegistryKey::open(root, pathOf(key), KEY_QUERY_VALUE | otherBitness));
+    });
+}
+
+/// Where a registration has failed: its error is the one that counts.
+void tryToUnregister(Scope scope) noexcept {
+    try {
+        unregisterLibrary(scope);
+    } catch (...) {
+        return;
+    }
+}
+
+} // namespace
+
+void registerLibrary(Scope scope, const std::wstring& libraryPath) {
+    try {
+        for (const Entry& entry : entriesFor(libraryPath)) {
+            write(rootOf(scope), entry);
+        }
+    } catch (...) {
+        tryToUnregister(scope);
+        throw;
+    }
+}
+
+void unregisterLibrary(Scope scope) {
+    const HKEY root = rootOf(scope);
+    const auto entries = entriesFor({});
+    const auto removeAll = [&](bool shared) {
+        for (const Entry& entry : entries | std::views::reverse) {
+            if (entry.isShared == shared) {
+                remove(root, entry);
+            }
+        }
+    };
+    // On a system of one bitness only, the keys of the other one are its own: they are gone when they are asked for.
+    removeAll(false);
+    if (!isOtherRegistered(root)) {
+        removeAll(true);
+    }
+}
+
+} // namespace library

@@ -1,0 +1,46 @@
+#include "library/registration/RegistryKey.h"
+
+#include "automation/com/ComError.h"
+
+namespace library {
+
+RegistryKey::~RegistryKey() {
+    if (key_ != nullptr) {
+        RegCloseKey(key_);
+    }
+}
+
+RegistryKey RegistryKey::create(HKEY root, const std::wstring& path) {
+    HKEY key = nullptr;
+    checkRegistry(RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &key, nullptr));
+    return RegistryKey(key);
+}
+
+RegistryKey RegistryKey::open(HKEY root, const std::wstring& path, REGSAM access) noexcept {
+    HKEY key = nullptr;
+    return RegistryKey(RegOpenKeyExW(root, path.c_str(), 0, access, &key) == ERROR_SUCCESS ? key : nullptr);
+}
+
+void RegistryKey::setText(const std::wstring& name, const std::wstring& text) const {
+    const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    checkRegistry(RegSetValueExW(key_, name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), bytes));
+}
+
+void RegistryKey::deleteValue(const std::wstring& name) const {
+    const LSTATUS status = RegDeleteValueW(key_, name.c_str());
+    checkRegistry(status == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : status);
+}
+
+bool RegistryKey::isBare() const noexcept {
+    DWORD keys = 0;
+    DWORD values = 0;
+    const LSTATUS status = RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr,
+                                            nullptr, nullptr, nullptr);
+    return status == ERROR_SUCCESS && keys == 0 && values == 0;
+}
+
+void checkRegistry(LSTATUS status) {
+    automation::com::check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
+}
+
+} // namespace library

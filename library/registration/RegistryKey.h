@@ -1,0 +1,46 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <utility>
+
+namespace library {
+
+/// An open registry key, or none.
+class RegistryKey {
+public:
+    RegistryKey() noexcept = default;
+    ~RegistryKey();
+    RegistryKey(const RegistryKey&) = delete;
+    RegistryKey& operator=(const RegistryKey&) = delete;
+    RegistryKey(RegistryKey&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
+    RegistryKey& operator=(RegistryKey&& other) noexcept {
+        std::swap(key_, other.key_);
+        return *this;
+    }
+
+    /// Creates the key and those above it, or opens it. Raises the error of the system.
+    [[nodiscard]] static RegistryKey create(HKEY root, const std::wstring& path);
+    /// None where it cannot be opened.
+    [[nodiscard]] static RegistryKey open(HKEY root, const std::wstring& path, REGSAM access) noexcept;
+
+    [[nodiscard]] explicit operator bool() const noexcept { return key_ != nullptr; }
+
+    /// Writes a text; raises the error of the system.
+    void setText(const std::wstring& name, const std::wstring& text) const;
+    /// Removes a value; one that is missing is as good as removed. Raises any other error of the system.
+    void deleteValue(const std::wstring& name) const;
+    /// True for a key with neither values nor keys below it.
+    [[nodiscard]] bool isBare() const noexcept;
+
+private:
+    explicit RegistryKey(HKEY key) noexcept : key_(key) {}
+
+    HKEY key_ = nullptr;
+};
+
+/// Raises the error of the system that a registry call gave, if it is one.
+void checkRegistry(LSTATUS status);
+
+} // namespace library

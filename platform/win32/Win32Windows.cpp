@@ -1,0 +1,83 @@
+#include "platform/win32/Win32Windows.h"
+
+#include "automation/com/WideText.h"
+
+#include <array>
+
+namespace platform {
+
+namespace {
+
+using automation::com::fromWide;
+using automation::com::WideText;
+
+constexpr UINT patience = 5000;
+
+HWND windowOf(WindowHandle handle) noexcept {
+    return reinterpret_cast<HWND>(static_cast<std::intptr_t>(handle));
+}
+
+WindowHandle handleOf(HWND window) noexcept {
+    return static_cast<WindowHandle>(reinterpret_cast<std::intptr_t>(window));
+}
+
+/// A text that a call writes to a buffer of the usual length; empty where it fails.
+template <typename Call> std::u16string textFrom(Call call, WindowHandle handle) {
+    std::array<wchar_t, WindowSystem::textBuffer> buffer{};
+    const int length = call(windowOf(handle), buffer.data(), static_cast<int>(buffer.size()));
+    return fromWide({buffer.data(), static_cast<std::size_t>(std::max(length, 0))});
+}
+
+} // namespace
+
+WindowHandle Win32Windows::findWindow(std::u16string_view className) {
+    return handleOf(FindWindowW(WideText(className).get(), nullptr));
+}
+
+std::optional<std::u16string> Win32Windows::className(WindowHandle window) {
+    std::u16string name = textFrom(&GetClassNameW, window);
+    return name.empty() ? std::nullopt : std::optional(std::move(name));
+}
+
+std::u16string Win32Windows::title(WindowHandle window) {
+    return textFrom(&GetWindowTextW, window);
+}
+
+bool Win32Windows::isVisible(WindowHandle window) {
+    return IsWindowVisible(windowOf(window)) != FALSE;
+}
+
+bool Win32Windows::isIconic(WindowHandle window) {
+    return IsIconic(windowOf(window)) != FALSE;
+}
+
+std::uint32_t Win32Windows::extendedStyle(WindowHandle window) {
+    return static_cast<std::uint32_t>(GetWindowLongW(windowOf(window), GWL_EXSTYLE));
+}
+
+WindowHandle Win32Windows::parent(WindowHandle window) {
+    return handleOf(GetParent(windowOf(window)));
+}
+
+WindowHandle Win32Windows::previous(WindowHandle window) {
+    return handleOf(GetWindow(windowOf(window), GW_HWNDPREV));
+}
+
+void Win32Windows::show(WindowHandle window, std::int32_t command) {
+    // Showing the window of another process waits for that process.
+    if (IsHungAppWindow(windowOf(window)) != FALSE) {
+        ShowWindowAsync(windowOf(window), command);
+    } else {
+        ShowWindow(windowOf(window), command);
+    }
+}
+
+bool Win32Windows::setForeground(WindowHandle window) {
+    return SetForegroundWindow(windowOf(window)) != FALSE;
+}
+
+void Win32Windows::send(WindowHandle window, std::uint32_t message) {
+    SendMessageTimeoutW(windowOf(window), message, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
+}
+
+} // namespace platform

@@ -1,0 +1,27 @@
+#include "simulator/win32/CallGate.h"
+
+namespace simulator::standin {
+
+using automation::com::identityOf;
+
+DWORD CallGate::HandleInComingCall(DWORD /*type*/, HTASK /*task*/, DWORD /*tick*/, LPINTERFACEINFO call) noexcept {
+    // Counting references and asking for interfaces is not the program's business.
+    const bool isAutomation = call != nullptr && IsEqualIID(call->iid, IID_IDispatch);
+    if (!isBusy() || !isAutomation || identityOf(call->pUnk).get() == always_) {
+        return SERVERCALL_ISHANDLED;
+    }
+    if (refusals_ != withoutEnd) {
+        --refusals_;
+    }
+    return SERVERCALL_REJECTED;
+}
+
+DWORD CallGate::RetryRejectedCall(HTASK /*task*/, DWORD /*tick*/, DWORD /*type*/) noexcept {
+    return MAXDWORD; // it calls nobody who might refuse
+}
+
+DWORD CallGate::MessagePending(HTASK /*task*/, DWORD /*tick*/, DWORD /*type*/) noexcept {
+    return PENDINGMSG_WAITDEFPROCESS;
+}
+
+} // namespace simulator::standin

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "automation/com/ComObject.h"
+
+#include <limits>
+
+namespace simulator::standin {
+
+/// Refuses calls from other processes while PowerPoint is busy, as a program does that shows its user something: before
+/// they reach an object. Calls to one object always come through.
+class CallGate final : public automation::com::ComObject<IMessageFilter> {
+public:
+    static constexpr std::int32_t withoutEnd = std::numeric_limits<std::int32_t>::max();
+
+    /// `always` is the object whose calls are never refused; it must outlive this object.
+    explicit CallGate(IUnknown* always) noexcept : always_(always) {}
+
+    /// Refuses so many calls from now on.
+    void refuse(std::int32_t calls) noexcept { refusals_ = calls; }
+    [[nodiscard]] bool isBusy() const noexcept { return refusals_ > 0; }
+
+    DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK task, DWORD tick,
+                                               LPINTERFACEINFO call) noexcept override;
+    DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK task, DWORD tick, DWORD type) noexcept override;
+    DWORD STDMETHODCALLTYPE MessagePending(HTASK task, DWORD tick, DWORD type) noexcept override;
+
+private:
+    IUnknown* always_;
+    std::int32_t refusals_ = 0;
+};
+
+} // namespace simulator::standin

@@ -1,0 +1,78 @@
+#include "simulator/win32/ControlObject.h"
+
+namespace simulator::standin {
+
+bool ControlObject::busy() const {
+    requireRunning();
+    return gate_->isBusy();
+}
+
+void ControlObject::setBusy(bool busy) const {
+    refuse(busy ? CallGate::withoutEnd : 0);
+}
+
+void ControlObject::refuse(std::int32_t calls) const {
+    requireRunning();
+    gate_->refuse(calls);
+}
+
+void ControlObject::openDialog(const std::u16string& title) const {
+    requireRunning();
+    window_.openDialog(title);
+}
+
+std::int32_t ControlObject::dialogs() const {
+    requireRunning();
+    return static_cast<std::int32_t>(window_.dialogs());
+}
+
+std::int32_t ControlObject::slowness() const {
+    requireRunning();
+    return troubles_.slowness();
+}
+
+void ControlObject::setSlowness(std::int32_t milliseconds) const {
+    requireRunning();
+    troubles_.setSlowness(milliseconds);
+}
+
+void ControlObject::dieAtCall(std::int32_t n) const {
+    requireRunning();
+    troubles_.dieAtCall(n);
+}
+
+std::int32_t ControlObject::calls() const {
+    requireRunning();
+    return troubles_.calls();
+}
+
+std::int32_t ControlObject::escapes() const {
+    requireRunning();
+    return window_.escapes();
+}
+
+const automation::MemberTable& ControlObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = ControlObject;
+    static const automation::MemberTable table{
+        property<&This::busy, &This::setBusy>(u"Busy"),
+        method<&This::refuse>(u"Refuse"),
+        method<&This::openDialog>(u"OpenDialog"),
+        property<&This::dialogs>(u"Dialogs"),
+        property<&This::slowness, &This::setSlowness>(u"Slowness"),
+        method<&This::dieAtCall>(u"DieAtCall"),
+        property<&This::calls>(u"Calls"),
+        property<&This::escapes>(u"Escapes"),
+        property<&This::bits>(u"Bits"),
+    };
+    return table;
+}
+
+void ControlObject::requireRunning() const {
+    if (isOver_) {
+        throw automation::Error(automation::remote::serverUnavailable, {}, u"PowerPoint has ended");
+    }
+}
+
+} // namespace simulator::standin

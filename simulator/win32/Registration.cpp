@@ -1,0 +1,123 @@
+#include "simulator/win32/Registration.h"
+
+#include "automation/com/ComError.h"
+#include "automation/com/WideText.h"
+#include "simulator/win32/StandInIdentity.h"
+
+#include <array>
+
+namespace simulator::standin {
+
+namespace {
+
+using automation::com::fromWide;
+
+const std::wstring classes = L"Software\\Classes\\";
+const std::wstring title = L"PowerPoint stand-in";
+
+REGSAM viewFlag(View view) noexcept {
+    switch (view) {
+    case View::Bits32: return KEY_WOW64_32KEY;
+    case View::Bits64: return KEY_WOW64_64KEY;
+    default: return 0;
+    }
+}
+
+std::wstring textOf(const CLSID& id) {
+    std::array<wchar_t, 40> text{};
+    StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+std::wstring classKey() {
+    return classes + L"CLSID\\" + textOf(applicationClass);
+}
+
+std::wstring programPath() {
+    std::wstring path(32767, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path;
+}
+
+/// The unnamed value of a key; empty where there is none.
+std::wstring textAt(HKEY root, const std::wstring& key, REGSAM view = 0) {
+    HKEY handle = nullptr;
+    std::array<wchar_t, 1024> text{};
+    auto size = static_cast<DWORD>(sizeof(text) - sizeof(wchar_t));
+    if (RegOpenKeyExW(root, key.c_str(), 0, KEY_QUERY_VALUE | view, &handle) != ERROR_SUCCESS) {
+        return {};
+    }
+    const LSTATUS status =
+        RegQueryValueExW(handle, nullptr, nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()), &size);
+    RegCloseKey(handle);
+    return status == ERROR_SUCCESS ? text.data() : std::wstring();
+}
+
+void write(const std::wstring& key, const std::wstring& text, REGSAM view) {
+    HKEY handle = nullptr;
+    automation::com::check(HRESULT_FROM_WIN32(RegCreateKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), 0, nullptr, 0,
+                                                              KEY_SET_VALUE | view, nullptr, &handle, nullptr)));
+    const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+    const LSTATUS status =
+        RegSetValueExW(handle, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), bytes);
+    RegCloseKey(handle);
+    automation::com::check(HRESULT_FROM_WIN32(status));
+}
+
+void removeTree(const std::wstring& key, REGSAM view) {
+    HKEY handle = nullptr;
+    const REGSAM access = DELETE | KEY_ENUMERATE_SUB_KEYS | KEY_QUERY_VALUE | KEY_SET_VALUE | view;
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), 0, access, &handle) == ERROR_SUCCESS) {
+        RegDeleteTreeW(handle, nullptr);
+        RegCloseKey(handle);
+        RegDeleteKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), view, 0);
+    }
+}
+
+/// The class that a name of PowerPoint's stands for; empty where it is not known.
+std::wstring classBehind(const wchar_t* name) {
+    return textAt(HKEY_CLASSES_ROOT, std::wstring(name) + L"\\CLSID");
+}
+
+void refuseToReplace() {
+    for (const wchar_t* const name : programmaticIds) {
+        const std::wstring found = classBehind(name);
+        if (!found.empty() && found != textOf(applicationClass)) {
+            throw automation::Error(E_ACCESSDENIED, u"powerpnt-standin",
+                                    u"A PowerPoint is registered on this machine: " + fromWide(name) + u" is " +
+                                        fromWide(found) + u". It stays; the stand-in is not registered.");
+        }
+    }
+}
+
+} // namespace
+
+void registerServer(View view) {
+    refuseToReplace();
+    const REGSAM flag = viewFlag(view);
+    write(classKey(), title, flag);
+    write(classKey() + L"\\LocalServer32", L'"' + programPath() + L'"', flag);
+    write(classKey() + L"\\ProgID", programmaticIds[0], flag);
+    write(classKey() + L"\\VersionIndependentProgID", programmaticIds[1], flag);
+    for (const wchar_t* const name : programmaticIds) {
+        write(classes + name, title, flag);
+        write(classes + name + L"\\CLSID", textOf(applicationClass), flag);
+    }
+    write(classes + programmaticIds[1] + L"\\CurVer", programmaticIds[0], flag);
+}
+
+void unregisterServer(View view) {
+    removeTree(classKey(), viewFlag(view));
+    for (const REGSAM other : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
+        if (!textAt(HKEY_LOCAL_MACHINE, classKey(), other).empty()) {
+            return;
+        }
+    }
+    for (const wchar_t* const name : programmaticIds) {
+        if (classBehind(name) == textOf(applicationClass)) {
+            removeTree(classes + name, viewFlag(view));
+        }
+    }
+}
+
+} // namespace simulator::standin

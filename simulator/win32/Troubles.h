@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+namespace simulator::standin {
+
+/// Counts the calls of the object model, and makes them slow or deadly where that is asked for.
+class Troubles {
+public:
+    static constexpr std::int32_t never = 0;
+
+    /// To be called for every call, before it does anything.
+    void meet();
+
+    /// Calls so far.
+    [[nodiscard]] std::int32_t calls() const noexcept { return calls_; }
+    /// Time that every call takes, in milliseconds.
+    void setSlowness(std::int32_t milliseconds) noexcept { slowness_ = milliseconds; }
+    [[nodiscard]] std::int32_t slowness() const noexcept { return slowness_; }
+    /// The process dies at the n-th call from now, 1 being the next one.
+    void dieAtCall(std::int32_t n) noexcept { deadly_ = n == never ? never : calls_ + n; }
+
+private:
+    std::int32_t calls_ = 0;
+    std::int32_t slowness_ = 0;
+    std::int32_t deadly_ = never; ///< the call, counted from the first one
+};
+
+} // namespace simulator::standin

@@ -1,0 +1,227 @@
+#include "automation/Error.h"
+#include "automation/Text.h"
+#include "automation/com/ComError.h"
+#include "automation/com/Objects.h"
+#include "automation/com/Variant.h"
+#include "automation/com/VariantReader.h"
+#include "automation/com/WideText.h"
+#include "tests/com/Sample.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+
+namespace {
+
+using namespace automation;
+using namespace automation::com;
+
+/// A VARIANT of a type, filled by what is given.
+template <typename Fill> Variant made(int type, Fill fill) {
+    Variant variant;
+    fill(variant);
+    variant.vt = static_cast<VARTYPE>(type);
+    return variant;
+}
+
+Value read(const VARIANT& variant) {
+    return VariantReader().read(variant);
+}
+
+std::int32_t numberRaisedBy(const std::function<void()>& operation) {
+    try {
+        operation();
+    } catch (const Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+constexpr double beyond = 4294967296.0;
+
+TEST(Variant, ReadsEveryType) {
+    const DECIMAL decimal = [] {
+        DECIMAL result{};
+        VarDecFromR8(-12.5, &result);
+        return result;
+    }();
+    const struct {
+        Variant variant;
+        Value expected;
+    } cases[] = {
+        {Variant(), Empty()},
+        {made(VT_NULL, [](auto&) {}), Empty()},
+        {made(VT_ERROR, [](auto& v) { v.scode = DISP_E_PARAMNOTFOUND; }), Missing()},
+        {made(VT_BOOL, [](auto& v) { v.boolVal = VARIANT_TRUE; }), true},
+        {made(VT_BOOL, [](auto& v) { v.boolVal = 1; }), true},
+        {made(VT_I1, [](auto& v) { v.cVal = static_cast<char>(-5); }), std::int16_t{-5}},
+        {made(VT_UI1, [](auto& v) { v.bVal = 250; }), std::int16_t{250}},
+        {made(VT_I2, [](auto& v) { v.iVal = -32768; }), std::int16_t{-32768}},
+        {made(VT_UI2, [](auto& v) { v.uiVal = 65535; }), 65535},
+        {made(VT_I4, [](auto& v) { v.lVal = -70000; }), -70000},
+        {made(VT_INT, [](auto& v) { v.intVal = 5; }), 5},
+        {made(VT_UI4, [](auto& v) { v.ulVal = 5; }), 5},
+        {made(VT_UINT, [](auto& v) { v.uintVal = 0xFFFFFFFFU; }), 4294967295.0},
+        {made(VT_I8, [](auto& v) { v.llVal = -4294967296LL; }), -beyond},
+        {made(VT_UI8, [](auto& v) { v.ullVal = 9; }), 9},
+        {made(VT_R4, [](auto& v) { v.fltVal = 0.1F; }), 0.1F},
+        {made(VT_R8, [](auto& v) { v.dblVal = 0.1; }), 0.1},
+        {made(VT_CY, [](auto& v) { v.cyVal.int64 = 12500; }), 1.25},
+        {made(VT_DATE, [](auto& v) { v.date = 2.5; }), 2.5},
+        {made(VT_DECIMAL, [&](auto& v) { v.decVal = decimal; }), -12.5},
+        {made(VT_BSTR, [](auto& v) { v.bstrVal = Bstr(u"L'été\0!").release(); }), u"L'été"},
+        {made(VT_BSTR, [](auto& v) { v.bstrVal = nullptr; }), u""},
+        {made(VT_DISPATCH, [](auto& v) { v.pdispVal = nullptr; }), nullptr},
+        {made(VT_UNKNOWN, [](auto& v) { v.punkVal = nullptr; }), nullptr},
+        {made(VT_ARRAY | VT_I4, [](auto& v) { v.parray = nullptr; }), Array()},
+    };
+    for (const auto& [variant, expected] : cases) {
+        EXPECT_EQ(read(variant), expected) << "type " << variant.vt;
+        if (variant.vt == VT_EMPTY || variant.vt == VT_NULL) {
+            continue;
+        }
+        // The same behind a reference to a variable of that type, and to a VARIANT.
+        VARIANT reference;
+        VariantInit(&reference);
+        reference.vt = static_cast<VARTYPE>(VT_BYREF | variant.vt);
+        reference.byref = variant.vt == VT_DECIMAL ? const_cast<DECIMAL*>(&variant.decVal)
+                                                   : const_cast<void*>(static_cast<const void*>(&variant.llVal));
+        EXPECT_EQ(read(reference), expected) << "reference to type " << variant.vt;
+        EXPECT_EQ(read(Variant::reference(reference)), expected) << "reference to a reference to type " << variant.vt;
+    }
+}
+
+TEST(Variant, GivesBackWhatItWasGiven) {
+    const auto sample = std::make_shared<tests::Sample>();
+    const Value values[] = {Empty(),
+                            Missing(),
+                            false,
+                            true,
+                            std::int16_t{-1},
+                            std::numeric_limits<std::int32_t>::min(),
+                            1.5F,
+                            -0.1,
+                            u"",
+                            std::u16string_view(u"a\0b\u00E9\U0001F600", 6),
+                            nullptr,
+                            sample,
+                            Array(),
+                            Array{1, u"deux", Array{sample, Empty()}, nullptr}};
+    for (const Value& value : values) {
+        EXPECT_EQ(read(variantOf(value)), value) << toUtf8(value.display());
+    }
+}
+
+TEST(Variant, ReadsArraysOfAnyTypeAndShape) {
+    SAFEARRAYBOUND bounds[] = {{2, 1}, {3, -1}};
+    SAFEARRAY* const grid = SafeArrayCreate(VT_R4, 2, bounds);
+    for (LONG row = 1; row <= 2; ++row) {
+        for (LONG column = -1; column <= 1; ++column) {
+            LONG index[] = {row, column};
+            float element = static_cast<float>(row * 10 + column);
+            ASSERT_EQ(SafeArrayPutElement(grid, index, &element), S_OK);
+        }
+    }
+    const Variant variant = made(VT_ARRAY | VT_R4, [&](auto& v) { v.parray = grid; });
+    EXPECT_EQ(read(variant), Value(Array{Array{9.0F, 10.0F, 11.0F}, Array{19.0F, 20.0F, 21.0F}}));
+}
+
+TEST(Variant, RefusesWhatCannotBeRead) {
+    Variant self; // refers to itself for ever
+    self = Variant::reference(self);
+    Variant nested = variantOf(Array{1});
+    for (int level = 0; level < 40; ++level) {
+        SAFEARRAY* const outer = SafeArrayCreateVector(VT_VARIANT, 0, 1);
+        static_cast<VARIANT*>(outer->pvData)[0] = nested.release();
+        nested = made(VT_ARRAY | VT_VARIANT, [&](auto& v) { v.parray = outer; });
+    }
+    Variant large = variantOf(Array(1U << 19U));
+    Variant manyTimes = variantOf(Array(4)); // each element stands for the large one
+    for (int i = 0; i < 4; ++i) {
+        static_cast<VARIANT*>(manyTimes.parray->pvData)[i] = Variant::reference(large).release();
+    }
+    SAFEARRAYBOUND many[] = {{0x7FFFFFFF, 0}, {0, 0}};
+    const struct {
+        Variant variant;
+        int expected;
+    } cases[] = {
+        {made(VT_ERROR, [](auto& v) { v.scode = E_FAIL; }), 13},
+        {made(VT_RECORD, [](auto& v) { v.pvRecord = v.pRecInfo = nullptr; }), 13},
+        {made(VT_UNKNOWN, [](auto& v) { CreateErrorInfo(reinterpret_cast<ICreateErrorInfo**>(&v.punkVal)); }), 13},
+        {made(VT_BYREF | VT_I4, [](auto& v) { v.plVal = nullptr; }), 5},
+        {made(VT_BYREF | VT_VARIANT, [](auto& v) { v.pvarVal = nullptr; }), 5},
+        {made(VT_BYREF | VT_BSTR, [](auto& v) { v.pbstrVal = nullptr; }), 5},
+        {made(VT_ARRAY | VT_UI1, [](auto& v) { v.parray = SafeArrayCreateVector(VT_UI1, 0, 3U << 20U); }), 7},
+        {made(VT_ARRAY | VT_I4, [&](auto& v) { v.parray = SafeArrayCreate(VT_I4, 2, many); }), 7},
+        {made(VT_ARRAY | VT_I2, [](auto& v) { v.parray = SafeArrayCreateVector(VT_I4, 0, 3); }), 13},
+        {std::move(nested), 7},
+        {std::move(manyTimes), 7},
+        {Variant::reference(self), 7},
+    };
+    for (const auto& [variant, expected] : cases) {
+        EXPECT_EQ(numberRaisedBy([&] { static_cast<void>(read(variant)); }), expected) << "type " << variant.vt;
+    }
+}
+
+TEST(Variant, WritesToVariablesOfEveryType) {
+    const auto sample = std::make_shared<tests::Sample>();
+    const struct {
+        int type;
+        Value given;
+        Value found;
+        int refused = 0;
+    } cases[] = {
+        {VT_I1, -5.0, std::int16_t{-5}},
+        {VT_I1, 200, Empty(), 6},
+        {VT_UI1, 200, std::int16_t{200}},
+        {VT_I2, 2.5, std::int16_t{2}},
+        {VT_I2, 40000, Empty(), 6},
+        {VT_UI2, 40000, 40000},
+        {VT_I4, u"12", 12},
+        {VT_I4, u"douze", Empty(), 13},
+        {VT_INT, true, -1},
+        {VT_UI4, 4294967295.0, 4294967295.0},
+        {VT_UINT, -1, Empty(), 6},
+        {VT_I8, beyond, beyond},
+        {VT_UI8, 7, 7},
+        {VT_R4, 0.5, 0.5F},
+        {VT_R8, u"0.5", 0.5},
+        {VT_CY, 1.25, 1.25},
+        {VT_DATE, 2.5, 2.5},
+        {VT_DECIMAL, -12.5, -12.5},
+        {VT_BOOL, 2, true},
+        {VT_BSTR, 12, u"12"},
+        {VT_DISPATCH, sample, sample},
+        {VT_DISPATCH, nullptr, nullptr},
+        {VT_DISPATCH, 1, Empty(), 424},
+        {VT_UNKNOWN, sample, sample},
+        {VT_ARRAY | VT_VARIANT, Array{1, u"2"}, Array{1, u"2"}},
+        {VT_ARRAY | VT_VARIANT, 1, Empty(), 13},
+        {VT_ARRAY | VT_I4, Array{1}, Empty(), 13},
+        {VT_VARIANT, u"texte", u"texte"},
+        {VT_VARIANT, Missing(), Missing()},
+        {VT_RECORD, 1, Empty(), 13},
+    };
+    for (const auto& [type, given, found, refused] : cases) {
+        // The variable is a VARIANT's content, so that it is cleared at the end as its type demands.
+        Variant variable;
+        variable.vt = static_cast<VARTYPE>(type == VT_VARIANT || type == VT_RECORD ? int{VT_EMPTY} : type);
+        VARIANT reference;
+        VariantInit(&reference);
+        reference.vt = static_cast<VARTYPE>(VT_BYREF | type);
+        reference.byref = type == VT_VARIANT   ? static_cast<void*>(&variable)
+                          : type == VT_DECIMAL ? static_cast<void*>(&variable.decVal)
+                                               : static_cast<void*>(&variable.llVal);
+        EXPECT_EQ(numberRaisedBy([&] { assign(reference, given); }), refused) << "type " << type;
+        if (refused == 0) {
+            variable.vt = type == VT_VARIANT ? variable.vt : static_cast<VARTYPE>(type);
+            EXPECT_EQ(read(variable), found) << "type " << type;
+            assign(reference, given); // what was there is released
+        }
+        reference.byref = nullptr;
+        EXPECT_NE(numberRaisedBy([&] { assign(reference, given); }), 0) << "null reference to type " << type;
+    }
+}
+
+} // namespace

@@ -1,0 +1,172 @@
+#include "automation/com/ComPtr.h"
+#include "library/registration/Entries.h"
+#include "library/registration/Table.h"
+#include "tests/library/ClassesKey.h"
+#include "tests/library/Library.h"
+
+#include <K73053.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using automation::com::ComPtr;
+using tests::allClassesContent;
+
+constexpr REGSAM otherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+
+const std::wstring classes = L"Software\\Classes\\";
+
+/// The library of the other bitness, out of the registry for the length of a scope.
+class OtherBitnessAside {
+public:
+    OtherBitnessAside() {
+        for (const auto& row : library::table::classes) {
+            move(HKEY_LOCAL_MACHINE, keyOf(row), otherBitness, HKEY_CURRENT_USER, asideOf(row), 0);
+        }
+    }
+    ~OtherBitnessAside() {
+        for (const auto& row : library::table::classes) {
+            move(HKEY_CURRENT_USER, asideOf(row), 0, HKEY_LOCAL_MACHINE, keyOf(row), otherBitness);
+        }
+        RegDeleteKeyW(HKEY_CURRENT_USER, aside);
+    }
+    OtherBitnessAside(const OtherBitnessAside&) = delete;
+    OtherBitnessAside& operator=(const OtherBitnessAside&) = delete;
+    OtherBitnessAside(OtherBitnessAside&&) = delete;
+    OtherBitnessAside& operator=(OtherBitnessAside&&) = delete;
+
+private:
+    static constexpr const wchar_t* aside = L"Software\\K73053 tests";
+
+    static std::wstring keyOf(const library::table::Class& row) {
+        return classes + L"CLSID\\" + std::wstring(row.identity.begin(), row.identity.end());
+    }
+    static std::wstring asideOf(const library::table::Class& row) {
+        return std::wstring(aside) + L'\\' + std::wstring(row.name.begin(), row.name.end());
+    }
+    static void move(HKEY fromRoot, const std::wstring& from, REGSAM fromView, HKEY toRoot, const std::wstring& to,
+                     REGSAM toView) {
+        HKEY source = nullptr;
+        HKEY target = nullptr;
+        if (RegOpenKeyExW(fromRoot, from.c_str(), 0, KEY_ALL_ACCESS | fromView, &source) != ERROR_SUCCESS) {
+            return;
+        }
+        RegCreateKeyExW(toRoot, to.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | toView, nullptr, &target, nullptr);
+        EXPECT_EQ(RegCopyTreeW(source, nullptr, target), ERROR_SUCCESS);
+        EXPECT_EQ(RegDeleteTreeW(source, nullptr), ERROR_SUCCESS);
+        RegCloseKey(target);
+        RegCloseKey(source);
+        RegDeleteKeyExW(fromRoot, from.c_str(), fromView, 0);
+    }
+};
+
+/// The machine without the library, for the length of a test; afterwards it is registered as it was found.
+class RegistrationTest : public testing::Test {
+protected:
+    void SetUp() override {
+        found_ = allClassesContent();
+        ASSERT_EQ(library_.unregisterServer(), S_OK);
+        clean_ = allClassesContent();
+    }
+    void TearDown() override {
+        EXPECT_EQ(allClassesContent(), clean_);
+        if (found_ != clean_) {
+            EXPECT_EQ(library_.registerServer(), S_OK);
+            EXPECT_EQ(allClassesContent(), found_);
+        }
+    }
+
+    static HRESULT createByName() {
+        CLSID id{};
+        if (const HRESULT status = CLSIDFromProgID(L"K73053.Module", &id); FAILED(status)) {
+            return status;
+        }
+        ComPtr<IUnknown> object;
+        return CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(AbstractModule),
+                                reinterpret_cast<void**>(object.receive()));
+    }
+    /// Wine finds classes of the machine alone.
+    static bool findsUsersClasses() {
+        return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr;
+    }
+    static std::wstring textAt(HKEY root, const library::Entry& entry) {
+        wchar_t data[1024] = L"(missing)";
+        DWORD size = sizeof(data);
+        RegGetValueW(root, (classes + entry.key).c_str(), entry.name.c_str(), RRF_RT_REG_SZ, nullptr, data, &size);
+        return data;
+    }
+
+    OtherBitnessAside otherBitnessAside_;
+    tests::Library library_;
+    tests::RegistryContent found_;
+    tests::RegistryContent clean_;
+};
+
+TEST_F(RegistrationTest, IsWrittenForTheMachineAndTakenBack) {
+    EXPECT_NE(createByName(), S_OK);
+    ASSERT_EQ(library_.registerServer(), S_OK);
+    const auto registered = allClassesContent();
+    for (const library::Entry& entry : library::entriesFor(tests::Library::path())) {
+        EXPECT_EQ(textAt(HKEY_LOCAL_MACHINE, entry), entry.text);
+    }
+    EXPECT_EQ(createByName(), S_OK);
+    EXPECT_EQ(library_.install(true, nullptr), S_OK);
+    EXPECT_EQ(library_.install(true, L""), S_OK);
+    EXPECT_EQ(allClassesContent(), registered) << "registering again changes nothing";
+    EXPECT_EQ(library_.unregisterServer(), S_OK);
+    EXPECT_EQ(allClassesContent(), clean_);
+    EXPECT_EQ(library_.unregisterServer(), S_OK) << "nothing to take back is no failure";
+}
+
+TEST_F(RegistrationTest, IsWrittenForOneUserAndTakenBack) {
+    const auto machine = [] { return tests::classesContent(HKEY_LOCAL_MACHINE, 0); };
+    const auto before = machine();
+    ASSERT_EQ(library_.install(true, L"user"), S_OK);
+    EXPECT_EQ(machine(), before);
+    for (const library::Entry& entry : library::entriesFor(tests::Library::path())) {
+        EXPECT_EQ(textAt(HKEY_CURRENT_USER, entry), entry.text);
+    }
+    if (findsUsersClasses()) {
+        EXPECT_EQ(createByName(), S_OK);
+    }
+    EXPECT_EQ(library_.install(false, L"USER"), S_OK);
+    EXPECT_NE(createByName(), S_OK);
+    EXPECT_EQ(library_.install(true, L"nobody"), E_INVALIDARG);
+}
+
+TEST_F(RegistrationTest, LeavesWhatTheOtherBitnessNeeds) {
+    const std::wstring path = classes + library::serverKeys().front();
+    HKEY other = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_WRITE | otherBitness, nullptr,
+                              &other, nullptr),
+              ERROR_SUCCESS);
+    RegCloseKey(other);
+    CLSID id{};
+    ASSERT_EQ(library_.registerServer(), S_OK);
+    EXPECT_EQ(library_.unregisterServer(), S_OK);
+    EXPECT_EQ(CLSIDFromProgID(L"K73053.Module", &id), S_OK) << "the name is that of both";
+    EXPECT_NE(createByName(), S_OK);
+
+    for (std::wstring key = path; key.find(L'{') != std::wstring::npos; key.resize(key.rfind(L'\\'))) {
+        EXPECT_EQ(RegDeleteKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), otherBitness, 0), ERROR_SUCCESS);
+    }
+    EXPECT_EQ(library_.unregisterServer(), S_OK);
+    EXPECT_NE(CLSIDFromProgID(L"K73053.Module", &id), S_OK);
+}
+
+TEST_F(RegistrationTest, IsNotNeededWithTheManifest) {
+    const std::wstring manifest = tests::Library::pathBeside(L"K73053.manifest");
+    ACTCTXW wanted{};
+    wanted.cbSize = sizeof(wanted);
+    wanted.lpSource = manifest.c_str();
+    HANDLE const context = CreateActCtxW(&wanted);
+    ASSERT_NE(context, INVALID_HANDLE_VALUE) << GetLastError();
+    ULONG_PTR cookie = 0;
+    ASSERT_TRUE(ActivateActCtx(context, &cookie));
+    EXPECT_EQ(createByName(), S_OK);
+    EXPECT_TRUE(DeactivateActCtx(0, cookie));
+    ReleaseActCtx(context);
+    EXPECT_NE(createByName(), S_OK);
+}
+
+} // namespace

@@ -1,0 +1,39 @@
+#include "automation/Object.h"
+#include "automation/com/ComObject.h"
+#include "tests/com/TestServer.h"
+#include "tests/win32/Watchdog.h"
+
+#include <gtest/gtest.h>
+#include <objbase.h>
+
+#include <cstdio>
+
+namespace {
+
+/// Fails every test that leaves an object behind.
+class NothingLeft final : public testing::EmptyTestEventListener {
+    void OnTestEnd(const testing::TestInfo& /*test*/) override {
+        EXPECT_EQ(automation::Object::alive(), 0U);
+        EXPECT_EQ(automation::com::CountedAlive::count, 0U);
+    }
+};
+
+} // namespace
+
+int main(int count, char** arguments) {
+    using namespace std::chrono_literals;
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    if (const auto status = tests::serveIfAsked({arguments, static_cast<std::size_t>(count)})) {
+        return *status;
+    }
+    testing::InitGoogleTest(&count, arguments);
+    testing::UnitTest& all = *testing::UnitTest::GetInstance();
+    all.listeners().Append(std::make_unique<tests::Watchdog>(60s).release()); // the list owns them
+    all.listeners().Append(std::make_unique<NothingLeft>().release());
+    const int status = RUN_ALL_TESTS();
+    if (status == 0) {
+        std::printf("%d tests passed, %d bits\n", all.successful_test_count(), static_cast<int>(sizeof(void*) * 8));
+    }
+    CoUninitialize();
+    return status;
+}
