@@ -3,6 +3,7 @@
 #include "platform/ErrorReport.h"
 #include "tests/Errors.h"
 #include "tests/QuestionBench.h"
+#include "tests/TraceLog.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ constexpr std::int32_t horizontalScroll = 102;
 
 /// PowerPoint with a presentation of one slide, and the routines and variables of all questions.
 class Questions : public testing::Test {
-protected:
+public:
     Questions() {
         machine.startPowerPoint();
         application = ppt::Application(machine.application());
@@ -195,13 +196,27 @@ TEST_F(Questions, KeepTheLetterOfAnEarlierAttempt) {
 }
 
 TEST_F(Questions, CloseTheDialogAboveFirst) {
-    k73053::Session session(machine.services());
+    tests::TraceLog log;
+    const platform::ObservedServices observed(machine.services(), log.observer());
+    k73053::Session session(observed.services());
     session.GetApplication();
     machine.openDialog(u"Police");
     machine.openDialog(u"Couleurs");
     machine.openWindow(u"Autre", u"Autre programme");
+    const auto closing = [&](std::u16string_view title) {
+        platform::WindowHandle dialog = session.window;
+        while (dialog != 0 && machine.services().windows.title(dialog) != title) {
+            dialog = machine.services().windows.previous(dialog);
+        }
+        return "Windows.send(" + std::to_string(dialog) + ", 16)";
+    };
+    const std::string police = closing(u"Police");
+    const std::string colours = closing(u"Couleurs");
     session.FermeDialogues(session.window);
     EXPECT_EQ(machine.dialogs(), 0U);
+    const std::string calls = log.take();
+    EXPECT_NE(calls.find(police), std::string::npos) << calls;
+    EXPECT_LT(calls.find(colours), calls.find(police)) << calls;
     session.FermeDialogues(session.window);
     session.EnvoieEchap(session.window);
     EXPECT_EQ(machine.keysSent(), u"{ESC}");
@@ -233,9 +248,10 @@ TEST_F(Questions, KeepEachFolderInItsOwnKeyForOlderVersions) {
 }
 
 TEST(ErrorReport, KeepsNumberAndDescription) {
-    const automation::Error inner(7, u"inner", u"Mémoire", u"aide.hlp", 3);
-    const auto outer =
-        errorOf([&] { platform::reporting(u"", u"", platform::ReportedObject::Source, [&] { throw inner; }); });
+    const auto outer = errorOf([&] {
+        platform::reporting(u"", u"", platform::ReportedObject::Source,
+                            [] { throw automation::Error(7, u"inner", u"Mémoire", u"aide.hlp", 3); });
+    });
     ASSERT_TRUE(outer);
     EXPECT_EQ(outer->source(), u"DLL K61027 - CLASSE \n\r - SERVICE  - OBJET inner");
     EXPECT_EQ(outer->number(), 7);
