@@ -1,5 +1,6 @@
 #include "simulator/Machine.h"
 
+#include "automation/Error.h"
 #include "simulator/files/FilePresentationStore.h"
 #include "simulator/system/EmbeddedFiles.h"
 #include "simulator/system/EmbeddedKeyboard.h"
@@ -117,6 +118,17 @@ platform::WindowHandle Machine::mainWindow() const noexcept {
 
 void Machine::endPowerPoint() {
     parts_->process.end();
+}
+
+void Machine::endPowerPointAtCall(std::int32_t n) {
+    if (const SessionPtr session = parts_->process.session()) {
+        session->onCall([this, left = n]() mutable {
+            if (--left == 0) {
+                endPowerPoint();
+                throw automation::Error(automation::remote::callFailed, {}, u"L'appel de procédure distante a échoué.");
+            }
+        });
+    }
 }
 
 void Machine::setBusy(bool busy) {

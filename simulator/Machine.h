@@ -41,6 +41,8 @@ public:
     [[nodiscard]] platform::WindowHandle mainWindow() const noexcept;
     /// The user closes PowerPoint, or its process dies: objects held on it are dead from then on.
     void endPowerPoint();
+    /// Its process dies at the n-th call from now, which raises that it has failed.
+    void endPowerPointAtCall(std::int32_t n);
     /// PowerPoint refuses automation calls from now on, or answers again.
     void setBusy(bool busy);
     /// These do nothing where PowerPoint does not run.

@@ -18,7 +18,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify --file mine.scn   a scenario file of your own
   exercise-host list                     the questions and their scenarios
 
-Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file.)";
+Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
+scenario hung.)";
 
 /// The command line with all that it can ask for.
 struct CommandLine {

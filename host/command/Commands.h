@@ -12,6 +12,7 @@ enum class ExitCode : int {
     Good = 0,
     FellShort = 1,  ///< a scenario fell short
     WrongUsage = 2, ///< a wrong command line, or a wrong line in a scenario file
+    Hung = 3,       ///< a scenario did not come to its end
 };
 
 /// What `exercise-host run` is asked for.

@@ -1,4 +1,5 @@
 #include "host/command/Commands.h"
+#include "host/command/Watch.h"
 #include "host/run/Runner.h"
 
 #include "automation/Text.h"
@@ -14,9 +15,15 @@ struct Tally {
     std::size_t failed = 0;
 };
 
+/// Far more than a scenario takes on a machine that has a lot to do.
+constexpr std::chrono::seconds patience(180);
+
 void verifyFile(const language::ScenarioFile& file, const WorldMaker& makeWorld, Tally& tally, std::ostream& out) {
+    Watch watch(patience, out);
+    watch.next(file.name + ", its course");
     const Runner runner(file, makeWorld);
     for (const language::Scenario& scenario : file.scenarios) {
+        watch.next(file.name + " \"" + automation::toUtf8(scenario.title) + "\"");
         const Outcome outcome = runner.run(scenario);
         for (const language::Remark& failure : outcome.failures) {
             out << failure.in(file.name) << " (\"" << automation::toUtf8(scenario.title) << "\")" << std::endl;

@@ -9,6 +9,7 @@ const automation::MemberTable& PowerPointMoves::members() const {
         method<&PowerPointMoves::start>(u"Start"),
         method<&PowerPointMoves::close>(u"Close"),
         method<&PowerPointMoves::kill>(u"Kill"),
+        method<&PowerPointMoves::killAtCall>(u"KillAtCall"),
         method<&PowerPointMoves::hide>(u"Hide"),
         method<&PowerPointMoves::minimize>(u"Minimize"),
         method<&PowerPointMoves::stopAnswering>(u"StopAnswering"),

@@ -10,6 +10,7 @@ namespace host {
 ///     PowerPoint.Start                   the learner starts it; nothing where it runs
 ///     PowerPoint.Close                   the learner closes it
 ///     PowerPoint.Kill                    its process dies
+///     PowerPoint.KillAtCall 8            it dies at the eighth call from now
 ///     PowerPoint.Hide                    its window becomes invisible
 ///     PowerPoint.Minimize
 ///     PowerPoint.StopAnswering           it refuses calls from now on
@@ -27,6 +28,7 @@ public:
     void start() { world_.startPowerPoint(); }
     void close() { world_.closePowerPoint(); }
     void kill() { world_.killPowerPoint(); }
+    void killAtCall(std::int32_t n) { world_.killPowerPointAtCall(n); }
     void hide() { world_.hidePowerPoint(); }
     void minimize() { world_.minimizePowerPoint(); }
     void stopAnswering() { world_.setBusy(true); }

@@ -74,7 +74,7 @@ public:
     }
     ~ComWorld() override {
         module_.reset();
-        powerPoint_.kill();
+        powerPoint_.dismiss();
     }
     ComWorld(const ComWorld&) = delete;
     ComWorld& operator=(const ComWorld&) = delete;
@@ -94,6 +94,7 @@ public:
     void startPowerPoint() override { powerPoint_.start(); }
     void closePowerPoint() override { powerPoint_.close(); }
     void killPowerPoint() override { powerPoint_.kill(); }
+    void killPowerPointAtCall(std::int32_t n) override { powerPoint_.standIn().call(u"DieAtCall", n); }
     void hidePowerPoint() override { powerPoint_.hide(); }
     void minimizePowerPoint() override { powerPoint_.minimize(); }
     void setBusy(bool busy) override { powerPoint_.standIn().put(u"Busy", busy); }
@@ -124,10 +125,10 @@ public:
     void denyRegistryKey(std::u16string_view key, bool denied) override { registry_.deny(wide(key), denied); }
     void setMeasurementSystem(std::u16string_view system) override {
         registry_.remember(HKEY_CURRENT_USER, international, measure);
-        const std::wstring value = wide(system);
-        // Nothing is no measurement system to the system's own call.
-        if (value.empty() || SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE, value.c_str()) == FALSE) {
-            registry_.setText(HKEY_CURRENT_USER, international, measure, value);
+        // The system always answers; what is no measurement system is as good as none.
+        const std::wstring value = system.empty() ? L"?" : wide(system);
+        if (SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE, value.c_str()) == FALSE) {
+            refuse(u"the measurement system cannot be set");
         }
     }
 
@@ -186,7 +187,7 @@ private:
         if (!DesktopPowerPoint::isStandIn()) {
             refuse(u"PowerPoint runs on this desktop: close it first");
         }
-        powerPoint_.kill();
+        powerPoint_.dismiss();
     }
 
     /// Settings of a user who has worked with PowerPoint a little.

@@ -95,6 +95,15 @@ void DesktopPowerPoint::kill() {
     }
 }
 
+void DesktopPowerPoint::dismiss() {
+    const HWND frame = findFrame();
+    forget();
+    SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
+    if (findFrame() != nullptr) {
+        kill();
+    }
+}
+
 void DesktopPowerPoint::hide() const {
     ShowWindow(findFrame(), SW_HIDE);
 }

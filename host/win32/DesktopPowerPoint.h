@@ -20,6 +20,8 @@ public:
     void close();
     /// Ends its process, whatever it does.
     void kill();
+    /// Has it go without waiting for its process; kills it where it does not listen.
+    void dismiss();
     void hide() const;
     void minimize() const;
     [[nodiscard]] std::size_t dialogs() const;

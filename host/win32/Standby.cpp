@@ -42,6 +42,19 @@ Handle jobThatEndsItsProcesses() {
 
 Standby::Standby() : program_(registeredProgram()), job_(jobThatEndsItsProcesses()) {}
 
+Standby::~Standby() {
+    forgetTaken();
+    for (const Waiting& each : waiting_) {
+        // A process that is killed would stay known to Wine as one that offers PowerPoint.
+        if (each.ready.isSignalled(patience)) {
+            PostThreadMessageW(each.thread, WM_QUIT, 0, 0);
+        }
+    }
+    for (const Waiting& each : waiting_) {
+        WaitForSingleObject(each.process.get(), patience);
+    }
+}
+
 void Standby::prepare() {
     if (program_.empty()) {
         return;
@@ -75,6 +88,7 @@ void Standby::start() {
         FALSE) {
         CloseHandle(process.hThread);
         one.process = Handle(process.hProcess);
+        one.thread = process.dwThreadId;
         AssignProcessToJobObject(job_.get(), process.hProcess);
     }
     waiting_.push_back(std::move(one));

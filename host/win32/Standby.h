@@ -16,7 +16,7 @@ public:
     Standby& operator=(const Standby&) = delete;
     Standby(Standby&&) = delete;
     Standby& operator=(Standby&&) = delete;
-    ~Standby() = default;
+    ~Standby();
 
     /// Sees to it that one waits, and that another is on its way.
     void prepare();
@@ -24,7 +24,8 @@ public:
 private:
     struct Waiting {
         Handle process;
-        Handle ready; ///< set while it can be created
+        DWORD thread = 0; ///< its main thread
+        Handle ready;     ///< set while it can be created
         bool wasReady = false;
     };
 
@@ -34,7 +35,7 @@ private:
     void waitForOne();
 
     std::wstring program_; ///< empty where there is no stand-in
-    Handle job_;           ///< ends them all with this process
+    Handle job_;           ///< ends them where this process could not
     std::vector<Waiting> waiting_;
     unsigned started_ = 0;
 };

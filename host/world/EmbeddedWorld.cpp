@@ -48,6 +48,7 @@ public:
     void startPowerPoint() override { machine_.startPowerPoint(); }
     void closePowerPoint() override { machine_.endPowerPoint(); }
     void killPowerPoint() override { machine_.endPowerPoint(); }
+    void killPowerPointAtCall(std::int32_t n) override { machine_.endPowerPointAtCall(n); }
     void hidePowerPoint() override { machine_.hidePowerPoint(); }
     void minimizePowerPoint() override { machine_.minimizePowerPoint(); }
     void setBusy(bool busy) override { machine_.setBusy(busy); }

@@ -44,6 +44,8 @@ public:
     virtual void closePowerPoint() = 0;
     /// PowerPoint's process dies.
     virtual void killPowerPoint() = 0;
+    /// PowerPoint's process dies at the n-th call from now, 1 being the next one.
+    virtual void killPowerPointAtCall(std::int32_t n) = 0;
     virtual void hidePowerPoint() = 0;
     virtual void minimizePowerPoint() = 0;
     /// PowerPoint refuses calls from now on, or answers again.

@@ -50,6 +50,10 @@ INT_PTR CALLBACK ModalDialog::answer(HWND dialog, UINT message, WPARAM word, LPA
     if (!isClosing || self == nullptr) {
         return FALSE;
     }
+    // A dialog that waits for one of its own does not close before that one.
+    if (IsWindowEnabled(dialog) == FALSE) {
+        return TRUE;
+    }
     const auto onClose = self->onClose_;
     onClose(dialog);
     return TRUE;

@@ -14,15 +14,17 @@ using automation::com::ComPtr;
 /// Time in which the last call's answer reaches its caller, in milliseconds.
 constexpr DWORD farewell = 100;
 
-bool showRunning() {
-    ComPtr<IUnknown> running;
-    if (FAILED(GetActiveObject(applicationClass, nullptr, running.receive()))) {
-        return false;
-    }
+/// The PowerPoint of another process; null where none runs.
+ComPtr<IDispatch> running() {
+    ComPtr<IUnknown> found;
+    GetActiveObject(applicationClass, nullptr, found.receive());
+    return found.as<IDispatch>();
+}
+
+void bringForward() {
     const HWND window = FindWindowW(frameClass, nullptr);
     ShowWindow(window, SW_SHOW);
     SetForegroundWindow(window);
-    return true;
 }
 
 /// Sets or resets the event of whoever has it wait; there may be none.
@@ -44,8 +46,7 @@ public:
         if (outer != nullptr) {
             return CLASS_E_NOAGGREGATION;
         }
-        return automation::com::guarded(
-            [&] { return server_.powerPoint().application()->QueryInterface(wanted, result); });
+        return automation::com::guarded([&] { return server_.application()->QueryInterface(wanted, result); });
     }
     HRESULT STDMETHODCALLTYPE LockServer(BOOL /*locked*/) noexcept override { return S_OK; }
 
@@ -55,35 +56,50 @@ private:
 
 void Server::run() {
     const bool isUsersStart = !options_.isEmbedding && options_.standbyEvent.empty();
-    if (isUsersStart && showRunning()) {
-        return;
+    if (isUsersStart && running()) {
+        return bringForward();
     }
-    if (options_.standbyEvent.empty()) {
+    if (isUsersStart) {
         powerPoint();
     }
     if (isUsersStart && !options_.isHidden) {
         powerPoint().show(options_.isMinimised);
     }
     const auto factory = automation::com::makeCom<Factory>(*this);
+    // For a single use, since Wine goes on handing out the class object of a process that has died.
     automation::com::check(
-        CoRegisterClassObject(applicationClass, factory.get(), CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &classEntry_));
+        CoRegisterClassObject(applicationClass, factory.get(), CLSCTX_LOCAL_SERVER, REGCLS_SINGLEUSE, &classEntry_));
     tell(options_.standbyEvent, true);
     pump();
+    withdraw();
+}
+
+ComPtr<IDispatch> Server::application() {
+    tell(options_.standbyEvent, false);
+    if (powerPoint_) {
+        return powerPoint_->application();
+    }
+    if (ComPtr<IDispatch> other = running()) {
+        PostQuitMessage(0);
+        return other;
+    }
+    return powerPoint().application();
 }
 
 PowerPointRun& Server::powerPoint() {
     if (!powerPoint_) {
-        tell(options_.standbyEvent, false);
-        powerPoint_.emplace(options_, [this] { end(); });
+        powerPoint_.emplace(options_, [this] {
+            withdraw();
+            PostQuitMessage(0);
+        });
     }
     return *powerPoint_;
 }
 
-void Server::end() {
+void Server::withdraw() {
     if (const DWORD entry = std::exchange(classEntry_, 0)) {
         CoRevokeClassObject(entry);
     }
-    PostQuitMessage(0);
 }
 
 void Server::pump() {

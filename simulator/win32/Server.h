@@ -18,9 +18,12 @@ public:
 private:
     class Factory;
 
-    /// PowerPoint, started where it does not run yet.
+    /// PowerPoint, started in this process where this is not done yet.
     PowerPointRun& powerPoint();
-    void end();
+    /// What a client that creates PowerPoint is given: of PowerPoint there is never more than one.
+    [[nodiscard]] automation::com::ComPtr<IDispatch> application();
+    /// No client creates it from here any more.
+    void withdraw();
     void pump();
     void deliver(MSG& message) const;
 
