@@ -8,4 +8,7 @@ function(component name)
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE compiler)
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+    if(name MATCHES "_(com|win32)$") # the system's headers leave too much behind for the next source
+        set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    endif()
 endfunction()

@@ -5,9 +5,11 @@
 #include "automation/com/Objects.h"
 #include "automation/com/WideText.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <new>
+#include <vector>
 
 namespace automation::com {
 
@@ -52,23 +54,63 @@ public:
         out_.vt = VT_DISPATCH;
     }
     void operator()(const Array& elements) const {
-        if (elements.size() > std::numeric_limits<LONG>::max()) {
-            raise(RunTimeError::OutOfMemory);
-        }
-        SAFEARRAY* const array = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(elements.size()));
-        if (array == nullptr) {
-            throw std::bad_alloc();
-        }
-        out_.parray = array;
-        out_.vt = VT_ARRAY | VT_VARIANT;
-        auto* const places = static_cast<VARIANT*>(array->pvData);
-        for (std::size_t i = 0; i < elements.size(); ++i) {
-            places[i] = variantOf(elements[i]).release();
+        if (const std::size_t columns = columnsOf(elements)) {
+            VARIANT* const places = create({elements.size(), columns});
+            for (std::size_t row = 0; row < elements.size(); ++row) {
+                fill(elements[row].to<Array>(), places + row, elements.size());
+            }
+        } else {
+            fill(elements, create({elements.size()}), 1);
         }
     }
     void operator()(Value* variable) const { variable->visit(*this); }
 
 private:
+    /// Number of numbers that every element of a table holds, such as the pairs of a list of points; 0 for no table.
+    /// Automation servers take tables as arrays of two dimensions.
+    static std::size_t columnsOf(const Array& rows) {
+        const std::size_t columns = rows.empty() ? 0 : numbersIn(rows.front());
+        const bool isTable =
+            std::all_of(rows.begin(), rows.end(), [&](const Value& row) { return numbersIn(row) == columns; });
+        return isTable ? columns : 0;
+    }
+
+    /// Number of elements of an array of numbers; 0 for anything else.
+    static std::size_t numbersIn(const Value& row) {
+        const auto isNumber = [](const Value& each) {
+            return each.is<std::int16_t>() || each.is<std::int32_t>() || each.is<float>() || each.is<double>();
+        };
+        if (!row.is<Array>() || !std::all_of(row.as<Array>().begin(), row.as<Array>().end(), isNumber)) {
+            return 0;
+        }
+        return row.as<Array>().size();
+    }
+
+    /// Makes an array of empty elements; they lie in memory with the first index running fastest.
+    VARIANT* create(std::initializer_list<std::size_t> lengths) const {
+        std::vector<SAFEARRAYBOUND> bounds;
+        for (const std::size_t length : lengths) {
+            if (length > std::numeric_limits<LONG>::max()) {
+                raise(RunTimeError::OutOfMemory);
+            }
+            bounds.push_back({static_cast<ULONG>(length), 0});
+        }
+        SAFEARRAY* const array = SafeArrayCreate(VT_VARIANT, static_cast<UINT>(bounds.size()), bounds.data());
+        if (array == nullptr) {
+            throw std::bad_alloc();
+        }
+        out_.parray = array;
+        out_.vt = VT_ARRAY | VT_VARIANT;
+        return static_cast<VARIANT*>(array->pvData);
+    }
+
+    static void fill(const Array& elements, VARIANT* first, std::size_t step) {
+        for (const Value& element : elements) {
+            *first = variantOf(element).release();
+            first += step;
+        }
+    }
+
     VARIANT& out_;
 };
 

@@ -1,4 +1,5 @@
 #include "automation/Error.h"
+#include "automation/Text.h"
 #include "simulator/win32/Registration.h"
 #include "simulator/win32/Server.h"
 
@@ -40,9 +41,10 @@ int main(int count, char** arguments) {
     int status = 0;
     try {
         perform(*line.options);
-    } catch (const std::exception& error) {
+    } catch (...) {
         useConsole();
-        std::fprintf(stderr, "powerpnt-standin: %s\n", error.what());
+        const std::string text = automation::toUtf8(automation::currentError().description());
+        std::fprintf(stderr, "powerpnt-standin: %s\n", text.c_str());
         status = 1;
     }
     CoUninitialize();

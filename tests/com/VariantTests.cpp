@@ -127,6 +127,16 @@ TEST(Variant, ReadsArraysOfAnyTypeAndShape) {
     EXPECT_EQ(read(variant), Value(Array{Array{9.0F, 10.0F, 11.0F}, Array{19.0F, 20.0F, 21.0F}}));
 }
 
+TEST(Variant, WritesATableOfNumbersInTwoDimensions) {
+    const Array points{Array{1, 2.5F}, Array{3, 4}, Array{5, 6}};
+    const Variant table = variantOf(points);
+    EXPECT_EQ(SafeArrayGetDim(table.parray), 2U);
+    EXPECT_EQ(read(table), Value(points));
+    const Array ragged{Array{1, 2}, Array{3}};
+    EXPECT_EQ(SafeArrayGetDim(variantOf(ragged).parray), 1U);
+    EXPECT_EQ(read(variantOf(ragged)), Value(ragged));
+}
+
 TEST(Variant, RefusesWhatCannotBeRead) {
     Variant self; // refers to itself for ever
     self = Variant::reference(self);
