@@ -16,6 +16,7 @@ public:
     PpSlideLayout layout = ppLayoutBlank;
     TagList tags;
     std::weak_ptr<Presentation> presentation;
+    OriginPtr origin;
 
     [[nodiscard]] const std::vector<ShapePtr>& shapes() const noexcept { return shapes_; }
 
