@@ -39,4 +39,18 @@ std::u16string utf16Text(std::string_view bytes) {
     return text;
 }
 
+std::uint32_t numberAt(std::string_view bytes, std::size_t place) noexcept {
+    return place + sizeof(std::uint32_t) > bytes.size()
+               ? 0
+               : ByteReader(bytes.substr(place), "a number").read<std::uint32_t>();
+}
+
+void putNumber(std::string& bytes, std::size_t place, std::uint32_t number) noexcept {
+    if (place + sizeof(number) <= bytes.size()) {
+        for (std::size_t i = 0; i < sizeof(number); ++i) {
+            bytes[place + i] = static_cast<char>(number >> (8 * i));
+        }
+    }
+}
+
 } // namespace simulator::files

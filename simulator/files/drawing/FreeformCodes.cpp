@@ -138,7 +138,7 @@ std::vector<std::uint16_t> segmentsFor(const Shape& shape) {
     std::vector<std::uint16_t> segments{segment::Move << segment::shift};
     const std::vector<Node>& nodes = shape.nodes;
     for (std::size_t i = 1; i < nodes.size(); ++i) {
-        const bool isCurve = nodes[i].curve && i + 2 < nodes.size();
+        const bool isCurve = i + 2 < nodes.size() && nodes[i].curve && nodes[i + 1].curve && !nodes[i + 2].curve;
         segments.push_back(static_cast<std::uint16_t>((isCurve ? segment::Curve << segment::shift : 0) | 1));
         i += isCurve ? 2 : 0;
     }

@@ -166,6 +166,9 @@ PropertyTable propertiesOf(const Record& shape) {
 
 std::vector<ShapePtr> ShapeReader::read(const Record& drawing) {
     const Record& group = drawing.demand(type::ArtDrawing).demand(type::ArtShapeGroup);
+    if (group.children.empty() || !group.children.front().is(type::ArtShape)) {
+        throw DamagedPresentation("the shapes of a drawing do not begin with the record of their group");
+    }
     return members(group, {}, 0);
 }
 

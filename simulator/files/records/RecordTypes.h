@@ -23,6 +23,7 @@ enum : std::uint16_t {
     SlideViewInfo = 0x03FA,
     ZoomViewInfoAtom = 0x03FD,
     SlideViewInfoAtom = 0x03FE,
+    SlideShowSettings = 0x0401,
     DrawingGroup = 0x040B,
     Drawing = 0x040C,
     DocInfoList = 0x07D0,
