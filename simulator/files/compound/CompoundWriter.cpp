@@ -19,7 +19,7 @@ constexpr char16_t capitalOf(char16_t letter) noexcept {
     return letter >= u'a' && letter <= u'z' ? static_cast<char16_t>(letter - u'a' + u'A') : letter;
 }
 
-struct Entry {
+struct NewEntry {
     std::u16string_view name;
     EntryKind kind = EntryKind::Stream;
     bool isRed = false;
@@ -33,7 +33,7 @@ struct Entry {
 };
 
 /// Shorter names come first, others by their capitals.
-bool isBefore(const Entry& left, const Entry& right) {
+bool isBefore(const NewEntry& left, const NewEntry& right) {
     if (left.name.size() != right.name.size()) {
         return left.name.size() < right.name.size();
     }
@@ -42,13 +42,13 @@ bool isBefore(const Entry& left, const Entry& right) {
 }
 
 /// The entries of a storage and all below it, every storage's members as a search tree.
-class Directory {
+class NewDirectory {
 public:
-    explicit Directory(const Storage& root) {
+    explicit NewDirectory(const Storage& root) {
         entries_.push_back({u"Root Entry", EntryKind::Root, false, noEntry, noEntry, noEntry, &root});
         addMembers(0, root);
     }
-    [[nodiscard]] std::vector<Entry>& entries() noexcept { return entries_; }
+    [[nodiscard]] std::vector<NewEntry>& entries() noexcept { return entries_; }
 
 private:
     void addMembers(std::size_t owner, const Storage& storage) {
@@ -84,7 +84,7 @@ private:
         return static_cast<std::uint32_t>(middle);
     }
 
-    std::vector<Entry> entries_;
+    std::vector<NewEntry> entries_;
 };
 
 /// Sectors one after the other, with the table that chains them.
@@ -127,9 +127,9 @@ std::string tableBytes(const std::vector<std::uint32_t>& numbers) {
     return out.take();
 }
 
-std::string directoryBytes(const std::vector<Entry>& entries) {
+std::string directoryBytes(const std::vector<NewEntry>& entries) {
     ByteWriter out;
-    for (const Entry& entry : entries) {
+    for (const NewEntry& entry : entries) {
         const std::u16string_view name = entry.name.substr(0, nameUnits - 1);
         out.append(files::utf16Bytes(name)).fill((nameUnits - name.size()) * 2);
         out.write<std::uint16_t>(static_cast<std::uint16_t>((name.size() + 1) * 2));
@@ -192,15 +192,15 @@ struct Allocation {
 } // namespace
 
 std::string write(const Storage& root) {
-    Directory directory(root);
+    NewDirectory directory(root);
     Chains sectors(sectorSize);
     Chains mini(miniSectorSize);
-    for (Entry& entry : directory.entries()) {
+    for (NewEntry& entry : directory.entries()) {
         if (entry.bytes != nullptr) {
             entry.first = (entry.size < miniStreamLimit ? mini : sectors).append(*entry.bytes);
         }
     }
-    Entry& top = directory.entries().front();
+    NewEntry& top = directory.entries().front();
     top.first = sectors.append(mini.bytes());
     top.size = mini.bytes().size();
     const std::uint32_t miniFat = mini.next().empty() ? endOfChain : sectors.append(tableBytes(mini.next()));

@@ -76,7 +76,14 @@ public:
                                   along(point.y, top_, height_, frame_.top, frame_.height), isControl});
     }
     void close() noexcept { corners_.isClosed = true; }
-    [[nodiscard]] Corners take() noexcept { return std::move(corners_); }
+    /// A path is closed too where its ends meet.
+    [[nodiscard]] Corners take() noexcept {
+        const std::vector<Node>& nodes = corners_.nodes;
+        const bool endsMeet =
+            nodes.size() > 2 && nodes.front().x == nodes.back().x && nodes.front().y == nodes.back().y;
+        corners_.isClosed = corners_.isClosed || endsMeet;
+        return std::move(corners_);
+    }
 
 private:
     static double number(const Looks& looks, std::uint16_t id, std::uint32_t otherwise) {

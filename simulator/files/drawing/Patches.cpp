@@ -17,7 +17,6 @@ using records::Record;
 namespace type = records::type;
 
 constexpr std::array tables{type::ArtProperties, type::ArtSecondaryProperties, type::ArtTertiaryProperties};
-constexpr std::u16string_view extensionName = u"___PPT9";
 
 /// Properties that hold flags: only those that have changed are carried over.
 constexpr bool areFlags(std::uint16_t id) noexcept {
@@ -62,7 +61,7 @@ void putNumbering(Record& data, const Shape& asRead, const Shape& shape, const R
     const bool wasNumbered = asRead.text && text::isNumbered(*asRead.text);
     const bool isNumbered = shape.text && text::isNumbered(*shape.text);
     if (shape.text != asRead.text && (wasNumbered || isNumbered)) {
-        powerpoint::putData(data, extensionName, powerpoint::readData(now, extensionName));
+        powerpoint::putData(data, text::extensionTag, powerpoint::readData(now, text::extensionTag));
     }
 }
 

@@ -23,8 +23,6 @@ namespace {
 using records::Record;
 namespace type = records::type;
 
-constexpr std::u16string_view extensionName = u"___PPT9";
-
 std::optional<PpPlaceholderType> placeholderIn(const Record& record) {
     const Record* const client = record.find(type::ArtClientData);
     const Record* const atom = client == nullptr ? nullptr : client->find(type::PlaceholderAtom);
@@ -122,7 +120,7 @@ bool holdsText(const Shape& shape, std::uint16_t kind) noexcept {
 
 text::Numbering numberingIn(const Record& record) {
     const Record* const client = record.find(type::ArtClientData);
-    const auto data = client == nullptr ? std::nullopt : powerpoint::readData(*client, extensionName);
+    const auto data = client == nullptr ? std::nullopt : powerpoint::readData(*client, text::extensionTag);
     if (!data || data->size() < records::headerSize) {
         return {};
     }

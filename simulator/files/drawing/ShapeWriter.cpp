@@ -22,8 +22,6 @@ namespace {
 using records::Record;
 namespace type = records::type;
 
-constexpr std::u16string_view extensionName = u"___PPT9";
-
 std::uint16_t kindOf(const Shape& shape) noexcept {
     switch (shape.type) {
     case msoFreeform:
@@ -67,7 +65,7 @@ Record clientDataOf(const Shape& shape) {
     }
     powerpoint::putTags(data, shape.tags);
     if (shape.text && text::isNumbered(*shape.text)) {
-        powerpoint::putData(data, extensionName, bytesOf(text::numberingRecord()));
+        powerpoint::putData(data, text::extensionTag, bytesOf(text::numberingRecord()));
     }
     return data;
 }

@@ -6,6 +6,7 @@
 #include "simulator/files/drawing/DrawingIds.h"
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/drawing/PropertyTable.h"
+#include "simulator/files/powerpoint/ColorSchemeAtom.h"
 #include "simulator/files/powerpoint/Layouts.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/RecordTypes.h"
@@ -27,14 +28,6 @@ constexpr std::uint32_t masterCluster = 1;
 
 constexpr std::array<unsigned char, 16> powerPointClass{0x10, 0x8D, 0x81, 0x64, 0x9B, 0x4F, 0xCF, 0x11,
                                                         0x86, 0xEA, 0x00, 0xAA, 0x00, 0xB9, 0x29, 0xE8};
-
-std::string colorBytes(const ColorScheme& scheme) {
-    ByteWriter out;
-    for (const std::int32_t color : scheme.colors) {
-        out.write<std::int32_t>(color);
-    }
-    return out.take();
-}
 
 Record documentAtom() {
     ByteWriter out;

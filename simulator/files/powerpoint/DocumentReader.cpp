@@ -4,6 +4,7 @@
 #include "simulator/files/drawing/DrawingGroup.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/ShapeReader.h"
+#include "simulator/files/powerpoint/ColorSchemeAtom.h"
 #include "simulator/files/powerpoint/Layouts.h"
 #include "simulator/files/powerpoint/Origins.h"
 #include "simulator/files/powerpoint/PersistReader.h"
@@ -113,15 +114,6 @@ private:
         origin_->snapToGrid = presentation.snapToGrid;
         origin_->tags = presentation.tags;
         origin_->colors = presentation.colors;
-    }
-
-    static ColorScheme readColors(const Record& atom) {
-        ByteReader in(atom.data, "a colour scheme");
-        ColorScheme scheme;
-        for (std::int32_t& color : scheme.colors) {
-            color = in.read<std::int32_t>() & 0xFFFFFF;
-        }
-        return scheme;
     }
 
     /// The text styles of a slide's master; a title master has those of the master that it stands beside.

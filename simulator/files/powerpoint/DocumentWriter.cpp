@@ -3,6 +3,7 @@
 #include "simulator/files/Bytes.h"
 #include "simulator/files/compound/CompoundWriter.h"
 #include "simulator/files/powerpoint/BlankDocument.h"
+#include "simulator/files/powerpoint/ColorSchemeAtom.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
 #include "simulator/files/powerpoint/SlideWriter.h"
 #include "simulator/files/powerpoint/Streams.h"
@@ -25,14 +26,6 @@ namespace type = records::type;
 std::shared_ptr<const PresentationOrigin> originOf(const Presentation& presentation) {
     auto origin = std::dynamic_pointer_cast<const PresentationOrigin>(presentation.origin);
     return origin ? origin : blankDocument();
-}
-
-std::string colorBytes(const ColorScheme& scheme) {
-    ByteWriter out;
-    for (const std::int32_t color : scheme.colors) {
-        out.write<std::int32_t>(color);
-    }
-    return out.take();
 }
 
 /// Writes one document.

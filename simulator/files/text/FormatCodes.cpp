@@ -9,7 +9,7 @@ namespace {
 constexpr std::uint32_t directColor = 0xFE;
 constexpr std::uint32_t schemeColors = 8;
 
-Color colorOf(std::uint32_t code, const Color& otherwise) {
+Color textColor(std::uint32_t code, const Color& otherwise) {
     const std::uint32_t index = code >> 24U;
     if (index < schemeColors) {
         return Color::of(static_cast<PpColorSchemeIndex>(index + 1));
@@ -17,7 +17,7 @@ Color colorOf(std::uint32_t code, const Color& otherwise) {
     return index == directColor ? Color::direct(static_cast<std::int32_t>(code & 0xFFFFFFU)) : otherwise;
 }
 
-std::uint32_t codeOf(const Color& color) {
+std::uint32_t colorCode(const Color& color) {
     return color.scheme == ppNotSchemeColor ? (directColor << 24U) | (static_cast<std::uint32_t>(color.rgb) & 0xFFFFFFU)
                                             : static_cast<std::uint32_t>(color.scheme - 1) << 24U;
 }
@@ -54,7 +54,7 @@ void overlay(const TextException& exception, const FontTable& fonts, CharacterFo
         format.size = static_cast<float>(exception.values[Size]);
     }
     if (exception.has(fields[character::Color])) {
-        format.color = colorOf(exception.values[character::Color], format.color);
+        format.color = textColor(exception.values[character::Color], format.color);
     }
 }
 
@@ -81,7 +81,7 @@ TextException codeOf(const CharacterFormat& format, FontTable& fonts) {
              (format.bold ? bold : 0) | (format.italic ? italic : 0) | (format.underline ? underline : 0));
     code.set(Font, fields[Font].bits, fonts.number(format.fontName));
     code.set(Size, fields[Size].bits, rounded(format.size));
-    code.set(character::Color, fields[character::Color].bits, codeOf(format.color));
+    code.set(character::Color, fields[character::Color].bits, colorCode(format.color));
     return code;
 }
 

@@ -8,6 +8,9 @@ namespace simulator::text {
 /// character runs refer to by place.
 using Numbering = std::vector<bool>;
 
+/// The tag that holds the extension's record.
+inline constexpr std::u16string_view extensionTag = u"___PPT9";
+
 /// For each format of the extension's record whether it numbers its paragraphs.
 [[nodiscard]] Numbering readNumbering(std::string_view data);
 /// The extension's record with two formats: one that does not number, and one that does.
