@@ -1,6 +1,7 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
 #include "host/command/CommandLine.h"
+#include "host/command/Commands.h"
 #include "host/language/Parser.h"
 #include "host/run/Guard.h"
 #include "host/run/Runner.h"
@@ -70,6 +71,51 @@ TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
     EXPECT_TRUE(out.ends_with("\n1 passed, 5 failed\n")) << out;
 }
 
+/// The bytes of a file in a world, as a file of the real disk.
+void copyOut(host::World& world, const std::u16string& path, const std::filesystem::path& to) {
+    const host::Bytes bytes = world.readFile(path);
+    std::ofstream(to, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+}
+
+TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) {
+    write(std::string(course) + success);
+    const std::filesystem::path folder = std::filesystem::path(file()).parent_path();
+    const auto scenarios = host::load(file());
+    const host::Course built(scenarios, host::makeEmbeddedWorld);
+    const host::WorldPtr world = host::makeEmbeddedWorld(nullptr);
+    host::Witness nobody;
+    host::TrainingHost training(*world, built, 306, nobody);
+    copyOut(*world, world->hostFolder() + u"07305306.ppt", folder / "07305306.ppt");
+    training.initQuestion(306, world->hostFolder());
+    const LateBound application(world->application());
+    const LateBound working(application.get(u"ActivePresentation").to<ObjectPtr>());
+    const std::u16string copy = world->hostFolder() + u"copie";
+    const auto judged = [&](ExitCode expected, const std::string& courseFolder) {
+        working.call(u"SaveCopyAs", copy);
+        copyOut(*world, copy + u".ppt", folder / "eleve.ppt");
+        std::ostringstream out;
+        EXPECT_EQ(host::recheck({(folder / "eleve.ppt").string(), 306, courseFolder}, library(),
+                                host::makeEmbeddedWorld, out),
+                  expected);
+        return out.str();
+    };
+    EXPECT_EQ(judged(ExitCode::FellShort, ""), "Question 306: the letter \"A\"\n");
+    LateBound shape(working.call(u"Slides", std::int32_t{1}).to<ObjectPtr>());
+    shape = LateBound(shape.get(u"Shapes").to<ObjectPtr>());
+    shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
+    const LateBound frame(shape.get(u"TextFrame").to<ObjectPtr>());
+    LateBound(frame.get(u"TextRange").to<ObjectPtr>()).put(u"Text", std::u16string(u"créer créer créer créer"));
+    EXPECT_EQ(judged(ExitCode::Good, folder.string()), "Question 306: a success with the remark \"F\"\n");
+
+    host::RunRequest request;
+    request.course = folder.string();
+    EXPECT_NE(run(request, ExitCode::Good).find("CauseErreur: F"), std::string::npos);
+    std::filesystem::remove(folder / "07305306.ppt");
+    std::ostringstream out;
+    EXPECT_THROW((void)host::run(request, library(), host::makeEmbeddedWorld, out), host::UsageError);
+}
+
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
     write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\n");
     const std::string out = verify(ExitCode::FellShort);
@@ -97,7 +143,7 @@ TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
     write(std::string(course) + success +
           "scenario \"three\"\nActivePresentation.Slides(1).Shapes(1).TextFrame."
           "TextRange.Text = \"créer créer créer\"\ncheck \"C\" complement \" 3\"\n");
-    const auto object = nlohmann::json::parse(run({306, "three", true, true}, ExitCode::Good));
+    const auto object = nlohmann::json::parse(run({306, "three", true, true, {}}, ExitCode::Good));
     EXPECT_EQ(object["CauseErreur"], "C");
     EXPECT_EQ(object["ErreurGenerale"], false);
     EXPECT_EQ(object["BravoNuance"], false);

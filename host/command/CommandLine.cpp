@@ -16,6 +16,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify                   all scenarios of all questions
   exercise-host verify 306 307
   exercise-host verify --file mine.scn   a scenario file of your own
+  exercise-host run 306 --course DIR     on the course's own files
+  exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
 
 Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
@@ -42,6 +44,14 @@ struct CommandLine {
         run.add_flag("--json", runRequest.asJson, "Print one JSON object");
         run.add_flag("--trace", runRequest.withTrace, "List every call that leaves the module, its time and outcome");
 
+        run.add_option("--course", runRequest.course, "Folder of the course's own files (07305306.ppt ...)");
+
+        recheck.add_option("file", recheckRequest.file, "A working presentation that a learner has saved")->required();
+        recheck.add_option("--question", recheckRequest.question, "Number of the question")
+            ->required()
+            ->transform(questionNumber);
+        recheck.add_option("--course", recheckRequest.course, "Folder of the course's own files");
+
         verify.add_option("questions", verifyRequest.questions, "Numbers of questions (all)")
             ->transform(questionNumber);
         verify.add_option("--file", verifyRequest.files, "A scenario file");
@@ -55,7 +65,7 @@ struct CommandLine {
                     "Drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
             }
         }
-        for (CLI::App* const command : {&run, &verify, &list}) {
+        for (CLI::App* const command : {&run, &verify, &recheck, &list}) {
             command->fallthrough();
         }
     }
@@ -64,10 +74,12 @@ struct CommandLine {
     std::string folder;
     RunRequest runRequest;
     VerifyRequest verifyRequest;
+    RecheckRequest recheckRequest;
     std::vector<std::int32_t> listed;
     bool withCom = false;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
+    CLI::App& recheck = *app.add_subcommand("recheck", "Judge a saved working presentation, without a live PowerPoint");
     CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
 };
 
@@ -79,6 +91,9 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output o
         }
         if (asked.run) {
             return run(asked.runRequest, library, makeWorld, output.out);
+        }
+        if (asked.recheck) {
+            return recheck(asked.recheckRequest, library, makeWorld, output.out);
         }
         return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out)
                             : list(asked.listed, library, output.out);

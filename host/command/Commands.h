@@ -21,6 +21,7 @@ struct RunRequest {
     std::string scenario; ///< its title; empty for the first that ends in a success
     bool asJson = false;
     bool withTrace = false;
+    std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
 };
 
 /// What `exercise-host verify` is asked for: all files of the library where nothing is named.
@@ -28,6 +29,17 @@ struct VerifyRequest {
     std::vector<std::int32_t> questions;
     std::vector<std::string> files;
 };
+
+/// What `exercise-host recheck` is asked for.
+struct RecheckRequest {
+    std::string file; ///< a working presentation that a learner has saved
+    std::int32_t question = 0;
+    std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
+};
+
+/// Judges a saved working presentation and names the checks that a file does not allow.
+[[nodiscard]] ExitCode recheck(const RecheckRequest& request, const Library& library, const WorldMaker& makeWorld,
+                               std::ostream& out);
 
 /// Runs one scenario and tells it, up to the four values that the host reads last.
 [[nodiscard]] ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld,

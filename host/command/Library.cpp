@@ -54,4 +54,12 @@ language::ScenarioFile load(const fs::path& path) {
     return language::parse(path.string(), text);
 }
 
+Bytes contentsOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file || !fs::is_regular_file(path)) {
+        throw UsageError("no file: " + path.string());
+    }
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
 } // namespace host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/language/Ast.h"
+#include "host/world/World.h"
 
 #include <filesystem>
 
@@ -25,6 +26,9 @@ private:
 
 /// Reads a scenario file. Raises language::WrongLines, or UsageError where the file cannot be read.
 [[nodiscard]] language::ScenarioFile load(const std::filesystem::path& path);
+
+/// The content of a file. Raises UsageError where it cannot be read.
+[[nodiscard]] Bytes contentsOf(const std::filesystem::path& path);
 
 /// A command line that asks for something that does not exist, in words for its user.
 struct UsageError : std::exception {

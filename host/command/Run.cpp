@@ -30,6 +30,14 @@ const Scenario& chosen(const ScenarioFile& file, const std::string& title) {
     return *found;
 }
 
+Course courseIn(const std::string& folder, std::int32_t question) {
+    try {
+        return {folder, question};
+    } catch (const std::runtime_error& error) {
+        throw UsageError(error.what());
+    }
+}
+
 std::string complementOf(const Reading& reading) {
     std::string all;
     for (const std::u16string& text : reading.complement) {
@@ -82,7 +90,8 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
     if (!request.asJson) {
         out << "Question " << file.question << ": " << toUtf8(scenario.title) << "\n\n";
     }
-    const Runner runner(file, makeWorld);
+    const Runner runner = request.course.empty() ? Runner(file, makeWorld)
+                                                 : Runner(file, courseIn(request.course, file.question), makeWorld);
     const Outcome outcome = runner.run(
         scenario, [&](World& world) { return std::make_unique<Telling>(world, story); }, trace);
     if (request.asJson) {

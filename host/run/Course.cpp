@@ -5,6 +5,11 @@
 #include "host/language/Interpreter.h"
 #include "host/run/WorldStage.h"
 
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
 namespace host {
 
 namespace {
@@ -40,6 +45,31 @@ Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) 
             others_.emplace_back(name, std::move(content));
         }
     }
+}
+
+Course::Course(const std::filesystem::path& folder, std::int32_t question) {
+    const std::u16string number = automation::decimal(question);
+    const std::u16string wanted = std::u16string(courseNumber) + number + u".ppt";
+    bool isFound = false;
+    std::error_code failure;
+    for (const std::filesystem::directory_entry& entry : std::filesystem::directory_iterator(folder, failure)) {
+        if (!entry.is_regular_file() || !entry.path().stem().u16string().ends_with(number)) {
+            continue;
+        }
+        const std::u16string name = entry.path().filename().u16string();
+        std::ifstream stream(entry.path(), std::ios::binary);
+        Bytes content{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+        if (automation::equalIgnoringCase(name, wanted)) {
+            presentation_ = std::move(content);
+            isFound = true;
+        } else {
+            others_.emplace_back(name, std::move(content));
+        }
+    }
+    if (!isFound) {
+        throw std::runtime_error("there is no " + automation::toUtf8(wanted) + " in " + folder.string());
+    }
+    std::sort(others_.begin(), others_.end());
 }
 
 std::vector<std::u16string> Course::deliver(World& world, std::int32_t question) const {

@@ -3,6 +3,8 @@
 #include "host/language/Ast.h"
 #include "host/world/World.h"
 
+#include <filesystem>
+
 namespace host {
 
 /// The files that a course delivers for its questions: the presentation that the course block of a scenario file
@@ -11,6 +13,9 @@ class Course {
 public:
     /// Builds the files in a world of their own. Raises language::Failure where a statement raises.
     Course(const language::ScenarioFile& file, const WorldMaker& makeWorld);
+    /// The course's own files for a question, in a folder: those whose names end with its number. Raises
+    /// std::runtime_error where there is no presentation.
+    Course(const std::filesystem::path& folder, std::int32_t question);
 
     /// Puts the files into the host's folder, the presentation under its name for a question: "07305" and the number.
     /// Returns their names.

@@ -18,6 +18,9 @@ public:
     /// Builds the course's files; where that fails, every scenario fails with the place in the course. `file` must
     /// outlive this object.
     Runner(const language::ScenarioFile& file, WorldMaker makeWorld);
+    /// Takes the course's own files.
+    Runner(const language::ScenarioFile& file, Course course, WorldMaker makeWorld)
+        : file_(file), makeWorld_(std::move(makeWorld)), course_(std::move(course)) {}
 
     /// Makes the witness of a scenario, which sees its world.
     using WitnessMaker = std::function<std::unique_ptr<Witness>(World&)>;

@@ -18,6 +18,7 @@ public:
     float slideHeight = 540; ///< points
     ColorScheme colors;
     TagList tags;
+    OriginPtr origin;
 
     [[nodiscard]] const std::vector<SlidePtr>& slides() const noexcept { return slides_; }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/document/Format.h"
+#include "simulator/document/Origin.h"
 #include "simulator/document/TagList.h"
 #include "simulator/document/TextStory.h"
 
@@ -67,6 +68,7 @@ public:
     std::vector<Node> nodes;      ///< of a freeform
     bool closed = false;          ///< a freeform whose last corner joins its first
     std::int32_t formerGroup = 0; ///< id of the group that it was taken out of last, 0 where there is none
+    OriginPtr origin;
 
     [[nodiscard]] const Frame& frame() const noexcept { return frame_; }
     /// Moves and resizes; the items of a group and the corners of a freeform follow. Lengths are kept in master units.

@@ -63,6 +63,7 @@ SlidePtr Slide::clone() const {
     auto copy = std::make_shared<Slide>();
     copy->layout = layout;
     copy->tags = tags;
+    copy->origin = origin;
     for (const ShapePtr& shape : shapes_) {
         copy->insert(shape->clone(), copy->shapes_.size());
     }

@@ -2,6 +2,8 @@
 
 #include "simulator/document/Shape.h"
 
+#include <algorithm>
+
 namespace simulator {
 
 class Presentation;
@@ -16,6 +18,7 @@ public:
     PpSlideLayout layout = ppLayoutBlank;
     TagList tags;
     std::weak_ptr<Presentation> presentation;
+    OriginPtr origin;
 
     [[nodiscard]] const std::vector<ShapePtr>& shapes() const noexcept { return shapes_; }
 
@@ -25,6 +28,8 @@ public:
     /// Puts a shape at a place from 0 (the back), keeping its id and name.
     void insert(const ShapePtr& shape, std::size_t place);
     void remove(const ShapePtr& shape);
+    /// Gives ids up to one to no new shape.
+    void keepIds(std::int32_t last) noexcept { lastShapeId_ = std::max(lastShapeId_, last); }
     /// Place of a shape from 0 (the back); the number of shapes where it is not on this slide.
     [[nodiscard]] std::size_t placeOf(const Shape& shape) const noexcept;
     /// Moves a shape to another place from 0.

@@ -1,8 +1,8 @@
 #include "simulator/files/FilePresentationStore.h"
 
 #include "automation/Text.h"
-#include "simulator/files/JsonPresentationFormat.h"
 #include "simulator/files/Outline.h"
+#include "simulator/files/PowerPointFormat.h"
 #include "simulator/objects/PowerPointObject.h"
 
 #include <fstream>
@@ -34,8 +34,7 @@ bool writeWhole(const std::filesystem::path& file, const std::string& bytes) {
 } // namespace
 
 FilePresentationStore::FilePresentationStore(Locate locate, std::unique_ptr<const PresentationFormat> format)
-    : locate_(std::move(locate)),
-      format_(format ? std::move(format) : std::make_unique<const JsonPresentationFormat>()) {}
+    : locate_(std::move(locate)), format_(format ? std::move(format) : std::make_unique<const PowerPointFormat>()) {}
 
 PresentationPtr FilePresentationStore::load(std::u16string_view path) {
     const std::filesystem::path file = locate_(path);

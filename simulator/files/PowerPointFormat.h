@@ -4,8 +4,8 @@
 
 namespace simulator {
 
-/// Presentations as JSON: every value of the document under its own name.
-class JsonPresentationFormat final : public PresentationFormat {
+/// Presentations as PowerPoint 97 to 2003 keeps them: binary documents in compound files.
+class PowerPointFormat final : public PresentationFormat {
 public:
     [[nodiscard]] PresentationPtr load(std::string_view bytes) const override;
     [[nodiscard]] std::string save(const Presentation& presentation) const override;

@@ -1,0 +1,24 @@
+#include "simulator/files/powerpoint/ColorSchemeAtom.h"
+
+#include "simulator/files/Bytes.h"
+
+namespace simulator::powerpoint {
+
+std::string colorBytes(const ColorScheme& scheme) {
+    files::ByteWriter out;
+    for (const std::int32_t color : scheme.colors) {
+        out.write<std::int32_t>(color);
+    }
+    return out.take();
+}
+
+ColorScheme readColors(const records::Record& atom) {
+    files::ByteReader in(atom.data, "a colour scheme");
+    ColorScheme scheme;
+    for (std::int32_t& color : scheme.colors) {
+        color = in.read<std::int32_t>() & 0xFFFFFF;
+    }
+    return scheme;
+}
+
+} // namespace simulator::powerpoint

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "simulator/files/records/Record.h"
+
+namespace simulator::powerpoint {
+
+/// What stands in the record of a slide or of a master.
+struct SlideAtom {
+    explicit SlideAtom(const records::Record& slide);
+
+    std::int32_t geometry = 0;
+    std::uint32_t master = 0; ///< the id of its master in the list of masters
+    std::uint32_t notes = 0;  ///< the id of its notes in the list of notes, 0 where it has none
+};
+
+/// Places of members in the record.
+inline constexpr std::size_t slideAtomMaster = 12;
+inline constexpr std::size_t slideAtomNotes = 16;
+inline constexpr std::size_t slideAtomLayoutLength = 12;
+
+} // namespace simulator::powerpoint

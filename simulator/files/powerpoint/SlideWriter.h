@@ -1,0 +1,32 @@
+#pragma once
+
+#include "simulator/files/drawing/DrawingGroup.h"
+#include "simulator/files/powerpoint/Origins.h"
+#include "simulator/files/text/FontTable.h"
+
+namespace simulator::powerpoint {
+
+/// What the slides of a document are written against.
+struct SlideTarget {
+    drawing::DrawingGroup& drawings;
+    text::FontTable& fonts;
+    const PresentationOrigin& document;
+    std::uint32_t master; ///< the id of the master of new slides
+    const ColorScheme& colors;
+};
+
+/// A slide as it is to be saved.
+struct WrittenSlide {
+    records::Record record;
+    std::vector<std::vector<records::Record>> outline;
+};
+
+/// Writes a slide over what it was read from; `origin` is null for a new slide. A copy of a slide is written over
+/// what the other one was read from, but with a drawing of its own and without notes.
+[[nodiscard]] WrittenSlide writeSlide(const Slide& slide, const SlideOrigin* origin, bool isCopy,
+                                      const SlideTarget& target);
+
+/// Number of the records of shapes in a record.
+[[nodiscard]] std::size_t countShapeRecords(const records::Record& record) noexcept;
+
+} // namespace simulator::powerpoint

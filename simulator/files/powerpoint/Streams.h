@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+/// Names and marks of a presentation's file.
+namespace simulator::powerpoint {
+
+inline constexpr std::u16string_view currentUserStream = u"Current User";
+inline constexpr std::u16string_view documentStream = u"PowerPoint Document";
+/// Where the stream of the current user says where the last edit stands.
+inline constexpr std::size_t lastEditPlace = 16;
+inline constexpr std::uint32_t plainToken = 0xE391C05F;
+inline constexpr std::uint32_t encryptedToken = 0xF3D1C4DF;
+
+/// An entry of the directory of objects: the number of the first, and above it how many follow each other.
+inline constexpr std::uint32_t persistIdBits = 20;
+inline constexpr std::uint32_t persistIdMask = 0xFFFFF;
+inline constexpr std::size_t longestRun = 0xFFF;
+
+/// The instances of lists of slides.
+namespace slideList {
+inline constexpr std::uint16_t slides = 0;
+inline constexpr std::uint16_t masters = 1;
+inline constexpr std::uint16_t notes = 2;
+} // namespace slideList
+
+inline constexpr std::uint16_t shapesSchemeInstance = 1; ///< of the colours in force
+inline constexpr std::uint16_t slideNameInstance = 3;
+inline constexpr std::uint16_t slideViewInstance = 0;
+
+} // namespace simulator::powerpoint

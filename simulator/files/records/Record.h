@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace simulator::records {
+
+/// A record of a PowerPoint or Office drawing stream: an atom with its data, or a container with other records. What
+/// is not understood stays an atom, byte by byte.
+struct Record {
+    std::uint16_t type = 0;
+    std::uint16_t instance = 0;
+    std::uint8_t version = 0;
+    std::string data;
+    std::vector<Record> children;
+
+    static constexpr std::uint8_t containerVersion = 0xF;
+
+    [[nodiscard]] static Record atom(std::uint16_t type, std::string data, std::uint16_t instance = 0,
+                                     std::uint8_t version = 0) {
+        return {type, instance, version, std::move(data), {}};
+    }
+    [[nodiscard]] static Record container(std::uint16_t type, std::vector<Record> children,
+                                          std::uint16_t instance = 0) {
+        return {type, instance, containerVersion, {}, std::move(children)};
+    }
+
+    [[nodiscard]] bool is(std::uint16_t wanted) const noexcept { return type == wanted; }
+    [[nodiscard]] bool is(std::uint16_t wanted, std::uint16_t ofInstance) const noexcept {
+        return type == wanted && instance == ofInstance;
+    }
+    /// The first child of a type; null where there is none.
+    [[nodiscard]] const Record* find(std::uint16_t wanted) const noexcept;
+    [[nodiscard]] const Record* find(std::uint16_t wanted, std::uint16_t ofInstance) const noexcept;
+    [[nodiscard]] Record* find(std::uint16_t wanted) noexcept;
+    [[nodiscard]] Record* find(std::uint16_t wanted, std::uint16_t ofInstance) noexcept;
+    /// The first child of a type. Raises DamagedPresentation where there is none.
+    [[nodiscard]] const Record& demand(std::uint16_t wanted) const;
+
+    friend bool operator==(const Record&, const Record&) = default;
+};
+
+/// The bytes of a record with its header.
+void append(std::string& out, const Record& record);
+[[nodiscard]] std::string bytesOf(const Record& record);
+
+} // namespace simulator::records

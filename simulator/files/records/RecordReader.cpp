@@ -1,0 +1,121 @@
+#include "simulator/files/records/RecordReader.h"
+
+#include "simulator/files/Bytes.h"
+#include "simulator/files/records/RecordTypes.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace simulator::records {
+
+namespace {
+
+using files::hex;
+
+constexpr int deepestRecord = 128;
+
+/// Containers that are looked into, and so must be sound.
+constexpr std::array lookedInto{
+    type::Document,      type::Slide,         type::Environment,      type::MainMaster,     type::SlideViewInfo,
+    type::DrawingGroup,  type::Drawing,       type::DocInfoList,      type::FontCollection, type::SlideListWithText,
+    type::ProgTags,      type::ProgStringTag, type::ProgBinaryTag,    type::ArtGroup,       type::ArtDrawing,
+    type::ArtShapeGroup, type::ArtShape,      type::ArtClientTextbox, type::ArtClientData,
+};
+
+struct Header {
+    Record record;
+    std::size_t length = 0;
+};
+
+Header readHeader(std::string_view bytes) {
+    files::ByteReader in(bytes, "a record header");
+    const auto first = in.read<std::uint16_t>();
+    Header header;
+    header.record.version = static_cast<std::uint8_t>(first & 0xFU);
+    header.record.instance = static_cast<std::uint16_t>(first >> 4U);
+    header.record.type = in.read<std::uint16_t>();
+    header.length = in.read<std::uint32_t>();
+    return header;
+}
+
+/// What is wrong with a record, and where it stands.
+struct Fault {
+    std::size_t offset;
+    std::string what;
+};
+
+/// The header of the record at the front of `bytes`, or what is wrong with it.
+std::optional<Fault> check(std::string_view bytes, std::size_t offset, Header& header) {
+    if (bytes.size() < headerSize) {
+        return Fault{offset, "only " + std::to_string(bytes.size()) + " bytes are left for the header of a record"};
+    }
+    header = readHeader(bytes);
+    if (header.length > bytes.size() - headerSize) {
+        return Fault{offset, "record " + hex(header.record.type) + " says " + std::to_string(header.length) +
+                                 " bytes, " + std::to_string(bytes.size() - headerSize) + " are left"};
+    }
+    return std::nullopt;
+}
+
+std::optional<Fault> readInto(Record& record, std::string_view body, std::size_t offset, int depth) {
+    if (record.version != Record::containerVersion) {
+        record.data = body;
+        return std::nullopt;
+    }
+    if (depth > deepestRecord) {
+        return Fault{offset, "record " + hex(record.type) + " is nested too deeply"};
+    }
+    const bool mustBeSound = std::find(lookedInto.begin(), lookedInto.end(), record.type) != lookedInto.end();
+    for (std::size_t place = 0; place < body.size();) {
+        Header header;
+        std::optional<Fault> fault = check(body.substr(place), offset + place, header);
+        if (!fault) {
+            fault = readInto(header.record, body.substr(place + headerSize, header.length), offset + place + headerSize,
+                             depth + 1);
+        }
+        if (fault && mustBeSound) {
+            return fault;
+        }
+        if (fault) {
+            record.children.clear();
+            record.data = body;
+            return std::nullopt;
+        }
+        record.children.push_back(std::move(header.record));
+        place += headerSize + header.length;
+    }
+    return std::nullopt;
+}
+
+[[noreturn]] void fail(const Fault& fault) {
+    throw DamagedPresentation("PowerPoint Document, offset " + hex(fault.offset) + ": " + fault.what);
+}
+
+Header demandHeader(std::string_view stream, std::size_t offset) {
+    if (offset >= stream.size()) {
+        fail({offset, "the stream ends at " + hex(stream.size()) + ", before a record that is referred to"});
+    }
+    Header header;
+    if (const auto fault = check(stream.substr(offset), offset, header)) {
+        fail(*fault);
+    }
+    return header;
+}
+
+} // namespace
+
+Record readRecord(std::string_view stream, std::size_t offset) {
+    Header header = demandHeader(stream, offset);
+    const std::size_t start = offset + headerSize;
+    if (const auto fault = readInto(header.record, stream.substr(start, header.length), start, 0)) {
+        fail(*fault);
+    }
+    return std::move(header.record);
+}
+
+std::size_t sizeOfRecord(std::string_view stream, std::size_t offset) {
+    return headerSize + demandHeader(stream, offset).length;
+}
+
+} // namespace simulator::records

@@ -1,0 +1,100 @@
+#include "simulator/files/text/FormatCodes.h"
+
+#include <cmath>
+
+namespace simulator::text {
+
+namespace {
+
+constexpr std::uint32_t directColor = 0xFE;
+constexpr std::uint32_t schemeColors = 8;
+
+Color textColor(std::uint32_t code, const Color& otherwise) {
+    const std::uint32_t index = code >> 24U;
+    if (index < schemeColors) {
+        return Color::of(static_cast<PpColorSchemeIndex>(index + 1));
+    }
+    return index == directColor ? Color::direct(static_cast<std::int32_t>(code & 0xFFFFFFU)) : otherwise;
+}
+
+std::uint32_t colorCode(const Color& color) {
+    return color.scheme == ppNotSchemeColor ? (directColor << 24U) | (static_cast<std::uint32_t>(color.rgb) & 0xFFFFFFU)
+                                            : static_cast<std::uint32_t>(color.scheme - 1) << 24U;
+}
+
+void overlayLines(float& lines, const TextException& exception, std::size_t place) {
+    const auto percent = static_cast<std::int16_t>(exception.values.at(place));
+    if (exception.has(paragraph::fields[place]) && percent >= 0) {
+        lines = static_cast<float>(percent) / 100;
+    }
+}
+
+void overlayStyle(bool& style, const TextException& exception, std::uint32_t bit) {
+    if ((exception.mask & bit) != 0) {
+        style = (exception.values[character::Style] & bit) != 0;
+    }
+}
+
+std::uint32_t rounded(float number) {
+    return static_cast<std::uint32_t>(std::lround(number));
+}
+
+} // namespace
+
+void overlay(const TextException& exception, const FontTable& fonts, CharacterFormat& format) {
+    using namespace character;
+    overlayStyle(format.bold, exception, bold);
+    overlayStyle(format.italic, exception, italic);
+    overlayStyle(format.underline, exception, underline);
+    const std::u16string* const font = exception.has(fields[Font]) ? fonts.name(exception.values[Font]) : nullptr;
+    if (font != nullptr) {
+        format.fontName = *font;
+    }
+    if (exception.has(fields[Size])) {
+        format.size = static_cast<float>(exception.values[Size]);
+    }
+    if (exception.has(fields[character::Color])) {
+        format.color = textColor(exception.values[character::Color], format.color);
+    }
+}
+
+void overlay(const TextException& exception, ParagraphFormat& format) {
+    using namespace paragraph;
+    if ((exception.mask & hasBullet) != 0) {
+        format.bullet = (exception.values[BulletFlags] & hasBullet) != 0 ? ppBulletUnnumbered : ppBulletNone;
+    }
+    if (exception.has(fields[BulletCharacter])) {
+        format.bulletCharacter = static_cast<std::int32_t>(exception.values[BulletCharacter]);
+    }
+    if (exception.has(fields[Alignment]) && exception.values[Alignment] < ppAlignDistribute) {
+        format.alignment = static_cast<PpParagraphAlignment>(exception.values[Alignment] + 1);
+    }
+    overlayLines(format.spaceWithin, exception, SpaceWithin);
+    overlayLines(format.spaceBefore, exception, SpaceBefore);
+    overlayLines(format.spaceAfter, exception, SpaceAfter);
+}
+
+TextException codeOf(const CharacterFormat& format, FontTable& fonts) {
+    using namespace character;
+    TextException code;
+    code.set(Style, bold | italic | underline,
+             (format.bold ? bold : 0) | (format.italic ? italic : 0) | (format.underline ? underline : 0));
+    code.set(Font, fields[Font].bits, fonts.number(format.fontName));
+    code.set(Size, fields[Size].bits, rounded(format.size));
+    code.set(character::Color, fields[character::Color].bits, colorCode(format.color));
+    return code;
+}
+
+TextException codeOf(const ParagraphFormat& format) {
+    using namespace paragraph;
+    TextException code;
+    code.set(BulletFlags, hasBullet, format.bullet == ppBulletNone ? 0 : hasBullet);
+    code.set(BulletCharacter, fields[BulletCharacter].bits, static_cast<std::uint32_t>(format.bulletCharacter));
+    code.set(Alignment, fields[Alignment].bits, static_cast<std::uint32_t>(format.alignment - 1));
+    code.set(SpaceWithin, fields[SpaceWithin].bits, rounded(format.spaceWithin * 100));
+    code.set(SpaceBefore, fields[SpaceBefore].bits, rounded(format.spaceBefore * 100));
+    code.set(SpaceAfter, fields[SpaceAfter].bits, rounded(format.spaceAfter * 100));
+    return code;
+}
+
+} // namespace simulator::text

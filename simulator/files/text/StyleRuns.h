@@ -1,0 +1,33 @@
+#pragma once
+
+#include "simulator/files/text/TextException.h"
+
+namespace simulator::text {
+
+/// A run of a text's style record.
+struct StyleRun {
+    std::size_t length = 0;
+    std::uint16_t level = 0; ///< of paragraphs, from 0
+    TextException exception;
+
+    friend bool operator==(const StyleRun&, const StyleRun&) = default;
+};
+
+/// The runs of a text's style record. They cover the text and the paragraph mark that ends it unwritten.
+struct StyleRuns {
+    std::vector<StyleRun> paragraphs;
+    std::vector<StyleRun> characters;
+
+    /// Runs of no exception over so many characters.
+    static StyleRuns plain(std::size_t length);
+    /// The runs for so many characters; what the record leaves out is covered by runs of no exception.
+    static StyleRuns read(std::string_view data, std::size_t length);
+    [[nodiscard]] std::string bytes() const;
+
+    /// Adds a run, to the last one where it says the same.
+    static void append(std::vector<StyleRun>& runs, StyleRun run);
+    /// The run that covers a character.
+    static const StyleRun& at(const std::vector<StyleRun>& runs, std::size_t place) noexcept;
+};
+
+} // namespace simulator::text
