@@ -1,7 +1,7 @@
+#include "host/world/TemporaryFolder.h"
 #include "simulator/system/EmbeddedFiles.h"
 #include "simulator/system/FilePattern.h"
 #include "tests/Errors.h"
-#include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ class EmbeddedFilesTest : public testing::Test {
 protected:
     [[nodiscard]] bool exists(std::u16string_view path) const { return std::filesystem::exists(files.realPath(path)); }
 
-    tests::TemporaryFolder folder;
+    host::TemporaryFolder folder;
     EmbeddedFiles files{folder.path()};
 };
 

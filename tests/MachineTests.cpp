@@ -1,8 +1,8 @@
 #include "simulator/Machine.h"
 
+#include "host/world/TemporaryFolder.h"
 #include "tests/Errors.h"
 #include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +31,7 @@ public:
         return ask(ask(powerPoint(), u"CommandBars"), u"Item", name);
     }
 
-    tests::TemporaryFolder folder;
+    host::TemporaryFolder folder;
     Machine machine{folder.path()};
     platform::Services services = machine.services();
 };

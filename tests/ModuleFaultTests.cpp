@@ -1,10 +1,10 @@
+#include "host/world/TemporaryFolder.h"
 #include "module/Module.h"
 #include "module/TemplatesFolder.h"
 #include "platform/observed/ObservedServices.h"
 #include "simulator/Machine.h"
 #include "tests/Errors.h"
 #include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
 
 namespace {
 
@@ -44,7 +44,7 @@ public:
 
     void init() { module.InitQuestion(301, std::u16string(folder), application, window, u""); }
 
-    tests::TemporaryFolder root;
+    host::TemporaryFolder root;
     simulator::Machine machine{root.path()};
     std::shared_ptr<FailingCalls> calls = std::make_shared<FailingCalls>();
     platform::ObservedServices observed{machine.services(), calls};

@@ -1,9 +1,9 @@
+#include "host/world/TemporaryFolder.h"
 #include "module/Module.h"
 #include "platform/observed/ObservedServices.h"
 #include "simulator/Machine.h"
 #include "tests/Errors.h"
 #include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
 #include "tests/TraceLog.h"
 
 namespace {
@@ -57,7 +57,7 @@ protected:
         return all.substr(start, all.find("Application.CommandBars.Count") - start);
     }
 
-    tests::TemporaryFolder root;
+    host::TemporaryFolder root;
     simulator::Machine machine{root.path()};
     tests::TraceLog log;
     platform::ObservedServices observed{machine.services(), log.observer()};

@@ -1,7 +1,7 @@
+#include "host/world/TemporaryFolder.h"
 #include "simulator/Machine.h"
 #include "tests/Errors.h"
 #include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +60,7 @@ protected:
         return std::filesystem::exists(machine.realPath(inFolder(name)));
     }
 
-    tests::TemporaryFolder folder;
+    host::TemporaryFolder folder;
     simulator::Machine machine{folder.path()};
     LateBound application;
 };

@@ -1,8 +1,8 @@
 #include "exercises/Catalogue.h"
+#include "host/world/TemporaryFolder.h"
 #include "platform/observed/ObservedServices.h"
 #include "simulator/Machine.h"
 #include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
 #include "tests/TraceLog.h"
 
 #include <gtest/gtest.h>
@@ -106,7 +106,7 @@ std::string preparation(int question) {
 }
 
 TEST(Prepare, MakesTheCallsOfItsQuestionInOrder) {
-    tests::TemporaryFolder root;
+    host::TemporaryFolder root;
     simulator::Machine machine(root.path());
     buildPresentation(machine);
     tests::TraceLog log(tests::TraceLog::Repetition::Shown);

@@ -1,4 +1,5 @@
 #include "automation/Text.h"
+#include "host/world/TemporaryFolder.h"
 #include "simulator/document/Grouping.h"
 #include "simulator/document/NewShape.h"
 #include "simulator/files/Bytes.h"
@@ -7,7 +8,6 @@
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
 #include "tests/Errors.h"
-#include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -299,7 +299,7 @@ protected:
         EXPECT_NE(error->description().find(path), std::u16string::npos) << error->what();
     }
 
-    tests::TemporaryFolder temporary;
+    host::TemporaryFolder temporary;
     std::filesystem::path folder = temporary.path();
     FilePresentationStore store{[this](std::u16string_view path) {
         return folder / std::filesystem::path(std::u16string(path.substr(path.rfind(u'\\') + 1)));

@@ -4,10 +4,10 @@
 #include "exercises/Catalogue.h"
 #include "host/language/Interpreter.h"
 #include "host/language/Parser.h"
+#include "host/world/TemporaryFolder.h"
 #include "platform/observed/ObservedServices.h"
 #include "simulator/Machine.h"
 #include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
 
 #include <algorithm>
 #include <fstream>
@@ -73,7 +73,7 @@ public:
         return reading;
     }
 
-    TemporaryFolder root;
+    host::TemporaryFolder root;
     simulator::Machine machine{root.path()};
     exercises::API api;
     exercises::QuestionPtr question;

@@ -41,7 +41,7 @@ public:
         return range;
     }
 
-    tests::TemporaryFolder root;
+    host::TemporaryFolder root;
     simulator::Machine machine{root.path()};
     ppt::Application application;
     API api;

@@ -1,9 +1,9 @@
 #include "automation/Text.h"
+#include "host/world/TemporaryFolder.h"
 #include "simulator/Machine.h"
 #include "simulator/document/Constants.h"
 #include "tests/Errors.h"
 #include "tests/Script.h"
-#include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -102,7 +102,7 @@ protected:
         return (number(ask(ask(curve, u"Controls"), u"Item", 7), u"accState") & 1) != 0;
     }
 
-    tests::TemporaryFolder folder;
+    host::TemporaryFolder folder;
     simulator::Machine machine{folder.path()};
     LateBound application;
     LateBound presentation;
