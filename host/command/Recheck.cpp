@@ -26,8 +26,9 @@ std::string_view liveCheckOf(std::int32_t question) noexcept {
 
 /// Selects the shape that question 310 looks for, where it stands on the slide by itself.
 void selectWhatIsLookedFor(const LateBound& presentation) {
-    const LateBound shapes(
-        LateBound(presentation.call(u"Slides", std::int32_t{1}).to<ObjectPtr>()).get(u"Shapes").to<ObjectPtr>());
+    const LateBound slides(presentation.get(u"Slides").to<ObjectPtr>());
+    const LateBound slide(slides.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
+    const LateBound shapes(slide.get(u"Shapes").to<ObjectPtr>());
     const auto count = shapes.get(u"Count").to<std::int32_t>();
     for (std::int32_t i = 1; i <= count; ++i) {
         const LateBound shape(shapes.call(u"Item", i).to<ObjectPtr>());
