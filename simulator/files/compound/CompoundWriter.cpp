@@ -175,7 +175,7 @@ struct Allocation {
         ByteWriter out;
         for (std::uint32_t sector = 0; sector < difatSectors; ++sector) {
             for (std::size_t i = 0; i + 1 < numbersPerSector; ++i) {
-                out.write<std::uint32_t>(fatAt(headerFatSectors + sector * (numbersPerSector - 1) + i));
+                out.write<std::uint32_t>(fatAt(headerFatSectors + std::size_t{sector} * (numbersPerSector - 1) + i));
             }
             out.write<std::uint32_t>(sector + 1 < difatSectors ? firstDifat + sector + 1 : endOfChain);
         }

@@ -23,6 +23,10 @@ struct Place {
     std::int32_t bottom = 0;
 };
 
+double scale(double from, double to) noexcept {
+    return from == 0 ? 1 : to / from;
+}
+
 bool liesOnItsSide(float rotation) noexcept {
     const double turn = std::fmod(std::fmod(static_cast<double>(rotation), 180.0) + 180.0, 180.0);
     return turn >= 45 && turn < 135;
@@ -77,14 +81,10 @@ Record leftTopRightBottom(std::uint16_t type, const Place& place, std::uint8_t v
 
 } // namespace
 
-Mapping::Mapping(const Edges& inner, const Edges& outer) noexcept {
-    const double width = inner.right - inner.left;
-    const double height = inner.bottom - inner.top;
-    scaleX_ = width == 0 ? 1 : (outer.right - outer.left) / width;
-    scaleY_ = height == 0 ? 1 : (outer.bottom - outer.top) / height;
-    shiftX_ = outer.left - inner.left * scaleX_;
-    shiftY_ = outer.top - inner.top * scaleY_;
-}
+Mapping::Mapping(const Edges& inner, const Edges& outer) noexcept
+    : scaleX_(scale(inner.right - inner.left, outer.right - outer.left)),
+      scaleY_(scale(inner.bottom - inner.top, outer.bottom - outer.top)), shiftX_(outer.left - inner.left * scaleX_),
+      shiftY_(outer.top - inner.top * scaleY_) {}
 
 Edges Mapping::onSlide(const Edges& edges) const noexcept {
     return {edges.left * scaleX_ + shiftX_, edges.top * scaleY_ + shiftY_, edges.right * scaleX_ + shiftX_,

@@ -1,6 +1,7 @@
 #include "simulator/files/drawing/AutoShapeKinds.h"
 
 #include "simulator/document/Constants.h"
+#include "simulator/files/Tables.h"
 #include "simulator/files/drawing/PropertyIds.h"
 
 #include <algorithm>
@@ -32,12 +33,12 @@ constexpr std::array<std::uint16_t, lastAutoShape> kinds{
 
 std::uint16_t kindOf(std::int32_t autoShapeType) noexcept {
     const bool isKnown = autoShapeType >= 1 && autoShapeType <= lastAutoShape;
-    return isKnown ? kinds[static_cast<std::size_t>(autoShapeType) - 1] : std::uint16_t{kind::rectangle};
+    return isKnown ? kinds.at(static_cast<std::size_t>(autoShapeType) - 1) : std::uint16_t{kind::rectangle};
 }
 
 std::optional<std::int32_t> autoShapeTypeOf(std::uint16_t kind) noexcept {
-    const auto found = std::find(kinds.begin(), kinds.end(), kind);
-    return found == kinds.end() ? std::nullopt : std::optional(static_cast<std::int32_t>(found - kinds.begin()) + 1);
+    const auto place = files::placeIn(kinds, kind);
+    return place ? std::optional(static_cast<std::int32_t>(*place) + 1) : std::nullopt;
 }
 
 } // namespace simulator::drawing

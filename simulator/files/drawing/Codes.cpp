@@ -1,5 +1,7 @@
 #include "simulator/files/drawing/Codes.h"
 
+#include "simulator/files/Tables.h"
+
 #include <algorithm>
 
 namespace simulator::drawing {
@@ -31,12 +33,11 @@ Color colorOf(std::uint32_t code, const Color& otherwise) noexcept {
 
 std::uint32_t dashCodeOf(std::int32_t dashStyle) noexcept {
     const bool isKnown = dashStyle >= 1 && dashStyle <= static_cast<std::int32_t>(dashes.size());
-    return isKnown ? dashes[static_cast<std::size_t>(dashStyle) - 1] : 0;
+    return isKnown ? dashes.at(static_cast<std::size_t>(dashStyle) - 1) : 0;
 }
 
 std::int32_t dashStyleOf(std::uint32_t code) noexcept {
-    const auto found = std::find(dashes.begin(), dashes.end(), code);
-    return found == dashes.end() ? 1 : static_cast<std::int32_t>(found - dashes.begin()) + 1;
+    return static_cast<std::int32_t>(files::placeIn(dashes, code).value_or(0)) + 1;
 }
 
 } // namespace simulator::drawing

@@ -1,5 +1,6 @@
 #include "simulator/files/drawing/FillCodes.h"
 
+#include "simulator/files/Tables.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
 
@@ -101,8 +102,8 @@ MsoFillType typeOf(std::uint32_t code) noexcept {
 
 /// Place of a value in a table, from 1; mixed where it is not in it.
 template <typename Table, typename Value> std::int32_t placeOf(const Table& table, const Value& value) {
-    const auto found = std::find(table.begin(), table.end(), value);
-    return found == table.end() ? mixed : static_cast<std::int32_t>(found - table.begin()) + 1;
+    const auto place = files::placeIn(table, value);
+    return place ? static_cast<std::int32_t>(*place) + 1 : mixed;
 }
 
 std::int32_t whole(const Looks& looks, std::uint16_t id) {

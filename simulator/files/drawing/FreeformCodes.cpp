@@ -18,7 +18,6 @@ namespace segment {
 enum : std::uint16_t { Line = 0, Curve = 1, Move = 2, Close = 3, End = 4, Escape = 5 };
 constexpr unsigned shift = 13;
 constexpr std::uint16_t countMask = 0x1FFF;
-constexpr std::uint16_t bareEscape = 6; ///< kinds from this one on have no corners either
 } // namespace segment
 
 /// Kinds of paths that need no segments.

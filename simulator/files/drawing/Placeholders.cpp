@@ -1,5 +1,6 @@
 #include "simulator/files/drawing/Placeholders.h"
 
+#include "simulator/files/Tables.h"
 #include "simulator/files/text/TextStyles.h"
 
 #include <algorithm>
@@ -36,15 +37,13 @@ constexpr std::array<Pair, 16> placeholders{{{0x0D, ppPlaceholderTitle},
 } // namespace
 
 std::uint8_t placeholderCode(PpPlaceholderType type) noexcept {
-    const auto found =
-        std::find_if(placeholders.begin(), placeholders.end(), [type](const Pair& pair) { return pair.type == type; });
-    return found == placeholders.end() ? std::uint8_t{0} : found->code;
+    const auto place = files::placeWhere(placeholders, [type](const Pair& pair) { return pair.type == type; });
+    return place ? placeholders.at(*place).code : std::uint8_t{0};
 }
 
 std::optional<PpPlaceholderType> placeholderOf(std::uint8_t code) noexcept {
-    const auto found =
-        std::find_if(placeholders.begin(), placeholders.end(), [code](const Pair& pair) { return pair.code == code; });
-    return found == placeholders.end() ? std::nullopt : std::optional(static_cast<PpPlaceholderType>(found->type));
+    const auto place = files::placeWhere(placeholders, [code](const Pair& pair) { return pair.code == code; });
+    return place ? std::optional(static_cast<PpPlaceholderType>(placeholders.at(*place).type)) : std::nullopt;
 }
 
 std::uint32_t textKindOf(PpPlaceholderType type) noexcept {

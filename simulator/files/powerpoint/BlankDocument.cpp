@@ -214,7 +214,7 @@ Record userEdit() {
 std::shared_ptr<const PresentationOrigin> makeBlank() {
     auto blank = std::make_shared<PresentationOrigin>();
     for (std::size_t i = 0; i < powerPointClass.size(); ++i) {
-        blank->file.classId[i] = static_cast<char>(powerPointClass[i]);
+        blank->file.classId.at(i) = static_cast<char>(powerPointClass.at(i));
     }
     blank->file.put(currentUserStream, currentUser());
     blank->userEdit = userEdit();

@@ -1,6 +1,7 @@
 #include "simulator/files/powerpoint/Layouts.h"
 
 #include "simulator/files/Bytes.h"
+#include "simulator/files/Tables.h"
 #include "simulator/files/drawing/Placeholders.h"
 
 #include <algorithm>
@@ -29,16 +30,14 @@ constexpr std::array<Pair, 8> layouts{{{0, ppLayoutTitle},
 } // namespace
 
 PpSlideLayout layoutOf(std::int32_t geometry) noexcept {
-    const auto found = std::find_if(layouts.begin(), layouts.end(),
-                                    [geometry](const Pair& pair) { return pair.geometry == geometry; });
-    return static_cast<PpSlideLayout>(found == layouts.end() ? customLayout : found->layout);
+    const auto place = files::placeWhere(layouts, [=](const Pair& pair) { return pair.geometry == geometry; });
+    return static_cast<PpSlideLayout>(place ? layouts.at(*place).layout : customLayout);
 }
 
 std::string layoutBytes(PpSlideLayout layout) {
-    const auto found =
-        std::find_if(layouts.begin(), layouts.end(), [layout](const Pair& pair) { return pair.layout == layout; });
+    const auto place = files::placeWhere(layouts, [=](const Pair& pair) { return pair.layout == layout; });
     files::ByteWriter out;
-    out.write<std::int32_t>(found == layouts.end() ? blankGeometry : found->geometry);
+    out.write<std::int32_t>(place ? layouts.at(*place).geometry : blankGeometry);
     if (layout == ppLayoutTitle) {
         out.write<std::uint8_t>(drawing::placeholderCode(ppPlaceholderCenterTitle));
         out.write<std::uint8_t>(drawing::placeholderCode(ppPlaceholderSubtitle));

@@ -24,7 +24,7 @@ std::uint32_t colorCode(const Color& color) {
 
 void overlayLines(float& lines, const TextException& exception, std::size_t place) {
     const auto percent = static_cast<std::int16_t>(exception.values.at(place));
-    if (exception.has(paragraph::fields[place]) && percent >= 0) {
+    if (exception.has(paragraph::fields.at(place)) && percent >= 0) {
         lines = static_cast<float>(percent) / 100;
     }
 }

@@ -30,14 +30,14 @@ TextStyles::TextStyles(const records::Record* master, const records::Record* env
         }
     }
     for (std::size_t each = 0; each < kind::count; ++each) {
-        styles_[each].fill(common);
-        if (bases[each] != each) {
-            styles_[each] = styles_[bases[each]];
+        styles_.at(each).fill(common);
+        if (bases.at(each) != each) {
+            styles_.at(each) = styles_.at(bases.at(each));
         }
         const auto instance = static_cast<std::uint16_t>(each);
         for (const records::Record* const source : {environment, master}) {
             if (source != nullptr && source->find(type::TextMasterStyleAtom, instance) != nullptr) {
-                apply(*source->find(type::TextMasterStyleAtom, instance), fonts, styles_[each]);
+                apply(*source->find(type::TextMasterStyleAtom, instance), fonts, styles_.at(each));
             }
         }
     }
@@ -51,18 +51,18 @@ void TextStyles::apply(const records::Record& record, const FontTable& fonts, Le
         const TextException forParagraphs = TextException::read(in, paragraph::fields);
         const TextException forCharacters = TextException::read(in, character::fields);
         for (std::size_t place = level; place < styles.size(); ++place) {
-            overlay(forParagraphs, styles[place].paragraph);
-            overlay(forCharacters, fonts, styles[place].character);
+            overlay(forParagraphs, styles.at(place).paragraph);
+            overlay(forCharacters, fonts, styles.at(place).character);
         }
     }
 }
 
-const CharacterFormat& TextStyles::characters(std::uint32_t kind, std::size_t level) const noexcept {
-    return styles_[kind < kind::count ? kind : kind::Other][std::min(level, levels - 1)].character;
+const CharacterFormat& TextStyles::characters(std::uint32_t kind, std::size_t level) const {
+    return styles_.at(kind < kind::count ? kind : kind::Other).at(std::min(level, levels - 1)).character;
 }
 
-const ParagraphFormat& TextStyles::paragraphs(std::uint32_t kind, std::size_t level) const noexcept {
-    return styles_[kind < kind::count ? kind : kind::Other][std::min(level, levels - 1)].paragraph;
+const ParagraphFormat& TextStyles::paragraphs(std::uint32_t kind, std::size_t level) const {
+    return styles_.at(kind < kind::count ? kind : kind::Other).at(std::min(level, levels - 1)).paragraph;
 }
 
 } // namespace simulator::text

@@ -29,8 +29,8 @@ public:
     TextStyles(const records::Record* master, const records::Record* environment, const FontTable& fonts);
 
     /// For a level from 0; unknown kinds and levels take the nearest known.
-    [[nodiscard]] const CharacterFormat& characters(std::uint32_t kind, std::size_t level) const noexcept;
-    [[nodiscard]] const ParagraphFormat& paragraphs(std::uint32_t kind, std::size_t level) const noexcept;
+    [[nodiscard]] const CharacterFormat& characters(std::uint32_t kind, std::size_t level) const;
+    [[nodiscard]] const ParagraphFormat& paragraphs(std::uint32_t kind, std::size_t level) const;
 
 private:
     struct Style {
