@@ -2,6 +2,7 @@
 
 #include "automation/Value.h"
 #include "automation/com/MemberIds.h"
+#include "automation/com/Variant.h"
 
 #include "automation/com/Ole.h"
 
@@ -29,7 +30,7 @@ private:
     [[nodiscard]] Value readArray(SAFEARRAY* array, VARTYPE type);
 
     static constexpr std::size_t mostElements = 1U << 20U;
-    static constexpr int deepest = 16;
+    static constexpr int deepest = deepestReference;
 
     MemberIdsPtr ids_;
     std::size_t elements_ = 0;
