@@ -21,6 +21,11 @@ WORD flagsOf(Access access) noexcept {
     return 0;
 }
 
+/// True where it is the process that is gone, and not the object alone.
+bool isOfWholeProcess(HRESULT status) noexcept {
+    return status == remote::serverUnavailable || status == remote::callFailed;
+}
+
 /// One Invoke with what it gives back.
 struct Call {
     HRESULT make(IDispatch& target, DISPID id, WORD flags, DISPPARAMS& parameters) {
@@ -40,8 +45,8 @@ struct Call {
 
 } // namespace
 
-DispatchObject::DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> identity, MemberIdsPtr ids) noexcept
-    : dispatch_(std::move(dispatch)), identity_(std::move(identity)), ids_(std::move(ids)) {}
+DispatchObject::DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> identity, ServerSessionPtr session) noexcept
+    : dispatch_(std::move(dispatch)), identity_(std::move(identity)), session_(std::move(session)) {}
 
 Value DispatchObject::invoke(const Name& name, Access access, std::span<Value> arguments) {
     requireAlive();
@@ -53,12 +58,12 @@ Value DispatchObject::invoke(const Name& name, Access access, std::span<Value> a
         status = call.make(*dispatch_.get(), id, DISPATCH_PROPERTYPUTREF, passed.parameters());
     }
     if (status == DISP_E_EXCEPTION) {
-        passed.tryWriteBack(ids_);
+        passed.tryWriteBack(session_);
         throw errorOf(call.raised);
     }
     require(status);
-    passed.writeBack(ids_);
-    return VariantReader(ids_).read(call.result);
+    passed.writeBack(session_);
+    return VariantReader(session_).read(call.result);
 }
 
 bool DispatchObject::isSame(const Object& other) const noexcept {
@@ -70,7 +75,7 @@ DISPID DispatchObject::idOf(const Name& name) {
     if (name.isDefault()) {
         return DISPID_VALUE;
     }
-    MemberIds& ids = name.scope().empty() ? ownIds_ : *ids_;
+    MemberIds& ids = name.scope().empty() ? ownIds_ : session_->ids;
     if (const auto id = ids.find(name)) {
         return *id;
     }
@@ -89,11 +94,14 @@ DISPID DispatchObject::lookUp(const Name& name) {
 
 void DispatchObject::requireAlive() const {
     check(gone_);
+    // As the system says to whom the end of the process is no news any more.
+    check(session_->isGone ? remote::serverUnavailable : S_OK);
 }
 
 void DispatchObject::require(HRESULT status) {
     if (remote::isDead(status)) {
         gone_ = status;
+        session_->isGone = session_->isGone || isOfWholeProcess(status);
     }
     check(status);
 }

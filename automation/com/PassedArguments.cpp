@@ -39,8 +39,8 @@ PassedArguments::PassedArguments(std::span<Value> arguments, Access access)
     }
 }
 
-void PassedArguments::writeBack(const MemberIdsPtr& ids) {
-    VariantReader reader(ids);
+void PassedArguments::writeBack(const ServerSessionPtr& session) {
+    VariantReader reader(session);
     for (std::size_t i = 0; i < arguments_.size(); ++i) {
         const bool referred = isReference(passed_[arguments_.size() - 1 - i]);
         if (referred && !holdsStill(variables_[i], arguments_[i])) {
@@ -49,9 +49,9 @@ void PassedArguments::writeBack(const MemberIdsPtr& ids) {
     }
 }
 
-void PassedArguments::tryWriteBack(const MemberIdsPtr& ids) noexcept {
+void PassedArguments::tryWriteBack(const ServerSessionPtr& session) noexcept {
     try {
-        writeBack(ids);
+        writeBack(session);
     } catch (...) {
         return;
     }

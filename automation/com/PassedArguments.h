@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/Object.h"
-#include "automation/com/MemberIds.h"
+#include "automation/com/ServerSession.h"
 #include "automation/com/Variant.h"
 
 #include <span>
@@ -19,9 +19,9 @@ public:
 
     /// Writes what the callee left in by-reference arguments to the variables behind them; objects left alone stay what
     /// they were.
-    void writeBack(const MemberIdsPtr& ids);
+    void writeBack(const ServerSessionPtr& session);
     /// The same where the callee has raised: its error is the one that counts.
-    void tryWriteBack(const MemberIdsPtr& ids) noexcept;
+    void tryWriteBack(const ServerSessionPtr& session) noexcept;
 
 private:
     std::span<Value> arguments_;

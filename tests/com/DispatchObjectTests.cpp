@@ -283,6 +283,22 @@ TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
         EXPECT_EQ(server_->calls.size(), 1U);
         EXPECT_EQ(server_->lookUps.size(), 1U);
     }
+    // The end of the process is that of all its objects; an object's own end is not.
+    for (const auto& [number, next] :
+         {std::pair(remote::serverUnavailable, remote::serverUnavailable),
+          std::pair(remote::callFailed, remote::serverUnavailable), std::pair(remote::disconnected, std::int32_t{0}),
+          std::pair(remote::objectNotConnected, std::int32_t{0})}) {
+        server_ = makeCom<Server>();
+        object_ = objectOf(server_.get());
+        const auto childServer = makeCom<Server>();
+        server_->answer = childServer.get();
+        const ObjectPtr child = invoke(u"Child").to<ObjectPtr>();
+        server_->statuses = {number};
+        EXPECT_EQ(numberRaised(), number);
+        const auto error = raisedBy([&] { child->invoke(u"M", Access::Get, {}); });
+        EXPECT_EQ(error ? error->number() : 0, next);
+        EXPECT_EQ(childServer->calls.size(), next == 0 ? 1U : 0U);
+    }
     server_ = makeCom<Server>();
     object_ = objectOf(server_.get());
     server_->lookUpStatuses = {remote::serverUnavailable};
