@@ -3,7 +3,6 @@
 #include "automation/Error.h"
 #include "automation/com/ComError.h"
 #include "automation/com/PassedArguments.h"
-#include "automation/com/Patience.h"
 #include "automation/com/VariantReader.h"
 #include "automation/com/WideText.h"
 
@@ -27,11 +26,14 @@ bool isOfWholeProcess(HRESULT status) noexcept {
 }
 
 /// One Invoke with what it gives back.
-struct Call {
+class Call {
+public:
+    explicit Call(Patience& patience) noexcept : patience_(patience) {}
+
     HRESULT make(IDispatch& target, DISPID id, WORD flags, DISPPARAMS& parameters) {
         // A property put gives nothing, and some servers refuse to be asked for it.
         const bool gives = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) == 0;
-        return untilTaken([&] {
+        return patience_.untilTaken([&] {
             result = Variant();
             raised.clear();
             return target.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, gives ? &result : nullptr,
@@ -41,6 +43,9 @@ struct Call {
 
     Variant result;
     ExceptionInfo raised;
+
+private:
+    Patience& patience_;
 };
 
 } // namespace
@@ -50,9 +55,10 @@ DispatchObject::DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> iden
 
 Value DispatchObject::invoke(const Name& name, Access access, std::span<Value> arguments) {
     requireAlive();
-    const DISPID id = idOf(name);
+    Patience patience;
+    const DISPID id = idOf(name, patience);
     PassedArguments passed(arguments, access);
-    Call call;
+    Call call(patience);
     HRESULT status = call.make(*dispatch_.get(), id, flagsOf(access), passed.parameters());
     if (status == DISP_E_MEMBERNOTFOUND && access == Access::Put && arguments.back().isObject()) {
         status = call.make(*dispatch_.get(), id, DISPATCH_PROPERTYPUTREF, passed.parameters());
@@ -71,7 +77,7 @@ bool DispatchObject::isSame(const Object& other) const noexcept {
     return foreign != nullptr && foreign->identity_ == identity_;
 }
 
-DISPID DispatchObject::idOf(const Name& name) {
+DISPID DispatchObject::idOf(const Name& name, Patience& patience) {
     if (name.isDefault()) {
         return DISPID_VALUE;
     }
@@ -79,16 +85,17 @@ DISPID DispatchObject::idOf(const Name& name) {
     if (const auto id = ids.find(name)) {
         return *id;
     }
-    const DISPID id = lookUp(name);
+    const DISPID id = lookUp(name, patience);
     ids.remember(name, id);
     return id;
 }
 
-DISPID DispatchObject::lookUp(const Name& name) {
+DISPID DispatchObject::lookUp(const Name& name, Patience& patience) {
     std::wstring text(name.text().begin(), name.text().end());
     LPOLESTR asked = text.data();
     DISPID id = DISPID_UNKNOWN;
-    require(untilTaken([&] { return dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id); }));
+    require(
+        patience.untilTaken([&] { return dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id); }));
     return id;
 }
 

@@ -2,6 +2,7 @@
 
 #include "automation/Object.h"
 #include "automation/com/ComPtr.h"
+#include "automation/com/Patience.h"
 #include "automation/com/ServerSession.h"
 
 namespace automation::com {
@@ -26,8 +27,8 @@ public:
     [[nodiscard]] const ComPtr<IDispatch>& dispatch() const noexcept { return dispatch_; }
 
 private:
-    [[nodiscard]] DISPID idOf(const Name& name);
-    [[nodiscard]] DISPID lookUp(const Name& name);
+    [[nodiscard]] DISPID idOf(const Name& name, Patience& patience);
+    [[nodiscard]] DISPID lookUp(const Name& name, Patience& patience);
     void requireAlive() const;
     /// Raises the error of a failing status, and remembers it where the process behind the object is gone.
     void require(HRESULT status);

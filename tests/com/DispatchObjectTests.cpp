@@ -265,6 +265,13 @@ TEST_F(DispatchObjectTest, AsksABusyServerAgainForAWhile) {
     EXPECT_LT(waited, 2.5);
     EXPECT_GT(server_->calls.size(), 5U);
 
+    // The look-up of the name and the call have the two seconds together.
+    server_->lookUpStatuses.assign(8, remote::callRejected); // a second, nearly
+    const auto again = Clock::now();
+    EXPECT_EQ(numberRaised(u"New"), remote::callRejected);
+    EXPECT_TRUE(server_->lookUpStatuses.empty());
+    EXPECT_LT(std::chrono::duration<double>(Clock::now() - again).count(), 2.5);
+
     server_->calls.clear();
     const WithoutRetry once;
     EXPECT_EQ(numberRaised(), remote::callRejected);
