@@ -105,8 +105,13 @@ Standing::Standing(ObjectPtr object, IDispatch* dispatch, IUnknown* identity, Re
     : object_(std::move(object)), dispatch_(dispatch), identity_(identity), count_(count) {
     Register& all = known();
     const std::lock_guard lock(all.mutex);
-    all.byObject.insert_or_assign(object_.get(), this);
     all.byIdentity.insert_or_assign(identity_, this);
+    try {
+        all.byObject.insert_or_assign(object_.get(), this);
+    } catch (...) {
+        all.byIdentity.erase(identity_);
+        throw;
+    }
 }
 
 Standing::~Standing() {

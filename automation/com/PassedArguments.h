@@ -18,7 +18,7 @@ public:
     [[nodiscard]] DISPPARAMS& parameters() noexcept { return parameters_; }
 
     /// Writes what the callee left in by-reference arguments to the variables behind them; objects left alone stay what
-    /// they were.
+    /// they were. Raises the error of the first that cannot be read, after all others were written.
     void writeBack(const ServerSessionPtr& session);
     /// The same where the callee has raised: its error is the one that counts.
     void tryWriteBack(const ServerSessionPtr& session) noexcept;
