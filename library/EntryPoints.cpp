@@ -1,3 +1,4 @@
+#include "automation/Object.h"
 #include "automation/com/ComError.h"
 #include "library/Apartment.h"
 #include "library/ClassObject.h"
@@ -54,7 +55,9 @@ HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID wanted, void** result)
 }
 
 HRESULT WINAPI DllCanUnloadNow() {
-    return library::ClassObject::locks() == 0 && automation::com::CountedAlive::count == 0 ? S_OK : S_FALSE;
+    const bool isIdle = library::ClassObject::locks() == 0 && automation::com::CountedAlive::count == 0 &&
+                        automation::Object::alive() == 0;
+    return isIdle ? S_OK : S_FALSE;
 }
 
 HRESULT WINAPI DllRegisterServer() {

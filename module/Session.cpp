@@ -1,5 +1,6 @@
 #include "module/Session.h"
 
+#include "automation/WithoutRetry.h"
 #include "platform/ErrorReport.h"
 
 namespace k73053 {
@@ -50,6 +51,7 @@ bool Session::PowerPointVisible() {
 }
 
 bool Session::PowerPointRepond() const noexcept {
+    const automation::WithoutRetry once;
     return ignoringErrors([&] {
         const std::int32_t state = application.WindowState();
         application.WindowState(ppt::ppWindowMaximized);

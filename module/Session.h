@@ -22,7 +22,7 @@ public:
     /// True if PowerPoint's window is visible. Otherwise an invisible PowerPoint that still answers is quit.
     [[nodiscard]] bool PowerPointVisible();
 
-    /// True if PowerPoint answers: its window state can be read and written.
+    /// True if PowerPoint answers at once: its window state can be read and written. A busy one is not waited for.
     [[nodiscard]] bool PowerPointRepond() const noexcept;
 
     /// Maximises PowerPoint and brings its window to the foreground; false if there is no window.

@@ -143,6 +143,8 @@ HRESULT statusOf(const Error& error) noexcept {
 
 HRESULT reportCurrent(EXCEPINFO* raised) noexcept {
     try {
+        // An earlier error must not be taken for this one where this one cannot be said.
+        SetErrorInfo(0, nullptr);
         const Error error = currentError();
         publish(error);
         if (raised == nullptr) {

@@ -3,7 +3,6 @@
 #include "automation/Error.h"
 #include "automation/com/ComError.h"
 #include "automation/com/PassedArguments.h"
-#include "automation/com/Patience.h"
 #include "automation/com/VariantReader.h"
 #include "automation/com/WideText.h"
 
@@ -21,12 +20,20 @@ WORD flagsOf(Access access) noexcept {
     return 0;
 }
 
+/// True where it is the process that is gone, and not the object alone.
+bool isOfWholeProcess(HRESULT status) noexcept {
+    return status == remote::serverUnavailable || status == remote::callFailed;
+}
+
 /// One Invoke with what it gives back.
-struct Call {
+class Call {
+public:
+    explicit Call(Patience& patience) noexcept : patience_(patience) {}
+
     HRESULT make(IDispatch& target, DISPID id, WORD flags, DISPPARAMS& parameters) {
         // A property put gives nothing, and some servers refuse to be asked for it.
         const bool gives = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) == 0;
-        return untilTaken([&] {
+        return patience_.untilTaken([&] {
             result = Variant();
             raised.clear();
             return target.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, gives ? &result : nullptr,
@@ -36,29 +43,33 @@ struct Call {
 
     Variant result;
     ExceptionInfo raised;
+
+private:
+    Patience& patience_;
 };
 
 } // namespace
 
-DispatchObject::DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> identity, MemberIdsPtr ids) noexcept
-    : dispatch_(std::move(dispatch)), identity_(std::move(identity)), ids_(std::move(ids)) {}
+DispatchObject::DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> identity, ServerSessionPtr session) noexcept
+    : dispatch_(std::move(dispatch)), identity_(std::move(identity)), session_(std::move(session)) {}
 
 Value DispatchObject::invoke(const Name& name, Access access, std::span<Value> arguments) {
     requireAlive();
-    const DISPID id = idOf(name);
+    Patience patience;
+    const DISPID id = idOf(name, patience);
     PassedArguments passed(arguments, access);
-    Call call;
+    Call call(patience);
     HRESULT status = call.make(*dispatch_.get(), id, flagsOf(access), passed.parameters());
     if (status == DISP_E_MEMBERNOTFOUND && access == Access::Put && arguments.back().isObject()) {
         status = call.make(*dispatch_.get(), id, DISPATCH_PROPERTYPUTREF, passed.parameters());
     }
     if (status == DISP_E_EXCEPTION) {
-        passed.tryWriteBack(ids_);
+        passed.tryWriteBack(session_);
         throw errorOf(call.raised);
     }
     require(status);
-    passed.writeBack(ids_);
-    return VariantReader(ids_).read(call.result);
+    passed.writeBack(session_);
+    return VariantReader(session_).read(call.result);
 }
 
 bool DispatchObject::isSame(const Object& other) const noexcept {
@@ -66,34 +77,38 @@ bool DispatchObject::isSame(const Object& other) const noexcept {
     return foreign != nullptr && foreign->identity_ == identity_;
 }
 
-DISPID DispatchObject::idOf(const Name& name) {
+DISPID DispatchObject::idOf(const Name& name, Patience& patience) {
     if (name.isDefault()) {
         return DISPID_VALUE;
     }
-    MemberIds& ids = name.scope().empty() ? ownIds_ : *ids_;
+    MemberIds& ids = name.scope().empty() ? ownIds_ : session_->ids;
     if (const auto id = ids.find(name)) {
         return *id;
     }
-    const DISPID id = lookUp(name);
+    const DISPID id = lookUp(name, patience);
     ids.remember(name, id);
     return id;
 }
 
-DISPID DispatchObject::lookUp(const Name& name) {
+DISPID DispatchObject::lookUp(const Name& name, Patience& patience) {
     std::wstring text(name.text().begin(), name.text().end());
     LPOLESTR asked = text.data();
     DISPID id = DISPID_UNKNOWN;
-    require(untilTaken([&] { return dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id); }));
+    require(
+        patience.untilTaken([&] { return dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id); }));
     return id;
 }
 
 void DispatchObject::requireAlive() const {
     check(gone_);
+    // As the system says to whom the end of the process is no news any more.
+    check(session_->isGone ? remote::serverUnavailable : S_OK);
 }
 
 void DispatchObject::require(HRESULT status) {
     if (remote::isDead(status)) {
         gone_ = status;
+        session_->isGone = session_->isGone || isOfWholeProcess(status);
     }
     check(status);
 }

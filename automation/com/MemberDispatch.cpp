@@ -1,6 +1,7 @@
 #include "automation/com/MemberDispatch.h"
 
 #include "automation/com/ComError.h"
+#include "automation/com/FirstError.h"
 #include "automation/com/Variant.h"
 #include "automation/com/VariantReader.h"
 #include "automation/com/WideText.h"
@@ -82,13 +83,16 @@ public:
 
     [[nodiscard]] std::span<Value> values() noexcept { return arguments_; }
 
-    /// Writes the variables that were changed back to where the caller has them.
+    /// Writes the variables that were changed back to where the caller has them: all that take it, then the first
+    /// error.
     void writeBack() const {
+        FirstError error;
         for (std::size_t i = 0; i < given_.size(); ++i) {
             if (isReference(given(i)) && !(variables_[i] == before_[i])) {
-                assign(given(i), variables_[i]);
+                error.attempt([&] { assign(given(i), variables_[i]); });
             }
         }
+        error.raise();
     }
 
     /// The same where the member has raised: its error is the one that counts.

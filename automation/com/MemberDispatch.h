@@ -13,7 +13,8 @@ namespace member_dispatch {
 
 [[nodiscard]] HRESULT getIdsOfNames(const MemberTable& members, LPOLESTR* names, UINT count, DISPID* ids) noexcept;
 
-/// Arguments that refer to variables are written back where the member changed them, also where it raises. Named
+/// Arguments that refer to variables are written back where the member changed them, also where it raises, and
+/// where one of them cannot take what it is given. Named
 /// arguments are refused, except for the new value of a property.
 [[nodiscard]] HRESULT invoke(Published& object, DISPID id, WORD flags, const DISPPARAMS* parameters, VARIANT* result,
                              EXCEPINFO* raised) noexcept;

@@ -4,7 +4,6 @@
 
 #include "automation/com/Ole.h"
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -20,8 +19,5 @@ public:
 private:
     std::unordered_map<std::u16string, DISPID> ids_;
 };
-
-/// Shared by all objects that descend from the same one.
-using MemberIdsPtr = std::shared_ptr<MemberIds>;
 
 } // namespace automation::com

@@ -52,7 +52,8 @@ ComPtr<IDispatch> madeFor(const std::shared_ptr<Published>& object) {
 
 ObjectPtr serverOf(IDispatch* dispatch, ComPtr<IUnknown> identity) {
     const IUnknown* const key = identity.get();
-    auto fresh = std::make_shared<DispatchObject>(ComPtr(dispatch), std::move(identity), std::make_shared<MemberIds>());
+    auto fresh =
+        std::make_shared<DispatchObject>(ComPtr(dispatch), std::move(identity), std::make_shared<ServerSession>());
     Register& all = known();
     const std::lock_guard lock(all.mutex);
     if (const auto found = all.servers.find(key); found != all.servers.end()) {
@@ -67,7 +68,7 @@ ObjectPtr serverOf(IDispatch* dispatch, ComPtr<IUnknown> identity) {
 
 } // namespace
 
-ObjectPtr objectOf(IDispatch* dispatch, const MemberIdsPtr& ids) {
+ObjectPtr objectOf(IDispatch* dispatch, const ServerSessionPtr& session) {
     if (dispatch == nullptr) {
         return nullptr;
     }
@@ -75,8 +76,8 @@ ObjectPtr objectOf(IDispatch* dispatch, const MemberIdsPtr& ids) {
     if (ObjectPtr own = ownObject(identity.get())) {
         return own;
     }
-    return ids ? std::make_shared<DispatchObject>(ComPtr(dispatch), std::move(identity), ids)
-               : serverOf(dispatch, std::move(identity));
+    return session ? std::make_shared<DispatchObject>(ComPtr(dispatch), std::move(identity), session)
+                   : serverOf(dispatch, std::move(identity));
 }
 
 ComPtr<IDispatch> dispatchOf(const ObjectPtr& object) {
@@ -104,8 +105,13 @@ Standing::Standing(ObjectPtr object, IDispatch* dispatch, IUnknown* identity, Re
     : object_(std::move(object)), dispatch_(dispatch), identity_(identity), count_(count) {
     Register& all = known();
     const std::lock_guard lock(all.mutex);
-    all.byObject.insert_or_assign(object_.get(), this);
     all.byIdentity.insert_or_assign(identity_, this);
+    try {
+        all.byObject.insert_or_assign(object_.get(), this);
+    } catch (...) {
+        all.byIdentity.erase(identity_);
+        throw;
+    }
 }
 
 Standing::~Standing() {

@@ -2,14 +2,14 @@
 
 #include "automation/MemberTable.h"
 #include "automation/com/ComObject.h"
-#include "automation/com/MemberIds.h"
+#include "automation/com/ServerSession.h"
 
 namespace automation::com {
 
 /// An object that came from COM, as a late-bound object: one of this library's own as itself, any other one behind a
-/// DispatchObject. `ids` are those of the server that handed it out; without them it stands for a server of its own,
+/// DispatchObject. `session` is that of the server that handed it out; without one it stands for a server of its own,
 /// which is the same object as long as one is held on it. Null is nothing.
-[[nodiscard]] ObjectPtr objectOf(IDispatch* dispatch, const MemberIdsPtr& ids = nullptr);
+[[nodiscard]] ObjectPtr objectOf(IDispatch* dispatch, const ServerSessionPtr& session = nullptr);
 
 /// An object as COM is given it: one that came from COM as it came, a published one behind what the maker makes for it,
 /// the same one as long as it is held. Nothing is null. Raises TypeMismatch (13) for any other object.

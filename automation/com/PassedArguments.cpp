@@ -1,6 +1,7 @@
 #include "automation/com/PassedArguments.h"
 
 #include "automation/Error.h"
+#include "automation/com/FirstError.h"
 #include "automation/com/Objects.h"
 #include "automation/com/VariantReader.h"
 
@@ -39,19 +40,25 @@ PassedArguments::PassedArguments(std::span<Value> arguments, Access access)
     }
 }
 
-void PassedArguments::writeBack(const MemberIdsPtr& ids) {
-    VariantReader reader(ids);
+void PassedArguments::writeBack(const ServerSessionPtr& session) {
+    VariantReader reader(session);
+    FirstError error;
     for (std::size_t i = 0; i < arguments_.size(); ++i) {
         const bool referred = isReference(passed_[arguments_.size() - 1 - i]);
-        if (referred && !holdsStill(variables_[i], arguments_[i])) {
-            *arguments_[i].variable() = reader.read(variables_[i]);
+        if (referred) {
+            error.attempt([&] {
+                if (!holdsStill(variables_[i], arguments_[i])) {
+                    *arguments_[i].variable() = reader.read(variables_[i]);
+                }
+            });
         }
     }
+    error.raise();
 }
 
-void PassedArguments::tryWriteBack(const MemberIdsPtr& ids) noexcept {
+void PassedArguments::tryWriteBack(const ServerSessionPtr& session) noexcept {
     try {
-        writeBack(ids);
+        writeBack(session);
     } catch (...) {
         return;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/Object.h"
-#include "automation/com/MemberIds.h"
+#include "automation/com/ServerSession.h"
 #include "automation/com/Variant.h"
 
 #include <span>
@@ -18,10 +18,10 @@ public:
     [[nodiscard]] DISPPARAMS& parameters() noexcept { return parameters_; }
 
     /// Writes what the callee left in by-reference arguments to the variables behind them; objects left alone stay what
-    /// they were.
-    void writeBack(const MemberIdsPtr& ids);
+    /// they were. Raises the error of the first that cannot be read, after all others were written.
+    void writeBack(const ServerSessionPtr& session);
     /// The same where the callee has raised: its error is the one that counts.
-    void tryWriteBack(const MemberIdsPtr& ids) noexcept;
+    void tryWriteBack(const ServerSessionPtr& session) noexcept;
 
 private:
     std::span<Value> arguments_;

@@ -3,19 +3,12 @@
 #include "automation/Error.h"
 #include "automation/WithoutRetry.h"
 
-#include <chrono>
+#include <algorithm>
 #include <thread>
 
 namespace automation::com {
 
 namespace {
-
-using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
-
-constexpr auto firstWait = 10ms;
-constexpr auto longestWait = 200ms;
-constexpr auto patience = 2000ms;
 
 bool isBusy(HRESULT status) noexcept {
     return status == remote::callRejected || status == remote::retryLater;
@@ -23,11 +16,10 @@ bool isBusy(HRESULT status) noexcept {
 
 } // namespace
 
-HRESULT untilTaken(const std::function<HRESULT()>& call) {
-    const auto end = Clock::now() + patience;
+HRESULT Patience::untilTaken(const std::function<HRESULT()>& call) {
     auto wait = firstWait;
     HRESULT status = call();
-    while (isBusy(status) && !WithoutRetry::isActive() && Clock::now() + wait <= end) {
+    while (isBusy(status) && !WithoutRetry::isActive() && Clock::now() + wait <= end_) {
         std::this_thread::sleep_for(wait);
         wait = std::min(wait * 2, longestWait);
         status = call();

@@ -114,6 +114,8 @@ private:
     VARIANT& out_;
 };
 
+void assignAt(const VARIANT& reference, const Value& value, int depth);
+
 template <typename T> T& required(T* place) {
     if (place == nullptr) {
         raise(RunTimeError::InvalidProcedureCall);
@@ -145,8 +147,12 @@ void storeText(BSTR* place, const Value& value) {
     stored = text.release();
 }
 
-void storeVariant(VARIANT* place, const Value& value) {
+/// A variable that itself refers to another one passes on what is written to it, as it is read.
+void storeVariant(VARIANT* place, const Value& value, int depth) {
     VARIANT& stored = required(place);
+    if (isReference(stored)) {
+        return assignAt(stored, value, depth + 1);
+    }
     Variant content = variantOf(value);
     VariantClear(&stored);
     stored = content.release();
@@ -170,6 +176,37 @@ void storeConverted(void* place, VARTYPE type, const Value& value) {
     std::memcpy(place, content, sizeOf(type));
     if (type == VT_DECIMAL) {
         static_cast<DECIMAL*>(place)->wReserved = 0;
+    }
+}
+
+/// `depth` counts the references on the way to this one.
+void assignAt(const VARIANT& reference, const Value& value, int depth) {
+    if (depth >= deepestReference) {
+        raise(RunTimeError::OutOfMemory);
+    }
+    switch (reference.vt & ~VT_BYREF) {
+    case VT_VARIANT: return storeVariant(reference.pvarVal, value, depth);
+    case VT_I2: return store<std::int16_t>(reference.piVal, value);
+    case VT_I4:
+    case VT_INT: return store<std::int32_t>(reference.plVal, value);
+    case VT_R4: return store<float>(reference.pfltVal, value);
+    case VT_R8: return store<double>(reference.pdblVal, value);
+    case VT_BOOL: return storeTruth(reference.pboolVal, value);
+    case VT_BSTR: return storeText(reference.pbstrVal, value);
+    case VT_DISPATCH: return storeObject(reference.ppdispVal, value);
+    case VT_UNKNOWN: return storeObject(reference.ppunkVal, value);
+    case VT_ARRAY | VT_VARIANT: return storeArray(reference.pparray, value);
+    case VT_I1:
+    case VT_UI1:
+    case VT_UI2:
+    case VT_UI4:
+    case VT_UINT:
+    case VT_I8:
+    case VT_UI8:
+    case VT_CY:
+    case VT_DATE:
+    case VT_DECIMAL: return storeConverted(reference.byref, static_cast<VARTYPE>(reference.vt & ~VT_BYREF), value);
+    default: raise(RunTimeError::TypeMismatch);
     }
 }
 
@@ -218,30 +255,7 @@ Variant variantOf(const Value& value) {
 }
 
 void assign(const VARIANT& reference, const Value& value) {
-    switch (reference.vt & ~VT_BYREF) {
-    case VT_VARIANT: return storeVariant(reference.pvarVal, value);
-    case VT_I2: return store<std::int16_t>(reference.piVal, value);
-    case VT_I4:
-    case VT_INT: return store<std::int32_t>(reference.plVal, value);
-    case VT_R4: return store<float>(reference.pfltVal, value);
-    case VT_R8: return store<double>(reference.pdblVal, value);
-    case VT_BOOL: return storeTruth(reference.pboolVal, value);
-    case VT_BSTR: return storeText(reference.pbstrVal, value);
-    case VT_DISPATCH: return storeObject(reference.ppdispVal, value);
-    case VT_UNKNOWN: return storeObject(reference.ppunkVal, value);
-    case VT_ARRAY | VT_VARIANT: return storeArray(reference.pparray, value);
-    case VT_I1:
-    case VT_UI1:
-    case VT_UI2:
-    case VT_UI4:
-    case VT_UINT:
-    case VT_I8:
-    case VT_UI8:
-    case VT_CY:
-    case VT_DATE:
-    case VT_DECIMAL: return storeConverted(reference.byref, static_cast<VARTYPE>(reference.vt & ~VT_BYREF), value);
-    default: raise(RunTimeError::TypeMismatch);
-    }
+    assignAt(reference, value, 0);
 }
 
 } // namespace automation::com

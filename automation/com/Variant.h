@@ -53,14 +53,17 @@ static_assert(sizeof(Variant) == sizeof(VARIANT), "arrays of them are passed as 
 /// has.
 [[nodiscard]] std::size_t sizeOf(VARTYPE type) noexcept;
 
+/// References to references that are followed; a chain that is longer is an endless one.
+inline constexpr int deepestReference = 16;
+
 /// True for a VARIANT that refers to a variable of its maker's.
 [[nodiscard]] inline bool isReference(const VARIANT& variant) noexcept {
     return (variant.vt & VT_BYREF) != 0;
 }
 
-/// Writes a value to the variable that a by-reference VARIANT refers to, converted to the variable's type. Raises
-/// TypeMismatch (13) or Overflow (6) where it does not fit, InvalidProcedureCall (5) for a null reference; the variable
-/// then keeps what it held.
+/// Writes a value to the variable that a by-reference VARIANT refers to, be it through others, converted to the
+/// variable's type. Raises TypeMismatch (13) or Overflow (6) where it does not fit, InvalidProcedureCall (5) for a null
+/// reference, OutOfMemory (7) for references without end; the variable then keeps what it held.
 void assign(const VARIANT& reference, const Value& value);
 
 } // namespace automation::com

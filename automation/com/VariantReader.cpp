@@ -152,7 +152,7 @@ Value VariantReader::readObject(IUnknown* object) {
     if (object != nullptr && !dispatch) {
         raise(RunTimeError::TypeMismatch);
     }
-    return objectOf(dispatch.get(), ids_);
+    return objectOf(dispatch.get(), session_);
 }
 
 Value VariantReader::readArray(SAFEARRAY* array, VARTYPE type) {

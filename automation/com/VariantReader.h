@@ -1,7 +1,8 @@
 #pragma once
 
 #include "automation/Value.h"
-#include "automation/com/MemberIds.h"
+#include "automation/com/ServerSession.h"
+#include "automation/com/Variant.h"
 
 #include "automation/com/Ole.h"
 
@@ -15,9 +16,9 @@ namespace automation::com {
 /// (7) for arrays that hold more than a call may carry, or nested deeper than it may be.
 class VariantReader {
 public:
-    /// `ids` are those of the server that the VARIANTs come from: objects among them belong to it. Without, every
+    /// `session` is that of the server that the VARIANTs come from: objects among them belong to it. Without, every
     /// object stands for a server of its own.
-    explicit VariantReader(MemberIdsPtr ids = nullptr) noexcept : ids_(std::move(ids)) {}
+    explicit VariantReader(ServerSessionPtr session = nullptr) noexcept : session_(std::move(session)) {}
 
     /// The value, read through references. Null (VT_NULL) reads as Empty; whole numbers beyond 32 bits, currency,
     /// dates and decimals read as doubles; an array of several dimensions reads as an array of arrays.
@@ -29,9 +30,9 @@ private:
     [[nodiscard]] Value readArray(SAFEARRAY* array, VARTYPE type);
 
     static constexpr std::size_t mostElements = 1U << 20U;
-    static constexpr int deepest = 16;
+    static constexpr int deepest = deepestReference;
 
-    MemberIdsPtr ids_;
+    ServerSessionPtr session_;
     std::size_t elements_ = 0;
     int depth_ = 0;
 };

@@ -60,9 +60,12 @@ struct CommandLine {
 
         if (hasCom) {
             for (CLI::App* const command : {&run, &verify}) {
-                command->add_flag(
+                auto* const com = command->add_flag(
                     "--com", withCom,
                     "Drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
+                command->add_option("--powerpoint-bits", powerPointBits, "Demand a stand-in of 32 or 64 bits")
+                    ->needs(com)
+                    ->check(CLI::IsMember({32, 64}));
             }
         }
         for (CLI::App* const command : {&run, &verify, &recheck, &list}) {
@@ -77,6 +80,7 @@ struct CommandLine {
     RecheckRequest recheckRequest;
     std::vector<std::int32_t> listed;
     bool withCom = false;
+    std::int32_t powerPointBits = 0;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
     CLI::App& recheck = *app.add_subcommand("recheck", "Judge a saved working presentation, without a live PowerPoint");
@@ -111,14 +115,14 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output o
 
 ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
                         const std::string& version, const WorldMaker& makeWorld, Output output,
-                        const std::function<WorldMaker()>& makeComWorlds) {
+                        const ComWorldsMaker& makeComWorlds) {
     CommandLine line(scenarios, version, makeComWorlds != nullptr);
     try {
         line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    const ExitCode code = perform(line, line.withCom ? makeComWorlds() : makeWorld, output);
+    const ExitCode code = perform(line, line.withCom ? makeComWorlds(line.powerPointBits) : makeWorld, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";
         return ExitCode::WrongUsage;

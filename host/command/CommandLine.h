@@ -4,6 +4,9 @@
 
 namespace host {
 
+/// Makes the worlds that `--com` asks for, with a PowerPoint of so many bits; of any number where it is 0.
+using ComWorldsMaker = std::function<WorldMaker(std::int32_t powerPointBits)>;
+
 /// Where a program writes.
 struct Output {
     std::ostream& out;
@@ -15,6 +18,6 @@ struct Output {
 /// such a thing.
 [[nodiscard]] ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
                                       const std::string& version, const WorldMaker& makeWorld, Output output,
-                                      const std::function<WorldMaker()>& makeComWorlds = nullptr);
+                                      const ComWorldsMaker& makeComWorlds = nullptr);
 
 } // namespace host

@@ -1,5 +1,6 @@
 #include "host/win32/ComWorld.h"
 
+#include "automation/Text.h"
 #include "automation/com/WideText.h"
 #include "host/win32/BorrowedFiles.h"
 #include "host/win32/BorrowedRegistry.h"
@@ -52,6 +53,7 @@ public:
 struct Desktop {
     Apartment apartment;
     Standby standby;
+    std::int32_t demandedBits = 0; ///< of PowerPoint; 0 once they are known to be right, or where any will do
 };
 
 /// True where the registered library, if it is loaded, says that nobody holds anything of it.
@@ -71,6 +73,11 @@ public:
         endLeftPowerPoint();
         setUpRegistry();
         desktop_->standby.prepare();
+        if (desktop_->demandedBits != 0) {
+            requireBits(desktop_->demandedBits);
+            desktop_->demandedBits = 0;
+            desktop_->standby.prepare();
+        }
     }
     ~ComWorld() override {
         module_.reset();
@@ -190,6 +197,17 @@ private:
         powerPoint_.dismiss();
     }
 
+    /// Starts the PowerPoint that is registered, and asks it.
+    void requireBits(std::int32_t demanded) {
+        powerPoint_.start();
+        const auto bits =
+            DesktopPowerPoint::isStandIn() ? powerPoint_.standIn().get(u"Bits").to<std::int32_t>() : std::int32_t{0};
+        powerPoint_.dismiss();
+        if (bits != demanded) {
+            refuse(u"the PowerPoint that is registered is no stand-in of " + automation::decimal(demanded) + u" bits");
+        }
+    }
+
     /// Settings of a user who has worked with PowerPoint a little.
     void setUpRegistry() {
         for (const std::u16string_view name : folderSettings::names) {
@@ -209,8 +227,10 @@ private:
 
 } // namespace
 
-WorldMaker makeComWorlds() {
-    return [desktop = std::make_shared<Desktop>()](const automation::ObserverPtr& observer) -> WorldPtr {
+WorldMaker makeComWorlds(std::int32_t powerPointBits) {
+    auto shared = std::make_shared<Desktop>();
+    shared->demandedBits = powerPointBits;
+    return [desktop = std::move(shared)](const automation::ObserverPtr& observer) -> WorldPtr {
         if (observer) {
             refuse(u"the calls of the registered library cannot be listed");
         }

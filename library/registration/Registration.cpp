@@ -25,11 +25,17 @@ void write(HKEY root, const Entry& entry) {
     RegistryKey::create(root, pathOf(entry.key)).setText(entry.name, entry.text);
 }
 
-/// Deletes a key that is bare, and those above it that this leaves bare.
+/// True for the keys that hold those of all libraries.
+bool isCommon(const std::wstring& key) {
+    return key == L"CLSID" || key == L"Interface" || key == L"TypeLib";
+}
+
+/// Deletes a key that is bare, and those above it that this leaves bare. The machine's common keys are the system's to
+/// keep; a user has them for what is registered in them alone.
 void deleteBare(HKEY root, std::wstring key) {
-    while (!key.empty()) {
+    while (!key.empty() && !(isCommon(key) && root == HKEY_LOCAL_MACHINE)) {
         const std::wstring path = pathOf(key);
-        if (!RegistryKey::open(root, path, KEY_QUERY_VALUE).isBare()) {
+        if (const auto opened = RegistryKey::open(root, path, KEY_QUERY_VALUE); !opened || !opened.isBare()) {
             return;
         }
         checkRegistry(RegDeleteKeyW(root, path.c_str()));

@@ -16,9 +16,14 @@ RegistryKey RegistryKey::create(HKEY root, const std::wstring& path) {
     return RegistryKey(key);
 }
 
-RegistryKey RegistryKey::open(HKEY root, const std::wstring& path, REGSAM access) noexcept {
+RegistryKey RegistryKey::open(HKEY root, const std::wstring& path, REGSAM access) {
     HKEY key = nullptr;
-    return RegistryKey(RegOpenKeyExW(root, path.c_str(), 0, access, &key) == ERROR_SUCCESS ? key : nullptr);
+    const LSTATUS status = RegOpenKeyExW(root, path.c_str(), 0, access, &key);
+    if (status == ERROR_FILE_NOT_FOUND || status == ERROR_PATH_NOT_FOUND) {
+        return {};
+    }
+    checkRegistry(status);
+    return RegistryKey(key);
 }
 
 void RegistryKey::setText(const std::wstring& name, const std::wstring& text) const {
@@ -31,12 +36,12 @@ void RegistryKey::deleteValue(const std::wstring& name) const {
     checkRegistry(status == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : status);
 }
 
-bool RegistryKey::isBare() const noexcept {
+bool RegistryKey::isBare() const {
     DWORD keys = 0;
     DWORD values = 0;
-    const LSTATUS status = RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr,
-                                            nullptr, nullptr, nullptr);
-    return status == ERROR_SUCCESS && keys == 0 && values == 0;
+    checkRegistry(RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
+                                   nullptr, nullptr));
+    return keys == 0 && values == 0;
 }
 
 void checkRegistry(LSTATUS status) {

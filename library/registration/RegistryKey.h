@@ -22,8 +22,8 @@ public:
 
     /// Creates the key and those above it, or opens it. Raises the error of the system.
     [[nodiscard]] static RegistryKey create(HKEY root, const std::wstring& path);
-    /// None where it cannot be opened.
-    [[nodiscard]] static RegistryKey open(HKEY root, const std::wstring& path, REGSAM access) noexcept;
+    /// None where it is missing. Raises any other error of the system, such as missing rights.
+    [[nodiscard]] static RegistryKey open(HKEY root, const std::wstring& path, REGSAM access);
 
     [[nodiscard]] explicit operator bool() const noexcept { return key_ != nullptr; }
 
@@ -31,8 +31,8 @@ public:
     void setText(const std::wstring& name, const std::wstring& text) const;
     /// Removes a value; one that is missing is as good as removed. Raises any other error of the system.
     void deleteValue(const std::wstring& name) const;
-    /// True for a key with neither values nor keys below it.
-    [[nodiscard]] bool isBare() const noexcept;
+    /// True for a key with neither values nor keys below it. Raises the error of the system.
+    [[nodiscard]] bool isBare() const;
 
 private:
     explicit RegistryKey(HKEY key) noexcept : key_(key) {}

@@ -17,6 +17,8 @@ public:
 
     /// Refuses so many calls from now on.
     void refuse(std::int32_t calls) noexcept { refusals_ = calls; }
+    /// Calls that are still to be refused.
+    [[nodiscard]] std::int32_t refusals() const noexcept { return refusals_; }
     [[nodiscard]] bool isBusy() const noexcept { return refusals_ > 0; }
 
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK task, DWORD tick,

@@ -16,6 +16,11 @@ void ControlObject::refuse(std::int32_t calls) const {
     gate_->refuse(calls);
 }
 
+std::int32_t ControlObject::refusals() const {
+    requireRunning();
+    return gate_->refusals();
+}
+
 void ControlObject::openDialog(const std::u16string& title) const {
     requireRunning();
     window_.openDialog(title);
@@ -56,15 +61,11 @@ const automation::MemberTable& ControlObject::members() const {
     using automation::property;
     using This = ControlObject;
     static const automation::MemberTable table{
-        property<&This::busy, &This::setBusy>(u"Busy"),
-        method<&This::refuse>(u"Refuse"),
-        method<&This::openDialog>(u"OpenDialog"),
-        property<&This::dialogs>(u"Dialogs"),
-        property<&This::slowness, &This::setSlowness>(u"Slowness"),
-        method<&This::dieAtCall>(u"DieAtCall"),
-        property<&This::calls>(u"Calls"),
-        property<&This::escapes>(u"Escapes"),
-        property<&This::bits>(u"Bits"),
+        property<&This::busy, &This::setBusy>(u"Busy"), method<&This::refuse>(u"Refuse"),
+        property<&This::refusals>(u"Refusals"),         method<&This::openDialog>(u"OpenDialog"),
+        property<&This::dialogs>(u"Dialogs"),           property<&This::slowness, &This::setSlowness>(u"Slowness"),
+        method<&This::dieAtCall>(u"DieAtCall"),         property<&This::calls>(u"Calls"),
+        property<&This::escapes>(u"Escapes"),           property<&This::bits>(u"Bits"),
     };
     return table;
 }

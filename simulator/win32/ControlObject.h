@@ -23,6 +23,8 @@ public:
     void setBusy(bool busy) const;
     /// Refuses so many calls from now on.
     void refuse(std::int32_t calls) const;
+    /// Calls that are still to be refused.
+    [[nodiscard]] std::int32_t refusals() const;
     void openDialog(const std::u16string& title) const;
     [[nodiscard]] std::int32_t dialogs() const;
     [[nodiscard]] std::int32_t slowness() const;

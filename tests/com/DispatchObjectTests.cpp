@@ -265,6 +265,13 @@ TEST_F(DispatchObjectTest, AsksABusyServerAgainForAWhile) {
     EXPECT_LT(waited, 2.5);
     EXPECT_GT(server_->calls.size(), 5U);
 
+    // The look-up of the name and the call have the two seconds together.
+    server_->lookUpStatuses.assign(8, remote::callRejected); // a second, nearly
+    const auto again = Clock::now();
+    EXPECT_EQ(numberRaised(u"New"), remote::callRejected);
+    EXPECT_TRUE(server_->lookUpStatuses.empty());
+    EXPECT_LT(std::chrono::duration<double>(Clock::now() - again).count(), 2.5);
+
     server_->calls.clear();
     const WithoutRetry once;
     EXPECT_EQ(numberRaised(), remote::callRejected);
@@ -282,6 +289,22 @@ TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
         EXPECT_EQ(numberRaised(u"Other", Access::Call), number);
         EXPECT_EQ(server_->calls.size(), 1U);
         EXPECT_EQ(server_->lookUps.size(), 1U);
+    }
+    // The end of the process is that of all its objects; an object's own end is not.
+    for (const auto& [number, next] :
+         {std::pair(remote::serverUnavailable, remote::serverUnavailable),
+          std::pair(remote::callFailed, remote::serverUnavailable), std::pair(remote::disconnected, std::int32_t{0}),
+          std::pair(remote::objectNotConnected, std::int32_t{0})}) {
+        server_ = makeCom<Server>();
+        object_ = objectOf(server_.get());
+        const auto childServer = makeCom<Server>();
+        server_->answer = childServer.get();
+        const ObjectPtr child = invoke(u"Child").to<ObjectPtr>();
+        server_->statuses = {number};
+        EXPECT_EQ(numberRaised(), number);
+        const auto error = raisedBy([&] { child->invoke(u"M", Access::Get, {}); });
+        EXPECT_EQ(error ? error->number() : 0, next);
+        EXPECT_EQ(childServer->calls.size(), next == 0 ? 1U : 0U);
     }
     server_ = makeCom<Server>();
     object_ = objectOf(server_.get());

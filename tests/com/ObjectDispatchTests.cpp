@@ -196,16 +196,21 @@ TEST_F(ObjectDispatchTest, WritesBackToWhatTheCallerHas) {
     SetErrorInfo(0, nullptr);
 }
 
-/// Writes its argument, then raises.
+/// Writes its arguments; Write raises then.
 class Writer final : public Published {
 public:
     [[nodiscard]] const MemberTable& members() const override {
-        static const MemberTable table{method<&Writer::Write>(u"Write")};
+        static const MemberTable table{method<&Writer::Write>(u"Write"), method<&Writer::Write>(u"WriteAll")};
         return table;
     }
-    Value invoke(const Name& /*name*/, Access /*access*/, std::span<Value> arguments) override {
-        *arguments[0].variable() = u"écrit";
-        raise(RunTimeError::Overflow);
+    Value invoke(const Name& name, Access /*access*/, std::span<Value> arguments) override {
+        for (const Value& argument : arguments) {
+            *argument.variable() = u"écrit";
+        }
+        if (name.text() == u"Write") {
+            raise(RunTimeError::Overflow);
+        }
+        return Empty();
     }
     void Write() const {}
 };
@@ -216,6 +221,23 @@ TEST_F(ObjectDispatchTest, WritesBackAlsoWhereTheMemberRaises) {
     EXPECT_EQ(call(L"Write", Variant::reference(variable)), DISP_E_EXCEPTION);
     EXPECT_EQ(static_cast<std::uint32_t>(raised_.scode), 0x800A0006);
     EXPECT_EQ(VariantReader().read(variable), Value(u"écrit"));
+    SetErrorInfo(0, nullptr);
+}
+
+TEST_F(ObjectDispatchTest, WritesBackWhatItCanBeforeItRaises) {
+    dispatch_ = dispatchOf(std::make_shared<Writer>());
+    LONG number = 1;
+    Variant toNumber;
+    toNumber.vt = VT_BYREF | VT_I4;
+    toNumber.plVal = &number;
+    Variant first;
+    Variant last;
+    EXPECT_EQ(call(L"WriteAll", Variant::reference(first), std::move(toNumber), Variant::reference(last)),
+              DISP_E_EXCEPTION);
+    EXPECT_EQ(static_cast<std::uint32_t>(raised_.scode), 0x800A000D);
+    EXPECT_EQ(number, 1);
+    EXPECT_EQ(VariantReader().read(first), Value(u"écrit"));
+    EXPECT_EQ(VariantReader().read(last), Value(u"écrit"));
     SetErrorInfo(0, nullptr);
 }
 

@@ -229,9 +229,22 @@ TEST(Variant, WritesToVariablesOfEveryType) {
             EXPECT_EQ(read(variable), found) << "type " << type;
             assign(reference, given); // what was there is released
         }
+        // A variable that refers to this one passes on what is written to it.
+        if (refused == 0 && type != VT_VARIANT) {
+            Variant passedOn;
+            static_cast<VARIANT&>(passedOn) = reference;
+            Variant outer = Variant::reference(passedOn);
+            assign(Variant::reference(outer), given);
+            EXPECT_EQ(passedOn.vt, reference.vt) << "type " << type;
+            EXPECT_EQ(read(variable), found) << "through others, type " << type;
+        }
         reference.byref = nullptr;
         EXPECT_NE(numberRaisedBy([&] { assign(reference, given); }), 0) << "null reference to type " << type;
     }
+    Variant circle;
+    static_cast<VARIANT&>(circle) = Variant::reference(circle);
+    EXPECT_EQ(numberRaisedBy([&] { assign(circle, 1); }), 7);
+    EXPECT_EQ(numberRaisedBy([&] { read(circle); }), 7);
 }
 
 } // namespace

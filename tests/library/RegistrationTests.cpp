@@ -60,6 +60,37 @@ private:
     }
 };
 
+/// A key that nobody may open, for the length of a scope.
+class NoRights {
+public:
+    NoRights(HKEY root, const std::wstring& path) {
+        EXPECT_EQ(RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, READ_CONTROL | WRITE_DAC, nullptr, &key_, nullptr),
+                  ERROR_SUCCESS);
+        DWORD size = 0;
+        RegGetKeySecurity(key_, DACL_SECURITY_INFORMATION, nullptr, &size);
+        former_.resize(size);
+        EXPECT_EQ(RegGetKeySecurity(key_, DACL_SECURITY_INFORMATION, former_.data(), &size), ERROR_SUCCESS);
+        ACL nobody{};
+        SECURITY_DESCRIPTOR closed{};
+        InitializeAcl(&nobody, sizeof(nobody), ACL_REVISION);
+        InitializeSecurityDescriptor(&closed, SECURITY_DESCRIPTOR_REVISION);
+        SetSecurityDescriptorDacl(&closed, TRUE, &nobody, FALSE);
+        EXPECT_EQ(RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, &closed), ERROR_SUCCESS);
+    }
+    ~NoRights() {
+        EXPECT_EQ(RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, former_.data()), ERROR_SUCCESS);
+        RegCloseKey(key_);
+    }
+    NoRights(const NoRights&) = delete;
+    NoRights& operator=(const NoRights&) = delete;
+    NoRights(NoRights&&) = delete;
+    NoRights& operator=(NoRights&&) = delete;
+
+private:
+    HKEY key_ = nullptr;
+    std::vector<BYTE> former_;
+};
+
 /// The machine without the library, for the length of a test; afterwards it is registered as it was found.
 class RegistrationTest : public testing::Test {
 protected:
@@ -152,6 +183,15 @@ TEST_F(RegistrationTest, LeavesWhatTheOtherBitnessNeeds) {
     }
     EXPECT_EQ(library_.unregisterServer(), S_OK);
     EXPECT_NE(CLSIDFromProgID(L"K73053.Module", &id), S_OK);
+}
+
+TEST_F(RegistrationTest, SaysThatItCannotBeTakenBackWithoutRights) {
+    ASSERT_EQ(library_.install(true, L"user"), S_OK);
+    {
+        const NoRights none(HKEY_CURRENT_USER, classes + library::serverKeys().front());
+        EXPECT_EQ(library_.install(false, L"user"), E_ACCESSDENIED);
+    }
+    EXPECT_EQ(library_.install(false, L"user"), S_OK);
 }
 
 TEST_F(RegistrationTest, IsNotNeededWithTheManifest) {

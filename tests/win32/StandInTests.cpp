@@ -1,9 +1,8 @@
 #include "automation/Error.h"
 #include "automation/LateBound.h"
 #include "automation/com/Objects.h"
-#include "platform/win32/Win32Keyboard.h"
-#include "platform/win32/Win32Servers.h"
-#include "platform/win32/Win32Windows.h"
+#include "module/Session.h"
+#include "platform/win32/Win32Services.h"
 #include "simulator/win32/StandInIdentity.h"
 
 #include <gtest/gtest.h>
@@ -128,6 +127,17 @@ TEST_F(StandInTest, RefusesCallsWhileItIsBusyAndDiesWhenAsked) {
     controls.call(u"DieAtCall", 2);
     application_.get(u"Version");
     EXPECT_TRUE(automation::remote::isDead(numberRaised([&] { application_.get(u"Version"); })));
+}
+
+TEST_F(StandInTest, IsAskedOnceWhetherItAnswers) {
+    platform::Win32Services services;
+    k73053::Session session(services.services());
+    session.application = ppt::Application(application_.object());
+    EXPECT_TRUE(session.PowerPointRepond());
+    const LateBound controls = control();
+    controls.call(u"Refuse", 2);
+    EXPECT_FALSE(session.PowerPointRepond());
+    EXPECT_EQ(controls.get(u"Refusals"), Value(1)) << "a busy one is not asked again";
 }
 
 /// Runs the registered program with a switch; its exit code.
