@@ -17,6 +17,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify 306 307
   exercise-host verify --file mine.scn   a scenario file of your own
   exercise-host list                     the questions and their scenarios
+  exercise-host torture 306              every call of question 306 made to fail in every way
+  exercise-host bench                    what the questions cost in calls and time
 
 Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
 scenario hung.)";
@@ -48,6 +50,17 @@ struct CommandLine {
 
         list.add_option("questions", listed, "Numbers of questions (all)")->transform(questionNumber);
 
+        torture.add_option("questions", tortureRequest.questions, "Numbers of questions (all)")
+            ->transform(questionNumber);
+        torture.add_option("--every", tortureRequest.every, "Make one call in so many fail")
+            ->capture_default_str()
+            ->check(CLI::PositiveNumber);
+        torture.add_option("--seed", tortureRequest.seed, "Where --every begins (at random)");
+
+        bench.add_option("questions", benchRequest.questions, "Numbers of questions (all)")->transform(questionNumber);
+        bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
+            ->check(CLI::PositiveNumber);
+
         if (hasCom) {
             for (CLI::App* const command : {&run, &verify}) {
                 command->add_flag(
@@ -55,7 +68,7 @@ struct CommandLine {
                     "Drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
             }
         }
-        for (CLI::App* const command : {&run, &verify, &list}) {
+        for (CLI::App* const command : {&run, &verify, &list, &torture, &bench}) {
             command->fallthrough();
         }
     }
@@ -65,20 +78,32 @@ struct CommandLine {
     RunRequest runRequest;
     VerifyRequest verifyRequest;
     std::vector<std::int32_t> listed;
+    TortureRequest tortureRequest;
+    BenchRequest benchRequest;
     bool withCom = false;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
     CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
+    CLI::App& torture = *app.add_subcommand(
+        "torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong");
+    CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
 ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output output) {
     try {
         const Library library(asked.folder);
         if (asked.app.get_subcommands().empty()) {
-            throw UsageError("run, verify or list? See exercise-host --help");
+            throw UsageError("run, verify, list, torture or bench? See exercise-host --help");
         }
         if (asked.run) {
             return run(asked.runRequest, library, makeWorld, output.out);
+        }
+        if (asked.torture) {
+            return runTorture(asked.tortureRequest, library, makeWorld, output.out,
+                              output.isTerminal ? &output.error : nullptr);
+        }
+        if (asked.bench) {
+            return runBench(asked.benchRequest, library, makeWorld, output.out);
         }
         return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out)
                             : list(asked.listed, library, output.out);
