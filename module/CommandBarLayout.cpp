@@ -6,68 +6,106 @@ namespace k73053 {
 
 using platform::ignoringErrors;
 
+namespace {
+
+/// Reads a setting, unless the learner's value is still to be put back.
+template <typename Kept, typename Read> void keep(Kept& kept, const Read& read) noexcept {
+    if (!kept.isChanged) {
+        kept.isChanged = ignoringErrors([&] { kept.value = read(); });
+    }
+}
+
+/// Puts a setting back, if it is changed. A refusal leaves it for the next time; where PowerPoint does not answer at
+/// all, the error passes.
+template <typename Kept, typename Step> void give(Kept& kept, const Step& step) {
+    if (!kept.isChanged) {
+        return;
+    }
+    try {
+        step(kept.value);
+        kept.isChanged = false;
+    } catch (const automation::Error& error) {
+        namespace remote = automation::remote;
+        if (remote::isDead(error.number()) || error.number() == remote::callRejected ||
+            error.number() == remote::retryLater) {
+            throw;
+        }
+    }
+}
+
+} // namespace
+
 void CommandBarLayout::saveVisible(const ppt::Application& application) {
     const std::int32_t bars = application.CommandBars().Count();
-    std::vector<bool> visible;
+    std::vector<Kept<bool>> visible = visible_;
+    visible.resize(static_cast<std::size_t>(bars));
     for (std::int32_t i = 1; i <= bars; ++i) {
-        visible.push_back(application.CommandBars().Item(i).Visible());
+        const bool isVisible = application.CommandBars().Item(i).Visible();
+        Kept<bool>& kept = visible[static_cast<std::size_t>(i - 1)];
+        kept.value = kept.isChanged ? kept.value : isVisible;
     }
-    if (!isChanged_) {
-        visible_ = std::move(visible);
-    }
+    visible_ = std::move(visible);
 }
 
 void CommandBarLayout::willChange(const ppt::Application& application) noexcept {
-    if (isChanged_) {
-        return;
-    }
-    isChanged_ = true;
+    markVisible();
     for (ArrangedBar& bar : arranged_) {
-        bar.enabled.reset();
-        bar.position.reset();
-        ignoringErrors([&] { bar.enabled = application.CommandBars().Item(bar.name).Enabled(); });
-        ignoringErrors([&] { bar.position = application.CommandBars().Item(bar.name).Position(); });
+        keep(bar.enabled, [&] { return application.CommandBars().Item(bar.name).Enabled(); });
+        keep(bar.position, [&] { return application.CommandBars().Item(bar.name).Position(); });
     }
-    tooltips_.reset();
-    ignoringErrors([&] { tooltips_ = application.CommandBars().DisplayTooltips(); });
+    keep(tooltips_, [&] { return application.CommandBars().DisplayTooltips(); });
+}
+
+void CommandBarLayout::markVisible() noexcept {
+    for (Kept<bool>& bar : visible_) {
+        bar.isChanged = true;
+    }
+}
+
+bool CommandBarLayout::isChanged() const noexcept {
+    return tooltips_.isChanged ||
+           std::any_of(visible_.begin(), visible_.end(), [](const Kept<bool>& bar) { return bar.isChanged; }) ||
+           std::any_of(arranged_.begin(), arranged_.end(),
+                       [](const ArrangedBar& bar) { return bar.enabled.isChanged || bar.position.isChanged; });
 }
 
 void CommandBarLayout::restore(const ppt::Application& application) noexcept {
-    if (!isChanged_) {
-        return;
-    }
-    for (const ArrangedBar& bar : arranged_) {
-        dock(application, bar);
-    }
-    for (std::size_t i = 0; i < visible_.size(); ++i) {
-        ignoringErrors([&] {
-            const auto index = static_cast<std::int32_t>(i + 1);
-            if (application.CommandBars().Item(index).Visible() != visible_[i]) {
-                application.CommandBars().Item(index).Visible(visible_[i]);
-            }
-        });
-    }
-    for (const ArrangedBar& bar : arranged_) {
-        ignoringErrors([&] {
-            if (bar.enabled && application.CommandBars().Item(bar.name).Enabled() != *bar.enabled) {
-                application.CommandBars().Item(bar.name).Enabled(*bar.enabled);
-            }
-        });
-    }
-    ignoringErrors([&] {
-        if (tooltips_ && application.CommandBars().DisplayTooltips() != *tooltips_) {
-            application.CommandBars().DisplayTooltips(*tooltips_);
-        }
-    });
-    isChanged_ = false;
+    ignoringErrors([&] { putBack(application); });
 }
 
-void CommandBarLayout::dock(const ppt::Application& application, const ArrangedBar& bar) noexcept {
-    ignoringErrors([&] {
-        if (bar.position && application.CommandBars().Item(bar.name).Position() != *bar.position) {
-            // Hidden while it is moved, so that the position takes effect.
-            application.CommandBars().Item(bar.name).Visible(false);
-            application.CommandBars().Item(bar.name).Position(*bar.position);
+void CommandBarLayout::putBack(const ppt::Application& application) {
+    if (std::any_of(arranged_.begin(), arranged_.end(),
+                    [](const ArrangedBar& bar) { return bar.position.isChanged; })) {
+        // Docking hides a bar, also one that an earlier close has shown again.
+        markVisible();
+    }
+    for (ArrangedBar& bar : arranged_) {
+        give(bar.position, [&](std::int32_t position) {
+            if (application.CommandBars().Item(bar.name).Position() != position) {
+                // Hidden while it is moved, so that the position takes effect.
+                application.CommandBars().Item(bar.name).Visible(false);
+                application.CommandBars().Item(bar.name).Position(position);
+            }
+        });
+    }
+    for (std::size_t i = 0; i < visible_.size(); ++i) {
+        give(visible_[i], [&](bool isVisible) {
+            const auto index = static_cast<std::int32_t>(i + 1);
+            if (application.CommandBars().Item(index).Visible() != isVisible) {
+                application.CommandBars().Item(index).Visible(isVisible);
+            }
+        });
+    }
+    for (ArrangedBar& bar : arranged_) {
+        give(bar.enabled, [&](bool isEnabled) {
+            if (application.CommandBars().Item(bar.name).Enabled() != isEnabled) {
+                application.CommandBars().Item(bar.name).Enabled(isEnabled);
+            }
+        });
+    }
+    give(tooltips_, [&](bool areDisplayed) {
+        if (application.CommandBars().DisplayTooltips() != areDisplayed) {
+            application.CommandBars().DisplayTooltips(areDisplayed);
         }
     });
 }

@@ -11,7 +11,7 @@ namespace k73053 {
 
 /// How the learner's command bars stand: which are shown, how those that an exercise arranges are docked and enabled,
 /// and whether tooltips are displayed. Between `willChange` and `restore` the copy is the learner's, however many
-/// questions come and go.
+/// questions come and go; what a close could not put back stays in it for the next one.
 class CommandBarLayout {
 public:
     /// Reads which bars are shown. Raises what PowerPoint raises.
@@ -21,25 +21,33 @@ public:
     /// alone later.
     void willChange(const ppt::Application& application) noexcept;
 
-    /// True while the bars stand as an exercise has arranged them.
-    [[nodiscard]] bool isChanged() const noexcept { return isChanged_; }
+    /// True while anything may stand as an exercise has arranged it.
+    [[nodiscard]] bool isChanged() const noexcept;
 
-    /// Puts back what differs from the learner's copy, if the bars are changed; bars that refuse stay as they are.
+    /// Puts back what differs from the learner's copy. What a bar refuses is passed over; a PowerPoint that does not
+    /// answer is not asked again.
     void restore(const ppt::Application& application) noexcept;
 
 private:
-    struct ArrangedBar {
-        std::u16string_view name;
-        std::optional<bool> enabled = {};
-        std::optional<std::int32_t> position = {};
+    /// One setting: the learner's value, and whether it has to be put back.
+    template <typename T> struct Kept {
+        T value{};
+        bool isChanged = false;
     };
 
-    static void dock(const ppt::Application& application, const ArrangedBar& bar) noexcept;
+    struct ArrangedBar {
+        std::u16string_view name;
+        Kept<bool> enabled = {};
+        Kept<std::int32_t> position = {};
+    };
 
-    std::vector<bool> visible_; ///< bar i + 1
+    /// Has the visibility of every bar put back.
+    void markVisible() noexcept;
+    void putBack(const ppt::Application& application);
+
+    std::vector<Kept<bool>> visible_; ///< bar i + 1
     std::array<ArrangedBar, 4> arranged_{{{u"standard"}, {u"formatting"}, {u"Drawing"}, {u"Task Pane"}}};
-    std::optional<bool> tooltips_;
-    bool isChanged_ = false;
+    Kept<bool> tooltips_;
 };
 
 } // namespace k73053

@@ -42,10 +42,16 @@ void UserSettings::SauveParamUser(const ppt::Application& application) {
         if (!key.isOpen()) {
             raiseFor(folder);
         }
-        const auto data = key.query(valueOf(folder));
-        if (!folder.changed) {
-            folder.saved = withoutNul(data.value_or(u""));
+        std::u16string data;
+        const Registry::Status status = key.query(valueOf(folder), data);
+        if (folder.changed) {
+            continue;
         }
+        // A value that is there and cannot be read would be lost once the exercise's stands in its place.
+        if (status != Registry::success && status != Registry::fileNotFound) {
+            raiseFor(folder);
+        }
+        folder.saved = status == Registry::success ? withoutNul(std::move(data)) : std::u16string();
     }
 }
 

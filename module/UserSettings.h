@@ -22,7 +22,7 @@ public:
     void createKey();
 
     /// Saves which command bars are shown, and the recent folders. What an earlier question still has changed keeps its
-    /// saved copy. Raises the registry error for a key that cannot be opened.
+    /// saved copy. Raises the registry error for a key that cannot be opened, or a value that cannot be read.
     void SauveParamUser(const ppt::Application& application);
 
     /// Points PowerPoint's recent folders at a folder; only "Default" receives a usable one. Failures go to the error

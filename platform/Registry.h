@@ -60,16 +60,16 @@ public:
     bool enumerate(std::uint32_t index, std::u16string& name) const {
         return registry_.enumerate(key_, index, nameBuffer, name) == Registry::success;
     }
-    /// Data of a string value as it is stored; read again whole where it is longer than the usual buffer. Nothing where
-    /// the value is missing.
+    /// Data of a string value as it is stored; read again whole where it is longer than the usual buffer.
+    [[nodiscard]] Registry::Status query(std::u16string_view name, std::u16string& data) const {
+        std::size_t length = valueBuffer;
+        const Registry::Status status = registry_.query(key_, name, length, data);
+        return status == Registry::moreData ? registry_.query(key_, name, length, data) : status;
+    }
+    /// The same; nothing where the value is missing or cannot be read.
     [[nodiscard]] std::optional<std::u16string> query(std::u16string_view name) const {
         std::u16string data;
-        std::size_t length = valueBuffer;
-        Registry::Status status = registry_.query(key_, name, length, data);
-        if (status == Registry::moreData) {
-            status = registry_.query(key_, name, length, data);
-        }
-        return status == Registry::success ? std::optional(data) : std::nullopt;
+        return query(name, data) == Registry::success ? std::optional(data) : std::nullopt;
     }
     bool set(std::u16string_view name, std::u16string_view data, std::size_t length) const {
         return registry_.set(key_, name, data, length) == Registry::success;

@@ -9,19 +9,22 @@
 namespace automation {
 
 /// Makes the n-th call fail, once or from there on: an automation call raises the error given, a call of the system
-/// fails in its own way.
+/// fails in its own way. From there on, borders that are spared let their calls pass.
 class FaultInjector final : public Observer {
 public:
     enum class Lasting : bool { Once, FromThereOn };
 
-    /// `position` counts from 1; 0 lets every call pass.
-    FaultInjector(std::size_t position, Lasting lasting, Error error)
-        : position_(position), lasting_(lasting), error_(std::move(error)) {}
+    using Spares = std::function<bool(Border)>;
 
-    Value around(const Crossing& /*crossing*/, const Next& next) override {
+    /// `position` counts from 1; 0 lets every call pass.
+    FaultInjector(std::size_t position, Lasting lasting, Error error, Spares spares = nullptr)
+        : position_(position), lasting_(lasting), error_(std::move(error)), spares_(std::move(spares)) {}
+
+    Value around(const Crossing& crossing, const Next& next) override {
         ++calls_;
         const bool reached = position_ != 0 && calls_ >= position_;
-        if (reached && (calls_ == position_ || lasting_ == Lasting::FromThereOn)) {
+        if (reached && (calls_ == position_ || lasting_ == Lasting::FromThereOn) &&
+            !(spares_ && spares_(crossing.border))) {
             throw error_;
         }
         return next();
@@ -34,6 +37,7 @@ private:
     std::size_t position_;
     Lasting lasting_;
     Error error_;
+    Spares spares_;
     std::size_t calls_ = 0;
 };
 

@@ -19,6 +19,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host run 306 --course DIR     on the course's own files
   exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
+  exercise-host torture 306              every call of question 306 made to fail in every way
+  exercise-host bench                    what the questions cost in calls and time
 
 Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
 scenario hung.)";
@@ -58,6 +60,17 @@ struct CommandLine {
 
         list.add_option("questions", listed, "Numbers of questions (all)")->transform(questionNumber);
 
+        torture.add_option("questions", tortureRequest.questions, "Numbers of questions (all)")
+            ->transform(questionNumber);
+        torture.add_option("--every", tortureRequest.every, "Make one call in so many fail")
+            ->capture_default_str()
+            ->check(CLI::PositiveNumber);
+        torture.add_option("--seed", tortureRequest.seed, "Where --every begins (at random)");
+
+        bench.add_option("questions", benchRequest.questions, "Numbers of questions (all)")->transform(questionNumber);
+        bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
+            ->check(CLI::PositiveNumber);
+
         if (hasCom) {
             for (CLI::App* const command : {&run, &verify}) {
                 auto* const com = command->add_flag(
@@ -68,7 +81,7 @@ struct CommandLine {
                     ->check(CLI::IsMember({32, 64}));
             }
         }
-        for (CLI::App* const command : {&run, &verify, &recheck, &list}) {
+        for (CLI::App* const command : {&run, &verify, &recheck, &list, &torture, &bench}) {
             command->fallthrough();
         }
     }
@@ -79,25 +92,37 @@ struct CommandLine {
     VerifyRequest verifyRequest;
     RecheckRequest recheckRequest;
     std::vector<std::int32_t> listed;
+    TortureRequest tortureRequest;
+    BenchRequest benchRequest;
     bool withCom = false;
     std::int32_t powerPointBits = 0;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
     CLI::App& recheck = *app.add_subcommand("recheck", "Judge a saved working presentation, without a live PowerPoint");
     CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
+    CLI::App& torture = *app.add_subcommand(
+        "torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong");
+    CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
 ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output output) {
     try {
         const Library library(asked.folder);
         if (asked.app.get_subcommands().empty()) {
-            throw UsageError("run, verify or list? See exercise-host --help");
+            throw UsageError("run, verify, list, torture or bench? See exercise-host --help");
         }
         if (asked.run) {
             return run(asked.runRequest, library, makeWorld, output.out);
         }
         if (asked.recheck) {
             return recheck(asked.recheckRequest, library, makeWorld, output.out);
+        }
+        if (asked.torture) {
+            return runTorture(asked.tortureRequest, library, makeWorld, output.out,
+                              output.isTerminal ? &output.error : nullptr);
+        }
+        if (asked.bench) {
+            return runBench(asked.benchRequest, library, makeWorld, output.out);
         }
         return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out)
                             : list(asked.listed, library, output.out);

@@ -11,6 +11,7 @@ using ComWorldsMaker = std::function<WorldMaker(std::int32_t powerPointBits)>;
 struct Output {
     std::ostream& out;
     std::ostream& error;
+    bool isTerminal = false; ///< `error` is watched by someone who likes to see progress
 };
 
 /// Does what the arguments of a command line say (the program's name left out). `scenarios` is the folder of the

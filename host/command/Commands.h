@@ -10,7 +10,7 @@ namespace host {
 /// How the program ends.
 enum class ExitCode : int {
     Good = 0,
-    FellShort = 1,  ///< a scenario fell short
+    FellShort = 1,  ///< a scenario fell short, or a measurement
     WrongUsage = 2, ///< a wrong command line, or a wrong line in a scenario file
     Hung = 3,       ///< a scenario did not come to its end
 };
@@ -41,6 +41,19 @@ struct RecheckRequest {
 [[nodiscard]] ExitCode recheck(const RecheckRequest& request, const Library& library, const WorldMaker& makeWorld,
                                std::ostream& out);
 
+/// What `exercise-host torture` is asked for.
+struct TortureRequest {
+    std::vector<std::int32_t> questions; ///< all where none is named
+    std::size_t every = 1;               ///< of the calls of an operation one in so many is made to fail
+    std::optional<std::uint32_t> seed;   ///< of the random numbers that pick the first; a new one where it is missing
+};
+
+/// What `exercise-host bench` is asked for.
+struct BenchRequest {
+    std::vector<std::int32_t> questions; ///< all where none is named
+    std::size_t runs = 0;                ///< questions of a long run; 0 for what questions cost
+};
+
 /// Runs one scenario and tells it, up to the four values that the host reads last.
 [[nodiscard]] ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld,
                            std::ostream& out);
@@ -48,6 +61,15 @@ struct RecheckRequest {
 /// Runs all scenarios and prints what falls short.
 [[nodiscard]] ExitCode verify(const VerifyRequest& request, const Library& library, const WorldMaker& makeWorld,
                               std::ostream& out);
+
+/// Makes the calls fail that leave the module, one by one, and prints what is then amiss, and a line of totals.
+/// Progress goes to `progress`, where there is one.
+[[nodiscard]] ExitCode runTorture(const TortureRequest& request, const Library& library, const WorldMaker& makeWorld,
+                                  std::ostream& out, std::ostream* progress);
+
+/// Prints what questions cost in calls and time, and how the cost grows with a deck; or what a long run leaves behind.
+[[nodiscard]] ExitCode runBench(BenchRequest request, const Library& library, const WorldMaker& makeWorld,
+                                std::ostream& out);
 
 /// Prints the scenarios of questions, of all where none is named.
 [[nodiscard]] ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out);

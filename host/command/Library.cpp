@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <numeric>
 
 namespace host {
 
@@ -43,6 +44,12 @@ std::vector<fs::path> Library::filesOf(const std::vector<std::int32_t>& question
     std::transform(questions.begin(), questions.end(), paths.begin(),
                    [this](std::int32_t question) { return fileOf(question); });
     return paths;
+}
+
+std::vector<std::int32_t> Library::questions() {
+    std::vector<std::int32_t> numbers(lastQuestion - firstQuestion + 1);
+    std::iota(numbers.begin(), numbers.end(), firstQuestion);
+    return numbers;
 }
 
 language::ScenarioFile load(const fs::path& path) {

@@ -20,6 +20,9 @@ public:
     [[nodiscard]] std::filesystem::path fileOf(std::int32_t question) const;
     [[nodiscard]] std::vector<std::filesystem::path> filesOf(const std::vector<std::int32_t>& questions) const;
 
+    /// The numbers of all questions of the course.
+    [[nodiscard]] static std::vector<std::int32_t> questions();
+
 private:
     std::filesystem::path folder_;
 };

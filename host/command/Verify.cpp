@@ -16,11 +16,8 @@ struct Tally {
     std::size_t failed = 0;
 };
 
-/// Far more than a scenario takes on a machine that has a lot to do.
-constexpr std::chrono::seconds patience(180);
-
 void verifyFile(const language::ScenarioFile& file, const WorldMaker& makeWorld, Tally& tally, std::ostream& out) {
-    Watch watch(patience, out);
+    Watch watch(Watch::patience, out);
     watch.next(file.name + ", its course");
     const Runner runner(file, makeWorld);
     for (const language::Scenario& scenario : file.scenarios) {

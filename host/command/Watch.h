@@ -13,6 +13,9 @@ namespace host {
 /// hangs.
 class Watch {
 public:
+    /// Far more than a scenario takes on a machine that has a lot to do.
+    static constexpr std::chrono::seconds patience{180};
+
     /// `out` must outlive this object.
     Watch(std::chrono::seconds limit, std::ostream& out);
     ~Watch();

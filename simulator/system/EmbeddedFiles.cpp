@@ -18,6 +18,12 @@ using automation::RunTimeError;
 
 namespace {
 
+/// A name as the disk takes it, whatever it consists of.
+fs::path onDisk(std::u16string_view name) {
+    const std::string bytes = automation::toUtf8(name);
+    return fs::path(std::u8string(bytes.begin(), bytes.end()));
+}
+
 std::u16string nameOf(const fs::path& path) {
     return automation::fromUtf8(path.filename().string());
 }
@@ -50,7 +56,7 @@ std::vector<std::u16string> partsOf(std::u16string_view path) {
 
 /// The entry of a folder that has a name, case ignored; the name as it stands where there is none.
 fs::path entry(const fs::path& folder, std::u16string_view name) {
-    fs::path exact = folder / fs::path(std::u16string(name));
+    fs::path exact = folder / onDisk(name);
     std::error_code failed;
     if (fs::exists(exact, failed)) {
         return exact;
@@ -106,8 +112,9 @@ std::uint32_t EmbeddedFiles::attributesOf(const fs::path& file) const {
 
 void EmbeddedFiles::create(std::u16string_view path) const {
     const fs::path file = realPath(path);
-    fs::create_directories(file.parent_path());
-    if (!std::ofstream(file)) {
+    std::error_code failed;
+    fs::create_directories(file.parent_path(), failed);
+    if (failed || !std::ofstream(file)) {
         raise(RunTimeError::PathAccess);
     }
 }
@@ -128,7 +135,7 @@ void EmbeddedFiles::rename(std::u16string_view from, std::u16string_view to) {
     fs::path target = realPath(to);
     std::error_code failed;
     if (target == source) {
-        target = source.parent_path() / fs::path(partsOf(to).back());
+        target = source.parent_path() / onDisk(partsOf(to).back());
     }
     if (target == source || (fs::exists(target, failed) && !fs::equivalent(target, source, failed))) {
         raise(RunTimeError::FileAlreadyExists);

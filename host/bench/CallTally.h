@@ -1,0 +1,35 @@
+#pragma once
+
+#include "automation/observe/Observer.h"
+
+#include <set>
+
+namespace host::bench {
+
+/// Counts the calls that pass, those of a question's Prepare apart, and the names that they state.
+class CallTally final : public automation::Observer {
+public:
+    automation::Value around(const automation::Crossing& crossing, const Next& next) override {
+        const bool isAutomation = crossing.border == automation::Border::Automation;
+        // Prepare begins where the presentation is opened, and is over where the folders are pointed at the exercise.
+        isInPrepare_ = (isAutomation && crossing.member == u"Open") ||
+                       (isInPrepare_ && crossing.border != automation::Border::Registry);
+        ++calls;
+        prepareCalls += isInPrepare_ ? 1U : 0U;
+        automationCalls += isAutomation ? 1U : 0U;
+        if (isAutomation) {
+            names.insert(std::u16string(crossing.target).append(u".").append(crossing.member));
+        }
+        return next();
+    }
+
+    std::size_t calls = 0;
+    std::size_t prepareCalls = 0;
+    std::size_t automationCalls = 0;
+    std::set<std::u16string> names; ///< members of PowerPoint's, each looked up once in a session through COM
+
+private:
+    bool isInPrepare_ = false;
+};
+
+} // namespace host::bench

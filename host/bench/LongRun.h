@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/run/TrainingHost.h"
+
+namespace host::bench {
+
+/// What a process holds after a number of questions.
+struct Holding {
+    std::size_t questions = 0;
+    std::optional<std::size_t> kilobytes; ///< resident; nothing where the system does not tell
+    std::size_t objects = 0;              ///< automation objects alive
+    std::vector<std::string> leftOpen;    ///< registry keys and the like
+};
+
+/// A file with its course, built.
+struct BuiltCourse {
+    const language::ScenarioFile& file;
+    Course course;
+};
+
+/// Has one module in one PowerPoint work through questions, one after the other and round and round, each begun, worked
+/// on, checked and closed, and looks ten times at what the process holds, first after a tenth of the way. Raises what
+/// the module raises.
+[[nodiscard]] std::vector<Holding> longRun(const std::vector<BuiltCourse>& courses, std::size_t questions,
+                                           const WorldMaker& makeWorld);
+
+} // namespace host::bench

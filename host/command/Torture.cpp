@@ -1,0 +1,59 @@
+#include "host/torture/Torture.h"
+#include "host/command/Commands.h"
+#include "host/command/Watch.h"
+
+#include <ostream>
+
+namespace host {
+
+namespace {
+
+using torture::Totals;
+
+void tortureFile(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every,
+                 std::mt19937& random, Totals& totals, std::ostream& out, std::ostream* progress) {
+    Watch watch(Watch::patience, out);
+    watch.next(file.name);
+    const torture::Torture torture(file, makeWorld, every, random);
+    torture.run(
+        totals, [&](const std::string& finding) { out << finding << std::endl; },
+        [&](const torture::Operation& operation, std::size_t call, std::size_t calls) {
+            const std::string place = "question " + std::to_string(file.question) + ", " + operation.display() +
+                                      ", call " + std::to_string(call);
+            watch.next(place);
+            if (progress != nullptr) {
+                *progress << '\r' << place << " of " << calls << "        " << std::flush;
+            }
+        });
+}
+
+void print(const Totals& totals, std::ostream& out) {
+    out << totals.failed << " calls failed:";
+    for (std::size_t i = 0; i < totals.outcomes.size(); ++i) {
+        out << (i == 0 ? " " : ", ") << totals.outcomes.at(i) << ' ' << nameOf(static_cast<torture::Answer>(i));
+    }
+    out << "; " << totals.findings << " findings" << std::endl;
+}
+
+} // namespace
+
+ExitCode runTorture(const TortureRequest& request, const Library& library, const WorldMaker& makeWorld,
+                    std::ostream& out, std::ostream* progress) {
+    const std::uint32_t seed = request.seed ? *request.seed : std::random_device()();
+    if (request.every > 1) {
+        out << "one call in " << request.every << ", --seed " << seed << std::endl;
+    }
+    std::mt19937 random(seed);
+    Totals totals;
+    for (const std::filesystem::path& path :
+         library.filesOf(request.questions.empty() ? Library::questions() : request.questions)) {
+        tortureFile(load(path), makeWorld, request.every, random, totals, out, progress);
+    }
+    if (progress != nullptr) {
+        *progress << '\n';
+    }
+    print(totals, out);
+    return totals.findings == 0 && totals.failed != 0 ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace host

@@ -1,0 +1,101 @@
+#include "host/torture/Fault.h"
+
+namespace host::torture {
+
+namespace {
+
+using automation::Border;
+using automation::Error;
+using automation::RunTimeError;
+using Kind = Fault::Kind;
+
+constexpr auto outOfMemory = static_cast<std::int32_t>(0x8007000EU);
+constexpr auto invalidRequest = static_cast<std::int32_t>(0x80048240U);
+
+/// Ends PowerPoint's process just before the call at a position; the calls themselves pass.
+class Killer final : public automation::Observer {
+public:
+    Killer(std::size_t position, World& world) : left_(position), world_(world) {}
+
+    automation::Value around(const automation::Crossing& /*crossing*/, const Next& next) override {
+        if (left_ != 0 && --left_ == 0) {
+            world_.killPowerPoint();
+        }
+        return next();
+    }
+
+private:
+    std::size_t left_;
+    World& world_;
+};
+
+std::string_view nameOf(Kind kind) noexcept {
+    switch (kind) {
+    case Kind::Exception: return "automation exception";
+    case Kind::Busy: return "server busy";
+    case Kind::Dead: return "server dead";
+    case Kind::OutOfMemory: return "out of memory";
+    case Kind::AccessDenied: return "access denied";
+    case Kind::Killed: return "PowerPoint killed";
+    }
+    return "";
+}
+
+} // namespace
+
+bool Fault::fits(Border border) const noexcept {
+    switch (kind) {
+    case Kind::Exception:
+    case Kind::Busy:
+    case Kind::Dead: return border == Border::Automation;
+    case Kind::OutOfMemory: return border == Border::Automation || border == Border::File;
+    case Kind::AccessDenied: return border != Border::Automation;
+    case Kind::Killed: return true;
+    }
+    return false;
+}
+
+const Error& Fault::error() const {
+    static const Error exception(invalidRequest, u"Microsoft PowerPoint", u"Requête non valide.");
+    static const Error busy(automation::remote::callRejected, u"Appel", u"L'appel a été rejeté par l'appelé.");
+    static const Error dead(automation::remote::serverUnavailable, u"Serveur", u"Le serveur RPC n'est pas disponible.");
+    static const Error memory(outOfMemory, u"Système", u"Mémoire insuffisante.");
+    static const Error denied(RunTimeError::PathAccess);
+    switch (kind) {
+    case Kind::Exception: return exception;
+    case Kind::Busy: return busy;
+    case Kind::Dead:
+    case Kind::Killed: return dead;
+    case Kind::OutOfMemory: return memory;
+    case Kind::AccessDenied: break;
+    }
+    return denied;
+}
+
+std::string Fault::display() const {
+    const bool lasts = lasting == Lasting::FromThereOn && kind != Kind::Killed;
+    return std::string(nameOf(kind)) + (lasts ? " from there on" : "");
+}
+
+automation::ObserverPtr Fault::at(std::size_t position, World& world) const {
+    if (kind == Kind::Killed) {
+        return std::make_shared<Killer>(position, world);
+    }
+    return std::make_shared<automation::FaultInjector>(position, lasting, error(),
+                                                       [fault = *this](Border border) { return !fault.fits(border); });
+}
+
+const std::vector<Fault>& Fault::all() {
+    static const std::vector<Fault> faults = [] {
+        std::vector<Fault> every;
+        for (const Kind kind : {Kind::Exception, Kind::Busy, Kind::Dead, Kind::OutOfMemory, Kind::AccessDenied}) {
+            every.push_back({kind, Lasting::Once});
+            every.push_back({kind, Lasting::FromThereOn});
+        }
+        every.push_back({Kind::Killed, Lasting::FromThereOn});
+        return every;
+    }();
+    return faults;
+}
+
+} // namespace host::torture

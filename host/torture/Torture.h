@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/torture/Judge.h"
+
+#include <random>
+
+namespace host::torture {
+
+/// What came of all the calls that were made to fail.
+struct Totals {
+    std::size_t failed = 0; ///< calls made to fail, each once for every fault
+    std::array<std::size_t, answers> outcomes{};
+    std::size_t findings = 0;
+};
+
+/// Makes every call of every operation of one question fail in every way that fits it.
+class Torture {
+public:
+    /// Told of what is wrong, in words.
+    using Report = std::function<void(const std::string&)>;
+    /// Told where the torture has come to: the operation, the call's number, and how many there are.
+    using Progress = std::function<void(const Operation&, std::size_t, std::size_t)>;
+
+    /// Of the calls of an operation one in `every` is made to fail, beginning with one that `random` picks. All must
+    /// outlive this object.
+    Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every, std::mt19937& random);
+
+    /// Adds to the totals. Raises language::Failure where the scenario itself falls short.
+    void run(Totals& totals, const Report& report, const Progress& progress) const;
+
+private:
+    void run(Operation operation, Totals& totals, const Report& report, const Progress& progress) const;
+    [[nodiscard]] std::size_t firstPosition() const;
+
+    const language::ScenarioFile& file_;
+    Course course_;
+    Ordeal ordeal_;
+    std::size_t every_;
+    std::mt19937& random_;
+};
+
+} // namespace host::torture
