@@ -13,7 +13,7 @@ namespace {
 using bench::OperationCost;
 using bench::QuestionCost;
 
-constexpr int timedRuns = 3;
+constexpr int timedRuns = 5;
 
 /// Most that the check of the large deck may take, in milliseconds.
 constexpr double mostTime = 50;

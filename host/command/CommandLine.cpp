@@ -65,7 +65,7 @@ struct CommandLine {
         torture.add_option("--every", tortureRequest.every, "Make one call in so many fail")
             ->capture_default_str()
             ->check(CLI::PositiveNumber);
-        torture.add_option("--seed", tortureRequest.seed, "Where --every begins (at random)");
+        torture.add_option("--draw", tortureRequest.draw, "Where --every begins (at random)");
 
         bench.add_option("questions", benchRequest.questions, "Numbers of questions (all)")->transform(questionNumber);
         bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")

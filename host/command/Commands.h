@@ -45,7 +45,7 @@ struct RecheckRequest {
 struct TortureRequest {
     std::vector<std::int32_t> questions; ///< all where none is named
     std::size_t every = 1;               ///< of the calls of an operation one in so many is made to fail
-    std::optional<std::uint32_t> seed;   ///< of the random numbers that pick the first; a new one where it is missing
+    std::optional<std::uint32_t> draw;   ///< of the random numbers that pick the first; a new one where it is missing
 };
 
 /// What `exercise-host bench` is asked for.

@@ -39,11 +39,11 @@ void print(const Totals& totals, std::ostream& out) {
 
 ExitCode runTorture(const TortureRequest& request, const Library& library, const WorldMaker& makeWorld,
                     std::ostream& out, std::ostream* progress) {
-    const std::uint32_t seed = request.seed ? *request.seed : std::random_device()();
+    const std::uint32_t draw = request.draw ? *request.draw : std::random_device()();
     if (request.every > 1) {
-        out << "one call in " << request.every << ", --seed " << seed << std::endl;
+        out << "one call in " << request.every << ", --draw " << draw << std::endl;
     }
-    std::mt19937 random(seed);
+    std::mt19937 random(draw);
     Totals totals;
     for (const std::filesystem::path& path :
          library.filesOf(request.questions.empty() ? Library::questions() : request.questions)) {

@@ -88,9 +88,9 @@ automation::ObserverPtr Fault::at(std::size_t position, World& world) const {
 const std::vector<Fault>& Fault::all() {
     static const std::vector<Fault> faults = [] {
         std::vector<Fault> every;
-        for (const Kind kind : {Kind::Exception, Kind::Busy, Kind::Dead, Kind::OutOfMemory, Kind::AccessDenied}) {
-            every.push_back({kind, Lasting::Once});
-            every.push_back({kind, Lasting::FromThereOn});
+        for (const Kind each : {Kind::Exception, Kind::Busy, Kind::Dead, Kind::OutOfMemory, Kind::AccessDenied}) {
+            every.push_back({each, Lasting::Once});
+            every.push_back({each, Lasting::FromThereOn});
         }
         every.push_back({Kind::Killed, Lasting::FromThereOn});
         return every;
