@@ -1,8 +1,10 @@
+#include "automation/com/ComError.h"
 #include "automation/com/Objects.h"
 #include "automation/com/WideText.h"
 #include "tests/library/ErrorSaid.h"
 #include "tests/library/Training.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -157,6 +159,60 @@ TEST_F(ModuleTest, WritesThemBackToALateBoundHost) {
     powerPoint_ = LateBound();
 }
 
+TEST_F(ModuleTest, WritesThemBackToVariablesOfTheirTypesAlsoWhereItRaises) {
+    startPowerPoint();
+    const LONG window = window_;
+    const auto call = [&](std::u16string_view member, std::vector<VARIANT> arguments) {
+        const Bstr name(member);
+        LPOLESTR asked = name.get();
+        DISPID id = DISPID_UNKNOWN;
+        EXPECT_EQ(module_->GetIDsOfNames(IID_NULL, &asked, 1, 0, &id), S_OK);
+        std::reverse(arguments.begin(), arguments.end());
+        DISPPARAMS given{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
+        automation::com::ExceptionInfo raised;
+        const HRESULT status = module_->Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &given, nullptr, &raised, nullptr);
+        return status == DISP_E_EXCEPTION ? raised.scode : status;
+    };
+    VARIANT application;
+    application.vt = VT_BYREF | VT_DISPATCH;
+    application.ppdispVal = &application_;
+    VARIANT handle;
+    handle.vt = VT_BYREF | VT_I4;
+    handle.plVal = &window_;
+    const Bstr folder(folderText());
+    const auto init = [&](std::int32_t number) {
+        if (application_ != nullptr) {
+            application_->Release();
+        }
+        application_ = nullptr;
+        window_ = -1;
+        VARIANT question;
+        question.vt = VT_I4;
+        question.lVal = number;
+        VARIANT place;
+        place.vt = VT_BSTR;
+        place.bstrVal = folder.get();
+        VARIANT unused;
+        unused.vt = VT_BSTR;
+        unused.bstrVal = nullptr;
+        return call(u"InitQuestion", {question, place, application, handle, unused});
+    };
+    const auto expectWritten = [&] {
+        ASSERT_NE(application_, nullptr);
+        EXPECT_TRUE(isSame(automation::com::objectOf(application_), powerPoint_.object()));
+        EXPECT_EQ(window_, window);
+    };
+    EXPECT_EQ(static_cast<std::uint32_t>(init(314)), 0x800A0035U) << "its file is missing";
+    expectWritten();
+    deliver(314, 1);
+    EXPECT_EQ(init(314), S_OK);
+    expectWritten();
+    EXPECT_EQ(call(u"Quitter", {application, handle}), S_OK);
+    EXPECT_EQ(application_, nullptr);
+    EXPECT_EQ(window_, 0);
+    powerPoint_ = LateBound();
+}
+
 TEST_F(ModuleTest, LendsTheRecentFoldersToAQuestion) {
     startPowerPoint();
     deliver(314, 1);
@@ -185,7 +241,9 @@ TEST_F(ModuleTest, MakesTheTemplatesFolder) {
     } cases[] = {{std::nullopt, usual},
                  {std::wstring(3, L'\0'), usual},
                  {folder_ + L"Perso", folder_ + L"perso\\ZOR Mod\u00E8les"},
-                 {folder_ + L"Autre\\", folder_ + L"autre\\ZOR Mod\u00E8les"}};
+                 {folder_ + L"Autre\\", folder_ + L"autre\\ZOR Mod\u00E8les"},
+                 {folder_ + L"Fait\\ZOR Mod\u00E8les", folder_ + L"fait"},
+                 {folder_ + L"Clos\\zor MOD\u00C8LES\\", folder_ + L"clos"}};
     for (const auto& [userTemplates, made] : cases) {
         if (userTemplates) {
             UserHive::put(officeSettings, L"UserTemplates", *userTemplates);
@@ -193,7 +251,8 @@ TEST_F(ModuleTest, MakesTheTemplatesFolder) {
         EXPECT_FALSE(fs::exists(made));
         EXPECT_TRUE(FAILED(init(324))) << "after the folder was made";
         EXPECT_TRUE(fs::is_directory(made)) << fs::path(made);
-        fs::remove_all(fs::path(made).parent_path());
+        EXPECT_FALSE(fs::exists(made + L"\\ZOR Mod\u00E8les")) << "a last name without a backslash is no folder's";
+        fs::remove_all(made);
     }
 }
 
