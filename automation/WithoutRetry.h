@@ -6,18 +6,22 @@ namespace automation {
 /// once; otherwise the bridge tries them again for a while. Objects of this process take no notice.
 class WithoutRetry {
 public:
-    WithoutRetry() noexcept { ++depth_; }
-    ~WithoutRetry() { --depth_; }
+    WithoutRetry() noexcept { ++depth(); }
+    ~WithoutRetry() { --depth(); }
     WithoutRetry(const WithoutRetry&) = delete;
     WithoutRetry& operator=(const WithoutRetry&) = delete;
     WithoutRetry(WithoutRetry&&) = delete;
     WithoutRetry& operator=(WithoutRetry&&) = delete;
 
     /// True inside such a scope.
-    [[nodiscard]] static bool isActive() noexcept { return depth_ > 0; }
+    [[nodiscard]] static bool isActive() noexcept { return depth() > 0; }
 
 private:
-    inline static thread_local int depth_ = 0;
+    /// How many scopes this thread is in.
+    static int& depth() noexcept {
+        thread_local int depth = 0;
+        return depth;
+    }
 };
 
 } // namespace automation
