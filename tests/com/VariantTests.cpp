@@ -236,6 +236,7 @@ TEST(Variant, WritesToVariablesOfEveryType) {
             Variant outer = Variant::reference(passedOn);
             assign(Variant::reference(outer), given);
             EXPECT_EQ(passedOn.vt, reference.vt) << "type " << type;
+            variable.vt = static_cast<VARTYPE>(type); // a decimal lies over it
             EXPECT_EQ(read(variable), found) << "through others, type " << type;
         }
         reference.byref = nullptr;
