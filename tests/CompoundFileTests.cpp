@@ -24,7 +24,7 @@ Storage richStorage() {
     root.modified = 0x01C6012345678901;
     const std::array<std::size_t, 8> sizes{0, 1, 63, 64, 65, 4095, 4096, 100'000};
     for (std::size_t i = 0; i < sizes.size(); ++i) {
-        root.put(u"Stream " + std::u16string(i + 1, u'x'), patterned(sizes[i], static_cast<unsigned>(i) + 3));
+        root.put(u"Stream " + std::u16string(i + 1, u'x'), patterned(sizes.at(i), static_cast<unsigned>(i) + 3));
     }
     Storage inner;
     inner.name = u"Dossier é";

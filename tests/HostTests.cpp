@@ -11,7 +11,9 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
 namespace {
@@ -74,8 +76,8 @@ TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
 /// The bytes of a file in a world, as a file of the real disk.
 void copyOut(host::World& world, const std::u16string& path, const std::filesystem::path& to) {
     const host::Bytes bytes = world.readFile(path);
-    std::ofstream(to, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream file(to, std::ios::binary);
+    std::copy(bytes.begin(), bytes.end(), std::ostreambuf_iterator<char>(file));
 }
 
 TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) {

@@ -97,6 +97,7 @@ bool printLongRun(const BenchRequest& request, const Library& library, const Wor
         files.push_back(load(path));
     }
     std::vector<bench::BuiltCourse> courses;
+    courses.reserve(files.size());
     for (const language::ScenarioFile& file : files) {
         courses.push_back({file, Course(file, makeWorld)});
     }

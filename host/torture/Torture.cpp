@@ -56,7 +56,7 @@ void Torture::run(Totals& totals, const Report& report, const Progress& progress
 }
 
 void Torture::run(Operation operation, Totals& totals, const Report& report, const Progress& progress) const {
-    const auto recorder = std::make_shared<Recorder>();
+    auto recorder = std::make_shared<Recorder>();
     const Aftermath flawless = ordeal_.run(
         operation, [&](World&) { return recorder; }, true);
     const std::string place = "question " + std::to_string(file_.question) + ", " + operation.display();

@@ -30,10 +30,10 @@ bool isCommon(const std::wstring& key) {
     return key == L"CLSID" || key == L"Interface" || key == L"TypeLib";
 }
 
-/// Deletes a key that is bare, and those above it that this leaves bare. The machine's common keys are the system's to
-/// keep; a user has them for what is registered in them alone.
+/// Deletes a key that is bare, and those above it that this leaves bare, but for the common ones, which stay as whoever
+/// made them left them.
 void deleteBare(HKEY root, std::wstring key) {
-    while (!key.empty() && !(isCommon(key) && root == HKEY_LOCAL_MACHINE)) {
+    while (!key.empty() && !isCommon(key)) {
         const std::wstring path = pathOf(key);
         if (const auto opened = RegistryKey::open(root, path, KEY_QUERY_VALUE); !opened || !opened.isBare()) {
             return;

@@ -7,7 +7,7 @@ namespace simulator::files {
 
 std::string hex(std::uint64_t number) {
     std::array<char, 16> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
+    auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
     return "0x" + std::string(digits.data(), end);
 }
 
@@ -39,7 +39,7 @@ std::u16string utf16Text(std::string_view bytes) {
     return text;
 }
 
-std::uint32_t numberAt(std::string_view bytes, std::size_t place) noexcept {
+std::uint32_t numberAt(std::string_view bytes, std::size_t place) {
     return place + sizeof(std::uint32_t) > bytes.size()
                ? 0
                : ByteReader(bytes.substr(place), "a number").read<std::uint32_t>();

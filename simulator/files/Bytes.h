@@ -74,7 +74,7 @@ private:
 [[nodiscard]] std::u16string utf16Text(std::string_view bytes);
 
 /// A 32-bit number at a place of bytes, 0 where they end before it.
-[[nodiscard]] std::uint32_t numberAt(std::string_view bytes, std::size_t place) noexcept;
+[[nodiscard]] std::uint32_t numberAt(std::string_view bytes, std::size_t place);
 /// Writes a 32-bit number over bytes; nothing happens where they end before it.
 void putNumber(std::string& bytes, std::size_t place, std::uint32_t number) noexcept;
 

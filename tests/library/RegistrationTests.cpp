@@ -95,6 +95,7 @@ private:
 class RegistrationTest : public testing::Test {
 protected:
     void SetUp() override {
+        makeCommonKeysOfTheUser();
         found_ = allClassesContent();
         ASSERT_EQ(library_.unregisterServer(), S_OK);
         clean_ = allClassesContent();
@@ -107,6 +108,18 @@ protected:
         }
     }
 
+    /// As a user has them who has registered anything before: they stay.
+    static void makeCommonKeysOfTheUser() {
+        for (const wchar_t* const key : {L"CLSID", L"Interface", L"TypeLib"}) {
+            for (const REGSAM view : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
+                HKEY made = nullptr;
+                EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, (classes + key).c_str(), 0, nullptr, 0, KEY_READ | view,
+                                          nullptr, &made, nullptr),
+                          ERROR_SUCCESS);
+                RegCloseKey(made);
+            }
+        }
+    }
     static HRESULT createByName() {
         CLSID id{};
         if (const HRESULT status = CLSIDFromProgID(L"K73053.Module", &id); FAILED(status)) {

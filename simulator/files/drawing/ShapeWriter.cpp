@@ -93,6 +93,7 @@ std::string placeBytes(std::uint32_t place) {
 std::vector<Record> ShapeWriter::write(const std::vector<ShapePtr>& shapes) {
     placeOutline(shapes);
     std::vector<Record> out;
+    out.reserve(shapes.size());
     for (const ShapePtr& each : shapes) {
         out.push_back(shape(each, false));
     }

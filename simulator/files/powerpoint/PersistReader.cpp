@@ -126,6 +126,7 @@ private:
 /// Reads the objects in the order of their places; no two may share bytes.
 std::vector<PersistObject> readAll(const std::string& stream, const std::map<std::uint32_t, std::uint32_t>& places) {
     std::vector<std::pair<std::uint32_t, std::uint32_t>> ordered;
+    ordered.reserve(places.size());
     for (const auto& [id, offset] : places) {
         ordered.emplace_back(offset, id);
     }

@@ -53,9 +53,9 @@ Numbering readNumbering(std::string_view data) {
 
 records::Record numberingRecord() {
     files::ByteWriter out;
-    out.fill(3 * 4);
+    out.fill(std::size_t{3} * 4);
     out.write<std::uint32_t>(hasNumbering | numberingScheme).write<std::uint16_t>(1);
-    out.write<std::uint16_t>(arabicPeriod).write<std::uint16_t>(1).fill(2 * 4);
+    out.write<std::uint16_t>(arabicPeriod).write<std::uint16_t>(1).fill(std::size_t{2} * 4);
     return records::Record::atom(records::type::StyleTextProp9Atom, out.take());
 }
 
