@@ -337,7 +337,7 @@ TEST_F(PresentationStoreTest, WritesTheOutlineAsRichText) {
     const auto slide = std::make_shared<Slide>();
     presentation.insert(slide, 0);
     const auto add = [&slide](PpPlaceholderType type, std::u16string_view text) {
-        const ShapePtr shape = newShape::placeholder(type, {});
+        ShapePtr shape = newShape::placeholder(type, {});
         shape->text->replace({}, text);
         slide->add(shape, u"Rectangle");
         return shape;
