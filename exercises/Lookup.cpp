@@ -38,13 +38,12 @@ bool API::ChercheDansForme(const ppt::Shape& shape, std::u16string_view identity
         NiveauForme = level;
         return true;
     }
-    const bool isFreeform = shape.Type() == ppt::msoFreeform;
-    if (identity == u"msoFreeform" && isFreeform) {
+    if (identity == u"msoFreeform" && shape.Type() == ppt::msoFreeform) {
         increase(NbFormesLibres);
     }
-    const bool isAutoShape = shape.Type() == ppt::msoAutoShape;
-    const bool isScroll = shape.AutoShapeType() == ppt::msoShapeHorizontalScroll;
-    if (identity == u"msoShapeHorizontalScroll" && isAutoShape && isScroll) {
+    // Only an AutoShape is asked for its type: what else a group may hold need not answer.
+    if (identity == u"msoShapeHorizontalScroll" && shape.Type() == ppt::msoAutoShape &&
+        shape.AutoShapeType() == ppt::msoShapeHorizontalScroll) {
         increase(NbParchemins);
     }
     if (shape.Type() != ppt::msoGroup) {

@@ -90,7 +90,7 @@ const std::string counting = "~.Words().Count {TextRange.Words(@).Text TextRange
 /// A group of two whose items are not what is sought.
 std::string searchedGroup(const std::string& shape) {
     return shape + "# " + shape + ".Type " + shape + ".GroupItems.Count {" + shape +
-           ".GroupItems.Item(@)# Shape.Type Shape.Type Shape.AutoShapeType Shape.Type}1-2 ";
+           ".GroupItems.Item(@)# Shape.Type}1-2 ";
 }
 
 const std::vector<Attempt> attempts = {
@@ -177,7 +177,7 @@ const std::vector<Attempt> attempts = {
         1/4.ThreeD.PresetThreeDFormat
         1/4.ThreeD.PresetThreeDFormat)"},
     {322, "1.Count " + searchedGroup("1/1") + R"( 1/2# 1/2.Type 1/3# 1/3.Type 1/3.GroupItems.Count
-            1/3.GroupItems.Item(1)# Shape.Type Shape.Type Shape.AutoShapeType Shape.Type 1/3.GroupItems.Item(2)#
+            1/3.GroupItems.Item(1)# Shape.Type 1/3.GroupItems.Item(2)#
         1.Count )" +
               searchedGroup("1/1") + R"( 1/2# 1/2.Type 1/3# 1/3.Type 1/3.GroupItems.Count 1/3.GroupItems.Item(1)#
         1.Count {1/@.Type 1/@#}1-3
