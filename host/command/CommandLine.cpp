@@ -32,8 +32,7 @@ std::string questionNumber(const std::string& text) {
 
 /// The command line with all that it can ask for.
 struct CommandLine {
-    CommandLine(const std::filesystem::path& scenarios, const std::string& version, bool hasCom)
-        : folder(scenarios.string()) {
+    CommandLine(const std::filesystem::path& scenarios, const std::string& version) : folder(scenarios.string()) {
         app.footer(examples);
         app.set_version_flag("--version", version);
         app.require_subcommand(0, 1); // so that an unknown word is named
@@ -71,15 +70,13 @@ struct CommandLine {
         bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
             ->check(CLI::PositiveNumber);
 
-        if (hasCom) {
-            for (CLI::App* const command : {&run, &verify}) {
-                auto* const com = command->add_flag(
-                    "--com", withCom,
-                    "Drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
-                command->add_option("--powerpoint-bits", powerPointBits, "Demand a stand-in of 32 or 64 bits")
-                    ->needs(com)
-                    ->check(CLI::IsMember({32, 64}));
-            }
+        for (CLI::App* const command : {&run, &verify}) {
+            auto* const real = command->add_flag(
+                "--powerpoint", withPowerPoint,
+                "On Windows: drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
+            command->add_option("--powerpoint-bits", powerPointBits, "Demand a stand-in of 32 or 64 bits")
+                ->needs(real)
+                ->check(CLI::IsMember({32, 64}));
         }
         for (CLI::App* const command : {&run, &verify, &recheck, &list, &torture, &bench}) {
             command->fallthrough();
@@ -94,7 +91,7 @@ struct CommandLine {
     std::vector<std::int32_t> listed;
     TortureRequest tortureRequest;
     BenchRequest benchRequest;
-    bool withCom = false;
+    bool withPowerPoint = false;
     std::int32_t powerPointBits = 0;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
@@ -141,13 +138,17 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output o
 ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
                         const std::string& version, const WorldMaker& makeWorld, Output output,
                         const ComWorldsMaker& makeComWorlds) {
-    CommandLine line(scenarios, version, makeComWorlds != nullptr);
+    CommandLine line(scenarios, version);
     try {
         line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    const ExitCode code = perform(line, line.withCom ? makeComWorlds(line.powerPointBits) : makeWorld, output);
+    if (line.withPowerPoint && makeComWorlds == nullptr) {
+        output.error << "exercise-host: --powerpoint needs Windows; here only the embedded PowerPoint runs\n";
+        return ExitCode::WrongUsage;
+    }
+    const ExitCode code = perform(line, line.withPowerPoint ? makeComWorlds(line.powerPointBits) : makeWorld, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";
         return ExitCode::WrongUsage;

@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// Makes the worlds that `--com` asks for, with a PowerPoint of so many bits; of any number where it is 0.
+/// Makes the worlds that `--powerpoint` asks for, with a PowerPoint of so many bits; of any number where it is 0.
 using ComWorldsMaker = std::function<WorldMaker(std::int32_t powerPointBits)>;
 
 /// Where a program writes.
@@ -15,7 +15,7 @@ struct Output {
 };
 
 /// Does what the arguments of a command line say (the program's name left out). `scenarios` is the folder of the
-/// scenario files where the command line names no other. `makeComWorlds` makes what `--com` asks for, where there is
+/// scenario files where the command line names no other. `makeComWorlds` makes what `--powerpoint` asks for, where there is
 /// such a thing.
 [[nodiscard]] ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
                                       const std::string& version, const WorldMaker& makeWorld, Output output,
