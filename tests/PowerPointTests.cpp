@@ -130,33 +130,6 @@ TEST_F(PowerPointTest, OpensAFileOnceAndLocksIt) {
     EXPECT_EQ(number(presentations(), u"Count"), 0);
 }
 
-TEST_F(PowerPointTest, OpensReadOnlyUntitledOrUnseen) {
-    LateBound deck = this->deck(1);
-    say(deck, u"SaveAs", inFolder(u"a.ppt"));
-    say(deck, u"Close");
-
-    deck = ask(presentations(), u"Open", inFolder(u"a.ppt"), msoTrue);
-    EXPECT_EQ(number(deck, u"ReadOnly"), msoTrue);
-    EXPECT_NE(errorNumber([&] { say(deck, u"Save"); }), noError);
-    say(deck, u"SaveCopyAs", inFolder(u"copie.ppt"));
-    EXPECT_EQ(text(deck, u"Name"), u"a.ppt");
-    say(deck, u"Close");
-
-    machine.setAttributes(inFolder(u"a.ppt"), 1);
-    deck = ask(presentations(), u"Open", inFolder(u"a.ppt"));
-    EXPECT_EQ(number(deck, u"ReadOnly"), msoTrue);
-    EXPECT_NE(errorNumber([&] { say(deck, u"SaveAs", inFolder(u"a.ppt")); }), noError);
-    say(deck, u"SaveAs", inFolder(u"c.ppt"));
-    EXPECT_EQ(number(deck, u"ReadOnly"), msoFalse);
-    EXPECT_TRUE(exists(u"c.ppt"));
-    say(deck, u"Close");
-
-    deck = ask(presentations(), u"Open", inFolder(u"a.ppt"), msoFalse, msoTrue, msoFalse);
-    EXPECT_EQ(text(deck, u"FullName"), u"Présentation2");
-    EXPECT_EQ(number(ask(deck, u"Windows"), u"Count"), 0);
-    EXPECT_NE(errorNumber([&] { ask(application, u"ActivePresentation"); }), noError);
-}
-
 TEST_F(PowerPointTest, SavesTheOutlineWithoutRenaming) {
     const LateBound deck = this->deck(1);
     say(deck, u"SaveAs", inFolder(u"a.ppt"));
@@ -164,33 +137,6 @@ TEST_F(PowerPointTest, SavesTheOutlineWithoutRenaming) {
     EXPECT_TRUE(exists(u"Plan exo 3.rtf"));
     EXPECT_EQ(text(deck, u"Name"), u"a.ppt");
     EXPECT_NE(errorNumber([&] { say(deck, u"SaveAs", inFolder(u"x"), 99); }), noError);
-}
-
-TEST_F(PowerPointTest, ShowsViewsAndPanes) {
-    const LateBound deck = this->deck(3);
-    const LateBound view = ask(window(), u"View");
-    const auto shown = [&] { return number(ask(view, u"Slide"), u"SlideIndex"); };
-    EXPECT_EQ(shown(), 1);
-    say(view, u"GotoSlide", 3);
-    EXPECT_EQ(shown(), 3);
-    EXPECT_NE(errorNumber([&] { say(view, u"GotoSlide", 4); }), noError);
-    say(ask(ask(deck, u"Slides"), u"Item", 3), u"Delete");
-    EXPECT_EQ(shown(), 2);
-
-    const LateBound panes = ask(window(), u"Panes");
-    EXPECT_EQ(number(panes, u"Count"), 3);
-    say(ask(panes, u"Item", 1), u"Activate");
-    EXPECT_EQ(number(selection(), u"Type"), 1);
-    EXPECT_EQ(number(ask(selection(), u"SlideRange"), u"SlideIndex"), 2);
-    say(ask(panes, u"Item", 2), u"Activate");
-    EXPECT_EQ(number(ask(window(), u"ActivePane"), u"ViewType"), 1);
-    EXPECT_EQ(number(selection(), u"Type"), 0);
-
-    window().put(u"ViewType", 7);
-    EXPECT_EQ(number(panes, u"Count"), 1);
-    EXPECT_EQ(number(view, u"Type"), 7);
-    EXPECT_EQ(number(selection(), u"Type"), 1);
-    EXPECT_NE(errorNumber([&] { window().put(u"ViewType", 13); }), noError);
 }
 
 TEST_F(PowerPointTest, TellsTheSelectionAsItIs) {

@@ -305,64 +305,6 @@ TEST_F(ShapeObjectTest, RefusesWhatAShapeCannotDo) {
               u"Shapes.Item : Entier hors limites. 6 n'appartient pas à la plage valide de 1 à 3.");
 }
 
-TEST_F(ShapeObjectTest, RangesReadWhatIsCommonAndWriteAll) {
-    addRectangles(u"ABC");
-    const LateBound all = ask(shapes, u"Range");
-    const LateBound two = ask(shapes, u"Range", Array{2, Value(u"C"), 2});
-    EXPECT_EQ(namesOf(two), u"BC");
-    EXPECT_EQ(points(all, u"Width"), 80);
-    EXPECT_EQ(points(all, u"Left"), -2147483648.0F);
-    two.put(u"Width", 50.0F);
-    EXPECT_EQ(points(shape(u"C"), u"Width"), 50);
-    EXPECT_EQ(points(shape(u"A"), u"Width"), 80);
-    shape(u"A").put(u"Visible", msoFalse);
-    EXPECT_EQ(number(all, u"Visible"), msoTriStateMixed);
-    ask(two, u"Fill").put(u"Visible", msoFalse);
-    EXPECT_EQ(number(ask(all, u"Fill"), u"Visible"), msoTriStateMixed);
-    ask(ask(two, u"Line"), u"ForeColor").put(u"RGB", red);
-    EXPECT_EQ(number(ask(ask(shape(u"C"), u"Line"), u"ForeColor"), u"RGB"), red);
-    EXPECT_EQ(errorNumber([&] { text(two, u"Name"); }), refused);
-    EXPECT_TRUE(isSame(two.object(), range(u"BC").object()));
-    EXPECT_FALSE(isSame(range(u"A").object(), shape(u"A").object()));
-
-    struct Case {
-        Name member;
-        std::int32_t command = 0;
-        MsoTriState toSlide = msoFalse;
-        std::array<Place, 3> places{};
-    };
-    const auto reset = [&] {
-        float at = 0;
-        for (const std::u16string_view name : {u"A", u"B", u"C"}) {
-            const LateBound one = shape(name);
-            one.put(u"Left", at);
-            one.put(u"Top", at);
-            one.put(u"Width", 40.0F + at);
-            one.put(u"Height", 40.0F);
-            at = at * 2 + 20;
-        }
-    };
-    for (const auto& [member, command, toSlide, places] : {
-             Case{u"Align", msoAlignLefts, msoFalse, {{{0, 0, 40, 40}, {0, 20, 60, 40}, {0, 60, 100, 40}}}},
-             Case{u"Align", msoAlignCenters, msoFalse, {{{60, 0, 40, 40}, {50, 20, 60, 40}, {30, 60, 100, 40}}}},
-             Case{u"Align", msoAlignBottoms, msoTrue, {{{0, 500, 40, 40}, {20, 500, 60, 40}, {60, 500, 100, 40}}}},
-             Case{u"Distribute",
-                  msoDistributeVertically,
-                  msoFalse,
-                  {{{0, 0, 40, 40}, {20, 30, 60, 40}, {60, 60, 100, 40}}}},
-             Case{u"Distribute",
-                  msoDistributeHorizontally,
-                  msoTrue,
-                  {{{0, 0, 40, 40}, {300, 20, 60, 40}, {620, 60, 100, 40}}}},
-         }) {
-        reset();
-        say(all, member, command, toSlide);
-        EXPECT_EQ((std::array{placeOf(shape(u"A")), placeOf(shape(u"B")), placeOf(shape(u"C"))}), places)
-            << automation::toUtf8(member.text()) << command;
-    }
-    EXPECT_EQ(errorNumber([&] { say(two, u"Distribute", 0, msoFalse); }), refused);
-}
-
 TEST_F(ShapeObjectTest, WhatIsDeletedIsGone) {
     const LateBound shape = rectangle();
     const std::vector<std::pair<std::string_view, std::function<void()>>> looks{
@@ -622,45 +564,6 @@ TEST_F(ShapeObjectTest, TagsAreFoundWithoutCase) {
     say(tags, u"Delete", u"identite");
     say(tags, u"Delete", u"identite");
     EXPECT_EQ(number(tags, u"Count"), 1);
-}
-
-TEST_F(ShapeObjectTest, EveryChangeIsOneToSave) {
-    addRectangles(u"ABCD");
-    const LateBound one = shape(u"A");
-    struct Case {
-        std::string_view name;
-        std::function<void()> gesture;
-        MsoTriState saved;
-    };
-    for (const auto& [name, gesture, saved] : std::initializer_list<Case>{
-             {"reading", [&] { namesOf(shapes), placeOf(one), identity(one); }, msoTrue},
-             {"selecting", [&] { say(one, u"Select"), say(shapes, u"SelectAll"); }, msoTrue},
-             {"copying", [&] { say(one, u"Copy"), say(one, u"PickUp"); }, msoTrue},
-             {"moving", [&] { say(one, u"IncrementTop", 3.0F); }, msoFalse},
-             {"tagging", [&] { identify(one, u"x"); }, msoFalse},
-             {"tagging a slide", [&] { identify(slide, u"x"); }, msoFalse},
-             {"filling", [&] { say(ask(one, u"Fill"), u"Solid"); }, msoFalse},
-             {"colouring", [&] { ask(ask(one, u"Line"), u"ForeColor").put(u"SchemeColor", 6); }, msoFalse},
-             {"restacking", [&] { say(one, u"ZOrder", 0); }, msoFalse},
-             {"aligning", [&] { say(range(u"AB"), u"Align", 0, 0); }, msoFalse},
-             {"grouping", [&] { group(u"AB"); }, msoFalse},
-             {"ungrouping", [&] { ask(ask(shapes, u"Item", number(shapes, u"Count")), u"Ungroup"); }, msoFalse},
-             {"duplicating", [&] { ask(one, u"Duplicate"); }, msoFalse},
-             {"pasting", [&] { ask(shapes, u"Paste"); }, msoFalse},
-             {"applying", [&] { say(one, u"Apply"); }, msoFalse},
-             {"deleting", [&] { say(one, u"Delete"); }, msoFalse},
-             {"drawing",
-              [&] {
-                  polyline({{0, 0}, {9, 9}});
-              },
-              msoFalse},
-             {"adding a slide", [&] { ask(slides, u"Add", 1, ppLayoutTitle); }, msoFalse},
-             {"deleting a slide", [&] { say(ask(slides, u"Item", 1), u"Delete"); }, msoFalse},
-         }) {
-        presentation.put(u"Saved", msoTrue);
-        gesture();
-        EXPECT_EQ(number(presentation, u"Saved"), saved) << name;
-    }
 }
 
 } // namespace

@@ -123,23 +123,6 @@ TEST_F(TextRange, CountsWithinPartsOfTheText) {
     EXPECT_EQ(ask(text(u""), u"Paragraphs").get(u"Count"), Value(0));
 }
 
-TEST_F(TextRange, SplitsSentencesLinesAndRuns) {
-    const LateBound all = text(u"Un. Deux !  Trois 3.5 fois\vencore\rFin");
-    const std::vector<std::string> sentences{"Un. ", "Deux !  ", "Trois 3.5 fois\vencore\r", "Fin"};
-    const std::vector<std::string> lines{"Un. Deux !  Trois 3.5 fois\v", "encore\r", "Fin"};
-    ASSERT_EQ(ask(all, u"Sentences").get(u"Count"), Value(static_cast<std::int32_t>(sentences.size())));
-    for (std::size_t i = 0; i < sentences.size(); ++i) {
-        EXPECT_EQ(utf8(ask(all, u"Sentences", static_cast<std::int32_t>(i) + 1).get(u"Text")), sentences[i]);
-    }
-    ASSERT_EQ(ask(all, u"Lines").get(u"Count"), Value(static_cast<std::int32_t>(lines.size())));
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        EXPECT_EQ(utf8(ask(all, u"Lines", static_cast<std::int32_t>(i) + 1).get(u"Text")), lines[i]);
-    }
-    paint(ask(all, u"Words", 2), red);
-    EXPECT_EQ(ask(all, u"Runs").get(u"Count"), Value(3));
-    EXPECT_EQ(utf8(ask(all, u"Runs", 2).get(u"Text")), "Deux ");
-}
-
 TEST_F(TextRange, WritesThroughItself) {
     const LateBound all = text(u"Il faut faire");
     paint(ask(all, u"Words", 3), red);
@@ -212,52 +195,6 @@ TEST_F(TextRange, KeepsTheFormatOfEachWordReplaced) {
     EXPECT_EQ(ask(ask(all, u"Words", 3), u"Font").get(u"Bold"), Value(msoTrue));
 }
 
-TEST_F(TextRange, AnswersMixedWhereFormatsDiffer) {
-    const LateBound all = text(u"un deux\rtrois");
-    const LateBound font = ask(all, u"Font");
-    const LateBound paragraphs = ask(all, u"ParagraphFormat");
-    const LateBound bullet = ask(paragraphs, u"Bullet");
-    const LateBound first = ask(all, u"Paragraphs", 1);
-    const LateBound firstFont = ask(first, u"Font");
-    const LateBound firstFormat = ask(first, u"ParagraphFormat");
-    struct Case {
-        LateBound part;
-        LateBound all;
-        std::u16string_view member;
-        Value value;
-        Value mixed;
-    };
-    const std::vector<Case> cases{
-        {firstFont, font, u"Name", u"Comic Sans MS", u""},
-        {firstFont, font, u"Size", 40.5F, -2.0F},
-        {firstFont, font, u"Bold", msoTrue, msoTriStateMixed},
-        {firstFont, font, u"Italic", msoTrue, msoTriStateMixed},
-        {firstFont, font, u"Underline", msoTrue, msoTriStateMixed},
-        {firstFormat, paragraphs, u"Alignment", ppAlignCenter, ppAlignmentMixed},
-        {firstFormat, paragraphs, u"SpaceWithin", 1.5F, -2.0F},
-        {ask(firstFormat, u"Bullet"), bullet, u"Visible", msoTrue, msoTriStateMixed},
-        {ask(firstFormat, u"Bullet"), bullet, u"Type", ppBulletNumbered, ppBulletMixed},
-        {ask(firstFormat, u"Bullet"), bullet, u"Character", 0x25A0, -2},
-        {first, all, u"IndentLevel", 3, -2},
-    };
-    for (const Case& test : cases) {
-        const std::string label = automation::toUtf8(test.member);
-        const Value before = test.all.get(test.member);
-        presentation->saved = true;
-        test.part.put(test.member, test.value);
-        EXPECT_FALSE(presentation->saved) << label;
-        EXPECT_EQ(test.part.get(test.member), test.value) << label;
-        EXPECT_EQ(test.all.get(test.member), test.mixed) << label;
-        EXPECT_EQ(ask(ask(all, u"Paragraphs", 2), u"Font").get(u"Bold"), Value(msoFalse)) << label;
-        test.all.put(test.member, test.value);
-        EXPECT_EQ(test.all.get(test.member), test.value) << label;
-        test.all.put(test.member, before);
-    }
-    EXPECT_EQ(errorNumber([&] { font.put(u"Size", 0); }), requestRefused);
-    EXPECT_EQ(errorNumber([&] { all.put(u"IndentLevel", 6); }), requestRefused);
-    EXPECT_EQ(errorNumber([&] { paragraphs.put(u"Alignment", 77); }), requestRefused);
-}
-
 TEST_F(TextRange, GivesColorsThatLive) {
     const LateBound all = text(u"caractères parfaitement lisibles");
     const LateBound word = ask(all, u"Words", 2);
@@ -282,75 +219,6 @@ TEST_F(TextRange, GivesColorsThatLive) {
     paint(whole(), blue);
     EXPECT_EQ(color.get(u"RGB"), Value(red)) << "the last colour of what is gone";
     EXPECT_EQ(errorNumber([&] { color.put(u"RGB", red); }), requestRefused);
-}
-
-TEST_F(TextRange, CopiesCutsPastesAndChangesCase) {
-    const LateBound all = text(u"un deux trois");
-    EXPECT_EQ(errorNumber([&] { all.call(u"Paste"); }), requestRefused);
-    ask(all, u"Words", 2).call(u"Cut");
-    EXPECT_EQ(utf8(whole().get(u"Text")), "un trois");
-    EXPECT_EQ(utf8(ask(ask(whole(), u"Characters", 9, 0), u"Paste").get(u"Text")), "deux ");
-    EXPECT_EQ(utf8(whole().get(u"Text")), "un troisdeux ");
-    EXPECT_EQ(utf8(ask(ask(whole(), u"Words", 2), u"TrimText").get(u"Text")), "troisdeux");
-    EXPECT_EQ(errorNumber([&] { ask(whole(), u"Characters", 1, 0).call(u"Copy"); }), requestRefused);
-
-    struct Case {
-        PpChangeCase change;
-        std::string expected;
-    };
-    const std::vector<Case> cases{
-        {ppCaseSentence, "L'été. Puis\rÀ noël"}, {ppCaseLower, "l'été. puis\rà noël"},
-        {ppCaseUpper, "L'ÉTÉ. PUIS\rÀ NOËL"},    {ppCaseTitle, "L'été. Puis\rÀ Noël"},
-        {ppCaseToggle, "L'éTÉ. PuIS\rÀ NOËL"},
-    };
-    for (const Case& test : cases) {
-        const LateBound range = text(u"l'Été. pUis\rà noël");
-        paint(ask(range, u"Words", 2), red);
-        range.call(u"ChangeCase", test.change);
-        EXPECT_EQ(utf8(range.get(u"Text")), test.expected);
-        EXPECT_EQ(ask(range, u"Runs").get(u"Count"), Value(3));
-    }
-}
-
-TEST_F(TextRange, SelectsWhereItsSlideIsShown) {
-    const LateBound all = text(u"un deux");
-    EXPECT_EQ(errorNumber([&] { all.call(u"Select"); }), requestRefused);
-    window.setVisible(true);
-    presentation = session->create(true);
-    slide->presentation.reset();
-    presentation->insert(slide, 0);
-    ask(all, u"Words", 2).call(u"Select");
-    const Selection& selection = session->windowOf(*presentation)->selection;
-    EXPECT_EQ(selection.type(), ppSelectionText);
-    EXPECT_EQ(selection.text(), (Span{3, 4}));
-}
-
-TEST_F(TextRange, KeepsTheLayoutOfItsFrame) {
-    struct Case {
-        std::u16string_view member;
-        Value first;
-        Value second;
-        Value refused;
-    };
-    const std::vector<Case> cases{
-        {u"AutoSize", ppAutoSizeNone, ppAutoSizeShapeToFitText, 2},
-        {u"MarginLeft", 7.2F, 0.0F, -1.0F},
-        {u"MarginTop", 3.6F, 10.0F, -1.0F},
-        {u"MarginRight", 7.2F, 1.5F, -1.0F},
-        {u"MarginBottom", 3.6F, 2.5F, -1.0F},
-        {u"Orientation", msoTextOrientationHorizontal, msoTextOrientationUpward, 0},
-        {u"VerticalAnchor", msoAnchorTop, msoAnchorBottom, 9},
-    };
-    for (const Case& test : cases) {
-        EXPECT_EQ(frame.get(test.member), test.first) << automation::toUtf8(test.member);
-        frame.put(test.member, test.second);
-        EXPECT_EQ(errorNumber([&] { frame.put(test.member, test.refused); }), requestRefused)
-            << automation::toUtf8(test.member);
-        EXPECT_EQ(frame.get(test.member), test.second) << automation::toUtf8(test.member);
-    }
-    frame.put(u"WordWrap", false);
-    EXPECT_EQ(frame.get(u"WordWrap"), Value(msoFalse));
-    EXPECT_EQ(ask(ask(whole(), u"Parent"), u"Parent").get(u"Name"), Value(shape->name));
 }
 
 TEST_F(TextRange, RaisesOnceItsShapeIsGone) {

@@ -71,55 +71,6 @@ TEST(TextStory, KnowsItsWordsAndParagraphs) {
     }
 }
 
-TEST(TextStory, FindsItsWordsAnewAfterEveryChange) {
-    TextStory story = storyOf(u"un deux");
-    EXPECT_EQ(story.words().size(), 2U);
-    story.replace({2, 1}, u"");
-    EXPECT_EQ(pieces(story, story.words()), Texts{u"undeux"});
-    story.transform({2, 1}, [](char16_t) { return u' '; });
-    EXPECT_EQ(pieces(story, story.words()), (Texts{u"un ", u"eux"}));
-}
-
-TEST(TextStory, GivesNewTextTheFormatOfWhatItReplaces) {
-    struct Case {
-        Span span;
-        std::u16string_view with;
-        std::u16string text;
-        std::string marks;
-    };
-    const std::vector<Case> cases{
-        {{3, 3}, u"xx", u"aaaxxccc", "11122333"},
-        {{2, 2}, u"yy", u"aayybbccc", "111122333"},
-        {{3, 0}, u"z", u"aaazbbbccc", "1111222333"},
-        {{0, 0}, u"z", u"zaaabbbccc", "1111222333"},
-        {{3, 3}, u"", u"aaaccc", "111333"},
-        {{9, 0}, u"z", u"aaabbbcccz", "1112223333"},
-        {{20, 5}, u"z", u"aaabbbcccz", "1112223333"},
-        {{7, 90}, u"", u"aaabbbc", "1112223"},
-        {{3, 6}, u"z\r\nz\n", u"aaaz\rz\r", "1112222"},
-    };
-    for (const Case& test : cases) {
-        TextStory story = storyOf(u"aaabbbccc");
-        mark(story, {0, 3}, '1');
-        mark(story, {3, 3}, '2');
-        mark(story, {6, 9}, '3');
-        const Span placed = story.replace(test.span, test.with);
-        EXPECT_EQ(automation::toUtf8(story.text()), automation::toUtf8(test.text));
-        EXPECT_EQ(marks(story), test.marks) << automation::toUtf8(test.text);
-        EXPECT_EQ(placed.end(), std::min(test.span.start, std::size_t{9}) + placed.length);
-    }
-}
-
-TEST(TextStory, RemembersTheFormatOfTextThatWasDeleted) {
-    TextStory story = storyOf(u"ab");
-    mark(story, {1, 1}, '7');
-    story.replace({0, 1}, u"");
-    story.replace({0, 1}, u"");
-    ASSERT_EQ(story.runs().size(), 1U);
-    story.replace({}, u"neuf");
-    EXPECT_EQ(marks(story), "7777");
-}
-
 TEST(TextStory, KeepsParagraphFormatsWithTheirParagraphs) {
     struct Case {
         Span span;
