@@ -130,7 +130,7 @@ void Conversation::obey(const std::string& line) {
     });
     try {
         if (line.starts_with('?')) {
-            print(line.substr(1));
+            print(" " + line.substr(1)); // columns count in the line
         } else if (verb != all.end()) {
             (this->*verb->act)(rest);
         } else if (!line.empty() && line.front() != '#' && line.front() != '\'') {
