@@ -35,16 +35,21 @@ std::string howMany(std::size_t number, const std::string& what) {
     return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
+/// A file as the author names it.
+fs::path pathOf(const std::string& name) {
+    return fs::path(fromUtf8(name));
+}
+
 /// Writes a file, which must not be there unless it may be replaced.
-void writeFile(const fs::path& path, std::span<const char> content, bool replaces) {
+void writeFile(const std::string& name, std::span<const char> content, bool replaces) {
+    const fs::path path = pathOf(name);
     if (!replaces && fs::exists(path)) {
-        throw std::runtime_error(path.string() + " is there already: name another file, or say save! to replace it");
+        throw std::runtime_error(name + " is there already: name another file, or say save! to replace it");
     }
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     if (!file.flush()) {
-        throw std::runtime_error(path.string() +
-                                 " cannot be written: is there such a folder, and may you write there?");
+        throw std::runtime_error(name + " cannot be written: is there such a folder, and may you write there?");
     }
 }
 
@@ -219,12 +224,11 @@ void Conversation::members(const std::string& expression) {
 
 void Conversation::saveAs(const std::string& rest, bool replaces) {
     const std::size_t quote = std::min(rest.find('"'), rest.size());
-    const fs::path path = trimmed(rest.substr(0, quote));
-    const std::size_t close = rest.rfind('"');
-    const std::string title =
-        close > quote && close != std::string::npos ? rest.substr(quote + 1, close - quote - 1) : path.stem().string();
-    writeFile(path, scenarioText(file_, fromUtf8(title), attempt_->moves()), replaces);
-    out_ << "Scenario \"" << title << "\" is in " << path.string() << ", with "
+    const std::string name = trimmed(rest.substr(0, quote));
+    const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
+                                                      : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
+    writeFile(name, scenarioText(file_, title, attempt_->moves()), replaces);
+    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with "
          << howMany(attempt_->moves().size() - attempt_->checks(), "move") << " and "
          << howMany(attempt_->checks(), "check") << ".\n";
     if (attempt_->checks() == 0) {
