@@ -34,6 +34,9 @@ public:
     /// True when both stand for the same object.
     [[nodiscard]] virtual bool isSame(const Object& other) const noexcept { return this == &other; }
 
+    /// The class of the object, as the TypeName of a macro gives it; empty where it is not known.
+    [[nodiscard]] virtual std::u16string className() const { return {}; }
+
     /// Number of objects alive in this process.
     [[nodiscard]] static std::size_t alive() noexcept;
 };

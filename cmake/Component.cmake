@@ -1,9 +1,10 @@
 # component(NAME DEPENDS...): the static library of the folder it is called in. A component includes its own headers and
 # those of the components named, as "folder/Header.h", and no others: the order of the floors is the order of the links.
-# What only Windows has stands in subfolders named com and win32, which are components of their own.
+# What only Windows or only other systems have stands in subfolders named com, win32 and posix, which are components of
+# their own.
 function(component name)
     file(GLOB_RECURSE sources RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS *.cpp *.h)
-    list(FILTER sources EXCLUDE REGEX "^(com|win32)/|(^|/)main\\.cpp$")
+    list(FILTER sources EXCLUDE REGEX "^(com|posix|win32)/|(^|/)main\\.cpp$")
     add_library(${name} STATIC ${sources})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE compiler)

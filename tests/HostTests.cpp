@@ -190,7 +190,7 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
     const std::vector<Case> cases = {
         {{"--help"}, ExitCode::Good, "Exit codes: 0 good"},
         {{"--version"}, ExitCode::Good, "1.2.3"},
-        {{}, ExitCode::WrongUsage, "run, verify, list, torture or bench?"},
+        {{}, ExitCode::WrongUsage, "run, try, verify, list, torture or bench?"},
         {{"walk"}, ExitCode::WrongUsage, "not expected: walk"},
         {{"run", "324"}, ExitCode::WrongUsage, "the course has 301 to 323"},
         {{"run", "many"}, ExitCode::WrongUsage, "many"},
@@ -205,9 +205,9 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
     };
     const auto printedBy = [&](const Case& asked) {
         std::ostringstream out;
-        EXPECT_EQ(
-            host::runCommandLine(asked.arguments, library().folder(), "1.2.3", host::makeEmbeddedWorld, {out, out}),
-            asked.expected)
+        EXPECT_EQ(host::runCommandLine(asked.arguments, library().folder(), "1.2.3", host::makeEmbeddedWorld,
+                                       {out, out}, nullptr),
+                  asked.expected)
             << asked.printed;
         return out.str();
     };

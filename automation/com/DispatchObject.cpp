@@ -77,6 +77,18 @@ bool DispatchObject::isSame(const Object& other) const noexcept {
     return foreign != nullptr && foreign->identity_ == identity_;
 }
 
+std::u16string DispatchObject::className() const {
+    ComPtr<ITypeInfo> type;
+    Bstr name;
+    if (FAILED(dispatch_->GetTypeInfo(0, LOCALE_USER_DEFAULT, type.receive())) || !type ||
+        FAILED(type->GetDocumentation(MEMBERID_NIL, name.receive(), nullptr, nullptr, nullptr))) {
+        return {};
+    }
+    // The interface of a class that also raises events is named with an underscore.
+    const std::u16string text = name.text();
+    return text.starts_with(u'_') ? text.substr(1) : text;
+}
+
 DISPID DispatchObject::idOf(const Name& name, Patience& patience) {
     if (name.isDefault()) {
         return DISPID_VALUE;

@@ -24,6 +24,9 @@ public:
 
     [[nodiscard]] bool isSame(const Object& other) const noexcept override;
 
+    /// Of an object with type information.
+    [[nodiscard]] std::u16string className() const override;
+
     [[nodiscard]] const ComPtr<IDispatch>& dispatch() const noexcept { return dispatch_; }
 
 private:

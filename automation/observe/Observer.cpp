@@ -22,6 +22,8 @@ public:
         return observed != nullptr ? automation::isSame(inner_, observed->inner_) : inner_->isSame(other);
     }
 
+    [[nodiscard]] std::u16string className() const override { return inner_->className(); }
+
     [[nodiscard]] const ObjectPtr& inner() const noexcept { return inner_; }
 
 private:

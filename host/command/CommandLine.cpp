@@ -13,6 +13,7 @@ constexpr const char* examples = R"(Examples:
   exercise-host run                      the whole road of question 306
   exercise-host run 307 --json           the same of 307, as one JSON object
   exercise-host run 306 --scenario "one occurrence forgotten" --trace
+  exercise-host try 306                  a conversation: your moves, the verdict, saved as a scenario
   exercise-host verify                   all scenarios of all questions
   exercise-host verify 306 307
   exercise-host verify --file mine.scn   a scenario file of your own
@@ -47,6 +48,8 @@ struct CommandLine {
 
         run.add_option("--course", runRequest.course, "Folder of the course's own files (07305306.ppt ...)");
 
+        tryOut.add_option("question", tried, "Number of the question")->required()->transform(questionNumber);
+
         recheck.add_option("file", recheckRequest.file, "A working presentation that a learner has saved")->required();
         recheck.add_option("--question", recheckRequest.question, "Number of the question")
             ->required()
@@ -70,7 +73,7 @@ struct CommandLine {
         bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
             ->check(CLI::PositiveNumber);
 
-        for (CLI::App* const command : {&run, &verify}) {
+        for (CLI::App* const command : {&run, &tryOut, &verify}) {
             auto* const real = command->add_flag(
                 "--powerpoint", withPowerPoint,
                 "On Windows: drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
@@ -78,7 +81,7 @@ struct CommandLine {
                 ->needs(real)
                 ->check(CLI::IsMember({32, 64}));
         }
-        for (CLI::App* const command : {&run, &verify, &recheck, &list, &torture, &bench}) {
+        for (CLI::App* const command : {&run, &tryOut, &verify, &recheck, &list, &torture, &bench}) {
             command->fallthrough();
         }
     }
@@ -88,12 +91,14 @@ struct CommandLine {
     RunRequest runRequest;
     VerifyRequest verifyRequest;
     RecheckRequest recheckRequest;
+    std::int32_t tried = 0;
     std::vector<std::int32_t> listed;
     TortureRequest tortureRequest;
     BenchRequest benchRequest;
     bool withPowerPoint = false;
     std::int32_t powerPointBits = 0;
     CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
+    CLI::App& tryOut = *app.add_subcommand("try", "Talk: state a learner's moves, see values, ask for the verdict");
     CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
     CLI::App& recheck = *app.add_subcommand("recheck", "Judge a saved working presentation, without a live PowerPoint");
     CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
@@ -102,14 +107,18 @@ struct CommandLine {
     CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
-ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output output) {
+ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, const LineReaderMaker& makeLines,
+                 Output output) {
     try {
         const Library library(asked.folder);
         if (asked.app.get_subcommands().empty()) {
-            throw UsageError("run, verify, list, torture or bench? See exercise-host --help");
+            throw UsageError("run, try, verify, list, torture or bench? See exercise-host --help");
         }
         if (asked.run) {
             return run(asked.runRequest, library, makeWorld, output.out);
+        }
+        if (asked.tryOut) {
+            return tryOut(asked.tried, library, makeWorld, *makeLines(), output.out);
         }
         if (asked.recheck) {
             return recheck(asked.recheckRequest, library, makeWorld, output.out);
@@ -137,7 +146,7 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, Output o
 
 ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
                         const std::string& version, const WorldMaker& makeWorld, Output output,
-                        const ComWorldsMaker& makeComWorlds) {
+                        const LineReaderMaker& makeLines, const ComWorldsMaker& makeComWorlds) {
     CommandLine line(scenarios, version);
     try {
         line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
@@ -148,7 +157,8 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::fi
         output.error << "exercise-host: --powerpoint needs Windows; here only the embedded PowerPoint runs\n";
         return ExitCode::WrongUsage;
     }
-    const ExitCode code = perform(line, line.withPowerPoint ? makeComWorlds(line.powerPointBits) : makeWorld, output);
+    const ExitCode code =
+        perform(line, line.withPowerPoint ? makeComWorlds(line.powerPointBits) : makeWorld, makeLines, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";
         return ExitCode::WrongUsage;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/command/Library.h"
+#include "host/try/LineReader.h"
 #include "host/world/World.h"
 
 #include <iosfwd>
@@ -23,6 +24,10 @@ struct RunRequest {
     bool withTrace = false;
     std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
 };
+
+/// Prepares a question and talks with the course author, who states moves, asks for verdicts and saves scenarios.
+[[nodiscard]] ExitCode tryOut(std::int32_t question, const Library& library, const WorldMaker& makeWorld,
+                              LineReader& lines, std::ostream& out);
 
 /// What `exercise-host verify` is asked for: all files of the library where nothing is named.
 struct VerifyRequest {

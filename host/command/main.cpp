@@ -2,9 +2,12 @@
 #include "host/world/EmbeddedWorld.h"
 #ifdef _WIN32
 #include "host/win32/ComWorld.h"
+#include "host/win32/OwnLines.h"
 
 #include <io.h>
 #else
+#include "host/posix/OwnLines.h"
+
 #include <unistd.h>
 #endif
 
@@ -37,5 +40,5 @@ int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     return static_cast<int>(host::runCommandLine(arguments, scenarioFolder(argv[0]), EXERCISE_HOST_VERSION,
                                                  host::makeEmbeddedWorld, {std::cout, std::cerr, isTerminal()},
-                                                 comWorlds));
+                                                 host::makeOwnLines, comWorlds));
 }

@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "automation/Text.h"
+#include "host/language/Likeness.h"
 #include "host/language/Operators.h"
 
 namespace host::language {
@@ -36,8 +37,21 @@ ObjectPtr objectIn(const Value& value) {
     return object;
 }
 
+/// Reaches a member; the error of one that is missing names it and its class.
 Value reach(const Value& object, std::u16string_view name, Access access, std::span<Value> arguments) {
-    return objectIn(object)->invoke(name, access, arguments);
+    const ObjectPtr target = objectIn(object);
+    try {
+        return target->invoke(name, access, arguments);
+    } catch (const Error& error) {
+        const std::u16string className = target->className();
+        if (!error.is(RunTimeError::MemberNotFound) || className.empty() || name.empty()) {
+            throw;
+        }
+        const std::u16string_view verb = access == Access::Put ? u" to be set" : u"";
+        throw Error(error.number(), error.source(),
+                    className + u" has no member '" + std::u16string(name) + u"'" + std::u16string(verb) +
+                        likeness(*target, name));
+    }
 }
 
 /// An object stands for the value of its default member, as macros have it where `Set` is not said.
@@ -65,7 +79,7 @@ void Interpreter::execute(const Statement& statement) {
     try {
         std::visit([this](const auto& node) { perform(node); }, statement.node);
     } catch (const Raised& raised) {
-        throw Failure({raised.place, inWords(raised.error)});
+        throw Failure({raised.place, inWords(raised.error)}, raised.error.number());
     }
 }
 
@@ -73,7 +87,7 @@ Value Interpreter::evaluate(const Expression& expression) {
     try {
         return valueOf(expression);
     } catch (const Raised& raised) {
-        throw Failure({raised.place, inWords(raised.error)});
+        throw Failure({raised.place, inWords(raised.error)}, raised.error.number());
     }
 }
 

@@ -48,8 +48,20 @@ private:
             const std::vector<Token> tokens = tokenize(line, number);
             if (tokens.size() > 1) {
                 content(line, tokens);
+            } else if (file_.question == 0) {
+                heading(line);
             }
         });
+    }
+
+    void heading(std::u16string_view comment) {
+        constexpr std::u16string_view blanks = u" \t\r#'";
+        const std::size_t first = std::min(comment.find_first_not_of(blanks), comment.size());
+        const std::size_t last = comment.find_last_not_of(u" \t\r") + 1;
+        if (first < last) {
+            file_.heading += (file_.heading.empty() ? u"" : u" ");
+            file_.heading += comment.substr(first, last - first);
+        }
     }
 
     void content(std::u16string_view line, const std::vector<Token>& tokens) {

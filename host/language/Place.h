@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <string>
 #include <utility>
@@ -37,10 +38,11 @@ struct SyntaxError : std::exception {
 
 /// A move that raised, or a check that the host read otherwise.
 struct Failure : std::exception {
-    explicit Failure(Remark what) : remark(std::move(what)) {}
+    explicit Failure(Remark what, std::int32_t number = 0) : remark(std::move(what)), error(number) {}
     [[nodiscard]] const char* what() const noexcept override { return remark.message.c_str(); }
 
     Remark remark;
+    std::int32_t error; ///< the number that the move raised; 0 where a check fell short
 };
 
 /// All wrong lines of a scenario file, in order.

@@ -25,6 +25,7 @@ public:
     void makeHidden(const std::u16string& name);
     [[nodiscard]] bool exists(const std::u16string& name);
 
+    [[nodiscard]] std::u16string className() const override { return u"Files"; }
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:

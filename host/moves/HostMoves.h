@@ -38,6 +38,7 @@ public:
     [[nodiscard]] bool bravoNuance() { return host_.world().module().bravoNuance(); }
     [[nodiscard]] std::u16string folder() { return host_.world().hostFolder(); }
 
+    [[nodiscard]] std::u16string className() const override { return u"Host"; }
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:

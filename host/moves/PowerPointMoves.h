@@ -39,6 +39,7 @@ public:
     [[nodiscard]] std::int32_t dialogs() { return static_cast<std::int32_t>(world_.dialogs()); }
     [[nodiscard]] std::int32_t window() { return world_.mainWindow(); }
 
+    [[nodiscard]] std::u16string className() const override { return u"PowerPoint"; }
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:

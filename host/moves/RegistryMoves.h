@@ -28,6 +28,7 @@ public:
     void setRecentFolder(const std::u16string& name, const std::u16string& folder);
     void setMeasurementSystem(const std::u16string& system) { world_.setMeasurementSystem(system); }
 
+    [[nodiscard]] std::u16string className() const override { return u"Registry"; }
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:

@@ -17,6 +17,9 @@ public:
         return Published::invoke(name, access, arguments);
     }
 
+    /// The C++ classes bear the names of PowerPoint's: ShapeObject is its Shape.
+    [[nodiscard]] std::u16string className() const final;
+
     [[nodiscard]] const SessionPtr& session() const noexcept { return session_; }
 
 private:

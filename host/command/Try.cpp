@@ -1,0 +1,12 @@
+#include "host/command/Commands.h"
+#include "host/try/Conversation.h"
+
+namespace host {
+
+ExitCode tryOut(std::int32_t question, const Library& library, const WorldMaker& makeWorld, LineReader& lines,
+                std::ostream& out) {
+    const language::ScenarioFile file = load(library.fileOf(question));
+    return Conversation(file, makeWorld, lines, out).run() ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace host

@@ -1,0 +1,110 @@
+#include "host/posix/OwnLines.h"
+
+#include "host/try/PlainLines.h"
+
+#include <editline/readline.h>
+#include <unistd.h>
+
+#include <clocale>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+
+namespace host {
+
+namespace {
+
+volatile std::sig_atomic_t isInterrupted = 0;
+
+constexpr std::array interruptions{SIGINT, SIGTERM, SIGHUP};
+
+/// The library asks plain functions.
+LineReader::Completer& completer() {
+    static LineReader::Completer current;
+    return current;
+}
+
+/// What the library frees.
+char* duplicate(const std::string& text) {
+    auto* const copy = static_cast<char*>(std::malloc(text.size() + 1));
+    return copy == nullptr ? nullptr : std::strcpy(copy, text.c_str());
+}
+
+/// The candidates one by one, from the first where `state` is 0; null behind the last.
+char* nextCandidate(const char* /*word*/, int state) {
+    static std::vector<std::string> candidates;
+    static std::size_t position = 0;
+    if (state == 0) {
+        candidates = completer()(std::string(rl_line_buffer).substr(0, static_cast<std::size_t>(rl_point)));
+        position = 0;
+    }
+    return position < candidates.size() ? duplicate(candidates[position++]) : nullptr;
+}
+
+char** complete(const char* word, int /*start*/, int /*end*/) {
+    rl_attempted_completion_over = 1; // files are no candidates
+    return completer() ? rl_completion_matches(word, nextCandidate) : nullptr;
+}
+
+/// There is one at a time.
+class EditedLines final : public LineReader {
+public:
+    EditedLines();
+    ~EditedLines() override;
+    EditedLines(const EditedLines&) = delete;
+    EditedLines& operator=(const EditedLines&) = delete;
+    EditedLines(EditedLines&&) = delete;
+    EditedLines& operator=(EditedLines&&) = delete;
+
+    [[nodiscard]] std::optional<std::string> read(const std::string& prompt) override;
+    void completeBy(Completer by) override { completer() = std::move(by); }
+};
+
+EditedLines::EditedLines() {
+    static constexpr const char* breaks = " \t().,=&+-?\"";
+    std::setlocale(LC_CTYPE, ""); // what a letter is, the terminal says
+    rl_basic_word_break_characters = breaks;
+    rl_attempted_completion_function = complete;
+    rl_completion_append_character = '\0';
+    rl_catch_signals = 0;
+    using_history();
+    struct sigaction action {};
+    action.sa_handler = [](int) { isInterrupted = 1; };
+    action.sa_flags = static_cast<int>(SA_RESETHAND); // and no SA_RESTART: reading must end
+    for (const int signal : interruptions) {
+        sigaction(signal, &action, nullptr);
+    }
+}
+
+EditedLines::~EditedLines() {
+    completer() = nullptr;
+    for (const int signal : interruptions) {
+        std::signal(signal, SIG_DFL);
+    }
+}
+
+std::optional<std::string> EditedLines::read(const std::string& prompt) {
+    std::cout.flush();
+    const std::unique_ptr<char, decltype(&std::free)> line(isInterrupted != 0 ? nullptr : readline(prompt.c_str()),
+                                                           &std::free);
+    if (!line || isInterrupted != 0) {
+        std::cout << '\n';
+        return std::nullopt;
+    }
+    if (*line != '\0') {
+        add_history(line.get());
+    }
+    return std::string(line.get());
+}
+
+} // namespace
+
+std::unique_ptr<LineReader> makeOwnLines() {
+    if (isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0) {
+        return std::make_unique<EditedLines>();
+    }
+    return std::make_unique<PlainLines>(std::cin);
+}
+
+} // namespace host

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "host/try/LineReader.h"
+
+namespace host {
+
+/// The lines that are typed at this program's terminal, with editing, history and completion; plain lines where its
+/// input or its output is no terminal. The first interruption (Ctrl-C, the terminal closed) ends the lines, so that
+/// whoever reads them can clean up; the second ends the program.
+[[nodiscard]] std::unique_ptr<LineReader> makeOwnLines();
+
+} // namespace host

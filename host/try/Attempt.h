@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/run/Exercise.h"
+#include "host/run/Guard.h"
+
+namespace host {
+
+/// A question prepared in a world of its own, and what a learner has done in it since.
+class Attempt {
+public:
+    /// Stages the question and prepares it. `course` must outlive this object. Raises what the module raises.
+    Attempt(std::int32_t question, const Course& course, const WorldMaker& makeWorld);
+
+    /// Performs a move and remembers it. Raises language::Failure where it falls short; it is not remembered then.
+    void perform(language::Statement move);
+    /// Raises language::Failure where reading the value raises.
+    [[nodiscard]] automation::Value evaluate(const language::Expression& expression) {
+        return exercise_.evaluate(expression);
+    }
+    /// One TestePoint, remembered as the check that it passes.
+    [[nodiscard]] Reading check();
+
+    /// The moves, checks among them, in order.
+    [[nodiscard]] const std::vector<language::Statement>& moves() const noexcept { return moves_; }
+    [[nodiscard]] std::size_t checks() const;
+    /// The moves without the checks, to be made once more; none are left here.
+    [[nodiscard]] std::vector<language::Statement> takeMoves();
+
+    [[nodiscard]] World& world() noexcept { return *world_; }
+    /// The content of a copy of the active presentation as it stands. Raises what PowerPoint raises.
+    [[nodiscard]] Bytes presentation();
+
+    /// Closes the question, and says what is not as it was before it, in plain words.
+    [[nodiscard]] std::vector<std::string> close();
+
+private:
+    WorldPtr world_;
+    Guard guard_;
+    Exercise exercise_;
+    std::vector<language::Statement> moves_;
+};
+
+} // namespace host

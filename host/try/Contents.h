@@ -1,0 +1,13 @@
+#pragma once
+
+#include "automation/Object.h"
+
+#include <iosfwd>
+
+namespace host {
+
+/// Prints the active presentation of an application: a line a slide, with its shapes by name, all with the identity
+/// that the module has given them. Raises what PowerPoint raises.
+void printContents(const automation::ObjectPtr& application, std::ostream& out);
+
+} // namespace host

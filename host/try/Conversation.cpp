@@ -1,0 +1,268 @@
+#include "host/try/Conversation.h"
+
+#include "automation/MemberTable.h"
+#include "automation/Text.h"
+#include "host/language/Parser.h"
+#include "host/try/Completion.h"
+#include "host/try/Contents.h"
+#include "host/try/Immediate.h"
+#include "host/try/SavedScenario.h"
+#include "host/try/Trouble.h"
+#include "host/try/Verdict.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iomanip>
+#include <ostream>
+
+namespace host {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using automation::fromUtf8;
+using automation::toUtf8;
+using language::Statement;
+
+std::string trimmed(const std::string& text) {
+    constexpr const char* blanks = " \t\r";
+    const std::size_t first = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+}
+
+std::string howMany(std::size_t number, const std::string& what) {
+    return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
+}
+
+/// A file as the author names it.
+fs::path pathOf(const std::string& name) {
+    return fs::path(fromUtf8(name));
+}
+
+/// Writes a file, which must not be there unless it may be replaced.
+void writeFile(const std::string& name, std::span<const char> content, bool replaces) {
+    const fs::path path = pathOf(name);
+    if (!replaces && fs::exists(path)) {
+        throw std::runtime_error(name + " is there already: name another file, or say save! to replace it");
+    }
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    if (!file.flush()) {
+        throw std::runtime_error(name + " cannot be written: is there such a folder, and may you write there?");
+    }
+}
+
+/// True for an `expect error` whose statement is still to come.
+bool isUnfinished(const Statement& statement) {
+    const auto* const expectation = std::get_if<language::ExpectError>(&statement.node);
+    return expectation != nullptr && expectation->statement == nullptr;
+}
+
+} // namespace
+
+const std::vector<Conversation::Verb>& Conversation::verbs() {
+    static const std::vector<Verb> all{
+        {"Set", "s = ActivePresentation.Slides(1).Shapes(2)", "moves are stated as in a macro", nullptr},
+        {"s.Left", "= 20", "", nullptr},
+        {"?s.Left", "", "prints a value, or what an object is", nullptr},
+        {"members", "s", "lists the members of an object", &Conversation::members, true},
+        {"show", "", "lists the slides and shapes as they are now", &Conversation::show},
+        {"check", "", "asks for the verdict, and explains what the host reads", &Conversation::check},
+        {"check", "success", "asks for the verdict, and says whether it is this one", nullptr},
+        {"undo", "", "goes back to the question as it was prepared", &Conversation::undo},
+        {"again", "", "prepares the question anew and makes the moves once more", &Conversation::again},
+        {"save", "mine.scn", "writes moves and checks as a scenario (save! replaces a file)", &Conversation::save,
+         true},
+        {"save!", "mine.scn", "", &Conversation::saveOver, true},
+        {"export", "mine.ppt", "writes the presentation as it is now", &Conversation::exportTo, true},
+        {"help", "", "says this", &Conversation::help},
+        {"quit", "", "closes the question; so do exit and the end of the input", &Conversation::quit},
+        {"exit", "", "", &Conversation::quit},
+    };
+    return all;
+}
+
+Conversation::Conversation(const language::ScenarioFile& file, WorldMaker makeWorld, LineReader& lines,
+                           std::ostream& out)
+    : file_(file), makeWorld_(std::move(makeWorld)), lines_(lines), out_(out), course_(file, makeWorld_) {}
+
+bool Conversation::run() {
+    out_ << toUtf8(file_.heading.empty() ? u"Question " + automation::decimal(file_.question) : file_.heading) << '\n';
+    try {
+        begin();
+        printContents(attempt_->world().application(), out_);
+    } catch (const automation::Error& error) {
+        out_ << "The question cannot be prepared: " << inWords(error) << '\n';
+        return false;
+    }
+    out_ << "State the learner's moves as a macro would, and check; help tells the rest.\n";
+    lines_.completeBy([this](const std::string& line) { return completions(line); });
+    const std::string prompt = std::to_string(file_.question) + "> ";
+    while (!isOver_) {
+        const std::optional<std::string> line = lines_.read(prompt);
+        if (!line) {
+            break;
+        }
+        obey(trimmed(*line));
+        out_.flush();
+    }
+    return close();
+}
+
+void Conversation::begin() {
+    attempt_.reset(); // where PowerPoint is the one on the desktop, there cannot be two
+    attempt_.emplace(file_.question, course_, makeWorld_);
+}
+
+bool Conversation::close() {
+    const std::vector<std::string> findings = attempt_ ? attempt_->close() : std::vector<std::string>();
+    attempt_.reset();
+    for (const std::string& finding : findings) {
+        out_ << "Not as it was before: " << finding << '\n';
+    }
+    out_ << (findings.empty() ? "The question is closed, and everything is as it was before.\n" : "");
+    return findings.empty();
+}
+
+void Conversation::obey(const std::string& line) {
+    const std::size_t stop = std::min(line.find(' '), line.size());
+    const std::string word = line.substr(0, stop);
+    const std::string rest = trimmed(line.substr(stop));
+    const auto& all = verbs();
+    const auto verb = std::find_if(all.begin(), all.end(), [&](const Verb& each) {
+        return each.act != nullptr && each.name == word && each.takesRest == !rest.empty();
+    });
+    try {
+        if (line.starts_with('?')) {
+            print(" " + line.substr(1)); // columns count in the line
+        } else if (verb != all.end()) {
+            (this->*verb->act)(rest);
+        } else if (!line.empty() && line.front() != '#' && line.front() != '\'') {
+            perform(line);
+        }
+    } catch (const language::SyntaxError& error) {
+        out_ << inWords(error) << '\n';
+    } catch (const language::Failure& failure) {
+        out_ << inWords(failure) << '\n';
+    } catch (const std::exception& error) {
+        out_ << error.what() << '\n';
+    }
+}
+
+void Conversation::perform(std::string line) {
+    Statement statement = language::parseStatement(fromUtf8(line));
+    while (isUnfinished(statement)) {
+        const std::optional<std::string> more = lines_.read("   > ");
+        if (!more) {
+            isOver_ = true;
+            return;
+        }
+        line += " " + trimmed(*more);
+        statement = language::parseStatement(fromUtf8(line));
+    }
+    if (const auto* const wanted = std::get_if<language::Check>(&statement.node)) {
+        return judge(&wanted->expected);
+    }
+    attempt_->perform(std::move(statement));
+}
+
+void Conversation::print(const std::string& expression) {
+    out_ << printed(attempt_->evaluate(language::parseExpression(fromUtf8(expression)))) << '\n';
+}
+
+void Conversation::judge(const Expectation* expected) {
+    const bool isFirst = attempt_->checks() == 0;
+    const Reading reading = attempt_->check();
+    explain(reading, file_, out_);
+    if (expected != nullptr) {
+        out_ << (expected->matches(reading) ? "That is what was expected.\n"
+                                            : "Expected was " + expected->display() + ".\n");
+    }
+    if (!isFirst && reading.erreurGenerale && reading.causeErreur == u"D") {
+        out_ << "To have the same moves judged afresh, say again and then check.\n";
+    }
+}
+
+void Conversation::undo(const std::string& /*rest*/) {
+    const std::size_t made = attempt_->takeMoves().size();
+    begin();
+    out_ << "The question is prepared anew, without the " << howMany(made, "move") << " made.\n";
+}
+
+void Conversation::again(const std::string& /*rest*/) {
+    std::vector<Statement> moves = attempt_->takeMoves();
+    begin();
+    for (Statement& move : moves) {
+        attempt_->perform(std::move(move));
+    }
+    out_ << "The question is prepared anew, and " << howMany(moves.size(), "move") << " made once more.\n";
+}
+
+void Conversation::show(const std::string& /*rest*/) {
+    printContents(attempt_->world().application(), out_);
+}
+
+void Conversation::members(const std::string& expression) {
+    const auto object = attempt_->evaluate(language::parseExpression(fromUtf8(expression))).to<automation::ObjectPtr>();
+    const auto* const published = dynamic_cast<const automation::Published*>(object.get());
+    if (published == nullptr) {
+        throw std::runtime_error("Only objects of the embedded PowerPoint list their members; this is " +
+                                 printed(object));
+    }
+    out_ << printed(object) << '\n';
+    std::string row;
+    for (const automation::Member& member : published->members().members()) {
+        const std::string name = toUtf8(member.name.text()) + (member.isMethod ? "()" : "");
+        if (row.size() + name.size() > 100) {
+            out_ << "  " << std::exchange(row, {}) << '\n';
+        }
+        row += (row.empty() ? "" : " ") + name;
+    }
+    out_ << "  " << row << '\n';
+}
+
+void Conversation::saveAs(const std::string& rest, bool replaces) {
+    const std::size_t quote = std::min(rest.find('"'), rest.size());
+    const std::string name = trimmed(rest.substr(0, quote));
+    const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
+                                                      : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
+    writeFile(name, scenarioText(file_, title, attempt_->moves()), replaces);
+    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with "
+         << howMany(attempt_->moves().size() - attempt_->checks(), "move") << " and "
+         << howMany(attempt_->checks(), "check") << ".\n";
+    if (attempt_->checks() == 0) {
+        out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
+    }
+}
+
+void Conversation::exportTo(const std::string& file) {
+    const Bytes content = attempt_->presentation();
+    writeFile(file, {reinterpret_cast<const char*>(content.data()), content.size()}, true);
+    out_ << "The presentation is in " << file << ".\n";
+}
+
+void Conversation::help(const std::string& /*rest*/) {
+    for (const Verb& verb : verbs()) {
+        if (verb.what.empty() && verb.act != nullptr) {
+            continue;
+        }
+        const std::string example = std::string(verb.name) + (verb.rest.empty() ? "" : " ") + std::string(verb.rest);
+        out_ << "  " << std::left << std::setw(46) << example << (verb.what.empty() ? "" : "  ") << verb.what << '\n';
+    }
+}
+
+std::vector<std::string> Conversation::completions(const std::string& line) {
+    std::vector<std::string> words;
+    for (const Verb& verb : verbs()) {
+        if (verb.act != nullptr && !line.empty() && verb.name.starts_with(line)) {
+            words.emplace_back(verb.name);
+        }
+    }
+    for (std::string& member : completionsOf(line, *attempt_)) {
+        words.push_back(std::move(member));
+    }
+    return words;
+}
+
+} // namespace host

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/try/Attempt.h"
+#include "host/try/LineReader.h"
+
+#include <iosfwd>
+
+namespace host {
+
+/// A course author tries a question: statements of the scenario language are the learner's moves, `?` prints values,
+/// and a few verbs judge, begin anew and save.
+class Conversation {
+public:
+    /// All must outlive this object. Builds the course's files. Raises language::Failure where that fails.
+    Conversation(const language::ScenarioFile& file, WorldMaker makeWorld, LineReader& lines, std::ostream& out);
+
+    /// Prepares the question, and takes lines until the author leaves. False where the question could not be prepared,
+    /// or could not be closed as it should be.
+    [[nodiscard]] bool run();
+
+private:
+    struct Verb {
+        std::string_view name;
+        std::string_view rest; ///< of its example in the help
+        std::string_view what;
+        void (Conversation::*act)(const std::string& rest); ///< null for what is no verb: statements, `?`
+        bool takesRest = false;
+    };
+    static const std::vector<Verb>& verbs();
+
+    void begin();
+    bool close();
+    void obey(const std::string& line);
+    void perform(std::string line);
+    void print(const std::string& expression);
+    void judge(const Expectation* expected);
+
+    void check(const std::string&) { judge(nullptr); }
+    void undo(const std::string&);
+    void again(const std::string&);
+    void show(const std::string&);
+    void members(const std::string& expression);
+    void save(const std::string& rest) { saveAs(rest, false); }
+    void saveOver(const std::string& rest) { saveAs(rest, true); }
+    void saveAs(const std::string& rest, bool replaces);
+    void exportTo(const std::string& file);
+    void help(const std::string&);
+    void quit(const std::string&) { isOver_ = true; }
+
+    [[nodiscard]] std::vector<std::string> completions(const std::string& line);
+
+    const language::ScenarioFile& file_;
+    WorldMaker makeWorld_;
+    LineReader& lines_;
+    std::ostream& out_;
+    Course course_;
+    std::optional<Attempt> attempt_;
+    bool isOver_ = false;
+};
+
+} // namespace host

@@ -1,0 +1,52 @@
+#include "host/try/Trouble.h"
+
+#include "automation/Error.h"
+
+#include <algorithm>
+#include <array>
+
+namespace host {
+
+namespace {
+
+struct Advice {
+    std::int32_t error;
+    std::string_view text;
+};
+
+constexpr std::int32_t numberOf(automation::RunTimeError error) {
+    return static_cast<std::int32_t>(error);
+}
+
+constexpr auto advices = std::to_array<Advice>({
+    {numberOf(automation::RunTimeError::TypeMismatch), "?x prints what a value x is"},
+    {numberOf(automation::RunTimeError::ObjectNotSet), "Set x = ... gives a variable its object"},
+    {numberOf(automation::RunTimeError::ObjectRequired), "?x prints what a value x is"},
+    {numberOf(automation::RunTimeError::CannotCreateObject), "undo prepares the question anew"},
+    {numberOf(automation::RunTimeError::MemberNotFound), "members x lists those of an object x"},
+    {automation::remote::disconnected, "undo prepares the question anew"},
+    {automation::remote::serverUnavailable, "undo prepares the question anew"},
+});
+
+std::string_view adviceFor(std::int32_t error) {
+    const auto* const found =
+        std::find_if(advices.begin(), advices.end(), [&](const Advice& each) { return each.error == error; });
+    return found == advices.end() ? std::string_view() : found->text;
+}
+
+std::string inWords(const language::Remark& remark) {
+    return "column " + std::to_string(remark.place.column) + ": " + remark.message;
+}
+
+} // namespace
+
+std::string inWords(const language::SyntaxError& error) {
+    return inWords(error.remark);
+}
+
+std::string inWords(const language::Failure& failure) {
+    const std::string_view advice = adviceFor(failure.error);
+    return inWords(failure.remark) + (advice.empty() ? "" : " (" + std::string(advice) + ")");
+}
+
+} // namespace host

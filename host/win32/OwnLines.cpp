@@ -1,0 +1,82 @@
+#include "host/win32/OwnLines.h"
+
+#include "automation/Text.h"
+#include "automation/com/WideText.h"
+#include "host/try/PlainLines.h"
+#include "host/win32/Handle.h"
+
+#include <array>
+#include <atomic>
+#include <iostream>
+
+namespace host {
+
+namespace {
+
+/// How long the system is kept waiting where it closes the console.
+constexpr DWORD patience = 20'000;
+
+std::atomic<bool> isInterrupted = false;
+HANDLE readingThread = nullptr;
+HANDLE allDone = nullptr;
+
+BOOL WINAPI interrupt(DWORD event) {
+    if (isInterrupted.exchange(true)) {
+        return FALSE;
+    }
+    CancelSynchronousIo(readingThread);
+    if (event >= CTRL_CLOSE_EVENT) {
+        WaitForSingleObject(allDone, patience); // the program ends when this returns
+    }
+    return TRUE;
+}
+
+/// There is one at a time. Texts of the program are UTF-8.
+class ConsoleLines final : public LineReader {
+public:
+    ConsoleLines() {
+        DuplicateHandle(GetCurrentProcess(), GetCurrentThread(), GetCurrentProcess(), &readingThread, 0, FALSE,
+                        DUPLICATE_SAME_ACCESS);
+        allDone = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+        SetConsoleCtrlHandler(interrupt, TRUE);
+        SetConsoleOutputCP(CP_UTF8);
+    }
+    ~ConsoleLines() override {
+        SetConsoleOutputCP(codePage_);
+        SetEvent(allDone);
+    }
+    ConsoleLines(const ConsoleLines&) = delete;
+    ConsoleLines& operator=(const ConsoleLines&) = delete;
+    ConsoleLines(ConsoleLines&&) = delete;
+    ConsoleLines& operator=(ConsoleLines&&) = delete;
+
+    [[nodiscard]] std::optional<std::string> read(const std::string& prompt) override {
+        std::cout << prompt << std::flush;
+        std::array<wchar_t, 4096> typed{};
+        DWORD length = 0;
+        const bool isRead = !isInterrupted && ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), typed.data(),
+                                                           static_cast<DWORD>(typed.size()), &length, nullptr) != FALSE;
+        constexpr wchar_t endOfInput = L'\x1A';
+        if (!isRead || isInterrupted || length == 0 || typed.front() == endOfInput) {
+            std::cout << std::endl;
+            return std::nullopt;
+        }
+        const std::wstring_view line(typed.data(), length);
+        return automation::toUtf8(automation::com::fromWide(line.substr(0, line.find_last_not_of(L"\r\n") + 1)));
+    }
+
+private:
+    UINT codePage_ = GetConsoleOutputCP();
+};
+
+} // namespace
+
+std::unique_ptr<LineReader> makeOwnLines() {
+    DWORD mode = 0;
+    if (GetConsoleMode(GetStdHandle(STD_INPUT_HANDLE), &mode) != FALSE) {
+        return std::make_unique<ConsoleLines>();
+    }
+    return std::make_unique<PlainLines>(std::cin);
+}
+
+} // namespace host

@@ -1,0 +1,126 @@
+#include "host/command/Commands.h"
+#include "host/try/PlainLines.h"
+#include "host/world/EmbeddedWorld.h"
+#include "host/world/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+using host::ExitCode;
+
+/// A line that is typed, and what must stand in the answer to it; an empty one where there must be none.
+struct Exchange {
+    std::string typed;
+    std::string answered;
+};
+
+class TryTest : public testing::Test {
+protected:
+    /// Everything said in a conversation about question 314.
+    std::string talk(const std::string& typed, ExitCode expected = ExitCode::Good) const {
+        std::istringstream in(typed);
+        std::ostringstream out;
+        host::PlainLines lines(in);
+        EXPECT_EQ(host::tryOut(314, library_, host::makeEmbeddedWorld, lines, out), expected);
+        return out.str();
+    }
+    /// What a command of the host answers about a file.
+    std::string verify(const std::string& file) const {
+        std::ostringstream out;
+        EXPECT_EQ(host::verify({{}, {file}}, library_, host::makeEmbeddedWorld, out), ExitCode::Good);
+        return out.str();
+    }
+    std::string recheck(const std::string& file) const {
+        std::ostringstream out;
+        EXPECT_EQ(host::recheck({file, 314, ""}, library_, host::makeEmbeddedWorld, out), ExitCode::Good);
+        return out.str();
+    }
+    [[nodiscard]] std::string file(const std::string& name) const { return (folder_.path() / name).string(); }
+
+private:
+    host::Library library_{std::filesystem::path(SCENARIOS)};
+    host::TemporaryFolder folder_;
+};
+
+TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
+    const std::string reads = "The host reads ";
+    const std::vector<Exchange> exchanges = {
+        {"?ActivePresentation.Name", "Méthodologie.ppt\n"},
+        {"?ActivePresentation.Slides(1).Shapes(2).Left", " 57.875\n"},
+        {"?ActivePresentation.Saved = 1", "column 27: expected the end of the line, found '='\n"},
+        {"?Nothing", "Nothing\n"},
+        {"?1 = 1", "column 3: expected the end of the line"},
+        {"Set s = ActivePresentation.Slides(1).Shapes", ""},
+        {"?s", "Shapes of 3\n"},
+        {"?s(3).GroupItems(1)", "Shape \"AutoShape 4\"\n"},
+        {"?s(2).HasTextFrame", "-1\n"},
+        {"?True", "True\n"},
+        {"s.AddShpe 1", "column 3: error 438 Shapes has no member 'AddShpe': AddShape? [K73053] (members x lists"},
+        {"s(2).Width", ""},
+        {"s(2).Count = 1", "Shape has no member 'Count' to be set"},
+        {"q.Left = 1", "'q' is neither a variable nor a member"},
+        {"s(7).Delete", "error 80048240 "},
+        {"members PowerPoint", "KillAtCall() "},
+        {"check",
+         reads + "the letter \"A\": ErreurGenerale False, CauseErreur \"A\", BravoNuance False, Complement empty"},
+        {"s.AddShape msoShapeRectangle, 20, 20, 100, 60 ' a move", ""},
+        {"check", "To have the same moves judged afresh, say again"},
+        {"again", "prepared anew, and 3 moves made once more.\n"},
+        {"expect s.Count = 4", ""},
+        {"expect s.Count = 5", "expected 5, found 4"},
+        {"expect error 438:\n  s.Gone", ""},
+        {"check \"B\"", "Expected was the letter \"B\".\n"},
+        {"show", "shape 4 \"Rectangle 7\"\n"},
+        {"save " + file("mine.scn") + " \"a rectangle\"", "with 5 moves and 1 check.\n"},
+        {"save " + file("mine.scn"), "is there already"},
+        {"save! " + file("mine.scn"), "with 5 moves and 1 check.\n"},
+        {"save " + file("nowhere/mine.scn"), "cannot be written"},
+        {"export " + file("mine.ppt"), "The presentation is in "},
+        {"PowerPoint.Kill", ""},
+        {"?ActivePresentation",
+         "error 429 PowerPoint does not run [exercise-host] (undo prepares the question anew)\n"},
+        {"undo", "prepared anew, without the 6 moves made.\n"},
+        {"check success", "Scenarios that end so: \"nothing drawn\""},
+        {"?s", "'s' is neither a variable"},
+        {"# a remark", ""},
+    };
+    std::string typed;
+    for (const Exchange& exchange : exchanges) {
+        typed += exchange.typed + "\n?\"--\"\n";
+    }
+    std::string said = talk(typed + "quit\nwhat follows is not read\n");
+    for (const Exchange& exchange : exchanges) {
+        const std::string mark = "--\n";
+        const std::size_t end = said.find(mark);
+        ASSERT_NE(end, std::string::npos) << exchange.typed;
+        const std::string answer = said.substr(0, end);
+        said.erase(0, end + mark.size());
+        if (&exchange == &exchanges.front()) {
+            EXPECT_TRUE(answer.starts_with("Question 314: draw one basic AutoShape"));
+            EXPECT_NE(answer.find("shape 2 \"Text Box 3\" ZOR2\n"), std::string::npos) << answer;
+        }
+        EXPECT_TRUE(exchange.answered.empty() ? answer.empty() : answer.find(exchange.answered) != std::string::npos)
+            << exchange.typed << "\nis answered\n"
+            << answer;
+    }
+    EXPECT_EQ(said, "The question is closed, and everything is as it was before.\n");
+    EXPECT_EQ(verify(file("mine.scn")), "1 passed, 0 failed\n");
+    EXPECT_EQ(recheck(file("mine.ppt")), "Question 314: a success\n");
+}
+
+TEST_F(TryTest, TheEndOfTheInputLeavesNothingBehindAndWhatIsLeftIsSaid) {
+    const std::size_t alive = automation::Object::alive();
+    EXPECT_TRUE(talk("Set s = ActivePresentation.Slides(1)\nexpect error 9:").ends_with("is as it was before.\n"));
+    EXPECT_EQ(automation::Object::alive(), alive);
+    const std::string said =
+        talk("Registry.RecentFolder(\"Default\") = \"D:\\\"\nFiles.MakeReadOnly \"x\"\nHost.Fermer\n"
+             "Registry.RecentFolder(\"Default\") = \"D:\\\"\n",
+             ExitCode::FellShort);
+    EXPECT_NE(said.find("Not as it was before: the learner's folder Default was \""), std::string::npos) << said;
+    EXPECT_EQ(automation::Object::alive(), alive);
+}
+
+} // namespace
