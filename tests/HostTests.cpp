@@ -42,7 +42,8 @@ protected:
 
     std::string verify(ExitCode expected) {
         std::ostringstream out;
-        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out), expected);
+        host::Progress nobody;
+        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out, nobody), expected);
         return out.str();
     }
     std::string run(const host::RunRequest& request, ExitCode expected) {

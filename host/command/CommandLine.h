@@ -15,8 +15,8 @@ struct Output {
 };
 
 /// Does what the arguments of a command line say (the program's name left out). `scenarios` is the folder of the
-/// scenario files where the command line names no other. `makeComWorlds` makes what `--powerpoint` asks for, where there is
-/// such a thing.
+/// scenario files where the command line names no other. `makeComWorlds` makes what `--powerpoint` asks for, where
+/// there is such a thing.
 [[nodiscard]] ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::filesystem::path& scenarios,
                                       const std::string& version, const WorldMaker& makeWorld, Output output,
                                       const ComWorldsMaker& makeComWorlds = nullptr);

@@ -89,6 +89,7 @@ struct Scenario {
 struct ScenarioFile {
     std::string name;
     std::int32_t question = 0;
+    std::u16string subject;        ///< the comment at its head, on one line
     std::vector<Statement> course; ///< statements that build the presentation delivered
     std::vector<Scenario> scenarios;
 };

@@ -48,8 +48,23 @@ private:
             const std::vector<Token> tokens = tokenize(line, number);
             if (tokens.size() > 1) {
                 content(line, tokens);
+            } else if (file_.question == 0) {
+                head(line);
             }
         });
+    }
+
+    /// A comment before all else says what the file is about.
+    void head(std::u16string_view line) {
+        const std::size_t sign = line.find(u'#');
+        if (sign == std::u16string_view::npos) {
+            return;
+        }
+        const std::size_t first = line.find_first_not_of(u"# ", sign);
+        const std::size_t last = line.find_last_not_of(u" \r");
+        if (first < last) {
+            file_.subject += (file_.subject.empty() ? u"" : u" ") + std::u16string(line.substr(first, last + 1 - first));
+        }
     }
 
     void content(std::u16string_view line, const std::vector<Token>& tokens) {

@@ -159,6 +159,14 @@ constexpr auto rows = std::to_array<OutlineRow>({
     {114, box, accent}, //
     {115, box, accent}, //
     {116, box, accent}, //
+    {117, box, leader}, //
+    {118, box, leader}, //
+    {119, box, leader}, //
+    {120, box, leader}, //
+    {121, box, accent}, //
+    {122, box, accent}, //
+    {123, box, accent}, //
+    {124, box, accent}, //
     {125, box, bevel},  // buttons
     {126, box, bevel},  //
     {127, box, bevel},  //

@@ -30,18 +30,21 @@ Markup::Attributes turnOf(const Shape& shape) {
                               number(middleY(shape.frame())) + ")"}};
 }
 
-Markup::Attributes flipOf(const Shape& shape) {
+/// The mirror in which a shape's outline is seen; nothing where it is not flipped.
+std::string mirrorOf(const Shape& shape) {
     if (!shape.horizontalFlip && !shape.verticalFlip) {
         return {};
     }
     const Frame& frame = shape.frame();
-    return {{"transform", "translate(" + number(shape.horizontalFlip ? 2 * middleX(frame) : 0) + " " +
-                              number(shape.verticalFlip ? 2 * middleY(frame) : 0) + ") scale(" +
-                              (shape.horizontalFlip ? "-1 " : "1 ") + (shape.verticalFlip ? "-1)" : "1)")}};
+    return "translate(" + number(shape.horizontalFlip ? 2 * middleX(frame) : 0) + " " +
+           number(shape.verticalFlip ? 2 * middleY(frame) : 0) + ") scale(" + (shape.horizontalFlip ? "-1 " : "1 ") +
+           (shape.verticalFlip ? "-1)" : "1)");
 }
 
-Markup::Attributes moved(float x, float y) {
-    return {{"transform", "translate(" + number(x) + " " + number(y) + ")"}};
+/// The transformation by which something is moved, and mirrored where it has to be.
+Markup::Attributes moved(float x, float y, const std::string& mirror = {}) {
+    std::string all = x == 0 && y == 0 ? mirror : "translate(" + number(x) + " " + number(y) + ")" + mirror;
+    return all.empty() ? Markup::Attributes() : Markup::Attributes{{"transform", std::move(all)}};
 }
 
 bool isSeen(const Shape& shape) noexcept {
@@ -105,15 +108,15 @@ void ShapePicture::drawLeaf(const Shape& shape) {
 
 void ShapePicture::drawBody(const Shape& shape) {
     const Outline outline = outlineOf(shape);
-    const Markup::Element flipped = out_.element("g", flipOf(shape));
+    const Markup::Attributes mirror = moved(0, 0, mirrorOf(shape));
     drawShadow(shape, outline);
     drawDepth(shape, outline);
     const Markup::Attributes fill = outline.isOpen ? Markup::Attributes{{"fill", "none"}}
                                                    : joined(paint_.fill(shape.fill), {{"fill-rule", "evenodd"}});
     const Markup::Attributes line = paint_.line(shape.line);
-    out_.leaf("path", joined(joined({{"d", outline.path}}, fill), line));
+    out_.leaf("path", joined(joined(joined({{"d", outline.path}}, fill), line), mirror));
     if (!outline.detail.empty()) {
-        out_.leaf("path", joined({{"d", outline.detail}, {"fill", "none"}}, line));
+        out_.leaf("path", joined(joined({{"d", outline.detail}, {"fill", "none"}}, line), mirror));
     }
     if (!outline.isKnown) {
         drawLabel(shape, "AutoShape " + std::to_string(shape.autoShapeType));
@@ -126,7 +129,7 @@ void ShapePicture::drawShadow(const Shape& shape, const Outline& outline) {
     }
     const std::string color = paint_.color(shape.shadow.color);
     const bool isFilled = shape.fill.visible && !outline.isOpen;
-    out_.leaf("path", joined(moved(shape.shadow.offsetX, shape.shadow.offsetY),
+    out_.leaf("path", joined(moved(shape.shadow.offsetX, shape.shadow.offsetY, mirrorOf(shape)),
                              {{"d", outline.path},
                               {"fill", isFilled ? color : "none"},
                               {"stroke", isFilled && !shape.line.visible ? "none" : color},
@@ -144,10 +147,11 @@ void ShapePicture::drawDepth(const Shape& shape, const Outline& outline) {
     const float step = shape.threeD.depth * share / layers;
     for (int layer = layers; layer > 0; --layer) {
         const float shift = step * static_cast<float>(layer);
-        out_.leaf("path", joined(moved(shift, -shift), {{"d", outline.path},
-                                                        {"fill", outline.isOpen ? "none" : side},
-                                                        {"stroke", side},
-                                                        {"stroke-width", number(std::max(step, 1.0F))}}));
+        out_.leaf("path",
+                  joined(moved(shift, -shift, mirrorOf(shape)), {{"d", outline.path},
+                                                                 {"fill", outline.isOpen ? "none" : side},
+                                                                 {"stroke", side},
+                                                                 {"stroke-width", number(std::max(step, 1.0F))}}));
     }
 }
 
@@ -163,10 +167,14 @@ void ShapePicture::drawPicture(const Shape& shape) {
 }
 
 void ShapePicture::drawLabel(const Shape& shape, std::string_view text) {
+    constexpr float largest = 12;
+    constexpr float widthOfCharacter = 0.6F; ///< of the font size
+    const float size = std::min(
+        largest, shape.frame().width / (static_cast<float>(std::max<std::size_t>(text.size(), 1)) * widthOfCharacter));
     out_.leaf("text",
               {{"x", number(middleX(shape.frame()))},
-               {"y", number(middleY(shape.frame()) + 3)},
-               {"font-size", "9"},
+               {"y", number(middleY(shape.frame()) + size / 3)},
+               {"font-size", number(size)},
                {"text-anchor", "middle"},
                {"fill", "#333"}},
               text);

@@ -15,7 +15,7 @@ std::string drawSlide(const Presentation& presentation, const Slide& slide, cons
                                 {"viewBox", "0 0 " + width + " " + height},
                                 {"width", wanted.width > 0 ? std::to_string(wanted.width) : width},
                                 {"height", wanted.height > 0 ? std::to_string(wanted.height) : height},
-                                {"font-family", "Arial, Liberation Sans, sans-serif"}});
+                                {"font-family", "Arial, Liberation Sans, Helvetica, sans-serif"}});
         out.leaf("title", {}, automation::toUtf8(slide.name));
         out.leaf("path", {{"d", "M0 0H" + width + "V" + height + "H0Z"},
                           {"fill", hex(Color::of(ppBackground).in(presentation.colors))}});
