@@ -71,12 +71,22 @@ std::int32_t shownIn(const LateBound& presentation, const Exposure& exposure) {
     }
 }
 
+bool hasChanged(std::int32_t id, const Exposure& before, const Exposure& after) {
+    const Picture* const former = before.find(id);
+    const Picture* const now = after.find(id);
+    return former != nullptr && now != nullptr && *former != *now;
+}
+
 /// The id of the slide on which something happened; 0 where nothing did.
 std::int32_t changedSlide(const Exposure& before, const Exposure& after) {
-    for (const auto& [id, picture] : after.slides) {
-        const Picture* const former = before.find(id);
-        if (former != nullptr && *former != picture) {
-            return id;
+    for (const std::int32_t shown : {after.shown, before.shown}) {
+        if (hasChanged(shown, before, after)) {
+            return shown;
+        }
+    }
+    for (const Exposure::Slide& slide : after.slides) {
+        if (hasChanged(slide.id, before, after)) {
+            return slide.id;
         }
     }
     for (const auto& [one, other] : {std::pair(&after, &before), std::pair(&before, &after)}) {

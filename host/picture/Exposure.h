@@ -39,8 +39,8 @@ struct BeforeAfter {
     Picture after;
 };
 
-/// The slide that tells best what happened: the first that changed, came or went; where all are the same, the one
-/// shown. Where it was not there, the slide that was shown instead stands for it.
+/// The slide that tells best what happened: the one shown where it has changed, else the first that changed, came or
+/// went; where all are the same, the one shown. Where it was not there, the slide that was shown instead stands for it.
 [[nodiscard]] BeforeAfter tellingSlide(const Exposure& before, const Exposure& after);
 
 } // namespace host

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 
 namespace host::report {
 
@@ -52,11 +53,10 @@ std::vector<Letter> lettersOf(const FileResult& file) {
             }
         }
     }
+    std::stable_sort(all.begin(), all.end(), [](const Letter& left, const Letter& right) {
+        return std::tie(left.isGeneral, left.letter) < std::tie(right.isGeneral, right.letter);
+    });
     return all;
-}
-
-bool isPlainSuccess(const Reading& reading) noexcept {
-    return !reading.error && !reading.erreurGenerale && reading.causeErreur.empty();
 }
 
 } // namespace host::report

@@ -12,10 +12,7 @@ struct Letter {
     std::vector<std::size_t> reachedBy; ///< places of the scenarios in their file, from 0; none where none does
 };
 
-/// The letters of a question in their order, and what else was read in its scenarios.
+/// The letters of a question and what else was read in its scenarios: first its own, then general errors.
 [[nodiscard]] std::vector<Letter> lettersOf(const FileResult& file);
-
-/// True where the host reads a success without a remark.
-[[nodiscard]] bool isPlainSuccess(const Reading& reading) noexcept;
 
 } // namespace host::report

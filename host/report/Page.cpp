@@ -14,6 +14,30 @@ std::string counted(std::size_t number, const std::string& what) {
     return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
+/// A number with its thousands apart.
+std::string grouped(std::size_t number) {
+    std::string text = std::to_string(number);
+    for (std::size_t place = text.size(); place > 3;) {
+        place -= 3;
+        text.insert(place, "\u202F");
+    }
+    return text;
+}
+
+std::string inSeconds(std::chrono::nanoseconds time) {
+    return simulator::picture::number(static_cast<float>(milliseconds(time) / 1000)) + " s";
+}
+
+/// What a file is about, without the number that stands beside it.
+std::string subjectOf(const FileResult& file) {
+    const std::string number = "Question " + std::to_string(file.question) + ": ";
+    std::string subject = file.subject.starts_with(number) ? file.subject.substr(number.size()) : file.subject;
+    if (!subject.empty() && subject.front() >= 'a' && subject.front() <= 'z') {
+        subject.front() = static_cast<char>(subject.front() - 'a' + 'A');
+    }
+    return subject;
+}
+
 std::string inMilliseconds(std::chrono::nanoseconds time) {
     return simulator::picture::number(static_cast<float>(milliseconds(time))) + " ms";
 }
@@ -69,9 +93,9 @@ private:
             writeTotal(totals_.failed == 0 ? "" : "bad", std::to_string(totals_.failed), "failed");
             writeTotal("", std::to_string(report_.size()), report_.size() == 1 ? "file" : "files");
             if (totals_.calls != 0) {
-                writeTotal("", std::to_string(totals_.calls), "calls of the module");
+                writeTotal("", grouped(totals_.calls), "calls of the module");
             }
-            writeTotal("", inMilliseconds(totals_.time), "in the module");
+            writeTotal("", inSeconds(totals_.time), "in the module");
         }
         if (totals_.failed != 0) {
             writeFallen();
@@ -121,7 +145,7 @@ private:
     void writeRow(const FileResult& file, const std::vector<Letter>& letters) {
         const Markup::Element row = out_.element("summary");
         out_.leaf("span", {{"class", "number"}}, file.isQuestion() ? std::to_string(file.question) : file.name());
-        out_.leaf("span", {{"class", "subject"}}, file.subject);
+        out_.leaf("span", {{"class", "subject"}}, subjectOf(file));
         {
             const Markup::Element list = out_.element("span", {{"class", "letters"}});
             for (const Letter& letter : letters) {
@@ -135,12 +159,14 @@ private:
     }
 
     void writeLetter(const Letter& letter) {
-        const bool isReached = !letter.reachedBy.empty();
-        out_.leaf("span",
-                  {{"class", isReached ? "letter" : "letter missed"},
-                   {"title", isReached ? "reached by " + counted(letter.reachedBy.size(), "scenario")
-                                       : "no scenario reaches it"}},
-                  letter.letter);
+        const std::string times = counted(letter.reachedBy.size(), "scenario");
+        if (letter.reachedBy.empty()) {
+            out_.leaf("span", {{"class", "letter missed"}, {"title", "no scenario reaches it"}}, letter.letter);
+        } else if (letter.isGeneral) {
+            out_.leaf("span", {{"class", "letter general"}, {"title", "a general error, in " + times}}, letter.letter);
+        } else {
+            out_.leaf("span", {{"class", "letter"}, {"title", "in " + times}}, letter.letter);
+        }
     }
 
     /// Which scenarios reach which letter.
@@ -233,7 +259,7 @@ private:
 
     void writeSlides(const BeforeAfter& slide) {
         const bool isUnchanged = slide.before == slide.after;
-        const Markup::Element pair = out_.element("div", {{"class", isUnchanged ? "slides one" : "slides"}});
+        const Markup::Element pair = out_.element("div", {{"class", "slides"}});
         if (isUnchanged) {
             writeSlide(slide.before, "Before and after");
         } else {

@@ -40,7 +40,7 @@ details.file { margin: 0 0 .5rem; border: 1px solid var(--line); border-radius: 
 summary { cursor: pointer; list-style: none; }
 summary::-webkit-details-marker { display: none; }
 .file > summary {
-  display: grid; grid-template-columns: 4.5rem minmax(0, 1fr) minmax(0, 18rem) auto; gap: .25rem 1rem;
+  display: grid; grid-template-columns: 4.5rem minmax(0, 1fr) minmax(0, 18rem) 8rem; gap: .25rem 1rem;
   align-items: center; padding: .7rem 1rem;
 }
 .number { font-weight: 650; font-variant-numeric: tabular-nums; }
@@ -52,7 +52,8 @@ summary::-webkit-details-marker { display: none; }
   display: inline-block; min-width: 1.6rem; padding: 0 .35rem; border-radius: 6px; text-align: center;
   font-size: .85rem; line-height: 1.5rem; font-weight: 600; background: var(--good-paper); color: var(--good);
 }
-.letter.missed { background: none; color: var(--quiet); box-shadow: inset 0 0 0 1px var(--quiet); font-weight: 400; }
+.letter.general { background: var(--paper); color: var(--quiet); box-shadow: inset 0 0 0 1px var(--line); }
+.letter.missed { background: none; color: var(--quiet); border: 1px dashed var(--quiet); line-height: calc(1.5rem - 2px); font-weight: 400; }
 .inside { padding: .25rem 1rem 1rem; border-top: 1px solid var(--line); }
 .reach { display: grid; grid-template-columns: auto minmax(0, 1fr); gap: .35rem .75rem; margin: .75rem 0 1rem; }
 .reach dt, .reach dd { margin: 0; }
@@ -70,7 +71,6 @@ details.scenario { border-top: 1px solid var(--line); }
 code { font: .86rem/1.55 ui-monospace, "SF Mono", Menlo, Consolas, monospace; white-space: pre-wrap; }
 .reading { margin: .5rem 0 0; font-size: .9rem; }
 .slides { display: grid; grid-template-columns: repeat(2, minmax(0, 1fr)); gap: .6rem; align-self: start; }
-.slides.one { grid-template-columns: minmax(0, 1fr); max-width: 20rem; }
 figure { margin: 0; }
 figure svg { display: block; width: 100%; height: auto; border: 1px solid var(--line); border-radius: 4px; background: #fff; }
 figcaption { margin-top: .2rem; color: var(--quiet); font-size: .85rem; }

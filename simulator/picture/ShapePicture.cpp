@@ -99,9 +99,9 @@ void ShapePicture::drawLeaf(const Shape& shape) {
     if (isEmptyPlaceholder(shape)) {
         out_.leaf("path", {{"d", rectangle(shape.frame())},
                            {"fill", "none"},
-                           {"stroke", "#999"},
-                           {"stroke-width", "0.75"},
-                           {"stroke-dasharray", "3 3"}});
+                           {"stroke", "#888"},
+                           {"stroke-width", "1.5"},
+                           {"stroke-dasharray", "4 4"}});
     }
     drawText(shape, paint_, out_);
 }
@@ -182,15 +182,15 @@ void ShapePicture::drawLabel(const Shape& shape, std::string_view text) {
 
 void ShapePicture::markSelected(const Shape& shape) {
     constexpr float reach = 2;  ///< of the frame beyond the shape
-    constexpr float handle = 5; ///< side of a handle
+    constexpr float handle = 9; ///< side of a handle
     const Frame& inner = shape.frame();
     const Frame frame{inner.left - reach, inner.top - reach, inner.width + 2 * reach, inner.height + 2 * reach};
     const Markup::Element group = out_.element("g", turnOf(shape));
     out_.leaf("path", {{"d", rectangle(frame)},
                        {"fill", "none"},
-                       {"stroke", "#555"},
-                       {"stroke-width", "1.2"},
-                       {"stroke-dasharray", "4 2"}});
+                       {"stroke", "#1d5fa8"},
+                       {"stroke-width", "1.8"},
+                       {"stroke-dasharray", "5 3"}});
     std::string handles;
     for (int column = 0; column <= 2; ++column) {
         for (int row = 0; row <= 2; ++row) {
@@ -201,7 +201,7 @@ void ShapePicture::markSelected(const Shape& shape) {
             }
         }
     }
-    out_.leaf("path", {{"d", handles}, {"fill", "#fff"}, {"stroke", "#222"}, {"stroke-width", "0.9"}});
+    out_.leaf("path", {{"d", handles}, {"fill", "#fff"}, {"stroke", "#1d5fa8"}, {"stroke-width", "1.5"}});
 }
 
 } // namespace simulator::picture

@@ -107,6 +107,12 @@ private:
                                                            : isRight  ? width
                                                                       : 0))},
                                       {"y", number(baseline)}};
+        constexpr float nearlyFull = 0.7F;
+        if (story_.layout.wordWrap && row.width > width * nearlyFull) {
+            // Whatever font stands in for the one named: the row was measured to fit.
+            attributes.emplace_back("textLength", number(row.width));
+            attributes.emplace_back("lengthAdjust", "spacingAndGlyphs");
+        }
         if (isCentered || isRight) {
             attributes.emplace_back("text-anchor", isCentered ? "middle" : "end");
         }
