@@ -42,7 +42,8 @@ protected:
 
     std::string verify(ExitCode expected) {
         std::ostringstream out;
-        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out), expected);
+        host::Progress nobody;
+        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out, nobody), expected);
         return out.str();
     }
     std::string run(const host::RunRequest& request, ExitCode expected) {
@@ -168,7 +169,7 @@ TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
     write(std::string(course) + success +
           "scenario \"three\"\nActivePresentation.Slides(1).Shapes(1).TextFrame."
           "TextRange.Text = \"créer créer créer\"\ncheck \"C\" complement \" 3\"\n");
-    const auto object = nlohmann::json::parse(run({306, "three", true, true, {}}, ExitCode::Good));
+    const auto object = nlohmann::json::parse(run({306, "three", true, true, {}, {}}, ExitCode::Good));
     EXPECT_EQ(object["CauseErreur"], "C");
     EXPECT_EQ(object["ErreurGenerale"], false);
     EXPECT_EQ(object["BravoNuance"], false);

@@ -30,7 +30,10 @@ protected:
     /// What a command of the host answers about a file.
     std::string verify(const std::string& file) const {
         std::ostringstream out;
-        EXPECT_EQ(host::verify({{}, {file}}, library_, host::makeEmbeddedWorld, out), ExitCode::Good);
+        host::Progress nobody;
+        host::VerifyRequest request;
+        request.files = {file};
+        EXPECT_EQ(host::verify(request, library_, host::makeEmbeddedWorld, out, nobody), ExitCode::Good);
         return out.str();
     }
     std::string recheck(const std::string& file) const {

@@ -91,7 +91,8 @@ bool printGrowth(const WorldMaker& makeWorld, std::ostream& out) {
     return isGood;
 }
 
-bool printLongRun(const BenchRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
+bool printLongRun(const BenchRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out,
+                  Progress& progress) {
     std::vector<language::ScenarioFile> files;
     for (const std::filesystem::path& path : library.filesOf(request.questions)) {
         files.push_back(load(path));
@@ -102,7 +103,9 @@ bool printLongRun(const BenchRequest& request, const Library& library, const Wor
         courses.push_back({file, Course(file, makeWorld)});
     }
     out << "Questions in one process, with one module and one PowerPoint\n\nquestions  resident kB  live objects\n";
-    const std::vector<bench::Holding> holdings = bench::longRun(courses, request.runs, makeWorld);
+    const std::vector<bench::Holding> holdings = bench::longRun(
+        courses, request.runs, makeWorld, [&](std::size_t done) { progress.at("questions", done, request.runs); });
+    progress.clear();
     bool isGood = !holdings.empty();
     for (const bench::Holding& holding : holdings) {
         out << std::setw(9) << holding.questions << std::setw(13)
@@ -121,12 +124,13 @@ bool printLongRun(const BenchRequest& request, const Library& library, const Wor
 
 } // namespace
 
-ExitCode runBench(BenchRequest request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
+ExitCode runBench(BenchRequest request, const Library& library, const WorldMaker& makeWorld, std::ostream& out,
+                  Progress& progress) {
     if (request.questions.empty()) {
         request.questions = Library::questions();
     }
     if (request.runs != 0) {
-        return printLongRun(request, library, makeWorld, out) ? ExitCode::Good : ExitCode::FellShort;
+        return printLongRun(request, library, makeWorld, out, progress) ? ExitCode::Good : ExitCode::FellShort;
     }
     printQuestions(request.questions, library, makeWorld, out);
     return printGrowth(makeWorld, out) ? ExitCode::Good : ExitCode::FellShort;

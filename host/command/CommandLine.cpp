@@ -17,6 +17,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify                   all scenarios of all questions
   exercise-host verify 306 307
   exercise-host verify --file mine.scn   a scenario file of your own
+  exercise-host verify --report F.html   a page of all scenarios, with pictures of the slides
+  exercise-host run 315 --picture DIR    the slide before and after, as SVG
   exercise-host run 306 --course DIR     on the course's own files
   exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
@@ -46,6 +48,7 @@ struct CommandLine {
         run.add_flag("--json", runRequest.asJson, "Print one JSON object");
         run.add_flag("--trace", runRequest.withTrace, "List every call that leaves the module, its time and outcome");
 
+        run.add_option("--picture", runRequest.pictures, "Folder for pictures of the slide before and after");
         run.add_option("--course", runRequest.course, "Folder of the course's own files (07305306.ppt ...)");
 
         tryOut.add_option("question", tried, "Number of the question")->required()->transform(questionNumber);
@@ -59,6 +62,9 @@ struct CommandLine {
         verify.add_option("questions", verifyRequest.questions, "Numbers of questions (all)")
             ->transform(questionNumber);
         verify.add_option("--file", verifyRequest.files, "A scenario file");
+        verify.add_option("--report", verifyRequest.page, "Write a page of all scenarios, with pictures (F.html)");
+        verify.add_option("--junit", verifyRequest.junit, "Write a report as build servers read it (F.xml)");
+        verify.add_option("--json", verifyRequest.json, "Write a report as JSON (F.json)");
 
         list.add_option("questions", listed, "Numbers of questions (all)")->transform(questionNumber);
 
@@ -111,6 +117,7 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, const Li
                  Output output) {
     try {
         const Library library(asked.folder);
+        Progress progress(output.error, output.isTerminal);
         if (asked.app.get_subcommands().empty()) {
             throw UsageError("run, try, verify, list, torture or bench? See exercise-host --help");
         }
@@ -124,13 +131,12 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, const Li
             return recheck(asked.recheckRequest, library, makeWorld, output.out);
         }
         if (asked.torture) {
-            return runTorture(asked.tortureRequest, library, makeWorld, output.out,
-                              output.isTerminal ? &output.error : nullptr);
+            return runTorture(asked.tortureRequest, library, makeWorld, output.out, progress);
         }
         if (asked.bench) {
-            return runBench(asked.benchRequest, library, makeWorld, output.out);
+            return runBench(asked.benchRequest, library, makeWorld, output.out, progress);
         }
-        return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out)
+        return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out, progress)
                             : list(asked.listed, library, output.out);
     } catch (const language::WrongLines& wrong) {
         for (const language::Remark& remark : wrong.remarks) {
@@ -157,6 +163,7 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::fi
         output.error << "exercise-host: --powerpoint needs Windows; here only the embedded PowerPoint runs\n";
         return ExitCode::WrongUsage;
     }
+    line.verifyRequest.countsCalls = !line.withPowerPoint;
     const ExitCode code =
         perform(line, line.withPowerPoint ? makeComWorlds(line.powerPointBits) : makeWorld, makeLines, output);
     if (!output.out.flush()) {
