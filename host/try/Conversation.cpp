@@ -94,6 +94,7 @@ bool Conversation::run() {
         printContents(attempt_->world().application(), out_);
     } catch (const automation::Error& error) {
         out_ << "The question cannot be prepared: " << inWords(error) << '\n';
+        static_cast<void>(close());
         return false;
     }
     out_ << "State the learner's moves as a macro would, and check; help tells the rest.\n";
@@ -111,12 +112,20 @@ bool Conversation::run() {
 }
 
 void Conversation::begin() {
+    if (attempt_) {
+        static_cast<void>(attempt_->close()); // what is amiss is of moves that are taken back
+    }
     attempt_.reset(); // where PowerPoint is the one on the desktop, there cannot be two
+    isOver_ = true;
     attempt_.emplace(file_.question, course_, makeWorld_);
+    isOver_ = false;
 }
 
 bool Conversation::close() {
-    const std::vector<std::string> findings = attempt_ ? attempt_->close() : std::vector<std::string>();
+    if (!attempt_) {
+        return false;
+    }
+    const std::vector<std::string> findings = attempt_->close();
     attempt_.reset();
     for (const std::string& finding : findings) {
         out_ << "Not as it was before: " << finding << '\n';
@@ -131,11 +140,13 @@ void Conversation::obey(const std::string& line) {
     const std::string rest = trimmed(line.substr(stop));
     const auto& all = verbs();
     const auto verb = std::find_if(all.begin(), all.end(), [&](const Verb& each) {
-        return each.act != nullptr && each.name == word && each.takesRest == !rest.empty();
+        return each.act != nullptr && each.name == word && (each.takesRest || rest.empty());
     });
     try {
         if (line.starts_with('?')) {
             print(" " + line.substr(1)); // columns count in the line
+        } else if (verb != all.end() && verb->takesRest && rest.empty()) {
+            out_ << "For example: " << verb->name << ' ' << verb->rest << '\n';
         } else if (verb != all.end()) {
             (this->*verb->act)(rest);
         } else if (!line.empty() && line.front() != '#' && line.front() != '\'') {
