@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <ostream>
 
 namespace host {
@@ -41,13 +42,13 @@ fs::path pathOf(const std::string& name) {
 }
 
 /// Writes a file, which must not be there unless it may be replaced.
-void writeFile(const std::string& name, std::span<const char> content, bool replaces) {
+void writeFile(const std::string& name, const Bytes& content, bool replaces) {
     const fs::path path = pathOf(name);
     if (!replaces && fs::exists(path)) {
         throw std::runtime_error(name + " is there already: name another file, or say save! to replace it");
     }
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    std::copy(content.begin(), content.end(), std::ostreambuf_iterator<char>(file));
     if (!file.flush()) {
         throw std::runtime_error(name + " cannot be written: is there such a folder, and may you write there?");
     }
@@ -238,7 +239,8 @@ void Conversation::saveAs(const std::string& rest, bool replaces) {
     const std::string name = trimmed(rest.substr(0, quote));
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    writeFile(name, scenarioText(file_, title, attempt_->moves()), replaces);
+    const std::string text = scenarioText(file_, title, attempt_->moves());
+    writeFile(name, Bytes(text.begin(), text.end()), replaces);
     out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with "
          << howMany(attempt_->moves().size() - attempt_->checks(), "move") << " and "
          << howMany(attempt_->checks(), "check") << ".\n";
@@ -248,8 +250,7 @@ void Conversation::saveAs(const std::string& rest, bool replaces) {
 }
 
 void Conversation::exportTo(const std::string& file) {
-    const Bytes content = attempt_->presentation();
-    writeFile(file, {reinterpret_cast<const char*>(content.data()), content.size()}, true);
+    writeFile(file, attempt_->presentation(), true);
     out_ << "The presentation is in " << file << ".\n";
 }
 
