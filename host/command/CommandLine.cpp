@@ -113,10 +113,22 @@ struct CommandLine {
     CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
-ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, const LineReaderMaker& makeLines,
-                 Output output) {
+/// What the command is to run in. Raises UsageError where there is no such thing.
+WorldMaker worldsFor(const CommandLine& asked, const WorldMaker& embedded, const ComWorldsMaker& makeComWorlds) {
+    if (!asked.withPowerPoint) {
+        return embedded;
+    }
+    if (makeComWorlds == nullptr) {
+        throw UsageError("--powerpoint needs Windows; here only the embedded PowerPoint runs");
+    }
+    return makeComWorlds(asked.powerPointBits);
+}
+
+ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const ComWorldsMaker& makeComWorlds,
+                 const LineReaderMaker& makeLines, Output output) {
     try {
         const Library library(asked.folder);
+        const WorldMaker makeWorld = worldsFor(asked, embedded, makeComWorlds);
         Progress progress(output.error, output.isTerminal);
         if (asked.app.get_subcommands().empty()) {
             throw UsageError("run, try, verify, list, torture or bench? See exercise-host --help");
@@ -159,13 +171,8 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::fi
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    if (line.withPowerPoint && makeComWorlds == nullptr) {
-        output.error << "exercise-host: --powerpoint needs Windows; here only the embedded PowerPoint runs\n";
-        return ExitCode::WrongUsage;
-    }
     line.verifyRequest.countsCalls = !line.withPowerPoint;
-    const ExitCode code =
-        perform(line, line.withPowerPoint ? makeComWorlds(line.powerPointBits) : makeWorld, makeLines, output);
+    const ExitCode code = perform(line, makeWorld, makeComWorlds, makeLines, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";
         return ExitCode::WrongUsage;

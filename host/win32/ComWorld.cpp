@@ -13,6 +13,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <stdexcept>
 
 namespace host {
 
@@ -55,6 +56,21 @@ struct Desktop {
     Standby standby;
     std::int32_t demandedBits = 0; ///< of PowerPoint; 0 once they are known to be right, or where any will do
 };
+
+/// Refuses where one of the two is missing that are to be driven.
+void requireRegistered() {
+    CLSID id{};
+    if (FAILED(CLSIDFromProgID(simulator::standin::programmaticIds[0], &id))) {
+        throw std::runtime_error("PowerPoint is not registered on this machine: install it, or leave --powerpoint out");
+    }
+    automation::com::ComPtr<IUnknown> factory;
+    if (FAILED(CLSIDFromProgID(L"K73053.Module", &id)) ||
+        FAILED(CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IUnknown,
+                                reinterpret_cast<void**>(factory.receive())))) {
+        throw std::runtime_error("K73053.dll is not registered for programs of " + std::to_string(8 * sizeof(void*)) +
+                                 " bits: regsvr32 K73053.dll does that, or leave --powerpoint out");
+    }
+}
 
 /// True where the registered library, if it is loaded, says that nobody holds anything of it.
 bool canLibraryUnload() {
@@ -229,6 +245,7 @@ private:
 
 WorldMaker makeComWorlds(std::int32_t powerPointBits) {
     auto shared = std::make_shared<Desktop>();
+    requireRegistered();
     shared->demandedBits = powerPointBits;
     return [desktop = std::move(shared)](const automation::ObserverPtr& observer) -> WorldPtr {
         if (observer) {

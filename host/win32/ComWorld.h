@@ -10,7 +10,8 @@ namespace host {
 /// Opening dialogs, being busy and being uninstalled are asked of the stand-in alone. The calling thread enters COM for
 /// as long as the maker lives; a PowerPoint that runs already must be the stand-in, and is ended. Worlds raise where
 /// they are to observe the calls of the library, which nobody outside can, and where the PowerPoint that is registered
-/// is not a stand-in of so many bits; 0 takes any.
+/// is not a stand-in of so many bits; 0 takes any. Throws std::runtime_error where PowerPoint or the library is not
+/// registered.
 [[nodiscard]] WorldMaker makeComWorlds(std::int32_t powerPointBits);
 
 } // namespace host
