@@ -1,7 +1,6 @@
 #include "simulator/files/drawing/PresetSeal.h"
 
 #include "simulator/files/Bytes.h"
-#include "simulator/files/drawing/ShapeReader.h"
 #include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
 

@@ -2,9 +2,11 @@
 
 #include "simulator/files/Bytes.h"
 #include "simulator/files/drawing/PropertyIds.h"
+#include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 namespace simulator::drawing {
 
@@ -69,6 +71,19 @@ void PropertyTable::put(Property property) {
     properties_.insert(after, std::move(property));
 }
 
+void PropertyTable::merge(const PropertyTable& other) {
+    std::map<std::uint16_t, Property> merged;
+    for (const PropertyTable* const table : {static_cast<const PropertyTable*>(this), &other}) {
+        for (const Property& property : table->properties_) {
+            merged[property.id] = property;
+        }
+    }
+    properties_.clear();
+    for (auto& [id, property] : merged) {
+        properties_.push_back(std::move(property));
+    }
+}
+
 void PropertyTable::remove(std::uint16_t id) noexcept {
     std::erase_if(properties_, [id](const Property& property) { return property.id == id; });
 }
@@ -100,6 +115,18 @@ records::Record PropertyTable::record(std::uint16_t type) const {
     }
     out.append(rest_);
     return records::Record::atom(type, out.take(), static_cast<std::uint16_t>(properties_.size()), tableVersion);
+}
+
+PropertyTable propertiesOf(const records::Record& shape) {
+    namespace type = records::type;
+    PropertyTable properties;
+    for (const records::Record& child : shape.children) {
+        if (child.is(type::ArtProperties) || child.is(type::ArtSecondaryProperties) ||
+            child.is(type::ArtTertiaryProperties)) {
+            properties.merge(PropertyTable(child));
+        }
+    }
+    return properties;
 }
 
 std::uint32_t Looks::number(std::uint16_t id, std::uint32_t otherwise) const noexcept {

@@ -67,7 +67,7 @@ private:
 };
 
 void number(TextException& code, bool isNumbered) {
-    constexpr std::uint32_t second = 0x0400;
+    constexpr std::uint32_t second = std::uint32_t{1} << character::extensionShift;
     if (isNumbered) {
         code.set(character::Style, character::extension, code.values[character::Style] | second);
     }
@@ -112,11 +112,13 @@ StyleRuns freshRuns(const TextStory& story, FontTable& fonts) {
 StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const TextStory& now, FontTable& fonts) {
     const Descent descent(asRead.text(), now.text());
     StyleRuns out;
+    RunWalk paragraphs(before.paragraphs);
+    RunWalk characters(before.characters);
     const std::vector<std::size_t> lengths = paragraphLengths(now.text());
     std::size_t start = 0;
     for (std::size_t i = 0; i < lengths.size(); ++i) {
         const std::size_t origin = descent.of(start);
-        StyleRun paragraph = StyleRuns::at(before.paragraphs, origin);
+        StyleRun paragraph = paragraphs.at(origin);
         const ParagraphFormat& format = now.paragraphFormats()[i];
         const ParagraphFormat& old = asRead.paragraphFormats({origin, 0}).front();
         change(paragraph.exception, codeOf(old), codeOf(format), paragraph::fields);
@@ -125,7 +127,7 @@ StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const Te
         StyleRuns::append(out.paragraphs, std::move(paragraph));
         for (const std::size_t end = start + lengths[i]; start < end; ++start) {
             const std::size_t from = descent.of(start);
-            StyleRun run = StyleRuns::at(before.characters, from);
+            StyleRun run = characters.at(from);
             const CharacterFormat& formerly = asRead.formatAt(from);
             const CharacterFormat& current = now.formatAt(start);
             if (!(formerly == current)) {
