@@ -34,7 +34,10 @@ DrawingIds DrawingGroup::ids(std::uint32_t drawing) const {
 }
 
 DrawingIds DrawingGroup::add() {
-    DrawingIds ids{byDrawing_.empty() ? 1 : byDrawing_.rbegin()->first + 1, {}};
+    DrawingIds ids{1, {}};
+    while (byDrawing_.contains(ids.drawing)) { // the lowest free one: a record has twelve bits for it
+        ++ids.drawing;
+    }
     reserve(ids, 1);
     return ids;
 }

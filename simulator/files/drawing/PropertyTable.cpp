@@ -15,7 +15,7 @@ namespace {
 constexpr std::uint16_t idMask = 0x3FFF;
 constexpr std::uint16_t pictureBit = 0x4000;
 constexpr std::uint16_t complexBit = 0x8000;
-constexpr std::size_t arrayHeader = 6;
+constexpr std::size_t arrayHeader = 6; // its length
 constexpr std::uint8_t tableVersion = 3;
 
 constexpr std::array arrays{property::vertices,        property::segments,    property::connections,
@@ -28,14 +28,20 @@ std::size_t bytesOf(const Property& property, std::string_view left) {
         return property.value;
     }
     files::ByteReader in(left, "an array of a drawing");
-    const std::size_t count = in.read<std::uint16_t>();
-    in.skip(2);
-    const auto size = in.read<std::uint16_t>();
-    const std::size_t elements = count * (size == 0xFFF0 ? 4 : size);
+    const ArrayHead head(in);
+    const std::size_t elements = head.count * head.elementSize;
     return property.value != 0 && property.value == elements ? elements + arrayHeader : property.value;
 }
 
 } // namespace
+
+ArrayHead::ArrayHead(files::ByteReader& in) {
+    constexpr std::uint16_t packedPoint = 0xFFF0; // two numbers of 16 bits
+    count = in.read<std::uint16_t>();
+    in.skip(2);
+    const auto size = in.read<std::uint16_t>();
+    elementSize = size == packedPoint ? 4 : size;
+}
 
 PropertyTable::PropertyTable(const records::Record& record) {
     files::ByteReader in(record.data, "a table of drawing properties");

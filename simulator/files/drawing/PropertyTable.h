@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/files/Bytes.h"
 #include "simulator/files/records/Record.h"
 
 #include <span>
@@ -15,6 +16,14 @@ struct Property {
     std::string bytes;
 
     friend bool operator==(const Property&, const Property&) = default;
+};
+
+/// What stands before the elements of a property that is an array.
+struct ArrayHead {
+    explicit ArrayHead(files::ByteReader& in);
+
+    std::size_t count = 0;
+    std::size_t elementSize = 0; ///< in bytes
 };
 
 /// The properties of one record, in their order.

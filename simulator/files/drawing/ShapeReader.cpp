@@ -187,7 +187,7 @@ void ShapeReader::readIdentity(const Record& record, const Looks& looks, Shape& 
 }
 
 std::int32_t ShapeReader::idFor(std::uint32_t number) {
-    constexpr std::uint32_t unlisted = 1U << 20U; // a number outside the drawing's clusters gives no id to rely on
+    constexpr std::uint32_t unlisted = 1U << 16U; // a number outside the drawing's clusters gives no id to rely on
     std::int32_t id = context_.ids.idOf(number).value_or(static_cast<std::int32_t>(number % unlisted));
     if (id == 0 || taken_.contains(id)) {
         id = taken_.empty() ? 1 : *taken_.rbegin() + 1;

@@ -82,6 +82,7 @@ private:
                 throw DamagedRecord(entry.persist.offset, "master " + hex(entry.id()) + " does not exist");
             }
             masters_.emplace(entry.id(), master);
+            objectsTaken_.insert(entry.object());
             records::within(*master, [&] { readMaster(entry.id(), *master, environment); });
         }
         if (styles_.empty()) {
@@ -135,7 +136,7 @@ private:
         const std::uint32_t id = entry.id() & slideIdMask;
         if (!objectsTaken_.insert(entry.object()).second || !idsTaken_.insert(id).second) {
             throw DamagedRecord(entry.persist.offset,
-                                "slide " + std::to_string(id) + " stands twice in the list of slides");
+                                "slide " + std::to_string(id) + " stands twice in the lists of slides");
         }
         auto slide = std::make_shared<Slide>();
         auto origin = std::make_shared<SlideOrigin>();
@@ -181,7 +182,7 @@ private:
     std::map<std::uint32_t, const Record*> masters_;
     std::map<std::uint32_t, text::TextStyles> styles_;
     drawing::MasterShapes masterShapes_;
-    std::set<std::uint32_t> objectsTaken_; ///< by slides
+    std::set<std::uint32_t> objectsTaken_; ///< by masters and slides
     std::set<std::uint32_t> idsTaken_;
 };
 
