@@ -43,10 +43,11 @@ std::string writeObjects(const PersistObjects& objects, Record lastEdit, const P
     const auto directory = static_cast<std::uint32_t>(stream.size());
     records::append(stream, directoryOf(places));
     const auto edit = static_cast<std::uint32_t>(stream.size());
-    const std::uint32_t seed = std::max(files::numberAt(lastEdit.data, userEdit::highestObject), objects.highestId());
+    const std::uint32_t highest =
+        std::max(files::numberAt(lastEdit.data, userEdit::highestObject), objects.highestId());
     files::putNumber(lastEdit.data, userEdit::editBefore, 0);
     files::putNumber(lastEdit.data, userEdit::directory, directory);
-    files::putNumber(lastEdit.data, userEdit::highestObject, seed);
+    files::putNumber(lastEdit.data, userEdit::highestObject, highest);
     records::append(stream, lastEdit);
 
     compound::Storage file = origin.file;
