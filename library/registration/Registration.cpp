@@ -1,7 +1,7 @@
 #include "library/registration/Registration.h"
 
 #include "library/registration/Entries.h"
-#include "library/registration/RegistryKey.h"
+#include "platform/win32/RegistryKey.h"
 
 #include <algorithm>
 #include <ranges>
@@ -9,6 +9,9 @@
 namespace library {
 
 namespace {
+
+using platform::checkRegistry;
+using platform::RegistryKey;
 
 const std::wstring classesKey = L"Software\\Classes";
 constexpr REGSAM otherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;

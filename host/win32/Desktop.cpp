@@ -1,0 +1,86 @@
+#include "host/win32/Desktop.h"
+
+#include "automation/com/ComPtr.h"
+#include "simulator/win32/StandInIdentity.h"
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace host {
+
+namespace {
+
+namespace standin = simulator::standin;
+
+using automation::com::ComPtr;
+
+const std::string ownBits = std::to_string(sizeof(void*) * 8);
+
+void endLeftPowerPoint() {
+    DesktopPowerPoint powerPoint;
+    if (powerPoint.window() == 0) {
+        return;
+    }
+    if (!DesktopPowerPoint::isStandIn()) {
+        throw std::runtime_error("PowerPoint runs on this desktop: close it first");
+    }
+    powerPoint.dismiss();
+}
+
+/// The library is loaded, so that one that is registered and gone is found out here.
+void requireModule() {
+    CLSID id{};
+    ComPtr<IUnknown> factory;
+    if (FAILED(CLSIDFromProgID(L"K73053.Module", &id)) ||
+        FAILED(CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
+                                reinterpret_cast<void**>(factory.receive())))) {
+        throw std::runtime_error("no K73053.Module can be created by a program of " + ownBits +
+                                 " bits: register the K73053.dll of " + ownBits + " bits with regsvr32 first");
+    }
+}
+
+void requirePowerPoint() {
+    CLSID id{};
+    if (FAILED(CLSIDFromProgID(standin::programmaticIds[0], &id))) {
+        throw std::runtime_error(
+            "no PowerPoint 2003 is registered on this machine: install it, or register the stand-in "
+            "with powerpnt-standin /RegServer");
+    }
+}
+
+/// Starts the PowerPoint that is registered, and asks it.
+void requireBits(std::int32_t demanded) {
+    DesktopPowerPoint powerPoint;
+    powerPoint.start();
+    const auto bits =
+        DesktopPowerPoint::isStandIn() ? powerPoint.standIn().get(u"Bits").to<std::int32_t>() : std::int32_t{0};
+    powerPoint.dismiss();
+    if (bits != demanded) {
+        throw std::runtime_error("the PowerPoint that is registered is no stand-in of " + std::to_string(demanded) +
+                                 " bits");
+    }
+}
+
+} // namespace
+
+Desktop::Desktop(std::int32_t powerPointBits) {
+    endLeftPowerPoint();
+    if (const std::size_t given = journal_.giveBack(); given != 0) {
+        std::fprintf(stderr, "exercise-host: gave back %zu files and settings that a run cut short had borrowed\n",
+                     given);
+    }
+    requireModule();
+    requirePowerPoint();
+    standby_.emplace();
+    if (powerPointBits != 0) {
+        standby_->prepare();
+        requireBits(powerPointBits);
+    }
+}
+
+void Desktop::makeReady() {
+    endLeftPowerPoint();
+    standby_->prepare();
+}
+
+} // namespace host

@@ -1,0 +1,129 @@
+#include "simulator/win32/StandInIdentity.h"
+#include "tests/library/UserHive.h"
+#include "tests/win32/Program.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <fstream>
+#include <functional>
+#include <thread>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using tests::Program;
+using tests::UserHive;
+
+const std::wstring host = L"host\\exercise-host.exe";
+const std::wstring recentFolders = L"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList";
+const std::wstring powerPoint = L"Software\\Classes\\PowerPoint.Application.11\\CLSID";
+const fs::path folder = L"C:\\Formation";
+
+/// The class that a name stands for, taken away for the length of a scope.
+class NameAside {
+public:
+    explicit NameAside(const std::wstring& name) : key_(L"Software\\Classes\\" + name + L"\\CLSID") {
+        EXPECT_EQ(RegGetValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text_, &size_),
+                  ERROR_SUCCESS);
+        EXPECT_EQ(RegDeleteKeyW(HKEY_LOCAL_MACHINE, key_.c_str()), ERROR_SUCCESS);
+    }
+    ~NameAside() {
+        EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, REG_SZ, text_, size_), ERROR_SUCCESS);
+    }
+    NameAside(const NameAside&) = delete;
+    NameAside& operator=(const NameAside&) = delete;
+    NameAside(NameAside&&) = delete;
+    NameAside& operator=(NameAside&&) = delete;
+
+private:
+    std::wstring key_;
+    wchar_t text_[64] = {};
+    DWORD size_ = sizeof(text_);
+};
+
+bool comesTrue(const std::function<bool()>& what) {
+    using namespace std::chrono_literals;
+    for (int wait = 0; wait < 1000 && !what(); ++wait) {
+        std::this_thread::sleep_for(20ms);
+    }
+    return what();
+}
+
+bool isPowerPointRegistered() {
+    CLSID id{};
+    return SUCCEEDED(CLSIDFromProgID(simulator::standin::programmaticIds[0], &id)) &&
+           IsEqualCLSID(id, simulator::standin::applicationClass);
+}
+
+TEST(HostTest, SaysInOneSentenceWhatIsNotRegistered) {
+    const struct {
+        const wchar_t* name;
+        const char* said;
+    } cases[] = {{L"K73053.Module", "exercise-host: no K73053.Module can be created"},
+                 {L"PowerPoint.Application.11", "exercise-host: no PowerPoint 2003 is registered"}};
+    for (const auto& [name, said] : cases) {
+        const NameAside aside(name);
+        const Program run(host, L"run 305 --powerpoint");
+        EXPECT_EQ(run.exitCode(), 2U);
+        const std::string output = run.output();
+        EXPECT_EQ(output.find(said), 0U) << output;
+        EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 1) << output;
+    }
+}
+
+/// A learner's settings and files, and a scenario that has borrowed of every kind and goes on for long.
+class CutShortTest : public testing::Test {
+protected:
+    void SetUp() override {
+        former_ = UserHive::stored(recentFolders, L"Default");
+        UserHive::put(recentFolders, L"Default", L"D:\\Cours\\");
+        fs::create_directories(folder);
+        std::ofstream(folder / "mine.txt") << "mine";
+        std::ofstream scenario(file_);
+        scenario << "question 305\ncourse\n  Presentations.Add\nscenario \"long\"\n  before InitQuestion\n"
+                    "  Files.Create \"17305305.doc\"\n  Files.MakeReadOnly \"17305305.doc\"\n"
+                    "  PowerPoint.Start\n  Registry.Deny\n  PowerPoint.Uninstall\n";
+        for (int i = 0; i < 100000; ++i) {
+            scenario << "  Set p = ActivePresentation\n";
+        }
+    }
+    void TearDown() override {
+        fs::remove(file_);
+        fs::remove_all(folder);
+        RegSetKeyValueW(HKEY_CURRENT_USER, recentFolders.c_str(), L"Default", former_.type, former_.data.data(),
+                        static_cast<DWORD>(former_.data.size()));
+    }
+
+    UserHive::Stored former_;
+    fs::path file_ = fs::temp_directory_path() / "K73053-long.scn";
+};
+
+TEST_F(CutShortTest, IsGivenBackByTheNextRun) {
+    {
+        const Program run(host, L"verify --powerpoint --file \"" + file_.wstring() + L"\"");
+        ASSERT_TRUE(comesTrue([] { return !isPowerPointRegistered(); })) << run.output();
+        run.kill();
+    }
+    EXPECT_FALSE(isPowerPointRegistered());
+    EXPECT_FALSE(fs::exists(folder / "mine.txt"));
+    EXPECT_EQ(UserHive::stored(recentFolders, L"Default"), UserHive::Stored()) << "nobody may open the key";
+
+    const Program next(host, L"verify 305 --powerpoint");
+    EXPECT_EQ(next.exitCode(), 0U) << next.output();
+    EXPECT_NE(next.output().find("exercise-host: gave back"), std::string::npos) << next.output();
+    EXPECT_TRUE(isPowerPointRegistered());
+    EXPECT_TRUE(fs::exists(folder / "mine.txt"));
+    EXPECT_FALSE(fs::exists(folder / "17305305.doc"));
+    EXPECT_EQ(UserHive::stored(recentFolders, L"Default"), UserHive::text(L"D:\\Cours\\", 1));
+    EXPECT_EQ(std::distance(fs::directory_iterator("C:\\"), fs::directory_iterator()),
+              std::count_if(fs::directory_iterator("C:\\"), fs::directory_iterator(),
+                            [](const auto& entry) {
+                                return entry.path() == folder ||
+                                       !entry.path().filename().wstring().starts_with(L"Formation");
+                            }))
+        << "nothing stays aside";
+}
+
+} // namespace
