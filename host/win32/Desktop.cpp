@@ -3,8 +3,10 @@
 #include "automation/com/ComPtr.h"
 #include "simulator/win32/StandInIdentity.h"
 
+#include <chrono>
 #include <cstdio>
 #include <stdexcept>
+#include <thread>
 
 namespace host {
 
@@ -48,6 +50,22 @@ void requirePowerPoint() {
     }
 }
 
+/// A stand-in that was killed with its run stays known to the system for a moment, and nobody creates PowerPoint until
+/// then.
+void awaitCreation() {
+    using namespace std::chrono_literals;
+    for (int attempt = 0; attempt < 50; ++attempt) {
+        try {
+            DesktopPowerPoint powerPoint;
+            powerPoint.start();
+            powerPoint.dismiss();
+            return;
+        } catch (const automation::Error&) {
+            std::this_thread::sleep_for(200ms);
+        }
+    }
+}
+
 /// Starts the PowerPoint that is registered, and asks it.
 void requireBits(std::int32_t demanded) {
     DesktopPowerPoint powerPoint;
@@ -65,12 +83,16 @@ void requireBits(std::int32_t demanded) {
 
 Desktop::Desktop(std::int32_t powerPointBits) {
     endLeftPowerPoint();
-    if (const std::size_t given = journal_.giveBack(); given != 0) {
+    const std::size_t given = journal_.giveBack();
+    if (given != 0) {
         std::fprintf(stderr, "exercise-host: gave back %zu files and settings that a run cut short had borrowed\n",
                      given);
     }
     requireModule();
     requirePowerPoint();
+    if (given != 0) {
+        awaitCreation();
+    }
     standby_.emplace();
     if (powerPointBits != 0) {
         standby_->prepare();
