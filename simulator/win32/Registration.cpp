@@ -92,15 +92,18 @@ void registerServer(View view) {
 }
 
 void unregisterServer(View view) {
+    constexpr REGSAM views[] = {KEY_WOW64_32KEY, KEY_WOW64_64KEY};
     removeTree(classKey(), viewFlag(view));
-    for (const REGSAM other : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
-        if (!textAt(HKEY_LOCAL_MACHINE, classKey(), other).empty()) {
+    for (const REGSAM each : views) {
+        if (!textAt(HKEY_LOCAL_MACHINE, classKey(), each).empty()) {
             return;
         }
     }
     for (const wchar_t* const name : programmaticIds) {
-        if (classBehind(name) == textOf(applicationClass)) {
-            removeTree(classes + name, viewFlag(view));
+        for (const REGSAM each : views) { // Windows has the names once, Wine in each part
+            if (textAt(HKEY_LOCAL_MACHINE, classes + name + L"\\CLSID", each) == textOf(applicationClass)) {
+                removeTree(classes + name, each);
+            }
         }
     }
 }

@@ -37,7 +37,7 @@ public:
     OtherBitnessAside& operator=(OtherBitnessAside&&) = delete;
 
 private:
-    static constexpr const wchar_t* aside = L"Software\\K73053 tests";
+    static constexpr const wchar_t* aside = L"Software\\K73053 put aside";
 
     static std::wstring keyOf(const library::table::Class& row) {
         return classes + L"CLSID\\" + std::wstring(row.identity.begin(), row.identity.end());
@@ -96,6 +96,9 @@ private:
 class RegistrationTest : public testing::Test {
 protected:
     void SetUp() override {
+        // Bare keys that the user had go with the first registration.
+        ASSERT_EQ(library_.install(true, L"user"), S_OK);
+        ASSERT_EQ(library_.install(false, L"user"), S_OK);
         found_ = allClassesContent();
         ASSERT_EQ(library_.unregisterServer(), S_OK);
         clean_ = allClassesContent();
