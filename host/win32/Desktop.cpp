@@ -16,8 +16,6 @@ namespace standin = simulator::standin;
 
 using automation::com::ComPtr;
 
-const std::string ownBits = std::to_string(sizeof(void*) * 8);
-
 void endLeftPowerPoint() {
     DesktopPowerPoint powerPoint;
     if (powerPoint.window() == 0) {
@@ -29,24 +27,19 @@ void endLeftPowerPoint() {
     powerPoint.dismiss();
 }
 
-/// The library is loaded, so that one that is registered and gone is found out here.
-void requireModule() {
-    CLSID id{};
-    ComPtr<IUnknown> factory;
-    if (FAILED(CLSIDFromProgID(L"K73053.Module", &id)) ||
-        FAILED(CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
-                                reinterpret_cast<void**>(factory.receive())))) {
-        throw std::runtime_error("no K73053.Module can be created by a program of " + ownBits +
-                                 " bits: register the K73053.dll of " + ownBits + " bits with regsvr32 first");
-    }
-}
-
-void requirePowerPoint() {
+/// Refuses where one of the two is missing that are to be driven. The library is loaded, so that one that is registered
+/// and gone is found out here.
+void requireRegistered() {
     CLSID id{};
     if (FAILED(CLSIDFromProgID(standin::programmaticIds[0], &id))) {
-        throw std::runtime_error(
-            "no PowerPoint 2003 is registered on this machine: install it, or register the stand-in "
-            "with powerpnt-standin /RegServer");
+        throw std::runtime_error("PowerPoint is not registered on this machine: install it, or leave --powerpoint out");
+    }
+    ComPtr<IUnknown> factory;
+    if (FAILED(CLSIDFromProgID(L"K73053.Module", &id)) ||
+        FAILED(CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IUnknown,
+                                reinterpret_cast<void**>(factory.receive())))) {
+        throw std::runtime_error("K73053.dll is not registered for programs of " + std::to_string(8 * sizeof(void*)) +
+                                 " bits: regsvr32 K73053.dll does that, or leave --powerpoint out");
     }
 }
 
@@ -88,8 +81,7 @@ Desktop::Desktop(std::int32_t powerPointBits) {
         std::fprintf(stderr, "exercise-host: gave back %zu files and settings that a run cut short had borrowed\n",
                      given);
     }
-    requireModule();
-    requirePowerPoint();
+    requireRegistered();
     if (given != 0) {
         awaitCreation();
     }

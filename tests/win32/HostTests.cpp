@@ -60,8 +60,8 @@ TEST(HostTest, SaysInOneSentenceWhatIsNotRegistered) {
     const struct {
         const wchar_t* name;
         const char* said;
-    } cases[] = {{L"K73053.Module", "exercise-host: no K73053.Module can be created"},
-                 {L"PowerPoint.Application.11", "exercise-host: no PowerPoint 2003 is registered"}};
+    } cases[] = {{L"K73053.Module", "exercise-host: K73053.dll is not registered for programs of"},
+                 {L"PowerPoint.Application.11", "exercise-host: PowerPoint is not registered on this machine"}};
     for (const auto& [name, said] : cases) {
         const NameAside aside(name);
         const Program run(host, L"run 305 --powerpoint");
