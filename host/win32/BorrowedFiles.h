@@ -7,8 +7,8 @@ namespace host {
 /// Files and folders of the real disk that go when the journal gives everything back.
 class BorrowedFiles {
 public:
-    /// A folder of this name, without a backslash at its end, is empty; what was there is put aside until then. `journal`
-    /// must outlive this object.
+    /// A folder of this name, without a backslash at its end, is empty; what was there is put aside until then.
+    /// `journal` must outlive this object.
     BorrowedFiles(Journal& journal, const std::filesystem::path& folder);
 
     /// To be called before a file is created: it goes, or the first folder created for it.
