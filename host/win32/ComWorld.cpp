@@ -4,8 +4,7 @@
 #include "automation/com/WideText.h"
 #include "host/win32/BorrowedFiles.h"
 #include "host/win32/BorrowedRegistry.h"
-#include "host/win32/DesktopPowerPoint.h"
-#include "host/win32/Standby.h"
+#include "host/win32/Desktop.h"
 #include "host/win32/VtableModule.h"
 #include "simulator/win32/StandInIdentity.h"
 
@@ -13,7 +12,6 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
-#include <stdexcept>
 
 namespace host {
 
@@ -39,39 +37,6 @@ std::wstring wide(std::u16string_view text) {
                             std::move(text));
 }
 
-/// COM for the calling thread.
-class Apartment {
-public:
-    Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-    ~Apartment() { CoUninitialize(); }
-    Apartment(const Apartment&) = delete;
-    Apartment& operator=(const Apartment&) = delete;
-    Apartment(Apartment&&) = delete;
-    Apartment& operator=(Apartment&&) = delete;
-};
-
-/// What all worlds share.
-struct Desktop {
-    Apartment apartment;
-    Standby standby;
-    std::int32_t demandedBits = 0; ///< of PowerPoint; 0 once they are known to be right, or where any will do
-};
-
-/// Refuses where one of the two is missing that are to be driven.
-void requireRegistered() {
-    CLSID id{};
-    if (FAILED(CLSIDFromProgID(simulator::standin::programmaticIds[0], &id))) {
-        throw std::runtime_error("PowerPoint is not registered on this machine: install it, or leave --powerpoint out");
-    }
-    automation::com::ComPtr<IUnknown> factory;
-    if (FAILED(CLSIDFromProgID(L"K73053.Module", &id)) ||
-        FAILED(CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IUnknown,
-                                reinterpret_cast<void**>(factory.receive())))) {
-        throw std::runtime_error("K73053.dll is not registered for programs of " + std::to_string(8 * sizeof(void*)) +
-                                 " bits: regsvr32 K73053.dll does that, or leave --powerpoint out");
-    }
-}
-
 /// True where the registered library, if it is loaded, says that nobody holds anything of it.
 bool canLibraryUnload() {
     const HMODULE library = GetModuleHandleW(L"K73053.dll");
@@ -85,19 +50,11 @@ bool canLibraryUnload() {
 
 class ComWorld final : public World {
 public:
-    explicit ComWorld(std::shared_ptr<Desktop> desktop) : desktop_(std::move(desktop)) {
-        endLeftPowerPoint();
-        setUpRegistry();
-        desktop_->standby.prepare();
-        if (desktop_->demandedBits != 0) {
-            requireBits(desktop_->demandedBits);
-            desktop_->demandedBits = 0;
-            desktop_->standby.prepare();
-        }
-    }
+    explicit ComWorld(std::shared_ptr<Desktop> desktop) : desktop_(std::move(desktop)) { setUpRegistry(); }
     ~ComWorld() override {
         module_.reset();
         powerPoint_.dismiss();
+        desktop_->journal().giveBack();
     }
     ComWorld(const ComWorld&) = delete;
     ComWorld& operator=(const ComWorld&) = delete;
@@ -203,27 +160,6 @@ private:
         return real;
     }
 
-    void endLeftPowerPoint() {
-        if (powerPoint_.window() == 0) {
-            return;
-        }
-        if (!DesktopPowerPoint::isStandIn()) {
-            refuse(u"PowerPoint runs on this desktop: close it first");
-        }
-        powerPoint_.dismiss();
-    }
-
-    /// Starts the PowerPoint that is registered, and asks it.
-    void requireBits(std::int32_t demanded) {
-        powerPoint_.start();
-        const auto bits =
-            DesktopPowerPoint::isStandIn() ? powerPoint_.standIn().get(u"Bits").to<std::int32_t>() : std::int32_t{0};
-        powerPoint_.dismiss();
-        if (bits != demanded) {
-            refuse(u"the PowerPoint that is registered is no stand-in of " + automation::decimal(demanded) + u" bits");
-        }
-    }
-
     /// Settings of a user who has worked with PowerPoint a little.
     void setUpRegistry() {
         for (const std::u16string_view name : folderSettings::names) {
@@ -235,8 +171,8 @@ private:
     }
 
     std::shared_ptr<Desktop> desktop_;
-    BorrowedFiles files_{folder};
-    BorrowedRegistry registry_;
+    BorrowedFiles files_{desktop_->journal(), fs::path(folder).parent_path()};
+    BorrowedRegistry registry_{desktop_->journal()};
     DesktopPowerPoint powerPoint_;
     std::optional<VtableModule> module_;
 };
@@ -244,13 +180,11 @@ private:
 } // namespace
 
 WorldMaker makeComWorlds(std::int32_t powerPointBits) {
-    auto shared = std::make_shared<Desktop>();
-    requireRegistered();
-    shared->demandedBits = powerPointBits;
-    return [desktop = std::move(shared)](const automation::ObserverPtr& observer) -> WorldPtr {
+    return [desktop = std::make_shared<Desktop>(powerPointBits)](const automation::ObserverPtr& observer) -> WorldPtr {
         if (observer) {
             refuse(u"the calls of the registered library cannot be listed");
         }
+        desktop->makeReady();
         return std::make_unique<ComWorld>(desktop);
     };
 }
