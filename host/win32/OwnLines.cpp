@@ -7,6 +7,7 @@
 
 #include <array>
 #include <atomic>
+#include <cstdio>
 #include <iostream>
 
 namespace host {
@@ -47,6 +48,8 @@ public:
         state().done = Handle(CreateEventW(nullptr, TRUE, FALSE, nullptr));
         SetConsoleCtrlHandler(interrupt, TRUE);
         SetConsoleOutputCP(CP_UTF8);
+        // The console translates each write by itself; one byte of a letter alone says nothing.
+        static_cast<void>(std::setvbuf(stdout, nullptr, _IOFBF, BUFSIZ));
     }
     ~ConsoleLines() override {
         SetConsoleOutputCP(codePage_);
