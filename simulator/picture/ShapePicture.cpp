@@ -43,7 +43,7 @@ std::string mirrorOf(const Shape& shape) {
 
 /// The transformation by which something is moved, and mirrored where it has to be.
 Markup::Attributes moved(float x, float y, const std::string& mirror = {}) {
-    std::string all = x == 0 && y == 0 ? mirror : "translate(" + number(x) + " " + number(y) + ")" + mirror;
+    std::string all = x == 0 && y == 0 ? mirror : "translate(" + number(x) + " " + number(y) + ") " + mirror;
     return all.empty() ? Markup::Attributes() : Markup::Attributes{{"transform", std::move(all)}};
 }
 
