@@ -136,6 +136,9 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
         for (const std::string& picture : pictures) {
             out << "Picture: " << picture << '\n';
         }
+        if (!request.pictures.empty() && pictures.empty()) {
+            out << "No picture: no slide was to be seen at a check\n";
+        }
     }
     return outcome.failures.empty() ? ExitCode::Good : ExitCode::FellShort;
 }

@@ -12,7 +12,7 @@
 #include "automation/observe/CallCounter.h"
 
 #include <algorithm>
-#include <ctime>
+#include <chrono>
 #include <ostream>
 
 namespace host {
@@ -100,12 +100,17 @@ std::vector<std::filesystem::path> named(const VerifyRequest& request, const Lib
     return paths.empty() ? library.files() : paths;
 }
 
-/// The day and the time, in UTC.
+/// The day and the time, in UTC: `2026-11-21 10:08 UTC`.
 std::string now() {
-    const std::time_t time = std::time(nullptr);
-    std::array<char, 32> text{};
-    const std::size_t size = std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M UTC", std::gmtime(&time));
-    return {text.data(), size};
+    using namespace std::chrono;
+    const auto moment = floor<minutes>(system_clock::now());
+    const auto midnight = floor<days>(moment);
+    const year_month_day date(midnight);
+    const hh_mm_ss time(moment - midnight);
+    const auto twoDigits = [](auto number) { return std::to_string(100 + number).substr(1); };
+    return std::to_string(static_cast<int>(date.year())) + "-" + twoDigits(static_cast<unsigned>(date.month())) + "-" +
+           twoDigits(static_cast<unsigned>(date.day())) + " " + twoDigits(time.hours().count()) + ":" +
+           twoDigits(time.minutes().count()) + " UTC";
 }
 
 void write(const VerifyRequest& request, const Report& report) {

@@ -53,7 +53,10 @@ summary::-webkit-details-marker { display: none; }
   font-size: .85rem; line-height: 1.5rem; font-weight: 600; background: var(--good-paper); color: var(--good);
 }
 .letter.general { background: var(--paper); color: var(--quiet); box-shadow: inset 0 0 0 1px var(--line); }
-.letter.missed { background: none; color: var(--quiet); border: 1px dashed var(--quiet); line-height: calc(1.5rem - 2px); font-weight: 400; }
+.letter.missed {
+  background: none; color: var(--quiet); border: 1px dashed var(--quiet); line-height: calc(1.5rem - 2px);
+  font-weight: 400;
+}
 .inside { padding: .25rem 1rem 1rem; border-top: 1px solid var(--line); }
 .reach { display: grid; grid-template-columns: auto minmax(0, 1fr); gap: .35rem .75rem; margin: .75rem 0 1rem; }
 .reach dt, .reach dd { margin: 0; }
@@ -72,7 +75,9 @@ code { font: .86rem/1.55 ui-monospace, "SF Mono", Menlo, Consolas, monospace; wh
 .reading { margin: .5rem 0 0; font-size: .9rem; }
 .slides { display: grid; grid-template-columns: repeat(2, minmax(0, 1fr)); gap: .6rem; align-self: start; }
 figure { margin: 0; }
-figure svg { display: block; width: 100%; height: auto; border: 1px solid var(--line); border-radius: 4px; background: #fff; }
+figure svg {
+  display: block; width: 100%; height: auto; border: 1px solid var(--line); border-radius: 4px; background: #fff;
+}
 figcaption { margin-top: .2rem; color: var(--quiet); font-size: .85rem; }
 .gallery { position: absolute; width: 0; height: 0; overflow: hidden; }
 @media (min-width: 60rem) { .attempt { grid-template-columns: minmax(0, 1fr) minmax(0, 30rem); } }
