@@ -1,5 +1,5 @@
-; The installer. ./package calls it with VERSION, CONTENT (the folder to install), REMOVE (the commands that take it away),
-; SIZE in kilobytes and SETUP. Registering is left to the libraries themselves, which know what to write.
+; The installer. ./package calls it with VERSION, SIZE in kilobytes, SETUP (the file to make), and the commands that BRING the
+; files and REMOVE them. Registering is left to the libraries themselves, which know what to write.
 
 Unicode true
 SetCompressor /SOLID lzma
@@ -59,9 +59,9 @@ LangString NotRegistered ${LANG_FRENCH} "L'enregistrement a échoué ; rien n'es
 !insertmacro DEFINE_REGISTER "un."
 
 !macro REMOVE_FILES
+    SetOutPath $TEMP ; a current folder cannot be removed
     !include "${REMOVE}"
     Delete /REBOOTOK "$INSTDIR\uninstall.exe"
-    SetOutPath $TEMP ; a current folder cannot be removed
     RMDir "$INSTDIR"
 !macroend
 
@@ -100,8 +100,7 @@ Section
         RMDir "$0"
     ${EndIf}
 
-    SetOutPath $INSTDIR
-    File /r "${CONTENT}\*"
+    !include "${BRING}"
     WriteUninstaller "$INSTDIR\uninstall.exe"
 
     StrCpy $1 ""
