@@ -5,6 +5,9 @@ if(MSVC)
     target_compile_options(compiler INTERFACE /W4 /WX /utf-8 /permissive- /EHsc)
 else()
     target_compile_options(compiler INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    if(MINGW) # the same source makes the same file, at any time
+        target_link_options(compiler INTERFACE -Wl,--no-insert-timestamp)
+    endif()
     if(NOT WIN32) # the interfaces of COM have no virtual destructors
         target_compile_options(compiler INTERFACE -Wnon-virtual-dtor)
     endif()

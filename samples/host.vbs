@@ -70,10 +70,10 @@ Sub Tell()
     If exercise.ErreurGenerale Then
         WScript.Echo "The work could not be checked: " & exercise.CauseErreur
         Exit Sub
+    ElseIf exercise.BravoNuance Then
+        WScript.Echo "Passed, with the remark " & exercise.CauseErreur
     ElseIf exercise.CauseErreur <> "" Then
         WScript.Echo "Not yet: " & exercise.CauseErreur
-    ElseIf exercise.BravoNuance Then
-        WScript.Echo "Passed, with a remark"
     Else
         WScript.Echo "Passed"
     End If
