@@ -73,7 +73,10 @@ struct CommandLine {
         bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
             ->check(CLI::PositiveNumber);
 
-        for (CLI::App* const command : {&run, &tryOut, &verify}) {
+        bench.add_option("--slides", benchRequest.slides, "With --powerpoint: slides of the large deck")
+            ->capture_default_str()
+            ->check(CLI::PositiveNumber);
+        for (CLI::App* const command : {&run, &tryOut, &verify, &torture, &bench}) {
             auto* const real = command->add_flag(
                 "--powerpoint", withPowerPoint,
                 "On Windows: drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
@@ -107,8 +110,8 @@ struct CommandLine {
     CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
-ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, const LineReaderMaker& makeLines,
-                 Output output) {
+ExitCode perform(const CommandLine& asked, const Worlds& worlds, const LineReaderMaker& makeLines, Output output) {
+    const WorldMaker& makeWorld = worlds.remote ? worlds.remote : worlds.embedded;
     try {
         const Library library(asked.folder);
         if (asked.app.get_subcommands().empty()) {
@@ -124,11 +127,11 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& makeWorld, const Li
             return recheck(asked.recheckRequest, library, makeWorld, output.out);
         }
         if (asked.torture) {
-            return runTorture(asked.tortureRequest, library, makeWorld, output.out,
+            return runTorture(asked.tortureRequest, library, worlds, output.out,
                               output.isTerminal ? &output.error : nullptr);
         }
         if (asked.bench) {
-            return runBench(asked.benchRequest, library, makeWorld, output.out);
+            return runBench(asked.benchRequest, library, worlds, output.out);
         }
         return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out)
                             : list(asked.listed, library, output.out);
@@ -157,8 +160,8 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::fi
         output.error << "exercise-host: --powerpoint needs Windows; here only the embedded PowerPoint runs\n";
         return ExitCode::WrongUsage;
     }
-    const ExitCode code =
-        perform(line, line.withPowerPoint ? makeComWorlds(line.powerPointBits) : makeWorld, makeLines, output);
+    const WorldMaker remote = line.withPowerPoint ? makeComWorlds(line.powerPointBits) : nullptr;
+    const ExitCode code = perform(line, {makeWorld, remote}, makeLines, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";
         return ExitCode::WrongUsage;

@@ -10,21 +10,25 @@ namespace {
 
 using torture::Totals;
 
-void tortureFile(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every,
-                 std::mt19937& random, Totals& totals, std::ostream& out, std::ostream* progress) {
+void tortureFile(const language::ScenarioFile& file, const Worlds& worlds, std::size_t every, std::mt19937& random,
+                 Totals& totals, std::ostream& out, std::ostream* progress) {
     Watch watch(Watch::patience, out);
     watch.next(file.name);
-    const torture::Torture torture(file, makeWorld, every, random);
-    torture.run(
-        totals, [&](const std::string& finding) { out << finding << std::endl; },
-        [&](const torture::Operation& operation, std::size_t call, std::size_t calls) {
-            const std::string place = "question " + std::to_string(file.question) + ", " + operation.display() +
-                                      ", call " + std::to_string(call);
-            watch.next(place);
-            if (progress != nullptr) {
-                *progress << '\r' << place << " of " << calls << "        " << std::flush;
-            }
-        });
+    const torture::Torture torture(file, worlds.embedded, every, random);
+    const auto report = [&](const std::string& finding) { out << finding << std::endl; };
+    const auto advance = [&](const torture::Operation& operation, std::size_t call, std::size_t calls) {
+        const std::string place =
+            "question " + std::to_string(file.question) + ", " + operation.display() + ", call " + std::to_string(call);
+        watch.next(place);
+        if (progress != nullptr) {
+            *progress << '\r' << place << " of " << calls << "        " << std::flush;
+        }
+    };
+    if (worlds.remote) {
+        torture.runRemote(worlds.remote, totals, report, advance);
+    } else {
+        torture.run(totals, report, advance);
+    }
 }
 
 void print(const Totals& totals, std::ostream& out) {
@@ -37,8 +41,8 @@ void print(const Totals& totals, std::ostream& out) {
 
 } // namespace
 
-ExitCode runTorture(const TortureRequest& request, const Library& library, const WorldMaker& makeWorld,
-                    std::ostream& out, std::ostream* progress) {
+ExitCode runTorture(const TortureRequest& request, const Library& library, const Worlds& worlds, std::ostream& out,
+                    std::ostream* progress) {
     const std::uint32_t draw = request.draw ? *request.draw : std::random_device()();
     if (request.every > 1) {
         out << "one call in " << request.every << ", --draw " << draw << std::endl;
@@ -47,7 +51,7 @@ ExitCode runTorture(const TortureRequest& request, const Library& library, const
     Totals totals;
     for (const std::filesystem::path& path :
          library.filesOf(request.questions.empty() ? Library::questions() : request.questions)) {
-        tortureFile(load(path), makeWorld, request.every, random, totals, out, progress);
+        tortureFile(load(path), worlds, request.every, random, totals, out, progress);
     }
     if (progress != nullptr) {
         *progress << '\n';
