@@ -1,6 +1,6 @@
-' 0306.vbs REPLACED WRITTEN: question 306's check as a script: the accesses that the check prescribes and no others, in the same
-' order, each object reached afresh from the application of the PowerPoint that runs. Prints the letter that it comes to
-' and the milliseconds that it took.
+' 0306.vbs REPLACED WRITTEN: question 306's check as a script: the accesses that the check makes and no others, in the
+' same order, each object reached afresh from the application of the PowerPoint that runs. Prints the letter that it
+' comes to and the milliseconds that it took.
 Option Explicit
 Dim application, begun, passed, letter
 Set application = CreateObject("PowerPoint.Application.11")

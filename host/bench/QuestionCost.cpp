@@ -32,7 +32,7 @@ Milliseconds clockTime() {
 class Run {
 public:
     Run(const language::ScenarioFile& file, const Course& course, World& world, Meter meter,
-        const std::function<void(World&)>& checked = nullptr)
+        const Watching& watch = nullptr)
         : meter_(std::move(meter)) {
         Witness nobody;
         world.startPowerPoint();
@@ -40,11 +40,16 @@ public:
         host.application = world.application();
         host.window = world.mainWindow();
         cost.initQuestion = measure([&] { host.initQuestion(file.question, world.hostFolder()); });
+        const auto reach = [&](Moment moment) {
+            if (watch) {
+                watch(world, moment);
+            }
+        };
+        reach(Moment::Prepared);
         performFirstMoves(file, world, host);
+        reach(Moment::Worked);
         cost.testePoint = measure([&] { cost.reading = host.check(); });
-        if (checked) {
-            checked(world);
-        }
+        reach(Moment::Checked);
         cost.fermer = measure([&] { host.fermer(); });
         host.quitter();
     }
@@ -66,7 +71,17 @@ private:
 QuestionCost observedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
     const auto tally = std::make_shared<CallTally>();
     const Meter meter = [&] { return Reckoning{tally->calls, tally->automationCalls, 0, {}}; };
-    QuestionCost cost = Run(file, course, *makeWorld(tally), meter).cost;
+    std::optional<Surroundings> prepared;
+    PrescribedCalls prescribed{};
+    const Watching watch = [&](World& world, Moment moment) {
+        if (moment == Moment::Prepared) {
+            prepared.emplace(world, file.question);
+        } else if (moment == Moment::Worked) {
+            prescribed = prescribedCalls(file.question, *prepared, Surroundings(world, file.question).slides);
+        }
+    };
+    QuestionCost cost = Run(file, course, *makeWorld(tally), meter, watch).cost;
+    cost.prescribed = prescribed;
     cost.prepareCalls = tally->prepareCalls;
     cost.names = tally->names;
     return cost;
@@ -89,7 +104,7 @@ QuestionCost costOf(const language::ScenarioFile& file, const Course& course, co
 }
 
 QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeRemoteWorld,
-                          const std::function<void(World&)>& checked) {
+                          const Watching& watch) {
     const WorldPtr world = makeRemoteWorld(nullptr);
     const Meter meter = [&] {
         const automation::LateBound standIn(world->standIn());
@@ -99,7 +114,7 @@ QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& cour
         const std::size_t calls = counted(u"Calls");
         return Reckoning{calls, calls, counted(u"LookUps"), clockTime()};
     };
-    return Run(file, course, *world, meter, checked).cost;
+    return Run(file, course, *world, meter, watch).cost;
 }
 
 } // namespace host::bench

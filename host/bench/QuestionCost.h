@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/bench/CallTally.h"
+#include "host/bench/Prescribed.h"
 #include "host/run/TrainingHost.h"
 
 #include <chrono>
@@ -24,6 +25,7 @@ struct QuestionCost {
     OperationCost fermer;
     std::size_t prepareCalls = 0;   ///< of InitQuestion's calls
     std::set<std::u16string> names; ///< of PowerPoint's members called
+    PrescribedCalls prescribed{};   ///< where calls are observed
     std::size_t lookUps = 0;        ///< of names, by a PowerPoint in a process of its own
     Reading reading;                ///< after the first moves of the scenario file
 
@@ -33,15 +35,18 @@ struct QuestionCost {
     [[nodiscard]] Milliseconds time() const noexcept { return initQuestion.time + testePoint.time + fermer.time; }
 };
 
+/// How far a question has come.
+enum class Moment : std::uint8_t { Prepared, Worked, Checked };
+using Watching = std::function<void(World&, Moment)>;
+
 /// Counts the calls of a question whose learner performs the first moves of its file, and takes the shortest processor
 /// time of several runs that nobody observes. `course` holds the file's files. Raises what the module raises.
 [[nodiscard]] QuestionCost costOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld,
                                   int runs);
 
 /// The same, run once with a PowerPoint in a process of its own, which counts its calls and the names looked up in
-/// them; the time is the clock's. `checked` is called between check and closing.
+/// them; the time is the clock's. `watch` is called as the question goes on.
 [[nodiscard]] QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course,
-                                        const WorldMaker& makeRemoteWorld,
-                                        const std::function<void(World&)>& checked = nullptr);
+                                        const WorldMaker& makeRemoteWorld, const Watching& watch = nullptr);
 
 } // namespace host::bench

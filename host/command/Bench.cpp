@@ -28,26 +28,42 @@ double microsecondsACall(const QuestionCost& cost) {
     return 1000 * cost.time().count() / static_cast<double>(calls);
 }
 
-void printQuestions(const std::vector<std::int32_t>& questions, const Library& library, const WorldMaker& makeWorld,
+/// Calls measured and calls prescribed.
+std::string against(std::size_t measured, std::size_t prescribed) {
+    return std::to_string(measured) + '/' + std::to_string(prescribed);
+}
+
+bool printQuestions(const std::vector<std::int32_t>& questions, const Library& library, const WorldMaker& makeWorld,
                     std::ostream& out) {
-    out << "Calls that leave the module, names of PowerPoint's members among them (each looked up once in a session\n"
-           "through COM), and processor time, the shortest of "
+    out << "Calls that leave the module, measured/prescribed, names of PowerPoint's members among them (each looked "
+           "up\n"
+           "once in a session through COM), and processor time, the shortest of "
         << timedRuns << " runs\n\n"
-        << "question  InitQuestion  of which Prepare  TestePoint  Fermer  names  us a call\n";
+        << "question  InitQuestion  of which Prepare  TestePoint     Fermer  names  us a call\n";
     std::set<std::u16string> names;
     std::size_t automationCalls = 0;
+    bool isGood = true;
     for (const std::filesystem::path& path : library.filesOf(questions)) {
         const language::ScenarioFile file = load(path);
         const Course course(file, makeWorld);
         const QuestionCost cost = bench::costOf(file, course, makeWorld, timedRuns);
-        out << std::setw(8) << file.question << std::setw(14) << cost.initQuestion.calls << std::setw(18)
-            << cost.prepareCalls << std::setw(12) << cost.testePoint.calls << std::setw(8) << cost.fermer.calls
-            << std::setw(7) << cost.names.size() << std::fixed << std::setprecision(2) << std::setw(11)
-            << microsecondsACall(cost) << std::endl;
+        const bench::PrescribedCalls& prescribed = cost.prescribed;
+        out << std::setw(8) << file.question << std::setw(14)
+            << against(cost.initQuestion.calls, prescribed.initQuestion) << std::setw(18)
+            << against(cost.prepareCalls, prescribed.prepare) << std::setw(12)
+            << against(cost.testePoint.calls, prescribed.testePoint) << std::setw(11)
+            << against(cost.fermer.calls, prescribed.fermer) << std::setw(7) << cost.names.size() << std::fixed
+            << std::setprecision(2) << std::setw(11) << microsecondsACall(cost) << std::endl;
+        isGood =
+            holds(cost.prepareCalls == prescribed.prepare, "Prepare makes other calls than prescribed", out) && isGood;
+        isGood = holds(cost.testePoint.calls == prescribed.testePoint, "TestePoint makes other calls than prescribed",
+                       out) &&
+                 isGood;
         names.insert(cost.names.begin(), cost.names.end());
         automationCalls += cost.automationCalls();
     }
     out << "\nIn one session: " << automationCalls << " automation calls, " << names.size() << " names looked up\n\n";
+    return isGood;
 }
 
 bool printLargeDeck(const WorldMaker& makeWorld, std::ostream& out) {
@@ -115,8 +131,8 @@ ExitCode runBench(BenchRequest request, const Library& library, const Worlds& wo
     if (worlds.remote) {
         return printRemoteCosts(request, library, worlds, out) ? ExitCode::Good : ExitCode::FellShort;
     }
-    printQuestions(request.questions, library, worlds.embedded, out);
-    return printLargeDeck(worlds.embedded, out) ? ExitCode::Good : ExitCode::FellShort;
+    const bool isGood = printQuestions(request.questions, library, worlds.embedded, out);
+    return printLargeDeck(worlds.embedded, out) && isGood ? ExitCode::Good : ExitCode::FellShort;
 }
 
 } // namespace host

@@ -23,7 +23,7 @@ bool holds(bool isWithin, std::string_view what, std::ostream& out) {
 bool printGrowth(bench::DeckSize size,
                  const std::function<bench::QuestionCost(const language::ScenarioFile&, std::size_t)>& costOf,
                  std::ostream& out) {
-    out << "slides    words    calls  calls a word  milliseconds  ns a word\n";
+    out << "slides    words    calls  prescribed  calls a word  milliseconds  ns a word\n";
     const std::size_t slides = size.slides;
     double firstCalls = 0;
     double firstTime = 0;
@@ -33,11 +33,13 @@ bool printGrowth(bench::DeckSize size,
         const language::ScenarioFile file = bench::largeDeck(size);
         const bench::QuestionCost cost = costOf(file, times);
         const auto words = static_cast<double>(size.words());
-        const double calls = static_cast<double>(cost.testePoint.calls) / words;
+        const double calls = static_cast<double>(cost.testePoint.automationCalls) / words;
+        const std::size_t prescribed = bench::prescribedAutomationCalls(size);
         const double time = cost.testePoint.time.count() / words;
-        out << std::setw(6) << size.slides << std::setw(9) << size.words() << std::setw(9) << cost.testePoint.calls
-            << std::fixed << std::setprecision(3) << std::setw(14) << calls << std::setprecision(1) << std::setw(14)
-            << cost.testePoint.time.count() << std::setprecision(0) << std::setw(11) << time * 1e6 << std::endl;
+        out << std::setw(6) << size.slides << std::setw(9) << size.words() << std::setw(9)
+            << cost.testePoint.automationCalls << std::setw(12) << prescribed << std::fixed << std::setprecision(3)
+            << std::setw(14) << calls << std::setprecision(1) << std::setw(14) << cost.testePoint.time.count()
+            << std::setprecision(0) << std::setw(11) << time * 1e6 << std::endl;
         const Expectation* const expected = file.scenarios.front().lastExpectation();
         isGood =
             holds(expected->matches(cost.reading), "the check does not come to " + expected->display(), out) && isGood;
@@ -45,6 +47,7 @@ bool printGrowth(bench::DeckSize size,
             firstCalls = calls;
             firstTime = time;
         }
+        isGood = holds(cost.testePoint.automationCalls == prescribed, "not the calls prescribed", out) && isGood;
         isGood = holds(calls <= firstCalls * mostCallsGrowth, "the calls for a word grow", out) && isGood;
         isGood = holds(time <= firstTime * mostTimeGrowth, "the time for a word grows", out) && isGood;
     }

@@ -48,7 +48,8 @@ void printFirstAnswer(const language::ScenarioFile& file, const Worlds& worlds, 
         << " ms; question " << file.question << "'s InitQuestion answers " << first.count() << " ms later\n\n";
 }
 
-bool printRemoteQuestions(const BenchRequest& request, const Library& library, const Worlds& worlds, std::ostream& out) {
+bool printRemoteQuestions(const BenchRequest& request, const Library& library, const Worlds& worlds,
+                          std::ostream& out) {
     out << "Calls that reach PowerPoint, names looked up in them and names that they state, and time by the clock\n\n"
            "question  InitQuestion  TestePoint  Fermer  look-ups  names  ms InitQuestion  ms TestePoint  us a call"
         << std::endl;
@@ -99,9 +100,12 @@ bool printBesideScript(const BenchRequest& request, const Library& library, cons
             << std::endl;
     };
     ScriptRun script;
-    const QuestionCost cost =
-        bench::remoteCostOf(file, Course(file, worlds.embedded), worlds.remote,
-                            [&](World& world) { script = runCheck(world, library.folder() / "0306.vbs"); });
+    const QuestionCost cost = bench::remoteCostOf(file, Course(file, worlds.embedded), worlds.remote,
+                                                  [&](World& world, bench::Moment moment) {
+                                                      if (moment == bench::Moment::Checked) {
+                                                          script = runCheck(world, library.folder() / "0306.vbs");
+                                                      }
+                                                  });
     print("library ", cost.testePoint.calls, cost.lookUps, cost.testePoint.time.count());
     print("script  ", script.calls, script.lookUps, script.milliseconds);
     const double ratio = cost.testePoint.time.count() / script.milliseconds;
