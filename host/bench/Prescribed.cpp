@@ -64,8 +64,9 @@ std::size_t ownSteps(std::int32_t question, const Surroundings& deck) {
     case 309: return unselect + ofBar;
     case 310: return go + 4;           // ActiveWindow.Panes.Item.Activate
     case 311: return go + toShape + 1; // .Select
-    case 318: return go + 2;           // the length of the locale's answer, and the answer
-    case 320: return go + 2;           // ActivePresentation.SnapToGrid
+    case 318:                          // the length of the locale's answer, and the answer
+    case 320:                          // ActivePresentation.SnapToGrid
+        return go + 2;
     case 322: return 0;
     default: return question < 308 ? unselect : go;
     }

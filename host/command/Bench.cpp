@@ -72,7 +72,7 @@ bool printLargeDeck(const WorldMaker& makeWorld, std::ostream& out) {
     const bool isFlat = printGrowth(
         {},
         [&](const language::ScenarioFile& file, std::size_t times) {
-            const QuestionCost cost = bench::costOf(file, Course(file, makeWorld), makeWorld, timedRuns);
+            QuestionCost cost = bench::costOf(file, Course(file, makeWorld), makeWorld, timedRuns);
             const bool isShort = times != 1 || cost.testePoint.time.count() < mostTime;
             isGood = holds(isShort, "the check takes 50 milliseconds or more", out) && isGood;
             return cost;
