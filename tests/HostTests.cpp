@@ -42,7 +42,8 @@ protected:
 
     std::string verify(ExitCode expected) {
         std::ostringstream out;
-        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out), expected);
+        host::Progress nobody;
+        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out, nobody), expected);
         return out.str();
     }
     std::string run(const host::RunRequest& request, ExitCode expected) {
@@ -102,14 +103,20 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
                   expected);
         return out.str();
     };
-    EXPECT_EQ(judged(ExitCode::FellShort, ""), "Question 306: the letter \"A\"\n");
+    EXPECT_TRUE(judged(ExitCode::FellShort, "").starts_with("Question 306: the letter \"A\"\n"));
     LateBound shape(working.get(u"Slides").to<ObjectPtr>());
     shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
     shape = LateBound(shape.get(u"Shapes").to<ObjectPtr>());
     shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
     const LateBound frame(shape.get(u"TextFrame").to<ObjectPtr>());
     LateBound(frame.get(u"TextRange").to<ObjectPtr>()).put(u"Text", std::u16string(u"créer créer créer créer"));
-    EXPECT_EQ(judged(ExitCode::Good, folder.string()), "Question 306: a success with the remark \"F\"\n");
+    EXPECT_TRUE(judged(ExitCode::Good, folder.string()).starts_with("Question 306: a success with the remark \"F\"\n"));
+
+    std::ofstream(folder / "eleve.ppt") << "no presentation";
+    std::ostringstream damaged;
+    EXPECT_THROW(
+        (void)host::recheck({(folder / "eleve.ppt").string(), 306, ""}, library(), host::makeEmbeddedWorld, damaged),
+        host::UsageError);
 
     host::RunRequest request;
     request.course = folder.string();
@@ -117,28 +124,6 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     std::filesystem::remove(folder / "07305306.ppt");
     std::ostringstream out;
     EXPECT_THROW((void)host::run(request, library(), host::makeEmbeddedWorld, out), host::UsageError);
-}
-
-TEST_F(HostTest, WhatAFileDoesNotTellIsNamed) {
-    const host::Library scenarios(std::filesystem::path(__FILE__).parent_path().parent_path() / "scenarios");
-    const auto story = host::load(scenarios.fileOf(310));
-    const host::Course built(story, host::makeEmbeddedWorld);
-    const host::WorldPtr world = host::makeEmbeddedWorld(nullptr);
-    host::Witness nobody;
-    host::TrainingHost training(*world, built, 310, nobody);
-    training.initQuestion(310, world->hostFolder());
-    {
-        const LateBound application(world->application());
-        LateBound(application.get(u"ActivePresentation").to<ObjectPtr>()).call(u"Save");
-    }
-    const std::filesystem::path saved = std::filesystem::path(file()).parent_path() / "eleve.ppt";
-    copyOut(*world, world->hostFolder() + u"Méthodologie.ppt", saved);
-    std::ostringstream out;
-    EXPECT_EQ(host::recheck({saved.string(), 310, ""}, scenarios, host::makeEmbeddedWorld, out), ExitCode::Good);
-    EXPECT_NE(out.str().find("Not checked"), std::string::npos) << out.str();
-    std::ofstream(saved) << "no presentation";
-    EXPECT_THROW((void)host::recheck({saved.string(), 310, ""}, scenarios, host::makeEmbeddedWorld, out),
-                 host::UsageError);
 }
 
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
@@ -168,7 +153,7 @@ TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
     write(std::string(course) + success +
           "scenario \"three\"\nActivePresentation.Slides(1).Shapes(1).TextFrame."
           "TextRange.Text = \"créer créer créer\"\ncheck \"C\" complement \" 3\"\n");
-    const auto object = nlohmann::json::parse(run({306, "three", true, true, {}}, ExitCode::Good));
+    const auto object = nlohmann::json::parse(run({306, "three", true, true, {}, {}}, ExitCode::Good));
     EXPECT_EQ(object["CauseErreur"], "C");
     EXPECT_EQ(object["ErreurGenerale"], false);
     EXPECT_EQ(object["BravoNuance"], false);

@@ -32,8 +32,8 @@ std::string edited(const std::string& file, const std::vector<PersistObject>& ch
         records::append(stream, each.record);
     }
     Record edit = readObjects(file)->userEdit;
-    files::putNumber(edit.data, 8, before);
-    files::putNumber(edit.data, 12, static_cast<std::uint32_t>(stream.size()));
+    files::putNumber(edit.data, userEdit::editBefore, before);
+    files::putNumber(edit.data, userEdit::directory, static_cast<std::uint32_t>(stream.size()));
     records::append(stream, Record::atom(type::PersistDirectoryAtom, directory.take()));
     files::putNumber(currentUser, lastEditPlace, static_cast<std::uint32_t>(stream.size()));
     records::append(stream, edit);
@@ -57,12 +57,12 @@ std::string withTitleInOutline() {
     const std::string file = PowerPointFormat().save(*presentation);
 
     const auto origin = readObjects(file);
-    PersistObject& document = origin->objects.front();
-    PersistObject& last = origin->objects.back();
+    PersistObject document = origin->objects.all().front();
+    PersistObject last = origin->objects.all().back();
     Record& box = *titleIn(last.record).find(type::ArtClientTextbox);
     Record& list = *document.record.find(type::SlideListWithText, slideList::slides);
     list.children.insert(list.children.end(), box.children.begin(), box.children.end());
-    files::putNumber(list.children.front().data, 8, 1);
+    files::putNumber(list.children.front().data, SlideEntry::textCountPlace, 1);
     list.children.push_back(Record::atom(type::TextRulerAtom, number(0)));
     box.children = {Record::atom(type::OutlineTextRefAtom, number(0)), Record::atom(0x2BAD, "unknown")};
     return edited(file, {document, last});
@@ -82,11 +82,11 @@ TEST(OutlineFile, TextsOfTheOutlineAreReadAndGoBackThere) {
     title.replace({0, 5}, u"Créer");
     const std::string changed = format.save(*presentation);
     const auto origin = readObjects(changed);
-    Record slide = origin->objects.back().record;
+    Record slide = origin->objects.all().back().record;
     const std::vector<Record>& box = titleIn(slide).find(type::ArtClientTextbox)->children;
     ASSERT_EQ(box.size(), 2U);
     EXPECT_TRUE(box[0].is(type::OutlineTextRefAtom) && box[1].is(0x2BAD));
-    const Record& list = *origin->object(origin->document)->find(type::SlideListWithText, slideList::slides);
+    const Record& list = *origin->objects.find(origin->document)->find(type::SlideListWithText, slideList::slides);
     EXPECT_EQ(files::utf16Text(list.demand(type::TextCharsAtom).data), u"Créer le plan");
     EXPECT_TRUE(list.children.back().is(type::TextRulerAtom));
     const PresentationPtr again = format.load(changed);

@@ -5,7 +5,7 @@
 namespace host::bench {
 
 std::vector<Holding> longRun(const std::vector<BuiltCourse>& courses, std::size_t questions,
-                             const WorldMaker& makeWorld) {
+                             const WorldMaker& makeWorld, const std::function<void(std::size_t)>& onQuestion) {
     constexpr std::size_t looks = 10;
     const std::size_t between = std::max<std::size_t>(questions / looks, 1);
     const WorldPtr world = makeWorld(nullptr);
@@ -14,6 +14,7 @@ std::vector<Holding> longRun(const std::vector<BuiltCourse>& courses, std::size_
     std::int32_t window = TrainingHost::unknownWindow;
     std::vector<Holding> holdings;
     for (std::size_t done = 1; done <= questions; ++done) {
+        onQuestion(done);
         const BuiltCourse& next = courses[(done - 1) % courses.size()];
         TrainingHost host(*world, next.course, next.file.question, nobody);
         host.application = application;

@@ -20,9 +20,10 @@ struct BuiltCourse {
 };
 
 /// Has one module in one PowerPoint work through questions, one after the other and round and round, each begun, worked
-/// on, checked and closed, and looks ten times at what the process holds, first after a tenth of the way. Raises what
-/// the module raises.
+/// on, checked and closed, and looks ten times at what the process holds, first after a tenth of the way. `onQuestion`
+/// is told how many have been begun. Raises what the module raises.
 [[nodiscard]] std::vector<Holding> longRun(const std::vector<BuiltCourse>& courses, std::size_t questions,
-                                           const WorldMaker& makeWorld);
+                                           const WorldMaker& makeWorld,
+                                           const std::function<void(std::size_t)>& onQuestion);
 
 } // namespace host::bench

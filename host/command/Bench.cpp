@@ -81,7 +81,8 @@ bool printLargeDeck(const WorldMaker& makeWorld, std::ostream& out) {
     return isFlat && isGood;
 }
 
-bool printLongRun(const BenchRequest& request, const Library& library, const Worlds& worlds, std::ostream& out) {
+bool printLongRun(const BenchRequest& request, const Library& library, const Worlds& worlds, std::ostream& out,
+                  Progress& progress) {
     std::vector<language::ScenarioFile> files;
     for (const std::filesystem::path& path : library.filesOf(request.questions)) {
         files.push_back(load(path));
@@ -95,7 +96,9 @@ bool printLongRun(const BenchRequest& request, const Library& library, const Wor
            "questions  resident kB  handles  live objects"
         << std::endl;
     const std::vector<bench::Holding> holdings =
-        bench::longRun(courses, request.runs, worlds.remote ? worlds.remote : worlds.embedded);
+        bench::longRun(courses, request.runs, worlds.remote ? worlds.remote : worlds.embedded,
+                       [&](std::size_t done) { progress.at("questions", done, request.runs); });
+    progress.clear();
     const auto shown = [](const std::optional<std::size_t>& figure) {
         return figure ? std::to_string(*figure) : "unknown";
     };
@@ -121,12 +124,13 @@ bool printLongRun(const BenchRequest& request, const Library& library, const Wor
 
 } // namespace
 
-ExitCode runBench(BenchRequest request, const Library& library, const Worlds& worlds, std::ostream& out) {
+ExitCode runBench(BenchRequest request, const Library& library, const Worlds& worlds, std::ostream& out,
+                  Progress& progress) {
     if (request.questions.empty()) {
         request.questions = Library::questions();
     }
     if (request.runs != 0) {
-        return printLongRun(request, library, worlds, out) ? ExitCode::Good : ExitCode::FellShort;
+        return printLongRun(request, library, worlds, out, progress) ? ExitCode::Good : ExitCode::FellShort;
     }
     if (worlds.remote) {
         return printRemoteCosts(request, library, worlds, out) ? ExitCode::Good : ExitCode::FellShort;

@@ -17,6 +17,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify                   all scenarios of all questions
   exercise-host verify 306 307
   exercise-host verify --file mine.scn   a scenario file of your own
+  exercise-host verify --report F.html   a page of all scenarios, with pictures of the slides
+  exercise-host run 315 --picture DIR    the slide before and after, as SVG
   exercise-host run 306 --course DIR     on the course's own files
   exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
@@ -46,6 +48,7 @@ struct CommandLine {
         run.add_flag("--json", runRequest.asJson, "Print one JSON object");
         run.add_flag("--trace", runRequest.withTrace, "List every call that leaves the module, its time and outcome");
 
+        run.add_option("--picture", runRequest.pictures, "Folder for pictures of the slide before and after");
         run.add_option("--course", runRequest.course, "Folder of the course's own files (07305306.ppt ...)");
 
         tryOut.add_option("question", tried, "Number of the question")->required()->transform(questionNumber);
@@ -59,6 +62,9 @@ struct CommandLine {
         verify.add_option("questions", verifyRequest.questions, "Numbers of questions (all)")
             ->transform(questionNumber);
         verify.add_option("--file", verifyRequest.files, "A scenario file");
+        verify.add_option("--report", verifyRequest.page, "Write a page of all scenarios, with pictures (F.html)");
+        verify.add_option("--junit", verifyRequest.junit, "Write a report as build servers read it (F.xml)");
+        verify.add_option("--json", verifyRequest.json, "Write a report as JSON (F.json)");
 
         list.add_option("questions", listed, "Numbers of questions (all)")->transform(questionNumber);
 
@@ -110,10 +116,26 @@ struct CommandLine {
     CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
-ExitCode perform(const CommandLine& asked, const Worlds& worlds, const LineReaderMaker& makeLines, Output output) {
-    const WorldMaker& makeWorld = worlds.remote ? worlds.remote : worlds.embedded;
+/// The worlds with PowerPoint in a process of its own, where they are asked for. Raises UsageError where there is no
+/// such thing.
+WorldMaker remoteWorlds(const CommandLine& asked, const ComWorldsMaker& makeComWorlds) {
+    if (!asked.withPowerPoint) {
+        return nullptr;
+    }
+    if (makeComWorlds == nullptr) {
+        throw UsageError("--powerpoint needs Windows; here only the embedded PowerPoint runs");
+    }
+    return makeComWorlds(asked.powerPointBits);
+}
+
+ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const ComWorldsMaker& makeComWorlds,
+                 const LineReaderMaker& makeLines, Output output) {
     try {
         const Library library(asked.folder);
+        const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
+        const WorldMaker& makeWorld = remote ? remote : embedded;
+        const Worlds worlds{embedded, remote};
+        Progress progress(output.error, output.isTerminal);
         if (asked.app.get_subcommands().empty()) {
             throw UsageError("run, try, verify, list, torture or bench? See exercise-host --help");
         }
@@ -127,13 +149,12 @@ ExitCode perform(const CommandLine& asked, const Worlds& worlds, const LineReade
             return recheck(asked.recheckRequest, library, makeWorld, output.out);
         }
         if (asked.torture) {
-            return runTorture(asked.tortureRequest, library, worlds, output.out,
-                              output.isTerminal ? &output.error : nullptr);
+            return runTorture(asked.tortureRequest, library, worlds, output.out, progress);
         }
         if (asked.bench) {
-            return runBench(asked.benchRequest, library, worlds, output.out);
+            return runBench(asked.benchRequest, library, worlds, output.out, progress);
         }
-        return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out)
+        return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out, progress)
                             : list(asked.listed, library, output.out);
     } catch (const language::WrongLines& wrong) {
         for (const language::Remark& remark : wrong.remarks) {
@@ -156,12 +177,8 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::fi
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    if (line.withPowerPoint && makeComWorlds == nullptr) {
-        output.error << "exercise-host: --powerpoint needs Windows; here only the embedded PowerPoint runs\n";
-        return ExitCode::WrongUsage;
-    }
-    const WorldMaker remote = line.withPowerPoint ? makeComWorlds(line.powerPointBits) : nullptr;
-    const ExitCode code = perform(line, {makeWorld, remote}, makeLines, output);
+    line.verifyRequest.countsCalls = !line.withPowerPoint;
+    const ExitCode code = perform(line, makeWorld, makeComWorlds, makeLines, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";
         return ExitCode::WrongUsage;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/command/Library.h"
+#include "host/command/Progress.h"
 #include "host/try/LineReader.h"
 #include "host/world/World.h"
 
@@ -28,7 +29,8 @@ struct RunRequest {
     std::string scenario; ///< its title; empty for the first that ends in a success
     bool asJson = false;
     bool withTrace = false;
-    std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
+    std::string course;   ///< folder of the course's own files; empty for those that the scenario file builds
+    std::string pictures; ///< folder for pictures of the slide before and after; empty for none
 };
 
 /// Prepares a question and talks with the course author, who states moves, asks for verdicts and saves scenarios.
@@ -39,6 +41,10 @@ struct RunRequest {
 struct VerifyRequest {
     std::vector<std::int32_t> questions;
     std::vector<std::string> files;
+    bool countsCalls = true; ///< the world lists the calls of the module
+    std::string page;        ///< file for a report as a page; empty for none
+    std::string junit;       ///< file for a report as build servers read it; empty for none
+    std::string json;        ///< file for a report as JSON; empty for none
 };
 
 /// What `exercise-host recheck` is asked for.
@@ -70,19 +76,19 @@ struct BenchRequest {
 [[nodiscard]] ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld,
                            std::ostream& out);
 
-/// Runs all scenarios and prints what falls short.
+/// Runs all scenarios, prints what falls short and writes the reports asked for.
 [[nodiscard]] ExitCode verify(const VerifyRequest& request, const Library& library, const WorldMaker& makeWorld,
-                              std::ostream& out);
+                              std::ostream& out, Progress& progress);
 
 /// Makes the calls fail that leave the module, one by one, and prints what is then amiss, and a line of totals. With
 /// remote worlds it is PowerPoint's process that dies, refuses or is late.
-/// Progress goes to `progress`, where there is one.
 [[nodiscard]] ExitCode runTorture(const TortureRequest& request, const Library& library, const Worlds& worlds,
-                                  std::ostream& out, std::ostream* progress);
+                                  std::ostream& out, Progress& progress);
 
 /// Prints what questions cost in calls and time, and how the cost grows with a deck; or what a long run leaves behind.
 /// With remote worlds it is what they cost through COM, beside a script.
-[[nodiscard]] ExitCode runBench(BenchRequest request, const Library& library, const Worlds& worlds, std::ostream& out);
+[[nodiscard]] ExitCode runBench(BenchRequest request, const Library& library, const Worlds& worlds, std::ostream& out,
+                                Progress& progress);
 
 /// Prints the scenarios of questions, of all where none is named.
 [[nodiscard]] ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out);

@@ -69,4 +69,17 @@ Bytes contentsOf(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
+void demandWritable(const fs::path& path) {
+    if (!std::ofstream(path, std::ios::binary | std::ios::app)) {
+        throw UsageError("cannot be written: " + path.string());
+    }
+}
+
+void writeContents(const fs::path& path, std::string_view content) {
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    if (!file.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
+        throw UsageError("cannot be written: " + path.string());
+    }
+}
+
 } // namespace host

@@ -2,7 +2,9 @@
 #include "host/command/JsonStory.h"
 #include "host/command/PlainStory.h"
 #include "host/command/Telling.h"
+#include "host/picture/Camera.h"
 #include "host/run/Runner.h"
+#include "host/run/Witnesses.h"
 
 #include "automation/Text.h"
 
@@ -53,6 +55,21 @@ void printValues(const Reading& reading, std::ostream& out) {
         << '\n';
 }
 
+/// Writes what there is of a slide before and after into a folder, and answers with the files.
+std::vector<std::string> written(const BeforeAfter& slide, const std::filesystem::path& folder) {
+    std::error_code failed;
+    std::filesystem::create_directories(folder, failed);
+    std::vector<std::string> files;
+    for (const auto& [name, picture] : {std::pair("before", &slide.before), std::pair("after", &slide.after)}) {
+        if (!picture->bytes.empty()) {
+            const std::filesystem::path file = folder / (std::string(name) + "." + picture->extension);
+            writeContents(file, picture->bytes);
+            files.push_back(file.string());
+        }
+    }
+    return files;
+}
+
 nlohmann::ordered_json toJson(const ScenarioFile& file, const Scenario& scenario, const Outcome& outcome) {
     const Reading& reading = outcome.lastReading;
     nlohmann::ordered_json object;
@@ -92,10 +109,23 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
     }
     const Runner runner = request.course.empty() ? Runner(file, makeWorld)
                                                  : Runner(file, courseIn(request.course, file.question), makeWorld);
-    const Outcome outcome = runner.run(
-        scenario, [&](World& world) { return std::make_unique<Telling>(world, story); }, trace);
+    BeforeAfter slide;
+    const auto makeWitness = [&](World& world) {
+        auto witnesses = std::make_unique<Witnesses>();
+        witnesses->add(std::make_unique<Telling>(world, story));
+        if (!request.pictures.empty()) {
+            witnesses->add(std::make_unique<Camera>(world, [&](BeforeAfter seen) { slide = std::move(seen); }));
+        }
+        return witnesses;
+    };
+    const Outcome outcome = runner.run(scenario, makeWitness, trace);
+    const std::vector<std::string> pictures =
+        request.pictures.empty() ? std::vector<std::string>() : written(slide, request.pictures);
     if (request.asJson) {
         nlohmann::ordered_json object = toJson(file, scenario, outcome);
+        if (!request.pictures.empty()) {
+            object["pictures"] = pictures;
+        }
         object["story"] = json.chapters();
         out << object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
     } else {
@@ -103,6 +133,9 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
             out << '\n' << failure.in(file.name) << '\n';
         }
         printValues(outcome.lastReading, out);
+        for (const std::string& picture : pictures) {
+            out << "Picture: " << picture << '\n';
+        }
     }
     return outcome.failures.empty() ? ExitCode::Good : ExitCode::FellShort;
 }

@@ -11,18 +11,19 @@ namespace {
 using torture::Totals;
 
 void tortureFile(const language::ScenarioFile& file, const Worlds& worlds, std::size_t every, std::mt19937& random,
-                 Totals& totals, std::ostream& out, std::ostream* progress) {
+                 Totals& totals, std::ostream& out, Progress& progress) {
     Watch watch(Watch::patience, out);
     watch.next(file.name);
     const torture::Torture torture(file, worlds.embedded, every, random);
-    const auto report = [&](const std::string& finding) { out << finding << std::endl; };
+    const auto report = [&](const std::string& finding) {
+        progress.clear();
+        out << finding << std::endl;
+    };
     const auto advance = [&](const torture::Operation& operation, std::size_t call, std::size_t calls) {
         const std::string place =
             "question " + std::to_string(file.question) + ", " + operation.display() + ", call " + std::to_string(call);
         watch.next(place);
-        if (progress != nullptr) {
-            *progress << '\r' << place << " of " << calls << "        " << std::flush;
-        }
+        progress.at(place, call, calls);
     };
     if (worlds.remote) {
         torture.runRemote(worlds.remote, totals, report, advance);
@@ -42,7 +43,7 @@ void print(const Totals& totals, std::ostream& out) {
 } // namespace
 
 ExitCode runTorture(const TortureRequest& request, const Library& library, const Worlds& worlds, std::ostream& out,
-                    std::ostream* progress) {
+                    Progress& progress) {
     const std::uint32_t draw = request.draw ? *request.draw : std::random_device()();
     if (request.every > 1) {
         out << "one call in " << request.every << ", --draw " << draw << std::endl;
@@ -53,9 +54,7 @@ ExitCode runTorture(const TortureRequest& request, const Library& library, const
          library.filesOf(request.questions.empty() ? Library::questions() : request.questions)) {
         tortureFile(load(path), worlds, request.every, random, totals, out, progress);
     }
-    if (progress != nullptr) {
-        *progress << '\n';
-    }
+    progress.clear();
     print(totals, out);
     return totals.findings == 0 && totals.failed != 0 ? ExitCode::Good : ExitCode::FellShort;
 }

@@ -15,7 +15,11 @@ namespace host {
 
 namespace {
 
-volatile std::sig_atomic_t isInterrupted = 0;
+/// Other than 0 once the user has interrupted.
+volatile std::sig_atomic_t& interruption() {
+    static volatile std::sig_atomic_t happened = 0;
+    return happened;
+}
 
 constexpr std::array interruptions{SIGINT, SIGTERM, SIGHUP};
 
@@ -25,13 +29,8 @@ LineReader::Completer& completer() {
     return current;
 }
 
-/// What the library frees.
-char* duplicate(const std::string& text) {
-    auto* const copy = static_cast<char*>(std::malloc(text.size() + 1));
-    return copy == nullptr ? nullptr : std::strcpy(copy, text.c_str());
-}
-
-/// The candidates one by one, from the first where `state` is 0; null behind the last.
+/// The candidates one by one, from the first where `state` is 0, each to be freed by the library; null behind
+/// the last.
 char* nextCandidate(const char* /*word*/, int state) {
     static std::vector<std::string> candidates;
     static std::size_t position = 0;
@@ -39,7 +38,7 @@ char* nextCandidate(const char* /*word*/, int state) {
         candidates = completer()(std::string(rl_line_buffer).substr(0, static_cast<std::size_t>(rl_point)));
         position = 0;
     }
-    return position < candidates.size() ? duplicate(candidates[position++]) : nullptr;
+    return position < candidates.size() ? strdup(candidates[position++].c_str()) : nullptr;
 }
 
 char** complete(const char* word, int /*start*/, int /*end*/) {
@@ -58,7 +57,7 @@ public:
     EditedLines& operator=(EditedLines&&) = delete;
 
     [[nodiscard]] std::optional<std::string> read(const std::string& prompt) override;
-    void completeBy(Completer by) override { completer() = std::move(by); }
+    void completeBy(const Completer& by) override { completer() = by; }
 };
 
 EditedLines::EditedLines() {
@@ -70,7 +69,7 @@ EditedLines::EditedLines() {
     rl_catch_signals = 0;
     using_history();
     struct sigaction action {};
-    action.sa_handler = [](int) { isInterrupted = 1; };
+    action.sa_handler = [](int) { interruption() = 1; };
     action.sa_flags = static_cast<int>(SA_RESETHAND); // and no SA_RESTART: reading must end
     for (const int signal : interruptions) {
         sigaction(signal, &action, nullptr);
@@ -86,9 +85,9 @@ EditedLines::~EditedLines() {
 
 std::optional<std::string> EditedLines::read(const std::string& prompt) {
     std::cout.flush();
-    const std::unique_ptr<char, decltype(&std::free)> line(isInterrupted != 0 ? nullptr : readline(prompt.c_str()),
+    const std::unique_ptr<char, decltype(&std::free)> line(interruption() != 0 ? nullptr : readline(prompt.c_str()),
                                                            &std::free);
-    if (!line || isInterrupted != 0) {
+    if (!line || interruption() != 0) {
         std::cout << '\n';
         return std::nullopt;
     }

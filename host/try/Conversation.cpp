@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <ostream>
 
 namespace host {
@@ -41,13 +42,13 @@ fs::path pathOf(const std::string& name) {
 }
 
 /// Writes a file, which must not be there unless it may be replaced.
-void writeFile(const std::string& name, std::span<const char> content, bool replaces) {
+void writeFile(const std::string& name, const Bytes& content, bool replaces) {
     const fs::path path = pathOf(name);
     if (!replaces && fs::exists(path)) {
         throw std::runtime_error(name + " is there already: name another file, or say save! to replace it");
     }
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    std::copy(content.begin(), content.end(), std::ostreambuf_iterator<char>(file));
     if (!file.flush()) {
         throw std::runtime_error(name + " cannot be written: is there such a folder, and may you write there?");
     }
@@ -94,6 +95,7 @@ bool Conversation::run() {
         printContents(attempt_->world().application(), out_);
     } catch (const automation::Error& error) {
         out_ << "The question cannot be prepared: " << inWords(error) << '\n';
+        static_cast<void>(close());
         return false;
     }
     out_ << "State the learner's moves as a macro would, and check; help tells the rest.\n";
@@ -111,12 +113,20 @@ bool Conversation::run() {
 }
 
 void Conversation::begin() {
+    if (attempt_) {
+        static_cast<void>(attempt_->close()); // what is amiss is of moves that are taken back
+    }
     attempt_.reset(); // where PowerPoint is the one on the desktop, there cannot be two
+    isOver_ = true;
     attempt_.emplace(file_.question, course_, makeWorld_);
+    isOver_ = false;
 }
 
 bool Conversation::close() {
-    const std::vector<std::string> findings = attempt_ ? attempt_->close() : std::vector<std::string>();
+    if (!attempt_) {
+        return false;
+    }
+    const std::vector<std::string> findings = attempt_->close();
     attempt_.reset();
     for (const std::string& finding : findings) {
         out_ << "Not as it was before: " << finding << '\n';
@@ -131,11 +141,13 @@ void Conversation::obey(const std::string& line) {
     const std::string rest = trimmed(line.substr(stop));
     const auto& all = verbs();
     const auto verb = std::find_if(all.begin(), all.end(), [&](const Verb& each) {
-        return each.act != nullptr && each.name == word && each.takesRest == !rest.empty();
+        return each.act != nullptr && each.name == word && (each.takesRest || rest.empty());
     });
     try {
         if (line.starts_with('?')) {
             print(" " + line.substr(1)); // columns count in the line
+        } else if (verb != all.end() && verb->takesRest && rest.empty()) {
+            out_ << "For example: " << verb->name << ' ' << verb->rest << '\n';
         } else if (verb != all.end()) {
             (this->*verb->act)(rest);
         } else if (!line.empty() && line.front() != '#' && line.front() != '\'') {
@@ -227,7 +239,8 @@ void Conversation::saveAs(const std::string& rest, bool replaces) {
     const std::string name = trimmed(rest.substr(0, quote));
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    writeFile(name, scenarioText(file_, title, attempt_->moves()), replaces);
+    const std::string text = scenarioText(file_, title, attempt_->moves());
+    writeFile(name, Bytes(text.begin(), text.end()), replaces);
     out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with "
          << howMany(attempt_->moves().size() - attempt_->checks(), "move") << " and "
          << howMany(attempt_->checks(), "check") << ".\n";
@@ -237,8 +250,7 @@ void Conversation::saveAs(const std::string& rest, bool replaces) {
 }
 
 void Conversation::exportTo(const std::string& file) {
-    const Bytes content = attempt_->presentation();
-    writeFile(file, {reinterpret_cast<const char*>(content.data()), content.size()}, true);
+    writeFile(file, attempt_->presentation(), true);
     out_ << "The presentation is in " << file << ".\n";
 }
 

@@ -28,6 +28,7 @@ private:
     };
     static const std::vector<Verb>& verbs();
 
+    /// Prepares the question in the place of what is being tried. Where that raises, the conversation is over.
     void begin();
     bool close();
     void obey(const std::string& line);

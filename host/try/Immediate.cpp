@@ -32,7 +32,7 @@ std::string printed(const ObjectPtr& object) {
         return "Nothing";
     }
     const std::u16string className = object->className();
-    const std::string text = className.empty() ? "an object" : automation::toUtf8(className);
+    std::string text = className.empty() ? "an object" : automation::toUtf8(className);
     if (const auto name = plainProperty(*object, u"Name")) {
         return text + " " + automation::toUtf8(name->display());
     }

@@ -24,7 +24,7 @@ public:
     /// The next line in UTF-8, without its end; nothing at the end of the input, or where the user interrupts it.
     [[nodiscard]] virtual std::optional<std::string> read(const std::string& prompt) = 0;
     /// Where lines can be completed, this says how.
-    virtual void completeBy(Completer /*completer*/) {}
+    virtual void completeBy(const Completer& /*completer*/) {}
 };
 
 /// Makes the reader of the program's own input.

@@ -1,28 +1,21 @@
 #pragma once
 
-#include <filesystem>
-#include <vector>
+#include "host/win32/Journal.h"
 
 namespace host {
 
-/// Files and folders of the real disk that are taken away again in the end.
+/// Files and folders of the real disk that go when the journal gives everything back.
 class BorrowedFiles {
 public:
-    /// A folder of this name, empty; one that was there is put aside and comes back.
-    explicit BorrowedFiles(std::filesystem::path folder);
-    ~BorrowedFiles();
-    BorrowedFiles(const BorrowedFiles&) = delete;
-    BorrowedFiles& operator=(const BorrowedFiles&) = delete;
-    BorrowedFiles(BorrowedFiles&&) = delete;
-    BorrowedFiles& operator=(BorrowedFiles&&) = delete;
+    /// A folder of this name, without a backslash at its end, is empty; what was there is put aside until then.
+    /// `journal` must outlive this object.
+    BorrowedFiles(Journal& journal, const std::filesystem::path& folder);
 
-    /// To be called before a file is created: it, or the first folder created for it, goes in the end.
+    /// To be called before a file is created: it goes, or the first folder created for it.
     void announce(const std::filesystem::path& file);
 
 private:
-    std::filesystem::path folder_;
-    std::filesystem::path aside_; ///< where the folder that was there lies; empty where there was none
-    std::vector<std::filesystem::path> created_;
+    Journal& journal_;
 };
 
 } // namespace host

@@ -1,23 +1,17 @@
 #pragma once
 
-#include <windows.h>
+#include "host/win32/Journal.h"
+#include "platform/win32/RegistryKey.h"
 
 #include <map>
-#include <optional>
-#include <string>
-#include <vector>
 
 namespace host {
 
-/// Changes to the real registry that are undone in the end, in reverse order.
+/// Changes to the real registry that are undone when the journal gives everything back.
 class BorrowedRegistry {
 public:
-    BorrowedRegistry() = default;
-    ~BorrowedRegistry();
-    BorrowedRegistry(const BorrowedRegistry&) = delete;
-    BorrowedRegistry& operator=(const BorrowedRegistry&) = delete;
-    BorrowedRegistry(BorrowedRegistry&&) = delete;
-    BorrowedRegistry& operator=(BorrowedRegistry&&) = delete;
+    /// `journal` must outlive this object.
+    explicit BorrowedRegistry(Journal& journal) noexcept : journal_(journal) {}
 
     /// A string value of the current user's, without its terminating NUL, whether the key is denied or not; empty where
     /// it is missing.
@@ -31,26 +25,13 @@ public:
     void deny(const std::wstring& key, bool denied);
 
 private:
-    struct Data {
-        DWORD type = REG_NONE;
-        std::vector<BYTE> bytes;
-    };
-    struct Former {
-        HKEY root;
-        std::wstring key;
-        std::wstring name;
-        std::optional<Data> data; ///< nothing where the value was missing
-        bool hadKey;
-    };
+    /// A denied key, opened before.
     struct Denied {
-        HKEY key; ///< opened before
-        std::vector<BYTE> security;
+        platform::RegistryKey key;
+        Loan rights;
     };
 
-    void allow(const Denied& denied) const;
-    static void restore(const Former& former);
-
-    std::vector<Former> former_;
+    Journal& journal_;
     std::map<std::wstring, Denied> denied_;
 };
 

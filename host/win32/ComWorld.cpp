@@ -4,9 +4,8 @@
 #include "automation/com/WideText.h"
 #include "host/win32/BorrowedFiles.h"
 #include "host/win32/BorrowedRegistry.h"
-#include "host/win32/DesktopPowerPoint.h"
+#include "host/win32/Desktop.h"
 #include "host/win32/ScriptHost.h"
-#include "host/win32/Standby.h"
 #include "host/win32/VtableModule.h"
 #include "simulator/win32/StandInIdentity.h"
 
@@ -39,24 +38,6 @@ std::wstring wide(std::u16string_view text) {
                             std::move(text));
 }
 
-/// COM for the calling thread.
-class Apartment {
-public:
-    Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-    ~Apartment() { CoUninitialize(); }
-    Apartment(const Apartment&) = delete;
-    Apartment& operator=(const Apartment&) = delete;
-    Apartment(Apartment&&) = delete;
-    Apartment& operator=(Apartment&&) = delete;
-};
-
-/// What all worlds share.
-struct Desktop {
-    Apartment apartment;
-    Standby standby;
-    std::int32_t demandedBits = 0; ///< of PowerPoint; 0 once they are known to be right, or where any will do
-};
-
 /// True where the registered library, if it is loaded, says that nobody holds anything of it.
 bool canLibraryUnload() {
     const HMODULE library = GetModuleHandleW(L"K73053.dll");
@@ -70,19 +51,11 @@ bool canLibraryUnload() {
 
 class ComWorld final : public World {
 public:
-    explicit ComWorld(std::shared_ptr<Desktop> desktop) : desktop_(std::move(desktop)) {
-        endLeftPowerPoint();
-        setUpRegistry();
-        desktop_->standby.prepare();
-        if (desktop_->demandedBits != 0) {
-            requireBits(desktop_->demandedBits);
-            desktop_->demandedBits = 0;
-            desktop_->standby.prepare();
-        }
-    }
+    explicit ComWorld(std::shared_ptr<Desktop> desktop) : desktop_(std::move(desktop)) { setUpRegistry(); }
     ~ComWorld() override {
         module_.reset();
         powerPoint_.dismiss();
+        desktop_->journal().giveBack();
     }
     ComWorld(const ComWorld&) = delete;
     ComWorld& operator=(const ComWorld&) = delete;
@@ -193,27 +166,6 @@ private:
         return real;
     }
 
-    void endLeftPowerPoint() {
-        if (powerPoint_.window() == 0) {
-            return;
-        }
-        if (!DesktopPowerPoint::isStandIn()) {
-            refuse(u"PowerPoint runs on this desktop: close it first");
-        }
-        powerPoint_.dismiss();
-    }
-
-    /// Starts the PowerPoint that is registered, and asks it.
-    void requireBits(std::int32_t demanded) {
-        powerPoint_.start();
-        const auto bits =
-            DesktopPowerPoint::isStandIn() ? powerPoint_.standIn().get(u"Bits").to<std::int32_t>() : std::int32_t{0};
-        powerPoint_.dismiss();
-        if (bits != demanded) {
-            refuse(u"the PowerPoint that is registered is no stand-in of " + automation::decimal(demanded) + u" bits");
-        }
-    }
-
     /// Settings of a user who has worked with PowerPoint a little.
     void setUpRegistry() {
         for (const std::u16string_view name : folderSettings::names) {
@@ -225,8 +177,8 @@ private:
     }
 
     std::shared_ptr<Desktop> desktop_;
-    BorrowedFiles files_{folder};
-    BorrowedRegistry registry_;
+    BorrowedFiles files_{desktop_->journal(), fs::path(folder).parent_path()};
+    BorrowedRegistry registry_{desktop_->journal()};
     DesktopPowerPoint powerPoint_;
     std::optional<VtableModule> module_;
 };
@@ -234,12 +186,11 @@ private:
 } // namespace
 
 WorldMaker makeComWorlds(std::int32_t powerPointBits) {
-    auto shared = std::make_shared<Desktop>();
-    shared->demandedBits = powerPointBits;
-    return [desktop = std::move(shared)](const automation::ObserverPtr& observer) -> WorldPtr {
+    return [desktop = std::make_shared<Desktop>(powerPointBits)](const automation::ObserverPtr& observer) -> WorldPtr {
         if (observer) {
             refuse(u"the calls of the registered library cannot be listed");
         }
+        desktop->makeReady();
         return std::make_unique<ComWorld>(desktop);
     };
 }

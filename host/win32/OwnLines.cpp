@@ -7,6 +7,7 @@
 
 #include <array>
 #include <atomic>
+#include <cstdio>
 #include <iostream>
 
 namespace host {
@@ -16,17 +17,25 @@ namespace {
 /// How long the system is kept waiting where it closes the console.
 constexpr DWORD patience = 20'000;
 
-std::atomic<bool> isInterrupted = false;
-HANDLE readingThread = nullptr;
-HANDLE allDone = nullptr;
+/// What the system's thread that tells of interruptions and the one that reads have in common.
+struct ConsoleState {
+    std::atomic<bool> isInterrupted = false;
+    Handle thread; ///< the one that reads
+    Handle done;   ///< set when nothing is read any more
+};
+
+ConsoleState& state() {
+    static ConsoleState one;
+    return one;
+}
 
 BOOL WINAPI interrupt(DWORD event) {
-    if (isInterrupted.exchange(true)) {
+    if (state().isInterrupted.exchange(true)) {
         return FALSE;
     }
-    CancelSynchronousIo(readingThread);
+    CancelSynchronousIo(state().thread.get());
     if (event >= CTRL_CLOSE_EVENT) {
-        WaitForSingleObject(allDone, patience); // the program ends when this returns
+        WaitForSingleObject(state().done.get(), patience); // the program ends when this returns
     }
     return TRUE;
 }
@@ -35,15 +44,16 @@ BOOL WINAPI interrupt(DWORD event) {
 class ConsoleLines final : public LineReader {
 public:
     ConsoleLines() {
-        DuplicateHandle(GetCurrentProcess(), GetCurrentThread(), GetCurrentProcess(), &readingThread, 0, FALSE,
-                        DUPLICATE_SAME_ACCESS);
-        allDone = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+        state().thread = Handle(OpenThread(THREAD_TERMINATE, FALSE, GetCurrentThreadId()));
+        state().done = Handle(CreateEventW(nullptr, TRUE, FALSE, nullptr));
         SetConsoleCtrlHandler(interrupt, TRUE);
         SetConsoleOutputCP(CP_UTF8);
+        // The console translates each write by itself; one byte of a letter alone says nothing.
+        static_cast<void>(std::setvbuf(stdout, nullptr, _IOFBF, BUFSIZ));
     }
     ~ConsoleLines() override {
         SetConsoleOutputCP(codePage_);
-        SetEvent(allDone);
+        SetEvent(state().done.get());
     }
     ConsoleLines(const ConsoleLines&) = delete;
     ConsoleLines& operator=(const ConsoleLines&) = delete;
@@ -54,10 +64,11 @@ public:
         std::cout << prompt << std::flush;
         std::array<wchar_t, 4096> typed{};
         DWORD length = 0;
-        const bool isRead = !isInterrupted && ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), typed.data(),
-                                                           static_cast<DWORD>(typed.size()), &length, nullptr) != FALSE;
+        const bool isRead =
+            !state().isInterrupted && ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), typed.data(),
+                                                   static_cast<DWORD>(typed.size()), &length, nullptr) != FALSE;
         constexpr wchar_t endOfInput = L'\x1A';
-        if (!isRead || isInterrupted || length == 0 || typed.front() == endOfInput) {
+        if (!isRead || state().isInterrupted || length == 0 || typed.front() == endOfInput) {
             std::cout << std::endl;
             return std::nullopt;
         }

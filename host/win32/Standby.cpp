@@ -84,8 +84,9 @@ void Standby::start() {
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process{};
-    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process) !=
-        FALSE) {
+    // In a group of its own: an interruption at the console is meant for the host.
+    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NEW_PROCESS_GROUP, nullptr, nullptr,
+                       &startup, &process) != FALSE) {
         CloseHandle(process.hThread);
         one.process = Handle(process.hProcess);
         one.thread = process.dwThreadId;

@@ -1,7 +1,7 @@
 #include "library/registration/Registration.h"
 
 #include "library/registration/Entries.h"
-#include "library/registration/RegistryKey.h"
+#include "platform/win32/RegistryKey.h"
 
 #include <algorithm>
 #include <ranges>
@@ -9,6 +9,9 @@
 namespace library {
 
 namespace {
+
+using platform::checkRegistry;
+using platform::RegistryKey;
 
 const std::wstring classesKey = L"Software\\Classes";
 constexpr REGSAM otherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
@@ -25,20 +28,14 @@ void write(HKEY root, const Entry& entry) {
     RegistryKey::create(root, pathOf(entry.key)).setText(entry.name, entry.text);
 }
 
-/// True for the keys that hold those of all libraries.
-bool isCommon(const std::wstring& key) {
-    return key == L"CLSID" || key == L"Interface" || key == L"TypeLib";
-}
-
-/// Deletes a key that is bare, and those above it that this leaves bare, but for the common ones, which stay as whoever
-/// made them left them.
-void deleteBare(HKEY root, std::wstring key) {
-    while (!key.empty() && !isCommon(key)) {
+/// Deletes a key that is bare, and those above it that this leaves bare.
+void deleteBare(HKEY root, std::wstring key, REGSAM view = 0) {
+    while (!key.empty()) {
         const std::wstring path = pathOf(key);
-        if (const auto opened = RegistryKey::open(root, path, KEY_QUERY_VALUE); !opened || !opened.isBare()) {
+        if (const auto opened = RegistryKey::open(root, path, KEY_QUERY_VALUE | view); !opened || !opened.isBare()) {
             return;
         }
-        checkRegistry(RegDeleteKeyW(root, path.c_str()));
+        checkRegistry(RegDeleteKeyExW(root, path.c_str(), view, 0));
         const std::size_t end = key.find_last_of(L'\\');
         key.resize(end == std::wstring::npos ? 0 : end);
     }
@@ -94,6 +91,8 @@ void unregisterLibrary(Scope scope) {
     if (!isOtherRegistered(root)) {
         removeAll(true);
     }
+    // What 32-bit programs see stands below this one, which they cannot see themselves.
+    deleteBare(root, L"Wow6432Node", KEY_WOW64_64KEY);
 }
 
 } // namespace library

@@ -8,8 +8,6 @@
 #include <array>
 #include <chrono>
 #include <thread>
-#include <utility>
-#include <vector>
 
 namespace platform {
 
@@ -17,60 +15,24 @@ namespace {
 
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
-using KeyCode = WORD;
 
 constexpr auto patience = 2000ms;
 constexpr auto step = 5ms;
 
-constexpr std::array<std::pair<std::u16string_view, KeyCode>, 16> namedKeys{{
-    {u"ESC", VK_ESCAPE},
-    {u"ENTER", VK_RETURN},
-    {u"TAB", VK_TAB},
-    {u"BACKSPACE", VK_BACK},
-    {u"DELETE", VK_DELETE},
-    {u"INSERT", VK_INSERT},
-    {u"HOME", VK_HOME},
-    {u"END", VK_END},
-    {u"PGUP", VK_PRIOR},
-    {u"PGDN", VK_NEXT},
-    {u"UP", VK_UP},
-    {u"DOWN", VK_DOWN},
-    {u"LEFT", VK_LEFT},
-    {u"RIGHT", VK_RIGHT},
-    {u"F1", VK_F1},
-    {u"F5", VK_F5},
-}};
+constexpr std::u16string_view escape = u"{ESC}";
 
-KeyCode keyCalled(std::u16string_view name) {
-    for (const auto& [known, key] : namedKeys) {
-        if (automation::equalIgnoringCase(known, name)) {
-            return key;
-        }
-    }
-    automation::raise(automation::RunTimeError::InvalidProcedureCall);
-}
-
-std::vector<KeyCode> parse(std::u16string_view keys) {
-    std::vector<KeyCode> result;
-    while (!keys.empty()) {
-        const std::size_t end = keys.find(u'}');
-        if (keys.front() != u'{' || end == std::u16string_view::npos) {
-            automation::raise(automation::RunTimeError::InvalidProcedureCall);
-        }
-        result.push_back(keyCalled(keys.substr(1, end - 1)));
-        keys.remove_prefix(end + 1);
-    }
-    return result;
-}
-
-void press(KeyCode key) {
+/// Raises PermissionDenied where the desktop takes no keys, as a locked one.
+void press(WORD key) {
     std::array<INPUT, 2> strokes{};
     for (INPUT& stroke : strokes) {
         stroke.type = INPUT_KEYBOARD;
         stroke.ki.wVk = key;
     }
     strokes[1].ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(static_cast<UINT>(strokes.size()), strokes.data(), sizeof(INPUT));
+    const auto count = static_cast<UINT>(strokes.size());
+    if (SendInput(count, strokes.data(), sizeof(INPUT)) != count) {
+        automation::raise(automation::RunTimeError::PermissionDenied);
+    }
 }
 
 /// The thread that has the keyboard, with its state of the keys shared for the length of a scope.
@@ -90,7 +52,7 @@ public:
     ActiveThread& operator=(ActiveThread&&) = delete;
 
     /// Presses a key and waits until the thread has taken it from its queue: then the key has changed its state.
-    void take(KeyCode key) const {
+    void take(WORD key) const {
         const bool before = isToggled(key);
         press(key);
         const auto end = Clock::now() + patience;
@@ -102,19 +64,26 @@ public:
     /// Waits until what was taken is processed: a thread answers messages only in between.
     void finish() const {
         if (isOwn()) {
-            MSG message;
-            while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
-                TranslateMessage(&message);
-                DispatchMessageW(&message);
-            }
+            processOwnMessages();
         } else {
             SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, static_cast<UINT>(patience.count()), nullptr);
         }
     }
 
 private:
+    static void processOwnMessages() {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+            if (message.message == WM_QUIT) {
+                PostQuitMessage(static_cast<int>(message.wParam)); // it is for the host's own loop
+                return;
+            }
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
     [[nodiscard]] bool isOwn() const noexcept { return thread_ == GetCurrentThreadId(); }
-    [[nodiscard]] static bool isToggled(KeyCode key) noexcept { return (GetKeyState(key) & 1) != 0; }
+    [[nodiscard]] static bool isToggled(WORD key) noexcept { return (GetKeyState(key) & 1) != 0; }
 
     HWND window_;
     DWORD thread_;
@@ -124,11 +93,11 @@ private:
 } // namespace
 
 void Win32Keyboard::send(std::u16string_view keys) {
-    const std::vector<KeyCode> pressed = parse(keys);
-    const ActiveThread active;
-    for (const KeyCode key : pressed) {
-        active.take(key);
+    if (!automation::equalIgnoringCase(keys, escape)) {
+        automation::raise(automation::RunTimeError::InvalidProcedureCall);
     }
+    const ActiveThread active;
+    active.take(VK_ESCAPE);
     active.finish();
 }
 

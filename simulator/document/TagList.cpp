@@ -4,6 +4,7 @@
 #include "simulator/document/LetterCase.h"
 
 #include <algorithm>
+#include <map>
 
 namespace simulator {
 
@@ -14,7 +15,25 @@ template <typename Tags> auto find(Tags& tags, std::u16string_view name) noexcep
                         [name](const TagList::Tag& tag) { return automation::equalIgnoringCase(tag.first, name); });
 }
 
+std::u16string capitalsOf(std::u16string_view name) {
+    std::u16string capitals(name);
+    std::transform(capitals.begin(), capitals.end(), capitals.begin(), upperCase);
+    return capitals;
+}
+
 } // namespace
+
+TagList::TagList(const std::vector<Tag>& tags) {
+    std::map<std::u16string, std::size_t> places;
+    for (const auto& [name, value] : tags) {
+        const auto [place, isNew] = places.emplace(capitalsOf(name), tags_.size());
+        if (isNew) {
+            tags_.emplace_back(place->first, value);
+        } else {
+            tags_[place->second].second = value;
+        }
+    }
+}
 
 void TagList::add(std::u16string_view name, std::u16string_view value) {
     const auto existing = find(tags_, name);
@@ -22,9 +41,7 @@ void TagList::add(std::u16string_view name, std::u16string_view value) {
         existing->second = value;
         return;
     }
-    std::u16string capitals(name);
-    std::transform(capitals.begin(), capitals.end(), capitals.begin(), upperCase);
-    tags_.emplace_back(std::move(capitals), value);
+    tags_.emplace_back(capitalsOf(name), value);
 }
 
 void TagList::remove(std::u16string_view name) {

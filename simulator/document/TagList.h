@@ -13,6 +13,10 @@ class TagList {
 public:
     using Tag = std::pair<std::u16string, std::u16string>;
 
+    TagList() = default;
+    /// Tags as a file holds them, however many; of those with one name the last value counts.
+    explicit TagList(const std::vector<Tag>& tags);
+
     /// Adds a tag, or replaces the value of the one that has this name.
     void add(std::u16string_view name, std::u16string_view value);
     /// Removes a tag; nothing happens where there is none of this name.

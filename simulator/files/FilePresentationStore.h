@@ -23,6 +23,7 @@ public:
     /// A file that was there stays as it was where saving fails.
     void save(const Presentation& presentation, std::u16string_view path) override;
     void saveOutline(const Presentation& presentation, std::u16string_view path) override;
+    void savePicture(const std::string& picture, std::u16string_view path) override { write(picture, path); }
     /// False for a file that does not exist.
     [[nodiscard]] bool isReadOnly(std::u16string_view path) override;
 

@@ -6,6 +6,7 @@
 #include "simulator/objects/ShapesObject.h"
 #include "simulator/objects/SlideRangeObject.h"
 #include "simulator/objects/TagsObject.h"
+#include "simulator/picture/SlidePicture.h"
 
 namespace simulator {
 
@@ -29,6 +30,7 @@ const automation::MemberTable& SlideMembers::sharedMembers() {
         property<&This::slideIndex>(u"SlideIndex"),
         property<&This::slideIndex>(u"SlideNumber"),
         method<&This::moveTo>(u"MoveTo"),
+        method<&This::exportTo>(u"Export"),
     };
     return table;
 }
@@ -122,6 +124,24 @@ void SlideMembers::moveTo(std::int32_t toPos) {
     const PresentationPtr document = presentation();
     document->move(nodes().only(), placeIn(document->slides().size(), toPos, u"Slide.MoveTo"));
     markChanged(*document);
+}
+
+void SlideMembers::exportTo(const std::u16string& fileName, const std::u16string& filterName,
+                            std::optional<std::int32_t> scaleWidth, std::optional<std::int32_t> scaleHeight) const {
+    if (!automation::equalIgnoringCase(filterName, u"SVG")) {
+        errors::invalidRequest(u"Slide.Export", u"Le filtre d'exportation « " + filterName + u" » n'est pas installé.");
+    }
+    constexpr std::int32_t mostPixels = 100000;
+    picture::Wanted wanted{scaleWidth.value_or(0), scaleHeight.value_or(0), {}};
+    errors::demandWithin(wanted.width, 0, mostPixels, u"Slide.Export");
+    errors::demandWithin(wanted.height, 0, mostPixels, u"Slide.Export");
+    const SlidePtr slide = nodes().only();
+    const PresentationPtr document = presentation();
+    const DocumentWindowPtr window = session()->windowOf(*document);
+    if (window && window->shown() == slide) {
+        wanted.selected = window->selection.shapes();
+    }
+    session()->store().savePicture(picture::drawSlide(*document, *slide, wanted), session()->fullPath(fileName));
 }
 
 void SlideMembers::select() const {

@@ -2,6 +2,8 @@
 
 #include "simulator/objects/NodeSet.h"
 
+#include <optional>
+
 namespace simulator {
 
 class ApplicationObject;
@@ -39,6 +41,10 @@ public:
     void cut();
     /// Moves a slide to a place from 1; raises out of range.
     void moveTo(std::int32_t toPos);
+    /// Writes a picture of a slide as it is shown, the selection marked, so many pixels wide and high. The one filter
+    /// that is installed is "SVG"; raises an invalid request for any other.
+    void exportTo(const std::u16string& fileName, const std::u16string& filterName,
+                  std::optional<std::int32_t> scaleWidth, std::optional<std::int32_t> scaleHeight) const;
     /// Selects the slide in the window that shows its presentation, which then shows the slide; raises an invalid
     /// request where there is none.
     void select() const;

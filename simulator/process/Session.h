@@ -16,6 +16,8 @@ public:
     virtual void save(const Presentation& presentation, std::u16string_view path) = 0;
     /// Writes the outline of a presentation as rich text.
     virtual void saveOutline(const Presentation& presentation, std::u16string_view path) = 0;
+    /// Writes a picture of a slide, whose bytes are given.
+    virtual void savePicture(const std::string& picture, std::u16string_view path) = 0;
     /// True where the file may not be written.
     [[nodiscard]] virtual bool isReadOnly(std::u16string_view path) = 0;
 };

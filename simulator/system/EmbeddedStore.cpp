@@ -14,6 +14,11 @@ void EmbeddedStore::saveOutline(const Presentation& presentation, std::u16string
     inner_.saveOutline(presentation, path);
 }
 
+void EmbeddedStore::savePicture(const std::string& picture, std::u16string_view path) {
+    demandWritable(path);
+    inner_.savePicture(picture, path);
+}
+
 bool EmbeddedStore::isReadOnly(std::u16string_view path) {
     return (files_.attributes(path) & EmbeddedFiles::readOnly) != 0 || inner_.isReadOnly(path);
 }

@@ -16,6 +16,7 @@ public:
     /// Raises an invalid request for a read-only file.
     void save(const Presentation& presentation, std::u16string_view path) override;
     void saveOutline(const Presentation& presentation, std::u16string_view path) override;
+    void savePicture(const std::string& picture, std::u16string_view path) override;
     [[nodiscard]] bool isReadOnly(std::u16string_view path) override;
 
 private:

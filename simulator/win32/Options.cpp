@@ -28,6 +28,9 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     Options options;
     CLI::App app{purpose, "powerpnt-standin"};
     app.footer(hints);
+    app.failure_message([](const CLI::App* /*app*/, const CLI::Error& error) {
+        return "powerpnt-standin: " + std::string(error.what()) + "; powerpnt-standin --help lists the switches\n";
+    });
     app.allow_windows_style_options();
     app.option_defaults()->ignore_case();
     bool registers = false;

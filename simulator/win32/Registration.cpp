@@ -1,7 +1,8 @@
 #include "simulator/win32/Registration.h"
 
-#include "automation/com/ComError.h"
+#include "automation/Error.h"
 #include "automation/com/WideText.h"
+#include "platform/win32/RegistryKey.h"
 #include "simulator/win32/StandInIdentity.h"
 
 #include <array>
@@ -11,6 +12,7 @@ namespace simulator::standin {
 namespace {
 
 using automation::com::fromWide;
+using platform::RegistryKey;
 
 const std::wstring classes = L"Software\\Classes\\";
 const std::wstring title = L"PowerPoint stand-in";
@@ -41,36 +43,19 @@ std::wstring programPath() {
 
 /// The unnamed value of a key; empty where there is none.
 std::wstring textAt(HKEY root, const std::wstring& key, REGSAM view = 0) {
-    HKEY handle = nullptr;
-    std::array<wchar_t, 1024> text{};
-    auto size = static_cast<DWORD>(sizeof(text) - sizeof(wchar_t));
-    if (RegOpenKeyExW(root, key.c_str(), 0, KEY_QUERY_VALUE | view, &handle) != ERROR_SUCCESS) {
-        return {};
-    }
-    const LSTATUS status =
-        RegQueryValueExW(handle, nullptr, nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()), &size);
-    RegCloseKey(handle);
-    return status == ERROR_SUCCESS ? text.data() : std::wstring();
+    const auto opened = RegistryKey::open(root, key, KEY_QUERY_VALUE | view);
+    return opened ? opened.text(L"") : std::wstring();
 }
 
 void write(const std::wstring& key, const std::wstring& text, REGSAM view) {
-    HKEY handle = nullptr;
-    automation::com::check(HRESULT_FROM_WIN32(RegCreateKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), 0, nullptr, 0,
-                                                              KEY_SET_VALUE | view, nullptr, &handle, nullptr)));
-    const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-    const LSTATUS status =
-        RegSetValueExW(handle, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), bytes);
-    RegCloseKey(handle);
-    automation::com::check(HRESULT_FROM_WIN32(status));
+    RegistryKey::create(HKEY_LOCAL_MACHINE, key, KEY_SET_VALUE | view).setText(L"", text);
 }
 
 void removeTree(const std::wstring& key, REGSAM view) {
-    HKEY handle = nullptr;
-    const REGSAM access = DELETE | KEY_ENUMERATE_SUB_KEYS | KEY_QUERY_VALUE | KEY_SET_VALUE | view;
-    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), 0, access, &handle) == ERROR_SUCCESS) {
-        RegDeleteTreeW(handle, nullptr);
-        RegCloseKey(handle);
-        RegDeleteKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), view, 0);
+    constexpr REGSAM access = DELETE | KEY_ENUMERATE_SUB_KEYS | KEY_QUERY_VALUE | KEY_SET_VALUE;
+    if (const auto opened = RegistryKey::open(HKEY_LOCAL_MACHINE, key, access | view)) {
+        platform::checkRegistry(RegDeleteTreeW(opened.get(), nullptr));
+        platform::checkRegistry(RegDeleteKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), view, 0));
     }
 }
 
@@ -107,15 +92,18 @@ void registerServer(View view) {
 }
 
 void unregisterServer(View view) {
+    constexpr REGSAM views[] = {KEY_WOW64_32KEY, KEY_WOW64_64KEY};
     removeTree(classKey(), viewFlag(view));
-    for (const REGSAM other : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
-        if (!textAt(HKEY_LOCAL_MACHINE, classKey(), other).empty()) {
+    for (const REGSAM each : views) {
+        if (!textAt(HKEY_LOCAL_MACHINE, classKey(), each).empty()) {
             return;
         }
     }
     for (const wchar_t* const name : programmaticIds) {
-        if (classBehind(name) == textOf(applicationClass)) {
-            removeTree(classes + name, viewFlag(view));
+        for (const REGSAM each : views) { // Windows has the names once, Wine in each part
+            if (textAt(HKEY_LOCAL_MACHINE, classes + name + L"\\CLSID", each) == textOf(applicationClass)) {
+                removeTree(classes + name, each);
+            }
         }
     }
 }

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <map>
 
 /// A deck for other programs to read, and what the embedded PowerPoint sees in theirs.
 namespace {
@@ -104,6 +105,39 @@ PresentationPtr made() {
     return presentation;
 }
 
+/// What a learner does to another program's deck, on its last slide; `retitle` and `delete-slide` on its first.
+const std::map<std::string, void (*)(Presentation&)> edits{
+    {"move",
+     [](Presentation& presentation) {
+         Shape& shape = *presentation.slides().front()->shapes().front();
+         const Frame& frame = shape.frame();
+         shape.setFrame({frame.left + 8, frame.top, frame.width, frame.height});
+     }},
+    {"retitle",
+     [](Presentation& presentation) {
+         presentation.slides().front()->shapes().front()->text->replace({0, 3}, u"Retitr");
+     }},
+    {"delete",
+     [](Presentation& presentation) {
+         Slide& slide = *presentation.slides().back();
+         slide.remove(slide.shapes()[1]);
+     }},
+    {"delete-slide", [](Presentation& presentation) { presentation.remove(presentation.slides().front()); }},
+    {"add",
+     [](Presentation& presentation) {
+         put(*presentation.slides().back(), newShape::autoShape(msoShapeOval, {600, 20, 80, 80}), u"nouvelle",
+             Color::direct(0x123456));
+     }},
+    {"add-to-group",
+     [](Presentation& presentation) {
+         Slide& slide = *presentation.slides().back();
+         std::vector<ShapePtr> items = ungroup(slide, slide.shapes().back());
+         items.push_back(
+             put(slide, newShape::autoShape(msoShapeOval, {600, 20, 80, 80}), u"nouvelle", Color::direct(0x123456)));
+         (void)group(slide, items);
+     }},
+};
+
 int run(const std::vector<std::string>& words) {
     if (words.size() == 2 && words[0] == "make") {
         save(*made(), words[1]);
@@ -111,14 +145,16 @@ int run(const std::vector<std::string>& words) {
         dump(*PowerPointFormat().load(contents(words[1])));
     } else if (words.size() == 3 && words[0] == "copy") {
         save(*PowerPointFormat().load(contents(words[1])), words[2]);
-    } else if (words.size() == 3 && words[0] == "move") {
+    } else if (words.size() == 3 && edits.contains(words[0])) {
         const PresentationPtr presentation = PowerPointFormat().load(contents(words[1]));
-        Shape& moved = *presentation->slides().front()->shapes().front();
-        const Frame& frame = moved.frame();
-        moved.setFrame({frame.left + 8, frame.top, frame.width, frame.height});
+        edits.at(words[0])(*presentation);
         save(*presentation, words[2]);
     } else {
-        std::cerr << "deck-tool make FILE | dump FILE | copy FILE TO | move FILE TO\n";
+        std::cerr << "deck-tool make FILE | dump FILE | copy FILE TO | EDIT FILE TO, where EDIT is one of";
+        for (const auto& [name, edit] : edits) {
+            std::cerr << ' ' << name;
+        }
+        std::cerr << '\n';
         return 2;
     }
     return 0;

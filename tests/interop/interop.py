@@ -33,8 +33,8 @@ def check(name, seen, wanted):
         print(f"FAILED {name}: {seen!r} instead of {wanted!r}")
 
 
-def check_near(name, seen, wanted):
-    near = len(seen) == len(wanted) and all(abs(one - other) <= TOLERANCE for one, other in zip(seen, wanted))
+def check_near(name, seen, wanted, tolerance=TOLERANCE):
+    near = len(seen) == len(wanted) and all(abs(one - other) <= tolerance for one, other in zip(seen, wanted))
     check(name, list(wanted) if near else list(seen), list(wanted))
 
 
@@ -180,6 +180,55 @@ class Tests:
         pairs = zip(records(original["PowerPoint Document"]), records(moved["PowerPoint Document"]))
         check(f"{name}: records that differ", [hex(one[0][-1]) for one, other in pairs if one != other], ["0xf010"])
 
+    def office_view(self, path):
+        """Every shape of a deck as LibreOffice sees it, with its page and its depth."""
+        document = self.office.open(path)
+        seen = []
+
+        def collect(page, container, depth):
+            for shape in shapes_of(container):
+                is_group = shape.ShapeType.endswith("GroupShape")
+                color = shape.FillColor if hasattr(shape, "FillColor") else None
+                text = shape.String if hasattr(shape, "String") else ""
+                seen.append((page, depth, shape.ShapeType.split(".")[-1], text, color, shape.Position.X,
+                             shape.Position.Y, shape.Size.Width, shape.Size.Height))
+                if is_group:
+                    collect(page, shape, depth + 1)
+
+        for number in range(document.DrawPages.Count):
+            collect(number, document.DrawPages.getByIndex(number), 0)
+        document.close(True)
+        return seen
+
+    def edited(self, name):
+        """An edit changes what it is about, and LibreOffice sees all else as before."""
+        before = self.office_view(self.path(name))
+        first = [each for each in before if each[0] == 0]
+        last = [each for each in before if each[0] == 1]
+        title = first[0][:3] + (first[0][3].replace("Mét", "Retitr", 1),) + first[0][4:]
+        second = [each for each in last if each[1] == 0][1]
+        wanted = {"retitle": [title] + first[1:] + last,
+                  "delete": first + [each for each in last if each != second],
+                  "delete-slide": [(0,) + each[1:] for each in last]}
+        for edit in ("retitle", "delete", "delete-slide", "add", "add-to-group"):
+            self.run(edit, self.path(name), self.path("edited.ppt"))
+            seen = self.office_view(self.path("edited.ppt"))
+            if edit in wanted:
+                check(f"{name} after {edit}", seen, wanted[edit])
+                continue
+            new = [each for each in seen if each[3] == "nouvelle"]
+            depth = 1 if edit == "add-to-group" else 0
+            check(f"{name} after {edit}: the new shape", [each[:2] + each[4:5] for each in new], [(1, depth, 0x563412)])
+            others = [self.without_outer_groups(view) for view in ([each for each in seen if each not in new], before)]
+            check(f"{name} after {edit}: all others", *([each[:5] for each in view] for view in others))
+            # The items of the new group stand in eighths of a point, those of the old one stood in finer units.
+            check_near(f"{name} after {edit}: their places",
+                       *([points(length) for each in view for length in each[5:]] for view in others), 0.25)
+
+    @staticmethod
+    def without_outer_groups(view):
+        return [each for each in view if (each[1], each[2]) != (0, "GroupShape")]
+
     def our_deck(self):
         """A deck of the embedded PowerPoint as LibreOffice sees it."""
         path = self.path("ours.ppt")
@@ -237,6 +286,7 @@ def main(tool):
         tests.text_deck()
         tests.unchanged_and_moved("kinds.ppt")
         tests.unchanged_and_moved("text.ppt")
+        tests.edited("text.ppt")
         tests.our_deck()
     print(f"{passed} passed, {failed} failed")
     return 1 if failed else 0

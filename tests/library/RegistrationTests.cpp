@@ -3,6 +3,7 @@
 #include "library/registration/Table.h"
 #include "tests/library/ClassesKey.h"
 #include "tests/library/Library.h"
+#include "tests/library/UserHive.h"
 
 #include <K73053.h>
 #include <gtest/gtest.h>
@@ -36,7 +37,7 @@ public:
     OtherBitnessAside& operator=(OtherBitnessAside&&) = delete;
 
 private:
-    static constexpr const wchar_t* aside = L"Software\\K73053 tests";
+    static constexpr const wchar_t* aside = L"Software\\K73053 put aside";
 
     static std::wstring keyOf(const library::table::Class& row) {
         return classes + L"CLSID\\" + std::wstring(row.identity.begin(), row.identity.end());
@@ -95,7 +96,9 @@ private:
 class RegistrationTest : public testing::Test {
 protected:
     void SetUp() override {
-        makeCommonKeysOfTheUser();
+        // Bare keys that the user had go with the first registration.
+        ASSERT_EQ(library_.install(true, L"user"), S_OK);
+        ASSERT_EQ(library_.install(false, L"user"), S_OK);
         found_ = allClassesContent();
         ASSERT_EQ(library_.unregisterServer(), S_OK);
         clean_ = allClassesContent();
@@ -108,18 +111,6 @@ protected:
         }
     }
 
-    /// As a user has them who has registered anything before: they stay.
-    static void makeCommonKeysOfTheUser() {
-        for (const wchar_t* const key : {L"CLSID", L"Interface", L"TypeLib"}) {
-            for (const REGSAM view : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
-                HKEY made = nullptr;
-                EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, (classes + key).c_str(), 0, nullptr, 0, KEY_READ | view,
-                                          nullptr, &made, nullptr),
-                          ERROR_SUCCESS);
-                RegCloseKey(made);
-            }
-        }
-    }
     static HRESULT createByName() {
         CLSID id{};
         if (const HRESULT status = CLSIDFromProgID(L"K73053.Module", &id); FAILED(status)) {
@@ -176,6 +167,24 @@ TEST_F(RegistrationTest, IsWrittenForOneUserAndTakenBack) {
     EXPECT_EQ(library_.install(false, L"USER"), S_OK);
     EXPECT_NE(createByName(), S_OK);
     EXPECT_EQ(library_.install(true, L"nobody"), E_INVALIDARG);
+}
+
+TEST_F(RegistrationTest, LeavesAUsersKeysAsTheyWere) {
+    const tests::UserHive user;
+    const auto isTakenBack = [&] {
+        const auto before = tests::classesContent(HKEY_CURRENT_USER, 0);
+        ASSERT_EQ(library_.install(true, L"user"), S_OK);
+        EXPECT_NE(tests::classesContent(HKEY_CURRENT_USER, 0), before);
+        ASSERT_EQ(library_.install(false, L"user"), S_OK);
+        EXPECT_EQ(tests::classesContent(HKEY_CURRENT_USER, 0), before);
+    };
+    tests::UserHive::putKey(L"Software\\Classes");
+    isTakenBack();
+    for (const wchar_t* const common : {L"CLSID", L"Interface", L"TypeLib"}) {
+        tests::UserHive::put(classes + common + L"\\{6D0C5A8E-52C1-4D55-9D52-0B6C9B0E8E11}", L"",
+                             L"of another program");
+    }
+    isTakenBack();
 }
 
 TEST_F(RegistrationTest, LeavesWhatTheOtherBitnessNeeds) {

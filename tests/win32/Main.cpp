@@ -28,7 +28,7 @@ int main(int count, char** arguments) {
     }
     testing::InitGoogleTest(&count, arguments);
     testing::UnitTest& all = *testing::UnitTest::GetInstance();
-    all.listeners().Append(std::make_unique<tests::Watchdog>(60s).release()); // the list owns them
+    all.listeners().Append(std::make_unique<tests::Watchdog>(180s).release()); // the list owns them
     all.listeners().Append(std::make_unique<NothingLeft>().release());
     const int status = RUN_ALL_TESTS();
     if (status == 0) {

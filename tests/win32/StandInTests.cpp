@@ -2,13 +2,14 @@
 #include "automation/LateBound.h"
 #include "automation/com/Objects.h"
 #include "module/Session.h"
+#include "platform/win32/RegistryKey.h"
 #include "platform/win32/Win32Services.h"
 #include "simulator/win32/StandInIdentity.h"
+#include "tests/win32/Program.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <filesystem>
 
 namespace {
 
@@ -140,54 +141,85 @@ TEST_F(StandInTest, IsAskedOnceWhetherItAnswers) {
     EXPECT_EQ(controls.get(u"Refusals"), Value(1)) << "a busy one is not asked again";
 }
 
-/// Runs the registered program with a switch; its exit code.
-DWORD runStandIn(const std::wstring& arguments) {
-    std::array<wchar_t, 1024> program{};
-    DWORD size = sizeof(program);
+std::wstring serverKey() {
     std::array<wchar_t, 40> id{};
     StringFromGUID2(standin::applicationClass, id.data(), static_cast<int>(id.size()));
-    RegGetValueW(HKEY_CLASSES_ROOT, (L"CLSID\\" + std::wstring(id.data()) + L"\\LocalServer32").c_str(), nullptr,
-                 RRF_RT_REG_SZ, nullptr, program.data(), &size);
-    std::wstring command = program.data() + (L" " + arguments);
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION process{};
-    DWORD code = STILL_ACTIVE;
-    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process) !=
-        FALSE) {
-        WaitForSingleObject(process.hProcess, 20000);
-        GetExitCodeProcess(process.hProcess, &code);
-        CloseHandle(process.hThread);
-        CloseHandle(process.hProcess);
-    }
-    return code;
+    return L"Software\\Classes\\CLSID\\" + std::wstring(id.data()) + L"\\LocalServer32";
 }
 
 std::wstring classOfPowerPoint() {
-    std::array<wchar_t, 64> text{};
-    DWORD size = sizeof(text);
-    RegGetValueW(HKEY_CLASSES_ROOT, L"PowerPoint.Application.11\\CLSID", nullptr, RRF_RT_REG_SZ, nullptr, text.data(),
-                 &size);
-    return text.data();
+    const auto key =
+        platform::RegistryKey::open(HKEY_CLASSES_ROOT, L"PowerPoint.Application.11\\CLSID", KEY_QUERY_VALUE);
+    return key ? key.text(L"") : std::wstring();
 }
 
 void setClassOfPowerPoint(const std::wstring& id) {
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\PowerPoint.Application.11\\CLSID", L"", REG_SZ, id.c_str(),
-                    static_cast<DWORD>((id.size() + 1) * sizeof(wchar_t)));
+    platform::RegistryKey::create(HKEY_LOCAL_MACHINE, L"Software\\Classes\\PowerPoint.Application.11\\CLSID")
+        .setText(L"", id);
+}
+
+/// What runs for programs of a part of the registry; empty where it is not registered there.
+std::wstring serverOf(REGSAM view) {
+    const auto key = platform::RegistryKey::open(HKEY_LOCAL_MACHINE, serverKey(), KEY_QUERY_VALUE | view);
+    return key ? key.text(L"") : std::wstring();
+}
+
+/// The program with a switch; what it prints where it must end with a code.
+std::string said(const std::wstring& arguments, DWORD expected) {
+    const tests::Program program(L"simulator\\powerpnt-standin.exe", arguments);
+    EXPECT_EQ(program.exitCode(), expected) << program.output();
+    return program.output();
+}
+
+bool startsWith(const std::string& text, std::string_view start) {
+    return text.starts_with(start);
 }
 
 TEST(StandInRegistrationTest, NeverReplacesARealPowerPoint) {
     const std::wstring own = classOfPowerPoint();
     ASSERT_FALSE(own.empty());
-    EXPECT_EQ(runStandIn(L"/RegServer"), 0U) << "its own registration it renews";
+    EXPECT_EQ(said(L"/RegServer", 0), "") << "its own registration it renews";
     const std::wstring real = L"{91493441-5A91-11CF-8700-00AA0060263B}";
     setClassOfPowerPoint(real);
-    EXPECT_EQ(runStandIn(L"/RegServer"), 1U);
+    EXPECT_PRED2(startsWith, said(L"/RegServer", 1),
+                 "powerpnt-standin: A PowerPoint is registered on this machine: PowerPoint.Application.11 is "
+                 "{91493441-5A91-11CF-8700-00AA0060263B}. It stays");
+    EXPECT_EQ(said(L"/UnregServer", 0), "");
     EXPECT_EQ(classOfPowerPoint(), real);
     setClassOfPowerPoint(own);
-    EXPECT_EQ(runStandIn(L"/Nonsense"), 2U);
-    EXPECT_EQ(runStandIn(L"/RegServer"), 0U);
+    said(L"/RegServer", 0);
     EXPECT_EQ(classOfPowerPoint(), own);
+}
+
+TEST(StandInRegistrationTest, IsTakenBackPartByPart) {
+    constexpr bool is64 = sizeof(void*) == 8;
+    constexpr REGSAM ownView = is64 ? KEY_WOW64_64KEY : KEY_WOW64_32KEY;
+    constexpr REGSAM otherView = is64 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+    const std::wstring other = is64 ? L" /View:32" : L" /View:64";
+    const std::wstring ofOther = serverOf(otherView);
+    const std::wstring ofOwn = serverOf(ownView);
+    said(L"/RegServer" + other, 0);
+
+    said(L"/UnregServer", 0);
+    EXPECT_EQ(serverOf(ownView), L"");
+    EXPECT_NE(classOfPowerPoint(), L"") << "the other part needs the name";
+    said(L"/UnregServer" + other, 0);
+    EXPECT_EQ(serverOf(otherView), L"");
+    EXPECT_EQ(classOfPowerPoint(), L"");
+    said(L"/UnregServer", 0);
+
+    said(L"/RegServer", 0);
+    EXPECT_EQ(serverOf(ownView), ofOwn);
+    if (!ofOther.empty()) {
+        said(L"/RegServer" + other, 0);
+        platform::RegistryKey::create(HKEY_LOCAL_MACHINE, serverKey(), KEY_SET_VALUE | otherView).setText(L"", ofOther);
+    }
+}
+
+TEST(StandInCommandLineTest, NamesASwitchThatItDoesNotKnow) {
+    EXPECT_PRED2(startsWith, said(L"/Nonsense", 2),
+                 "powerpnt-standin: The following argument was not expected: /Nonsense; powerpnt-standin --help");
+    EXPECT_PRED2(startsWith, said(L"/View:16 /RegServer", 2), "powerpnt-standin: --View: ");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/document/Color.h"
+#include "simulator/files/drawing/PropertyIds.h"
 
 #include <cmath>
 #include <limits>
@@ -18,13 +19,14 @@ namespace simulator::drawing {
     return static_cast<std::uint32_t>(nearest(number));
 }
 
+/// A length in points, as a property holds it: in EMU.
+[[nodiscard]] inline std::uint32_t emu(float points) noexcept {
+    return code(double{points} * emuPerPoint);
+}
+
 /// A colour of a drawing: red in the low byte, and a byte that says whether the low one is a place of the scheme.
 [[nodiscard]] std::uint32_t codeOf(const Color& color) noexcept;
 /// `otherwise` for a colour that is relative to something else.
 [[nodiscard]] Color colorOf(std::uint32_t code, const Color& otherwise) noexcept;
-
-/// Kinds of line dashes; solid for what is not known.
-[[nodiscard]] std::uint32_t dashCodeOf(std::int32_t dashStyle) noexcept;
-[[nodiscard]] std::int32_t dashStyleOf(std::uint32_t code) noexcept;
 
 } // namespace simulator::drawing

@@ -6,6 +6,12 @@
 
 namespace simulator::drawing {
 
+namespace {
+
+constexpr std::size_t mostClusters = 1024;
+
+} // namespace
+
 DrawingGroup::DrawingGroup(const records::Record& atom) : read_(atom) {
     files::ByteReader in(atom.data, "the list of drawings");
     highestShape_ = in.read<std::uint32_t>();
@@ -13,28 +19,25 @@ DrawingGroup::DrawingGroup(const records::Record& atom) : read_(atom) {
     shapes_ = in.read<std::uint32_t>();
     drawings_ = in.read<std::uint32_t>();
     while (in.left() >= 8) {
-        Cluster& cluster = clusters_.emplace_back();
-        cluster.drawing = in.read<std::uint32_t>();
-        cluster.used = in.read<std::uint32_t>();
+        const auto drawing = in.read<std::uint32_t>();
+        append(drawing, in.read<std::uint32_t>());
+        if (byDrawing_[drawing].size() > mostClusters) {
+            throw DamagedPresentation("drawing " + std::to_string(drawing) + " is said to have more than " +
+                                      std::to_string(mostClusters * clusterSize) + " shapes");
+        }
     }
 }
 
 DrawingIds DrawingGroup::ids(std::uint32_t drawing) const {
-    DrawingIds ids{drawing, {}};
-    for (std::size_t place = 0; place < clusters_.size(); ++place) {
-        if (clusters_[place].drawing == drawing) {
-            ids.clusters.push_back(static_cast<std::uint32_t>(place + 1));
-        }
-    }
-    return ids;
+    const auto found = byDrawing_.find(drawing);
+    return {drawing, found == byDrawing_.end() ? std::vector<std::uint32_t>() : found->second};
 }
 
 DrawingIds DrawingGroup::add() {
-    DrawingIds ids;
-    for (const Cluster& cluster : clusters_) {
-        ids.drawing = std::max(ids.drawing, cluster.drawing);
+    DrawingIds ids{1, {}};
+    while (byDrawing_.contains(ids.drawing)) { // the lowest free one: a record has twelve bits for it
+        ++ids.drawing;
     }
-    ++ids.drawing;
     reserve(ids, 1);
     return ids;
 }
@@ -42,12 +45,18 @@ DrawingIds DrawingGroup::add() {
 void DrawingGroup::reserve(DrawingIds& ids, std::int32_t highestId) {
     const auto highest = static_cast<std::uint32_t>(highestId);
     while (ids.clusters.size() <= highest / clusterSize) {
-        clusters_.push_back({ids.drawing, 0});
-        ids.clusters.push_back(static_cast<std::uint32_t>(clusters_.size()));
+        ids.clusters.push_back(append(ids.drawing, 0));
     }
     std::uint32_t& used = clusters_[ids.clusters[highest / clusterSize] - 1].used;
     used = std::max(used, highest % clusterSize + 1);
     highestShape_ = std::max(highestShape_, ids.shapeOf(highestId) + 1);
+}
+
+std::uint32_t DrawingGroup::append(std::uint32_t drawing, std::uint32_t used) {
+    clusters_.push_back({drawing, used});
+    const auto number = static_cast<std::uint32_t>(clusters_.size());
+    byDrawing_[drawing].push_back(number);
+    return number;
 }
 
 void DrawingGroup::count(std::int64_t drawings, std::int64_t shapes) noexcept {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -17,16 +18,16 @@ inline constexpr std::uint32_t clusterSize = 1024;
 /// place in the drawing's own clusters.
 struct DrawingIds {
     std::uint32_t drawing = 0;
-    std::vector<std::uint32_t> clusters; ///< by their numbers, from 1
+    std::vector<std::uint32_t> clusters; ///< by their numbers, from 1, in ascending order
 
     /// Nothing for a shape that is in none of the clusters.
     [[nodiscard]] std::optional<std::int32_t> idOf(std::uint32_t shape) const noexcept {
-        for (std::size_t place = 0; place < clusters.size(); ++place) {
-            if (shape / clusterSize == clusters[place]) {
-                return static_cast<std::int32_t>(place * clusterSize + shape % clusterSize);
-            }
+        const auto found = std::lower_bound(clusters.begin(), clusters.end(), shape / clusterSize);
+        if (found == clusters.end() || *found != shape / clusterSize) {
+            return std::nullopt;
         }
-        return std::nullopt;
+        const auto place = static_cast<std::uint32_t>(found - clusters.begin());
+        return static_cast<std::int32_t>(place * clusterSize + shape % clusterSize);
     }
     /// The clusters must be enough for the id.
     [[nodiscard]] std::uint32_t shapeOf(std::int32_t id) const {

@@ -1,5 +1,6 @@
 #include "simulator/files/drawing/FillCodes.h"
 
+#include "simulator/files/ColorBits.h"
 #include "simulator/files/Tables.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
@@ -165,7 +166,7 @@ std::uint32_t plainCode(MsoFillType type) noexcept {
 } // namespace
 
 Fill readFill(const Looks& looks) {
-    constexpr std::uint32_t white = 0xFFFFFF;
+    constexpr std::uint32_t white = files::rgbBits;
     Fill fill;
     const std::uint32_t type = looks.number(property::fillType, filling::Solid);
     fill.type = typeOf(type);

@@ -25,7 +25,6 @@ namespace path {
 enum : std::uint32_t { Lines = 0, ClosedLines = 1, Curves = 2, ClosedCurves = 3, Complex = 4 };
 } // namespace path
 
-constexpr std::uint16_t packedPoint = 0xFFF0;
 constexpr std::uint32_t formula = 0x80000000;
 constexpr std::uint32_t usualExtent = 21600;
 
@@ -37,11 +36,9 @@ struct Point {
 std::vector<Point> pointsOf(const Property& property) {
     ByteReader in(property.bytes, "the corners of a freeform");
     std::vector<Point> points;
-    const auto count = in.read<std::uint16_t>();
-    in.skip(2);
-    const auto size = in.read<std::uint16_t>();
-    const bool areShort = size == packedPoint || size == 4;
-    for (std::size_t i = 0; i < count; ++i) {
+    const ArrayHead head(in);
+    const bool areShort = head.elementSize == 4;
+    for (std::size_t i = 0; i < head.count; ++i) {
         Point& point = points.emplace_back();
         point.x = areShort ? in.read<std::int16_t>() : in.read<std::int32_t>();
         point.y = areShort ? in.read<std::int16_t>() : in.read<std::int32_t>();
@@ -51,11 +48,10 @@ std::vector<Point> pointsOf(const Property& property) {
 
 std::vector<std::uint16_t> segmentsOf(const Property* property) {
     std::vector<std::uint16_t> segments;
-    if (property != nullptr && property->bytes.size() >= 6) {
+    if (property != nullptr && !property->bytes.empty()) {
         ByteReader in(property->bytes, "the segments of a freeform");
-        const auto count = in.read<std::uint16_t>();
-        in.skip(4);
-        for (std::size_t i = 0; i < count; ++i) {
+        const ArrayHead head(in);
+        for (std::size_t i = 0; i < head.count; ++i) {
             segments.push_back(in.read<std::uint16_t>());
         }
     }

@@ -58,9 +58,8 @@ bool differs(const Record& before, const Record& now, std::uint16_t wanted) {
 }
 
 void putNumbering(Record& data, const Shape& asRead, const Shape& shape, const Record& now) {
-    const bool wasNumbered = asRead.text && text::isNumbered(*asRead.text);
-    const bool isNumbered = shape.text && text::isNumbered(*shape.text);
-    if (shape.text != asRead.text && (wasNumbered || isNumbered)) {
+    const TextStory none;
+    if (text::numberingHasChanged(asRead.text ? *asRead.text : none, shape.text ? *shape.text : none)) {
         powerpoint::putData(data, text::extensionTag, powerpoint::readData(now, text::extensionTag));
     }
 }

@@ -1,7 +1,7 @@
 #include "simulator/files/drawing/PresetSeal.h"
 
 #include "simulator/files/Bytes.h"
-#include "simulator/files/drawing/ShapeReader.h"
+#include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
 
@@ -19,9 +19,9 @@ struct Range {
     std::uint16_t first;
     std::uint16_t last;
 };
-constexpr Range effect{0x00C0, 0x00FF};
-constexpr Range shadow{0x0200, 0x023F};
-constexpr Range threeD{0x0280, 0x02FF};
+constexpr Range effect{property::effectText, property::effectFlags};
+constexpr Range shadow{property::shadowKind, property::shadowFlags};
+constexpr Range threeD{property::extrusionGloss, property::extrusionViewFlags};
 
 /// A number that changes with the properties of a range.
 std::uint32_t fingerprint(const PropertyTable& properties, const Range& range) {

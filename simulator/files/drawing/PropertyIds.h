@@ -52,12 +52,15 @@ enum : std::uint16_t {
     lineDashing = 0x01CE,
     lineDashStyle = 0x01CF,
     lineFlags = 0x01FF,
+    shadowKind = 0x0200,
     shadowColor = 0x0201,
     shadowOffsetX = 0x0205, ///< EMU
     shadowOffsetY = 0x0206,
     shadowFlags = 0x023F,
+    extrusionGloss = 0x0280,
     extrusionDepth = 0x0285, ///< EMU
     extrusionFlags = 0x02BF,
+    extrusionViewFlags = 0x02FF,
     master = 0x0301, ///< the placeholder of the master slide
     wrapPolygon = 0x0383,
     name = 0x0380,

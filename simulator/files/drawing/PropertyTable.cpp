@@ -2,9 +2,11 @@
 
 #include "simulator/files/Bytes.h"
 #include "simulator/files/drawing/PropertyIds.h"
+#include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 namespace simulator::drawing {
 
@@ -13,7 +15,7 @@ namespace {
 constexpr std::uint16_t idMask = 0x3FFF;
 constexpr std::uint16_t pictureBit = 0x4000;
 constexpr std::uint16_t complexBit = 0x8000;
-constexpr std::size_t arrayHeader = 6;
+constexpr std::size_t arrayHeader = 6; // its length
 constexpr std::uint8_t tableVersion = 3;
 
 constexpr std::array arrays{property::vertices,        property::segments,    property::connections,
@@ -26,14 +28,20 @@ std::size_t bytesOf(const Property& property, std::string_view left) {
         return property.value;
     }
     files::ByteReader in(left, "an array of a drawing");
-    const std::size_t count = in.read<std::uint16_t>();
-    in.skip(2);
-    const auto size = in.read<std::uint16_t>();
-    const std::size_t elements = count * (size == 0xFFF0 ? 4 : size);
+    const ArrayHead head(in);
+    const std::size_t elements = head.count * head.elementSize;
     return property.value != 0 && property.value == elements ? elements + arrayHeader : property.value;
 }
 
 } // namespace
+
+ArrayHead::ArrayHead(files::ByteReader& in) {
+    constexpr std::uint16_t packedPoint = 0xFFF0; // two numbers of 16 bits
+    count = in.read<std::uint16_t>();
+    in.skip(2);
+    const auto size = in.read<std::uint16_t>();
+    elementSize = size == packedPoint ? 4 : size;
+}
 
 PropertyTable::PropertyTable(const records::Record& record) {
     files::ByteReader in(record.data, "a table of drawing properties");
@@ -69,6 +77,19 @@ void PropertyTable::put(Property property) {
     properties_.insert(after, std::move(property));
 }
 
+void PropertyTable::merge(const PropertyTable& other) {
+    std::map<std::uint16_t, Property> merged;
+    for (const PropertyTable* const table : {static_cast<const PropertyTable*>(this), &other}) {
+        for (const Property& property : table->properties_) {
+            merged[property.id] = property;
+        }
+    }
+    properties_.clear();
+    for (auto& [id, property] : merged) {
+        properties_.push_back(std::move(property));
+    }
+}
+
 void PropertyTable::remove(std::uint16_t id) noexcept {
     std::erase_if(properties_, [id](const Property& property) { return property.id == id; });
 }
@@ -100,6 +121,18 @@ records::Record PropertyTable::record(std::uint16_t type) const {
     }
     out.append(rest_);
     return records::Record::atom(type, out.take(), static_cast<std::uint16_t>(properties_.size()), tableVersion);
+}
+
+PropertyTable propertiesOf(const records::Record& shape) {
+    namespace type = records::type;
+    PropertyTable properties;
+    for (const records::Record& child : shape.children) {
+        if (child.is(type::ArtProperties) || child.is(type::ArtSecondaryProperties) ||
+            child.is(type::ArtTertiaryProperties)) {
+            properties.merge(PropertyTable(child));
+        }
+    }
+    return properties;
 }
 
 std::uint32_t Looks::number(std::uint16_t id, std::uint32_t otherwise) const noexcept {

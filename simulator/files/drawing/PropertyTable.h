@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/files/Bytes.h"
 #include "simulator/files/records/Record.h"
 
 #include <span>
@@ -17,6 +18,14 @@ struct Property {
     friend bool operator==(const Property&, const Property&) = default;
 };
 
+/// What stands before the elements of a property that is an array.
+struct ArrayHead {
+    explicit ArrayHead(files::ByteReader& in);
+
+    std::size_t count = 0;
+    std::size_t elementSize = 0; ///< in bytes
+};
+
 /// The properties of one record, in their order.
 class PropertyTable {
 public:
@@ -26,6 +35,8 @@ public:
 
     [[nodiscard]] const std::vector<Property>& all() const noexcept { return properties_; }
     [[nodiscard]] const Property* find(std::uint16_t id) const noexcept;
+    /// Takes over the properties of another table, in the order of ids; where both have one, the other's.
+    void merge(const PropertyTable& other);
     /// Puts a property in the place of the one with its id, or where the order of ids wants it.
     void put(Property property);
     void remove(std::uint16_t id) noexcept;
@@ -43,6 +54,9 @@ private:
     std::vector<Property> properties_;
     std::string rest_; ///< what follows the properties
 };
+
+/// A shape's properties, those of all its records as one table in the order of ids.
+[[nodiscard]] PropertyTable propertiesOf(const records::Record& shape);
 
 /// A shape's properties with those that stand in for what it does not say: its master's, the document's.
 class Looks {

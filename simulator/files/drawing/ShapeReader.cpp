@@ -4,14 +4,17 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/files/Bytes.h"
 #include "simulator/files/drawing/AutoShapeKinds.h"
-#include "simulator/files/drawing/Codes.h"
+#include "simulator/files/drawing/DepthCodes.h"
 #include "simulator/files/drawing/FillCodes.h"
 #include "simulator/files/drawing/FreeformCodes.h"
+#include "simulator/files/drawing/LineCodes.h"
 #include "simulator/files/drawing/Placeholders.h"
 #include "simulator/files/drawing/PresetSeal.h"
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/drawing/ShapeHead.h"
+#include "simulator/files/drawing/WordArtCodes.h"
 #include "simulator/files/powerpoint/Tags.h"
+#include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
@@ -35,9 +38,7 @@ std::optional<PpPlaceholderType> placeholderIn(const Record& record) {
 }
 
 MsoShapeType typeOf(std::uint16_t kind, const Looks& looks) {
-    const bool isWordArt = (kind >= kind::firstWordArt && kind <= kind::lastWordArt) ||
-                           (kind >= kind::firstEffectText && kind <= kind::lastEffectText);
-    if (isWordArt && looks.flag(property::effectFlags, flag::effectText, true)) {
+    if (isWordArt(kind, looks)) {
         return msoTextEffect;
     }
     if (looks.own(property::picture) != nullptr || kind == kind::pictureFrame) {
@@ -49,86 +50,6 @@ MsoShapeType typeOf(std::uint16_t kind, const Looks& looks) {
     case kind::freeform: return looks.own(property::vertices) != nullptr ? msoFreeform : msoAutoShape;
     default: return msoAutoShape;
     }
-}
-
-Line readLine(const Looks& looks) {
-    Line line;
-    line.visible = looks.flag(property::lineFlags, flag::lined, true);
-    line.weight = looks.points(property::lineWidth, line.weight);
-    line.color = colorOf(looks.number(property::lineColor, 0), line.color);
-    line.dashStyle = dashStyleOf(looks.number(property::lineDashing, 0));
-    return line;
-}
-
-Shadow readShadow(const Looks& looks) {
-    constexpr std::uint32_t gray = 0x808080;
-    Shadow shadow;
-    shadow.visible = looks.flag(property::shadowFlags, flag::shadowed, false);
-    shadow.obscured = looks.flag(property::shadowFlags, flag::shadowObscured, false);
-    shadow.color = colorOf(looks.number(property::shadowColor, gray), shadow.color);
-    shadow.offsetX = looks.points(property::shadowOffsetX, shadow.offsetX);
-    shadow.offsetY = looks.points(property::shadowOffsetY, shadow.offsetY);
-    return shadow;
-}
-
-ThreeD readThreeD(const Looks& looks) {
-    ThreeD threeD;
-    threeD.visible = looks.flag(property::extrusionFlags, flag::extruded, false);
-    threeD.depth = looks.points(property::extrusionDepth, threeD.depth);
-    return threeD;
-}
-
-TextEffect readEffect(const Looks& looks) {
-    TextEffect effect;
-    effect.text = looks.text(property::effectText);
-    if (looks.own(property::effectFont) != nullptr) {
-        effect.fontName = looks.text(property::effectFont);
-    }
-    effect.fontSize = looks.fixed(property::effectSize, effect.fontSize);
-    effect.bold = looks.flag(property::effectFlags, flag::effectBold, false);
-    effect.italic = looks.flag(property::effectFlags, flag::effectItalic, false);
-    return effect;
-}
-
-TextLayout readLayout(const Looks& looks) {
-    constexpr std::uint32_t unwrapped = 2;
-    constexpr std::array anchors{msoAnchorTop,    msoAnchorMiddle, msoAnchorBottom,      msoAnchorTop,
-                                 msoAnchorMiddle, msoAnchorBottom, msoAnchorTopBaseline, msoAnchorBottomBaseLine};
-    constexpr std::array flows{
-        msoTextOrientationHorizontal, msoTextOrientationVerticalFarEast,          msoTextOrientationUpward,
-        msoTextOrientationDownward,   msoTextOrientationHorizontalRotatedFarEast, msoTextOrientationVertical};
-    TextLayout layout;
-    layout.autoSize =
-        looks.flag(property::textFlags, flag::fitShapeToText, false) ? ppAutoSizeShapeToFitText : ppAutoSizeNone;
-    layout.wordWrap = looks.number(property::wrapText, 0) != unwrapped;
-    layout.marginLeft = looks.points(property::textLeft, layout.marginLeft);
-    layout.marginTop = looks.points(property::textTop, layout.marginTop);
-    layout.marginRight = looks.points(property::textRight, layout.marginRight);
-    layout.marginBottom = looks.points(property::textBottom, layout.marginBottom);
-    const std::uint32_t anchor = looks.number(property::anchorText, 0);
-    layout.anchor = anchor < anchors.size() ? anchors.at(anchor) : layout.anchor;
-    const std::uint32_t flow = looks.number(property::textFlow, 0);
-    layout.orientation = flow < flows.size() ? flows.at(flow) : layout.orientation;
-    return layout;
-}
-
-bool holdsText(const Shape& shape, std::uint16_t kind) noexcept {
-    const bool isConnector = kind >= kind::straightConnector && kind <= kind::lastConnector;
-    return !isConnector && (shape.type == msoAutoShape || shape.type == msoTextBox || shape.type == msoPlaceholder ||
-                            shape.type == msoFreeform);
-}
-
-text::Numbering numberingIn(const Record& record) {
-    const Record* const client = record.find(type::ArtClientData);
-    const auto data = client == nullptr ? std::nullopt : powerpoint::readData(*client, text::extensionTag);
-    if (!data || data->size() < records::headerSize) {
-        return {};
-    }
-    files::ByteReader in(*data, "an extension of a shape");
-    in.skip(2);
-    const auto first = in.read<std::uint16_t>();
-    const std::size_t length = in.read<std::uint32_t>();
-    return first == type::StyleTextProp9Atom ? text::readNumbering(in.take(length)) : text::Numbering();
 }
 
 /// Gives a group its items, which go on knowing the groups that they were taken out of.
@@ -147,25 +68,13 @@ void adopt(const ShapePtr& group, std::vector<ShapePtr> items) {
 
 } // namespace
 
-PropertyTable propertiesOf(const Record& shape) {
-    PropertyTable properties;
-    for (const Record& child : shape.children) {
-        const bool isTable = child.is(type::ArtProperties) || child.is(type::ArtSecondaryProperties) ||
-                             child.is(type::ArtTertiaryProperties);
-        if (isTable) {
-            const PropertyTable table(child);
-            for (const Property& property : table.all()) {
-                properties.put(property);
-            }
-        }
-    }
-    return properties;
-}
+MasterShape::MasterShape(const Record& shape) : properties(propertiesOf(shape)), edges(edgesOf(shape, {})) {}
 
 std::vector<ShapePtr> ShapeReader::read(const Record& drawing) {
     const Record& group = drawing.demand(type::ArtDrawing).demand(type::ArtShapeGroup);
     if (group.children.empty() || !group.children.front().is(type::ArtShape)) {
-        throw DamagedPresentation("the shapes of a drawing do not begin with the record of their group");
+        throw records::DamagedRecord(group.offset,
+                                     "the shapes of a drawing do not begin with the record of their group");
     }
     return members(group, {}, 0);
 }
@@ -174,11 +83,13 @@ std::vector<ShapePtr> ShapeReader::members(const Record& group, const Mapping& m
     std::vector<ShapePtr> shapes;
     for (std::size_t place = 1; place < group.children.size(); ++place) {
         const Record& record = group.children[place];
-        if (record.is(type::ArtShapeGroup)) {
-            shapes.push_back(this->group(record, mapping, groupId));
-        } else if (record.is(type::ArtShape) && (ShapeHead(record).flags & shapeFlag::deleted) == 0) {
-            shapes.push_back(single(record, mapping, groupId));
-        }
+        records::within(record, [&] {
+            if (record.is(type::ArtShapeGroup)) {
+                shapes.push_back(this->group(record, mapping, groupId));
+            } else if (record.is(type::ArtShape) && (ShapeHead(record).flags & shapeFlag::deleted) == 0) {
+                shapes.push_back(single(record, mapping, groupId));
+            }
+        });
     }
     return shapes;
 }
@@ -211,15 +122,11 @@ ShapePtr ShapeReader::group(const Record& record, const Mapping& mapping, std::i
 ShapePtr ShapeReader::single(const Record& record, const Mapping& mapping, std::int32_t groupId) {
     const ShapeHead head(record);
     const PropertyTable properties = propertiesOf(record);
-    PropertyTable master;
+    const MasterShape* const master = masterOf(properties);
     std::optional<Edges> edges = edgesOf(record, mapping);
-    const Property* const masterNumber = properties.find(property::master);
-    if (masterNumber != nullptr && context_.masters.contains(masterNumber->value)) {
-        const Record& masterRecord = context_.masters.at(masterNumber->value);
-        master = propertiesOf(masterRecord);
-        edges = edges ? edges : edgesOf(masterRecord, {});
-    }
-    const Looks looks({&properties, &master, &context_.defaults});
+    edges = edges || master == nullptr ? edges : master->edges;
+    const PropertyTable none;
+    const Looks looks({&properties, master == nullptr ? &none : &master->properties, &context_.defaults});
 
     auto shape = std::make_shared<Shape>();
     shape->placeholder = placeholderIn(record);
@@ -243,7 +150,7 @@ ShapePtr ShapeReader::single(const Record& record, const Mapping& mapping, std::
 
     const auto origin = std::make_shared<ShapeOrigin>();
     if (holdsText(*shape, head.kind)) {
-        readText(record, looks, *shape, *origin);
+        texts_.read(record, looks, *shape, *origin);
     }
     origin->document = context_.document;
     origin->record = record;
@@ -251,6 +158,12 @@ ShapePtr ShapeReader::single(const Record& record, const Mapping& mapping, std::
     origin->asRead = std::make_shared<const Shape>(*shape);
     shape->origin = origin;
     return shape;
+}
+
+const MasterShape* ShapeReader::masterOf(const PropertyTable& properties) const {
+    const Property* const number = properties.find(property::master);
+    const auto found = number == nullptr ? context_.masters.end() : context_.masters.find(number->value);
+    return found == context_.masters.end() ? nullptr : &found->second;
 }
 
 void ShapeReader::readIdentity(const Record& record, const Looks& looks, Shape& shape) {
@@ -274,34 +187,13 @@ void ShapeReader::readIdentity(const Record& record, const Looks& looks, Shape& 
 }
 
 std::int32_t ShapeReader::idFor(std::uint32_t number) {
-    constexpr std::uint32_t unlisted = 1U << 20U; // a number outside the drawing's clusters gives no id to rely on
+    constexpr std::uint32_t unlisted = 1U << 16U; // a number outside the drawing's clusters gives no id to rely on
     std::int32_t id = context_.ids.idOf(number).value_or(static_cast<std::int32_t>(number % unlisted));
-    while (id == 0 || !taken_.insert(id).second) {
-        ++id;
+    if (id == 0 || taken_.contains(id)) {
+        id = taken_.empty() ? 1 : *taken_.rbegin() + 1;
     }
+    taken_.insert(id);
     return id;
-}
-
-void ShapeReader::readText(const Record& record, const Looks& looks, Shape& shape, ShapeOrigin& origin) const {
-    const Record* const box = record.find(type::ArtClientTextbox);
-    const std::vector<Record> none;
-    const std::vector<Record>* block = box == nullptr ? &none : &box->children;
-    if (const Record* const reference = box == nullptr ? nullptr : box->find(type::OutlineTextRefAtom)) {
-        const auto place = files::ByteReader(reference->data, "a reference to the outline").read<std::uint32_t>();
-        if (place < context_.outline.size()) {
-            origin.outline = place;
-            origin.outlineText = context_.outline[place];
-            block = &origin.outlineText;
-        }
-    }
-    if (block->empty() && shape.placeholder) {
-        const std::array header{Record::atom(
-            type::TextHeaderAtom, files::ByteWriter().write<std::uint32_t>(textKindOf(*shape.placeholder)).take())};
-        shape.text = text::readText({header.begin(), header.end()}, {}, context_.text);
-    } else {
-        shape.text = text::readText(*block, numberingIn(record), context_.text);
-    }
-    shape.text->layout = readLayout(looks);
 }
 
 } // namespace simulator::drawing

@@ -3,16 +3,22 @@
 #include "simulator/files/drawing/Anchor.h"
 #include "simulator/files/drawing/DrawingIds.h"
 #include "simulator/files/drawing/PropertyTable.h"
-#include "simulator/files/drawing/ShapeOrigin.h"
-#include "simulator/files/text/TextRecords.h"
+#include "simulator/files/drawing/ShapeText.h"
 
 #include <map>
 #include <set>
 
 namespace simulator::drawing {
 
-/// The properties of the placeholders of master slides, by their numbers.
-using MasterShapes = std::map<std::uint32_t, records::Record>;
+/// What a placeholder of a master slide says for those that follow it.
+struct MasterShape {
+    explicit MasterShape(const records::Record& shape);
+
+    PropertyTable properties;
+    std::optional<Edges> edges;
+};
+/// By their numbers.
+using MasterShapes = std::map<std::uint32_t, MasterShape>;
 
 /// What the shapes of one slide are read against; what it refers to must outlive the reading.
 struct SlideContext {
@@ -27,7 +33,8 @@ struct SlideContext {
 /// Reads the shapes of a slide.
 class ShapeReader {
 public:
-    explicit ShapeReader(const SlideContext& context) noexcept : context_(context) {}
+    explicit ShapeReader(const SlideContext& context) noexcept
+        : context_(context), texts_(context.text, context.outline) {}
 
     /// The shapes of a drawing, from back to front. Raises DamagedPresentation.
     [[nodiscard]] std::vector<ShapePtr> read(const records::Record& drawing);
@@ -37,15 +44,13 @@ private:
                                                 std::int32_t groupId);
     [[nodiscard]] ShapePtr group(const records::Record& record, const Mapping& mapping, std::int32_t groupId);
     [[nodiscard]] ShapePtr single(const records::Record& record, const Mapping& mapping, std::int32_t groupId);
+    [[nodiscard]] const MasterShape* masterOf(const PropertyTable& properties) const;
     void readIdentity(const records::Record& record, const Looks& looks, Shape& shape);
     [[nodiscard]] std::int32_t idFor(std::uint32_t number);
-    void readText(const records::Record& record, const Looks& looks, Shape& shape, ShapeOrigin& origin) const;
 
     const SlideContext& context_;
-    std::set<std::int32_t> taken_;
+    ShapeTexts texts_;
+    std::set<std::int32_t> taken_; ///< ids
 };
-
-/// A shape's properties, those of all its records as one table.
-[[nodiscard]] PropertyTable propertiesOf(const records::Record& shape);
 
 } // namespace simulator::drawing

@@ -118,12 +118,6 @@ Record drawingGroup() {
                                                                  defaults.record(type::ArtProperties)})});
 }
 
-Record persistAtom(std::uint32_t object, std::uint32_t slide) {
-    ByteWriter out;
-    out.write<std::uint32_t>(object).write<std::uint32_t>(0).write<std::uint32_t>(0);
-    return Record::atom(type::SlidePersistAtom, out.write<std::uint32_t>(slide).fill(4).take());
-}
-
 Record zoomAtom() {
     ByteWriter out;
     for (int i = 0; i < 8; ++i) {
@@ -137,7 +131,7 @@ Record document() {
     return Record::container(
         type::Document,
         {documentAtom(), environment(), drawingGroup(),
-         Record::container(type::SlideListWithText, {persistAtom(masterObject, masterId)}, slideList::masters),
+         Record::container(type::SlideListWithText, {persistAtom(masterObject, 0, masterId)}, slideList::masters),
          Record::container(
              type::DocInfoList,
              {Record::container(type::SlideViewInfo, {Record::atom(type::SlideViewInfoAtom, snapping), zoomAtom()},
@@ -218,7 +212,8 @@ std::shared_ptr<const PresentationOrigin> makeBlank() {
     }
     blank->file.put(currentUserStream, currentUser());
     blank->userEdit = userEdit();
-    blank->objects = {{documentObject, document()}, {masterObject, master()}};
+    blank->objects.append(documentObject, document());
+    blank->objects.append(masterObject, master());
     blank->document = documentObject;
     const Presentation usual;
     blank->snapToGrid = usual.snapToGrid;

@@ -1,6 +1,7 @@
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
 
 #include "simulator/files/Bytes.h"
+#include "simulator/files/ColorBits.h"
 
 namespace simulator::powerpoint {
 
@@ -16,7 +17,7 @@ ColorScheme readColors(const records::Record& atom) {
     files::ByteReader in(atom.data, "a colour scheme");
     ColorScheme scheme;
     for (std::int32_t& color : scheme.colors) {
-        color = in.read<std::int32_t>() & 0xFFFFFF;
+        color = files::directColor(in.read<std::uint32_t>()).rgb;
     }
     return scheme;
 }

@@ -5,12 +5,14 @@
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/ShapeReader.h"
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
+#include "simulator/files/powerpoint/DocumentSettings.h"
 #include "simulator/files/powerpoint/Layouts.h"
-#include "simulator/files/powerpoint/Origins.h"
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/powerpoint/Tags.h"
+#include "simulator/files/records/Damage.h"
+#include "simulator/files/records/RecordTypes.h"
 
 #include <set>
 
@@ -18,8 +20,8 @@ namespace simulator::powerpoint {
 
 namespace {
 
-using files::ByteReader;
 using files::hex;
+using records::DamagedRecord;
 using records::Record;
 namespace type = records::type;
 
@@ -27,93 +29,97 @@ namespace type = records::type;
 class DocumentReader {
 public:
     explicit DocumentReader(std::shared_ptr<PresentationOrigin> origin)
-        : origin_(std::move(origin)), document_(demandObject(origin_->document, type::Document, "the document")) {
+        : origin_(std::move(origin)),
+          document_(demandObject(origin_->document, type::Document, "the document", origin_->userEdit)) {
         const Record* const environment = document_.find(type::Environment);
         const Record* const collection = environment == nullptr ? nullptr : environment->find(type::FontCollection);
         fonts_ = collection == nullptr ? text::FontTable() : text::FontTable(*collection);
         const Record& group = document_.demand(type::DrawingGroup).demand(type::ArtGroup);
-        drawings_.emplace(group.demand(type::ArtGroupAtom));
+        const Record& drawings = group.demand(type::ArtGroupAtom);
+        records::within(drawings, [&] { drawings_.emplace(drawings); });
         if (const Record* const defaults = group.find(type::ArtProperties)) {
-            defaults_ = drawing::PropertyTable(*defaults);
+            defaults_ = records::within(*defaults, [&] { return drawing::PropertyTable(*defaults); });
         }
         readMasters(environment);
+        (void)entriesIn(document_, slideList::notes); // which must be sound where the file is to be saved
     }
 
     PresentationPtr read() {
         auto presentation = std::make_shared<Presentation>();
-        readSettings(*presentation);
+        records::within(document_, [&] { readSettings(document_, *presentation); });
+        presentation->colors = colors();
+        origin_->slideWidth = presentation->slideWidth;
+        origin_->slideHeight = presentation->slideHeight;
+        origin_->snapToGrid = presentation->snapToGrid;
+        origin_->tags = presentation->tags;
+        origin_->colors = presentation->colors;
         presentation->origin = origin_;
-        const Record* const list = document_.find(type::SlideListWithText, slideList::slides);
-        for (SlideEntry& entry : list == nullptr ? std::vector<SlideEntry>() : entriesOf(*list)) {
-            presentation->insert(readSlide(std::move(entry)), presentation->slides().size());
+        for (SlideEntry& entry : entriesIn(document_, slideList::slides)) {
+            const Record& record = demandObject(entry.object(), type::Slide, "a slide", entry.persist);
+            const SlidePtr slide = records::within(record, [&] { return readSlide(record, std::move(entry)); });
+            presentation->insert(slide, presentation->slides().size());
         }
         return presentation;
     }
 
 private:
-    [[nodiscard]] const Record& demandObject(std::uint32_t id, std::uint16_t wanted, const char* what) const {
-        const Record* const found = origin_->object(id);
+    /// The record of an object that `from` refers to.
+    [[nodiscard]] const Record& demandObject(std::uint32_t id, std::uint16_t wanted, const char* what,
+                                             const Record& from) const {
+        const Record* const found = origin_->objects.find(id);
         if (found == nullptr || !found->is(wanted)) {
-            throw DamagedPresentation("PowerPoint Document: object " + std::to_string(id) + ", " + what +
-                                      (found == nullptr ? ", does not exist" : ", is a record " + hex(found->type)));
+            throw DamagedRecord(from.offset,
+                                "object " + std::to_string(id) + ", " + what +
+                                    (found == nullptr ? ", does not exist" : ", is a record " + hex(found->type)));
         }
         return *found;
     }
 
     void readMasters(const Record* environment) {
-        const Record* const list = document_.find(type::SlideListWithText, slideList::masters);
-        for (const SlideEntry& entry : list == nullptr ? std::vector<SlideEntry>() : entriesOf(*list)) {
-            const SlideReference reference(entry.persist);
-            const Record* const master = origin_->object(reference.object);
+        for (const SlideEntry& entry : entriesIn(document_, slideList::masters)) {
+            const Record* const master = origin_->objects.find(entry.object());
             if (master == nullptr) {
-                throw DamagedPresentation("PowerPoint Document: master " + hex(reference.slide) + " does not exist");
+                throw DamagedRecord(entry.persist.offset, "master " + hex(entry.id()) + " does not exist");
             }
-            masters_.emplace(reference.slide, master);
-            if (master->is(type::MainMaster)) {
-                styles_.emplace(reference.slide, text::TextStyles(master, environment, fonts_));
-            }
-            if (const Record* const drawing = master->find(type::Drawing)) {
-                collect(*drawing);
-            }
+            masters_.emplace(entry.id(), master);
+            objectsTaken_.insert(entry.object());
+            records::within(*master, [&] { readMaster(entry.id(), *master, environment); });
         }
         if (styles_.empty()) {
             styles_.emplace(0, text::TextStyles(nullptr, environment, fonts_));
         }
     }
 
+    void readMaster(std::uint32_t id, const Record& master, const Record* environment) {
+        if (master.is(type::MainMaster)) {
+            styles_.emplace(id, text::TextStyles(&master, environment, fonts_));
+        }
+        if (const Record* const drawing = master.find(type::Drawing)) {
+            collect(*drawing);
+        }
+    }
+
     void collect(const Record& container) {
         for (const Record& child : container.children) {
             if (child.is(type::ArtShape)) {
-                masterShapes_.emplace(drawing::ShapeHead(child).number, child);
+                records::within(child, [&] {
+                    masterShapes_.emplace(drawing::ShapeHead(child).number, drawing::MasterShape(child));
+                });
             } else if (child.is(type::ArtDrawing) || child.is(type::ArtShapeGroup)) {
                 collect(child);
             }
         }
     }
 
-    void readSettings(Presentation& presentation) {
-        ByteReader in(document_.demand(type::DocumentAtom).data, "the record of the document");
-        const auto units = static_cast<float>(8);
-        presentation.slideWidth = static_cast<float>(in.read<std::int32_t>()) / units;
-        presentation.slideHeight = static_cast<float>(in.read<std::int32_t>()) / units;
-        if (const Record* const list = document_.find(type::DocInfoList)) {
-            presentation.tags = readTags(*list);
-            const Record* const view = list->find(type::SlideViewInfo, slideViewInstance);
-            const Record* const atom = view == nullptr ? nullptr : view->find(type::SlideViewInfoAtom);
-            presentation.snapToGrid = atom == nullptr || atom->data.size() < 2 || atom->data[1] != 0;
-        }
+    /// The colours of the first master that has any.
+    [[nodiscard]] ColorScheme colors() const {
         for (const auto& [id, master] : masters_) {
             const Record* const scheme = master->find(type::ColorSchemeAtom, shapesSchemeInstance);
             if (master->is(type::MainMaster) && scheme != nullptr) {
-                presentation.colors = readColors(*scheme);
-                break;
+                return records::within(*scheme, [scheme] { return readColors(*scheme); });
             }
         }
-        origin_->slideWidth = presentation.slideWidth;
-        origin_->slideHeight = presentation.slideHeight;
-        origin_->snapToGrid = presentation.snapToGrid;
-        origin_->tags = presentation.tags;
-        origin_->colors = presentation.colors;
+        return {};
     }
 
     /// The text styles of a slide's master; a title master has those of the master that it stands beside.
@@ -126,23 +132,22 @@ private:
         return found == styles_.end() ? styles_.begin()->second : found->second;
     }
 
-    SlidePtr readSlide(SlideEntry entry) {
-        const SlideReference reference(entry.persist);
-        const Record& record = demandObject(reference.object, type::Slide, "a slide");
-        if (!taken_.insert(reference.object).second || !taken_.insert(reference.slide | idMark).second) {
-            throw DamagedPresentation("PowerPoint Document: slide " + std::to_string(reference.slide) +
-                                      " stands twice in the list of slides");
+    SlidePtr readSlide(const Record& record, SlideEntry entry) {
+        const std::uint32_t id = entry.id() & slideIdMask;
+        if (!objectsTaken_.insert(entry.object()).second || !idsTaken_.insert(id).second) {
+            throw DamagedRecord(entry.persist.offset,
+                                "slide " + std::to_string(id) + " stands twice in the lists of slides");
         }
         auto slide = std::make_shared<Slide>();
         auto origin = std::make_shared<SlideOrigin>();
         readShapes(record, entry, *slide, *origin);
-        slide->id = static_cast<std::int32_t>(reference.slide & 0x7FFFFFFFU);
+        slide->id = static_cast<std::int32_t>(id);
         const Record* const name = record.find(type::CString, slideNameInstance);
         slide->name = name == nullptr ? std::u16string() : files::utf16Text(name->data);
         slide->layout = layoutOf(SlideAtom(record).geometry);
         slide->tags = readTags(record);
         origin->document = origin_;
-        origin->object = reference.object;
+        origin->object = entry.object();
         origin->entry = std::move(entry);
         origin->layout = slide->layout;
         origin->name = slide->name;
@@ -158,18 +163,16 @@ private:
         const drawing::DrawingIds ids = drawings_->ids(origin.drawing);
         const text::TextStyles& styles = stylesFor(SlideAtom(record).master);
         const drawing::SlideContext context{{fonts_, styles}, masterShapes_, defaults_, ids, entry.texts, origin_};
-        const std::vector<ShapePtr> shapes = drawing::ShapeReader(context).read(drawing);
-        for (const ShapePtr& shape : shapes) {
+        for (const ShapePtr& shape : drawing::ShapeReader(context).read(drawing)) {
             slide.insert(shape, slide.shapes().size());
         }
-        origin.shapes = countShapes(shapes);
         slide.keepIds(1);
         if (const Record* const background = art.find(type::ArtShape)) {
             slide.keepIds(ids.idOf(drawing::ShapeHead(*background).number).value_or(1));
         }
     }
 
-    static constexpr std::uint64_t idMark = std::uint64_t{1} << 32U;
+    static constexpr std::uint32_t slideIdMask = 0x7FFFFFFF;
 
     std::shared_ptr<PresentationOrigin> origin_;
     const Record& document_;
@@ -179,7 +182,8 @@ private:
     std::map<std::uint32_t, const Record*> masters_;
     std::map<std::uint32_t, text::TextStyles> styles_;
     drawing::MasterShapes masterShapes_;
-    std::set<std::uint64_t> taken_; ///< objects that are slides, and the ids of slides above the mark
+    std::set<std::uint32_t> objectsTaken_; ///< by masters and slides
+    std::set<std::uint32_t> idsTaken_;
 };
 
 } // namespace

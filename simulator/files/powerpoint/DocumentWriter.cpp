@@ -1,25 +1,22 @@
 #include "simulator/files/powerpoint/DocumentWriter.h"
 
 #include "simulator/files/Bytes.h"
-#include "simulator/files/compound/CompoundWriter.h"
 #include "simulator/files/powerpoint/BlankDocument.h"
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
+#include "simulator/files/powerpoint/DocumentSettings.h"
+#include "simulator/files/powerpoint/PersistWriter.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
 #include "simulator/files/powerpoint/SlideWriter.h"
 #include "simulator/files/powerpoint/Streams.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
-#include <cmath>
-#include <map>
 #include <set>
 
 namespace simulator::powerpoint {
 
 namespace {
 
-using files::ByteWriter;
 using records::Record;
 namespace type = records::type;
 
@@ -33,181 +30,92 @@ class DocumentWriter {
 public:
     explicit DocumentWriter(const Presentation& presentation)
         : presentation_(presentation), origin_(originOf(presentation)), objects_(origin_->objects),
-          drawings_(*document().find(type::DrawingGroup)->find(type::ArtGroup)->find(type::ArtGroupAtom)) {
-        if (Record* const collection = fontCollection()) {
+          drawings_(listOfDrawings()) {
+        if (const Record* const collection = fontCollection()) {
             fonts_ = text::FontTable(*collection);
-        }
-        for (const PersistObject& object : objects_) {
-            highestObject_ = std::max(highestObject_, object.id);
         }
     }
 
     std::string write() {
-        writeSlides();
-        dropSlidesThatAreGone();
-        writeSlideList();
-        writeSettings();
+        const std::vector<SlideEntry> entries = writeSlides();
+        dropSlidesThatAreGone(entries);
+        putEntries(document(), slideList::slides, entries);
+        writeSettings(document(), presentation_, *origin_);
         writeColors();
-        writeLists();
-        return bytes();
+        writeFonts();
+        countDrawings();
+        return writeObjects(objects_, lastEdit(), *origin_);
     }
 
 private:
-    [[nodiscard]] Record& object(std::uint32_t id) {
-        return std::find_if(objects_.begin(), objects_.end(), [id](const PersistObject& each) { return each.id == id; })
-            ->record;
+    [[nodiscard]] Record& document() { return *objects_.find(origin_->document); }
+    [[nodiscard]] Record& listOfDrawings() {
+        return *document().find(type::DrawingGroup)->find(type::ArtGroup)->find(type::ArtGroupAtom);
     }
-    [[nodiscard]] Record& document() { return object(origin_->document); }
     [[nodiscard]] Record* fontCollection() {
         Record* const environment = document().find(type::Environment);
         return environment == nullptr ? nullptr : environment->find(type::FontCollection);
     }
 
     [[nodiscard]] std::uint32_t masterOfNewSlides() {
-        const Record* const list = document().find(type::SlideListWithText, slideList::masters);
-        const std::vector<SlideEntry> masters = list == nullptr ? std::vector<SlideEntry>() : entriesOf(*list);
-        return masters.empty() ? 0 : SlideReference(masters.front().persist).slide;
+        const std::vector<SlideEntry> masters = entriesIn(document(), slideList::masters);
+        return masters.empty() ? 0 : masters.front().id();
     }
 
-    void writeSlides() {
-        const SlideTarget target{drawings_, fonts_, *origin_, masterOfNewSlides(), presentation_.colors};
+    std::vector<SlideEntry> writeSlides() {
+        const SlideTarget target{drawings_, fonts_, *origin_, masterOfNewSlides()};
+        std::vector<SlideEntry> entries;
+        std::set<std::uint32_t> written;
         for (const SlidePtr& slide : presentation_.slides()) {
             const auto* origin = dynamic_cast<const SlideOrigin*>(slide->origin.get());
             origin = origin != nullptr && origin->document == origin_ ? origin : nullptr;
-            const bool isCopy = origin != nullptr && !written_.insert(origin->object).second;
-            WrittenSlide written = writeSlide(*slide, origin, isCopy, target);
-            const bool isNew = origin == nullptr || isCopy;
-            const std::uint32_t id = isNew ? ++highestObject_ : origin->object;
-            if (isNew) {
-                objects_.push_back({id, std::move(written.record)});
-                written_.insert(id);
+            const bool isCopy = origin != nullptr && !written.insert(origin->object).second;
+            WrittenSlide now = writeSlide(*slide, origin, isCopy, target);
+            SlideEntry entry = origin == nullptr ? SlideEntry() : origin->entry;
+            if (origin == nullptr || isCopy) {
+                const std::uint32_t id = objects_.highestId() + 1;
+                objects_.append(id, std::move(now.record));
+                entry.persist = persistAtom(id, notOutlineAlone, 0);
+                entry.texts.clear();
             } else {
-                object(id) = std::move(written.record);
+                *objects_.find(origin->object) = std::move(now.record);
             }
-            entries_.push_back(entryOf(*slide, origin, id, isNew, std::move(written.outline)));
+            entry.setId(static_cast<std::uint32_t>(slide->id));
+            entry.setTexts(std::move(now.outline));
+            entries.push_back(std::move(entry));
         }
-    }
-
-    static SlideEntry entryOf(const Slide& slide, const SlideOrigin* origin, std::uint32_t id, bool isNew,
-                              std::vector<std::vector<Record>> outline) {
-        SlideEntry entry;
-        if (origin != nullptr) {
-            entry = origin->entry;
-        }
-        if (isNew) {
-            constexpr std::uint32_t notOutlineAlone = 4;
-            ByteWriter out;
-            out.write<std::uint32_t>(id).write<std::uint32_t>(notOutlineAlone).fill(12);
-            entry.persist = Record::atom(type::SlidePersistAtom, out.take());
-        }
-        std::string& data = entry.persist.data;
-        files::putNumber(data, slideIdPlace, static_cast<std::uint32_t>(slide.id));
-        const auto texts = static_cast<std::uint32_t>(outline.size());
-        if (isNew || outline.size() != entry.texts.size()) {
-            files::putNumber(data, textCountPlace, texts);
-        }
-        entry.texts = std::move(outline);
-        return entry;
+        return entries;
     }
 
     /// Slides that were deleted leave with their notes.
-    void dropSlidesThatAreGone() {
+    void dropSlidesThatAreGone(const std::vector<SlideEntry>& entries) {
+        std::set<std::uint32_t> kept;
+        for (const SlideEntry& entry : entries) {
+            kept.insert(entry.object());
+        }
         std::set<std::uint32_t> gone;
         std::set<std::uint32_t> goneNotes;
-        for (const SlideEntry& entry : entriesIn(slideList::slides)) {
-            const std::uint32_t id = SlideReference(entry.persist).object;
-            if (written_.contains(id)) {
-                continue;
-            }
-            gone.insert(id);
-            if (const std::uint32_t notes = SlideAtom(object(id)).notes; notes != 0) {
-                goneNotes.insert(notes);
-            }
-        }
-        if (!goneNotes.empty()) {
-            std::vector<SlideEntry> kept;
-            for (const SlideEntry& entry : entriesIn(slideList::notes)) {
-                const SlideReference reference(entry.persist);
-                if (goneNotes.contains(reference.slide)) {
-                    gone.insert(reference.object);
-                } else {
-                    kept.push_back(entry);
+        for (const SlideEntry& entry : entriesIn(document(), slideList::slides)) {
+            if (!kept.contains(entry.object())) {
+                gone.insert(entry.object());
+                if (const std::uint32_t notes = SlideAtom(*objects_.find(entry.object())).notes; notes != 0) {
+                    goneNotes.insert(notes);
                 }
             }
-            putList(slideList::notes, recordsOf(kept));
         }
-        std::erase_if(objects_, [&](const PersistObject& each) { return gone.contains(each.id); });
-    }
-
-    [[nodiscard]] std::vector<SlideEntry> entriesIn(std::uint16_t list) {
-        const Record* const found = document().find(type::SlideListWithText, list);
-        return found == nullptr ? std::vector<SlideEntry>() : entriesOf(*found);
-    }
-
-    void writeSlideList() { putList(slideList::slides, recordsOf(entries_)); }
-
-    /// Gives a list its records; one without any goes.
-    void putList(std::uint16_t list, std::vector<Record> records) {
-        std::vector<Record>& parts = document().children;
-        Record* const found = document().find(type::SlideListWithText, list);
-        if (records.empty()) {
-            std::erase_if(parts, [list](const Record& part) { return part.is(type::SlideListWithText, list); });
-        } else if (found != nullptr) {
-            found->children = std::move(records);
-        } else {
-            const auto place = std::find_if(parts.begin(), parts.end(), [](const Record& part) {
-                return part.is(type::SlideListWithText, slideList::notes) || part.is(type::SlideShowSettings) ||
-                       part.is(type::EndDocument);
-            });
-            parts.insert(place, Record::container(type::SlideListWithText, std::move(records), list));
-        }
-    }
-
-    void writeSettings() {
-        const auto units = [](float points) { return static_cast<std::uint32_t>(std::lround(points * 8)); };
-        const bool isResized =
-            presentation_.slideWidth != origin_->slideWidth || presentation_.slideHeight != origin_->slideHeight;
-        if (std::string& atom = document().find(type::DocumentAtom)->data; isResized) {
-            constexpr char custom = 6;
-            files::putNumber(atom, 0, units(presentation_.slideWidth));
-            files::putNumber(atom, 4, units(presentation_.slideHeight));
-            if (atom.size() > sizeKindPlace) {
-                atom[sizeKindPlace] = custom;
+        std::vector<SlideEntry> notes = entriesIn(document(), slideList::notes);
+        const std::size_t before = notes.size();
+        std::erase_if(notes, [&](const SlideEntry& entry) {
+            const bool isGone = goneNotes.contains(entry.id());
+            if (isGone) {
+                gone.insert(entry.object());
             }
-        }
-        if (!(presentation_.tags == origin_->tags)) {
-            putTags(docInfoList(), presentation_.tags);
-        }
-        if (presentation_.snapToGrid != origin_->snapToGrid) {
-            writeSnapToGrid();
-        }
-    }
-
-    Record& docInfoList() {
-        if (Record* const found = document().find(type::DocInfoList)) {
-            return *found;
-        }
-        std::vector<Record>& parts = document().children;
-        const auto after = std::find_if(parts.begin(), parts.end(), [](const Record& part) {
-            return part.is(type::SlideListWithText, slideList::slides) || part.is(type::EndDocument);
+            return isGone;
         });
-        return *parts.insert(after, Record::container(type::DocInfoList, {}));
-    }
-
-    void writeSnapToGrid() {
-        Record& list = docInfoList();
-        Record* view = list.find(type::SlideViewInfo, slideViewInstance);
-        if (view == nullptr) {
-            list.children.insert(list.children.begin(), Record::container(type::SlideViewInfo, {}, slideViewInstance));
-            view = &list.children.front();
+        if (notes.size() != before) {
+            putEntries(document(), slideList::notes, notes);
         }
-        Record* atom = view->find(type::SlideViewInfoAtom);
-        if (atom == nullptr) {
-            view->children.insert(view->children.begin(), Record::atom(type::SlideViewInfoAtom, {}));
-            atom = &view->children.front();
-        }
-        atom->data.resize(std::max<std::size_t>(atom->data.size(), 3));
-        atom->data[1] = presentation_.snapToGrid ? '\1' : '\0';
+        objects_.eraseIf([&](std::uint32_t id) { return gone.contains(id); });
     }
 
     /// Masters and slides that have the document's colours take the new ones.
@@ -215,99 +123,65 @@ private:
         const std::string before = colorBytes(origin_->colors);
         const std::string now = colorBytes(presentation_.colors);
         const std::string usual = colorBytes({});
-        for (PersistObject& each : objects_) {
-            Record* const atom = each.record.find(type::ColorSchemeAtom, shapesSchemeInstance);
-            const bool isFresh = origin_->object(each.id) == nullptr && atom != nullptr && atom->data == usual;
+        objects_.forEach([&](std::uint32_t id, Record& record) {
+            Record* const atom = record.find(type::ColorSchemeAtom, shapesSchemeInstance);
+            const bool isFresh = origin_->objects.find(id) == nullptr && atom != nullptr && atom->data == usual;
             if (atom != nullptr && (isFresh || (before != now && atom->data == before))) {
                 atom->data = now;
+            }
+        });
+    }
+
+    void writeFonts() {
+        Record* const environment = document().find(type::Environment);
+        if (Record* const collection = fontCollection()) {
+            fonts_.complete(*collection);
+        } else if (Record fresh = Record::container(type::FontCollection, {}); environment != nullptr) {
+            fonts_.complete(fresh);
+            if (!fresh.children.empty()) {
+                environment->children.insert(environment->children.begin(), std::move(fresh));
             }
         }
     }
 
-    void writeLists() {
-        const auto shapesIn = [](const std::vector<PersistObject>& objects) {
+    void countDrawings() {
+        const auto shapesIn = [](const PersistObjects& objects) {
             std::int64_t count = 0;
-            for (const PersistObject& each : objects) {
+            for (const PersistObject& each : objects.all()) {
                 count += static_cast<std::int64_t>(countShapeRecords(each.record));
             }
             return count;
         };
-        drawings_.count(static_cast<std::int64_t>(objects_.size()) - static_cast<std::int64_t>(origin_->objects.size()),
+        const auto drawingsIn = [](const PersistObjects& objects) {
+            return static_cast<std::int64_t>(objects.all().size());
+        };
+        drawings_.count(drawingsIn(objects_) - drawingsIn(origin_->objects),
                         shapesIn(objects_) - shapesIn(origin_->objects));
-        *document().find(type::DrawingGroup)->find(type::ArtGroup)->find(type::ArtGroupAtom) = drawings_.atom();
-        if (Record* const collection = fontCollection()) {
-            fonts_.complete(*collection);
-        }
+        listOfDrawings() = drawings_.atom();
     }
 
-    std::string bytes() {
-        std::string stream;
-        std::map<std::uint32_t, std::uint32_t> places;
-        for (const PersistObject& each : objects_) {
-            places[each.id] = static_cast<std::uint32_t>(stream.size());
-            records::append(stream, each.record);
-        }
-        const auto directory = static_cast<std::uint32_t>(stream.size());
-        records::append(stream, directoryOf(places));
-        const auto edit = static_cast<std::uint32_t>(stream.size());
-        records::append(stream, userEdit(directory));
-
-        compound::Storage file = origin_->file;
-        std::string currentUser = file.stream(currentUserStream)->bytes;
-        files::putNumber(currentUser, lastEditPlace, edit);
-        file.put(currentUserStream, std::move(currentUser));
-        file.put(documentStream, std::move(stream));
-        return compound::write(file);
-    }
-
-    static Record directoryOf(const std::map<std::uint32_t, std::uint32_t>& places) {
-        ByteWriter out;
-        for (auto place = places.begin(); place != places.end();) {
-            std::vector<std::uint32_t> run;
-            const std::uint32_t first = place->first;
-            while (place != places.end() && run.size() < longestRun && place->first == first + run.size()) {
-                run.push_back(place->second);
-                ++place;
-            }
-            out.write<std::uint32_t>(first | static_cast<std::uint32_t>(run.size() << persistIdBits));
-            for (const std::uint32_t offset : run) {
-                out.write<std::uint32_t>(offset);
-            }
-        }
-        return Record::atom(type::PersistDirectoryAtom, out.take());
-    }
-
-    Record userEdit(std::uint32_t directory) const {
+    /// The record of the last edit, which names a slide that was shown.
+    [[nodiscard]] Record lastEdit() const {
         Record edit = origin_->userEdit;
         const auto& slides = presentation_.slides();
-        const std::uint32_t lastSlide = files::numberAt(edit.data, 0);
+        const std::uint32_t lastSlide = files::numberAt(edit.data, userEdit::lastSlide);
         const bool isThere = std::any_of(slides.begin(), slides.end(), [lastSlide](const SlidePtr& slide) {
             return static_cast<std::uint32_t>(slide->id) == lastSlide;
         });
         if (!isThere) {
-            files::putNumber(edit.data, 0, slides.empty() ? 0 : static_cast<std::uint32_t>(slides.front()->id));
+            const std::int32_t first = slides.empty() ? 0 : slides.front()->id;
+            files::putNumber(edit.data, userEdit::lastSlide, static_cast<std::uint32_t>(first));
         }
-        files::putNumber(edit.data, editBeforePlace, 0);
-        files::putNumber(edit.data, directoryPlace, directory);
-        files::putNumber(edit.data, seedPlace, std::max(files::numberAt(edit.data, seedPlace), highestObject_));
         return edit;
     }
 
-    static constexpr std::size_t slideIdPlace = 12;
-    static constexpr std::size_t textCountPlace = 8;
-    static constexpr std::size_t sizeKindPlace = 34;
-    static constexpr std::size_t editBeforePlace = 8;
-    static constexpr std::size_t directoryPlace = 12;
-    static constexpr std::size_t seedPlace = 20;
+    static constexpr std::uint32_t notOutlineAlone = 4;
 
     const Presentation& presentation_;
     std::shared_ptr<const PresentationOrigin> origin_;
-    std::vector<PersistObject> objects_;
+    PersistObjects objects_;
     drawing::DrawingGroup drawings_;
     text::FontTable fonts_;
-    std::uint32_t highestObject_ = 0;
-    std::set<std::uint32_t> written_;
-    std::vector<SlideEntry> entries_;
 };
 
 } // namespace

@@ -4,12 +4,12 @@
 #include "simulator/files/Bytes.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/powerpoint/Streams.h"
+#include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordReader.h"
 #include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
 #include <map>
-#include <set>
 
 namespace simulator::powerpoint {
 
@@ -17,6 +17,7 @@ namespace {
 
 using files::ByteReader;
 using files::hex;
+using records::DamagedRecord;
 using records::Record;
 namespace type = records::type;
 
@@ -58,18 +59,15 @@ std::uint32_t lastEditOf(const std::string& currentUser) {
     return in.read<std::uint32_t>();
 }
 
-/// The places of the objects in force, by their numbers.
+/// The places of the objects in force, by their numbers. No byte of the stream may belong to two parts of the chain, so
+/// that it neither runs in a circle nor takes longer than the stream is long.
 class EditChain {
 public:
     EditChain(const std::string& stream, std::uint32_t last) : stream_(stream) {
-        std::set<std::uint32_t> seen;
-        for (std::uint32_t offset = last; offset != 0 || seen.empty();) {
-            if (!seen.insert(offset).second) {
-                throw DamagedPresentation("PowerPoint Document, offset " + hex(offset) +
-                                          ": the edits of the document run in a circle");
-            }
+        std::uint32_t offset = last;
+        do {
             offset = follow(offset);
-        }
+        } while (offset != 0);
     }
 
     [[nodiscard]] const std::map<std::uint32_t, std::uint32_t>& places() const noexcept { return places_; }
@@ -77,33 +75,46 @@ public:
     [[nodiscard]] std::uint32_t document() const noexcept { return document_; }
 
 private:
-    [[nodiscard]] Record demand(std::uint32_t offset, std::uint16_t wanted, const char* what) const {
+    [[nodiscard]] Record demand(std::uint32_t offset, std::uint16_t wanted, const char* what) {
+        claim(offset, offset + records::sizeOfRecord(stream_, offset));
         Record record = records::readRecord(stream_, offset);
         if (!record.is(wanted)) {
-            throw DamagedPresentation("PowerPoint Document, offset " + hex(offset) + ": record " + hex(record.type) +
-                                      " stands where " + what + " should");
+            throw DamagedRecord(offset, "record " + hex(record.type) + " stands where " + what + " should");
         }
         return record;
+    }
+
+    void claim(std::size_t start, std::size_t end) {
+        const auto next = claimed_.lower_bound(start);
+        const bool reachesIntoNext = next != claimed_.end() && next->first < end;
+        const bool liesInFormer = next != claimed_.begin() && std::prev(next)->second > start;
+        if (reachesIntoNext || liesInFormer) {
+            throw DamagedRecord(start, "the edits of the document run in a circle");
+        }
+        claimed_.emplace(start, end);
     }
 
     /// Takes what an edit says and is not yet known; where the edit before it stands, 0 for none.
     std::uint32_t follow(std::uint32_t offset) {
         const Record edit = demand(offset, type::UserEditAtom, "an edit of the document");
-        ByteReader in(edit.data, "the record of an edit");
-        in.skip(8);
-        const auto before = in.read<std::uint32_t>();
-        const auto directory = in.read<std::uint32_t>();
-        const auto document = in.read<std::uint32_t>();
-        in.skip(8);
-        if (in.left() >= 4 && in.read<std::uint32_t>() != 0) {
+        return records::within(edit, [&] { return follow(edit); });
+    }
+
+    std::uint32_t follow(const Record& edit) {
+        if (edit.data.size() < userEdit::encryption) {
+            throw DamagedPresentation("the record of an edit is too short");
+        }
+        const auto at = [&edit](std::size_t place) { return files::numberAt(edit.data, place); };
+        if (at(userEdit::encryption) != 0) {
             refuseEncrypted();
         }
         if (document_ == 0) {
             lastEdit_ = edit;
-            document_ = document;
+            document_ = at(userEdit::document);
         }
-        readDirectory(demand(directory, type::PersistDirectoryAtom, "the directory of objects"));
-        return before;
+        const Record list = demand(at(userEdit::directory), type::PersistDirectoryAtom, "the directory of objects");
+        records::within(list, [&] { readDirectory(list); });
+        return at(userEdit::editBefore);
     }
 
     void readDirectory(const Record& directory) {
@@ -118,28 +129,28 @@ private:
     }
 
     const std::string& stream_;
+    std::map<std::size_t, std::size_t> claimed_; ///< ends of the parts that were read, by their starts
     std::map<std::uint32_t, std::uint32_t> places_;
     Record lastEdit_;
     std::uint32_t document_ = 0;
 };
 
 /// Reads the objects in the order of their places; no two may share bytes.
-std::vector<PersistObject> readAll(const std::string& stream, const std::map<std::uint32_t, std::uint32_t>& places) {
+PersistObjects readAll(const std::string& stream, const std::map<std::uint32_t, std::uint32_t>& places) {
     std::vector<std::pair<std::uint32_t, std::uint32_t>> ordered;
     ordered.reserve(places.size());
     for (const auto& [id, offset] : places) {
         ordered.emplace_back(offset, id);
     }
     std::sort(ordered.begin(), ordered.end());
-    std::vector<PersistObject> objects;
+    PersistObjects objects;
     std::size_t end = 0;
     for (const auto& [offset, id] : ordered) {
         if (offset < end) {
-            throw DamagedPresentation("PowerPoint Document, offset " + hex(offset) + ": object " + std::to_string(id) +
-                                      " begins within the one before it");
+            throw DamagedRecord(offset, "object " + std::to_string(id) + " begins within the one before it");
         }
         end = offset + records::sizeOfRecord(stream, offset);
-        objects.push_back({id, records::readRecord(stream, offset)});
+        objects.append(id, records::readRecord(stream, offset));
     }
     return objects;
 }

@@ -96,7 +96,8 @@ void writeSettings(Record& record, const Slide& slide, const SlideOrigin* origin
 } // namespace
 
 WrittenSlide writeSlide(const Slide& slide, const SlideOrigin* origin, bool isCopy, const SlideTarget& target) {
-    WrittenSlide written{origin == nullptr ? blankSlide(target.master) : *target.document.object(origin->object), {}};
+    WrittenSlide written{origin == nullptr ? blankSlide(target.master) : *target.document.objects.find(origin->object),
+                         {}};
     const bool isNew = origin == nullptr || isCopy;
     const DrawingIds former = origin == nullptr ? DrawingIds{0, {0}} : target.drawings.ids(origin->drawing);
     DrawingIds ids = isNew ? target.drawings.add() : former;

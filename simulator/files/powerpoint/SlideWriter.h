@@ -12,7 +12,6 @@ struct SlideTarget {
     text::FontTable& fonts;
     const PresentationOrigin& document;
     std::uint32_t master; ///< the id of the master of new slides
-    const ColorScheme& colors;
 };
 
 /// A slide as it is to be saved.

@@ -19,12 +19,15 @@ inline constexpr std::uint32_t persistIdBits = 20;
 inline constexpr std::uint32_t persistIdMask = 0xFFFFF;
 inline constexpr std::size_t longestRun = 0xFFF;
 
-/// The instances of lists of slides.
-namespace slideList {
-inline constexpr std::uint16_t slides = 0;
-inline constexpr std::uint16_t masters = 1;
-inline constexpr std::uint16_t notes = 2;
-} // namespace slideList
+/// Places in the record of an edit.
+namespace userEdit {
+inline constexpr std::size_t lastSlide = 0;
+inline constexpr std::size_t editBefore = 8;
+inline constexpr std::size_t directory = 12;
+inline constexpr std::size_t document = 16;
+inline constexpr std::size_t highestObject = 20;
+inline constexpr std::size_t encryption = 28; ///< the last one, and only where the document is encrypted
+} // namespace userEdit
 
 inline constexpr std::uint16_t shapesSchemeInstance = 1; ///< of the colours in force
 inline constexpr std::uint16_t slideNameInstance = 3;

@@ -43,15 +43,15 @@ void dropEmptyTags(Record& owner) {
 } // namespace
 
 TagList readTags(const Record& owner) {
-    TagList tags;
+    std::vector<TagList::Tag> tags;
     if (const Record* const all = owner.find(type::ProgTags)) {
         for (const Record& tag : all->children) {
             if (tag.is(type::ProgStringTag)) {
-                tags.add(textOf(tag, nameInstance), textOf(tag, valueInstance));
+                tags.emplace_back(textOf(tag, nameInstance), textOf(tag, valueInstance));
             }
         }
     }
-    return tags;
+    return TagList(tags);
 }
 
 void putTags(Record& owner, const TagList& tags) {

@@ -1,6 +1,7 @@
 #include "simulator/files/records/Record.h"
 
 #include "simulator/files/Bytes.h"
+#include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ Record* Record::find(std::uint16_t wanted, std::uint16_t ofInstance) noexcept {
 const Record& Record::demand(std::uint16_t wanted) const {
     const Record* const found = find(wanted);
     if (found == nullptr) {
-        throw DamagedPresentation("record " + files::hex(type) + " holds no record " + files::hex(wanted));
+        throw DamagedRecord(offset, "record " + files::hex(type) + " holds no record " + files::hex(wanted));
     }
     return *found;
 }

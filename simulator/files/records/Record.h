@@ -15,16 +15,17 @@ struct Record {
     std::uint8_t version = 0;
     std::string data;
     std::vector<Record> children;
+    std::size_t offset = 0; ///< where it was read in its stream; no part of what it says
 
     static constexpr std::uint8_t containerVersion = 0xF;
 
     [[nodiscard]] static Record atom(std::uint16_t type, std::string data, std::uint16_t instance = 0,
                                      std::uint8_t version = 0) {
-        return {type, instance, version, std::move(data), {}};
+        return {type, instance, version, std::move(data), {}, 0};
     }
     [[nodiscard]] static Record container(std::uint16_t type, std::vector<Record> children,
                                           std::uint16_t instance = 0) {
-        return {type, instance, containerVersion, {}, std::move(children)};
+        return {type, instance, containerVersion, {}, std::move(children), 0};
     }
 
     [[nodiscard]] bool is(std::uint16_t wanted) const noexcept { return type == wanted; }
@@ -39,7 +40,11 @@ struct Record {
     /// The first child of a type. Raises DamagedPresentation where there is none.
     [[nodiscard]] const Record& demand(std::uint16_t wanted) const;
 
-    friend bool operator==(const Record&, const Record&) = default;
+    /// Same bytes in a file.
+    friend bool operator==(const Record& left, const Record& right) {
+        return left.type == right.type && left.instance == right.instance && left.version == right.version &&
+               left.data == right.data && left.children == right.children;
+    }
 };
 
 /// The bytes of a record with its header.

@@ -1,6 +1,7 @@
 #include "simulator/files/records/RecordReader.h"
 
 #include "simulator/files/Bytes.h"
+#include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
@@ -70,6 +71,7 @@ std::optional<Fault> readInto(Record& record, std::string_view body, std::size_t
     for (std::size_t place = 0; place < body.size();) {
         Header header;
         std::optional<Fault> fault = check(body.substr(place), offset + place, header);
+        header.record.offset = offset + place;
         if (!fault) {
             fault = readInto(header.record, body.substr(place + headerSize, header.length), offset + place + headerSize,
                              depth + 1);
@@ -89,7 +91,7 @@ std::optional<Fault> readInto(Record& record, std::string_view body, std::size_t
 }
 
 [[noreturn]] void fail(const Fault& fault) {
-    throw DamagedPresentation("PowerPoint Document, offset " + hex(fault.offset) + ": " + fault.what);
+    throw DamagedRecord(fault.offset, fault.what);
 }
 
 Header demandHeader(std::string_view stream, std::size_t offset) {
@@ -100,6 +102,7 @@ Header demandHeader(std::string_view stream, std::size_t offset) {
     if (const auto fault = check(stream.substr(offset), offset, header)) {
         fail(*fault);
     }
+    header.record.offset = offset;
     return header;
 }
 

@@ -1,24 +1,25 @@
 #include "simulator/files/text/FormatCodes.h"
 
+#include "simulator/files/ColorBits.h"
+
 #include <cmath>
 
 namespace simulator::text {
 
 namespace {
 
-constexpr std::uint32_t directColor = 0xFE;
-constexpr std::uint32_t schemeColors = 8;
+constexpr std::uint32_t directKind = 0xFE;
 
 Color textColor(std::uint32_t code, const Color& otherwise) {
     const std::uint32_t index = code >> 24U;
-    if (index < schemeColors) {
+    if (index < files::schemeColors) {
         return Color::of(static_cast<PpColorSchemeIndex>(index + 1));
     }
-    return index == directColor ? Color::direct(static_cast<std::int32_t>(code & 0xFFFFFFU)) : otherwise;
+    return index == directKind ? files::directColor(code) : otherwise;
 }
 
 std::uint32_t colorCode(const Color& color) {
-    return color.scheme == ppNotSchemeColor ? (directColor << 24U) | (static_cast<std::uint32_t>(color.rgb) & 0xFFFFFFU)
+    return color.scheme == ppNotSchemeColor ? (directKind << 24U) | files::rgbOf(color)
                                             : static_cast<std::uint32_t>(color.scheme - 1) << 24U;
 }
 

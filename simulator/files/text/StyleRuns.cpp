@@ -61,14 +61,4 @@ void StyleRuns::append(std::vector<StyleRun>& runs, StyleRun run) {
     }
 }
 
-const StyleRun& StyleRuns::at(const std::vector<StyleRun>& runs, std::size_t place) noexcept {
-    for (const StyleRun& run : runs) {
-        if (place < run.length) {
-            return run;
-        }
-        place -= run.length;
-    }
-    return runs.back();
-}
-
 } // namespace simulator::text

@@ -26,8 +26,26 @@ struct StyleRuns {
 
     /// Adds a run, to the last one where it says the same.
     static void append(std::vector<StyleRun>& runs, StyleRun run);
-    /// The run that covers a character.
-    static const StyleRun& at(const std::vector<StyleRun>& runs, std::size_t place) noexcept;
+};
+
+/// Finds the runs of characters that come one after the other.
+class RunWalk {
+public:
+    /// There must be a run, and the runs must outlive this object.
+    explicit RunWalk(const std::vector<StyleRun>& runs) noexcept : runs_(runs) {}
+
+    /// The run that covers a character, the last one past the end; places must not go back.
+    [[nodiscard]] const StyleRun& at(std::size_t place) noexcept {
+        while (current_ + 1 < runs_.size() && place >= start_ + runs_[current_].length) {
+            start_ += runs_[current_++].length;
+        }
+        return runs_[current_];
+    }
+
+private:
+    const std::vector<StyleRun>& runs_;
+    std::size_t current_ = 0;
+    std::size_t start_ = 0; ///< of the current run
 };
 
 } // namespace simulator::text

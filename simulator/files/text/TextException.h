@@ -22,6 +22,7 @@ inline constexpr std::uint32_t bold = 1;
 inline constexpr std::uint32_t italic = 2;
 inline constexpr std::uint32_t underline = 4;
 inline constexpr std::uint32_t extension = 0x3C00; ///< the place in the list of later versions' formats
+inline constexpr unsigned extensionShift = 10;
 } // namespace character
 
 /// Places in the list of paragraph fields.

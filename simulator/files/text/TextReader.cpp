@@ -29,10 +29,10 @@ std::u16string charactersOf(const std::vector<Record>& block) {
 }
 
 bool numbers(const TextException& exception, const Numbering& numbering) {
-    constexpr int shift = 10;
-    const std::size_t place = (exception.mask & character::extension) != 0
-                                  ? (exception.values[character::Style] & character::extension) >> shift
-                                  : 0;
+    const std::size_t place =
+        (exception.mask & character::extension) != 0
+            ? (exception.values[character::Style] & character::extension) >> character::extensionShift
+            : 0;
     return place < numbering.size() && numbering[place];
 }
 
@@ -51,23 +51,24 @@ public:
 
 private:
     void readParagraphs() {
+        RunWalk paragraphs(styles_.paragraphs);
+        RunWalk characters(styles_.characters);
         std::size_t start = 0;
         for (bool isLast = false; !isLast;) {
             const std::size_t mark = text_.find(TextStory::paragraphMark, start);
             isLast = mark == std::u16string::npos;
-            addParagraph(start);
+            addParagraph(paragraphs.at(start), characters.at(start));
             start = isLast ? text_.size() : mark + 1;
             ends_.push_back(isLast ? text_.size() + 1 : start);
         }
     }
 
-    void addParagraph(std::size_t start) {
-        const StyleRun& run = StyleRuns::at(styles_.paragraphs, start);
+    void addParagraph(const StyleRun& run, const StyleRun& first) {
         const std::size_t level = std::min<std::size_t>(run.level, levels - 1);
         ParagraphFormat format = context_.styles.paragraphs(kind_, level);
         overlay(run.exception, format);
         format.indentLevel = static_cast<std::int32_t>(level) + 1;
-        if (format.bullet != ppBulletNone && numbers(StyleRuns::at(styles_.characters, start).exception, numbering_)) {
+        if (format.bullet != ppBulletNone && numbers(first.exception, numbering_)) {
             format.bullet = ppBulletNumbered;
         }
         paragraphs_.push_back(format);

@@ -29,6 +29,9 @@ struct TextContext {
                                                        const TextStory& asRead, const TextStory& now,
                                                        std::uint32_t kind, FontTable& fonts);
 
+/// True where a paragraph of a changed text has an automatic number and the one that it comes from has none, or the
+/// other way round.
+[[nodiscard]] bool numberingHasChanged(const TextStory& asRead, const TextStory& now);
 /// True where a paragraph has an automatic number.
 [[nodiscard]] bool isNumbered(const TextStory& story) noexcept;
 

@@ -1,5 +1,7 @@
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/text/Descent.h"
 #include "simulator/files/text/StyleRuns.h"
+#include "simulator/files/text/TextPlaces.h"
 #include "simulator/files/text/TextRecords.h"
 
 #include <algorithm>
@@ -38,36 +40,8 @@ void change(TextException& code, const TextException& from, const TextException&
     }
 }
 
-/// Where the characters of a changed text stood before.
-class Descent {
-public:
-    Descent(const std::u16string& before, const std::u16string& now) : before_(before.size()), now_(now.size()) {
-        const std::size_t shorter = std::min(before_, now_);
-        while (front_ < shorter && before[front_] == now[front_]) {
-            ++front_;
-        }
-        while (back_ < shorter - front_ && before[before_ - 1 - back_] == now[now_ - 1 - back_]) {
-            ++back_;
-        }
-    }
-
-    /// The place before the change; for a new character, that of the one at its left.
-    [[nodiscard]] std::size_t of(std::size_t place) const noexcept {
-        if (place >= now_ - back_) {
-            return place + before_ - now_;
-        }
-        return place < front_ ? place : std::max<std::size_t>(front_, 1) - 1;
-    }
-
-private:
-    std::size_t before_;
-    std::size_t now_;
-    std::size_t front_ = 0;
-    std::size_t back_ = 0;
-};
-
 void number(TextException& code, bool isNumbered) {
-    constexpr std::uint32_t second = 0x0400;
+    constexpr std::uint32_t second = std::uint32_t{1} << character::extensionShift;
     if (isNumbered) {
         code.set(character::Style, character::extension, code.values[character::Style] | second);
     }
@@ -109,14 +83,16 @@ StyleRuns freshRuns(const TextStory& story, FontTable& fonts) {
 }
 
 /// The runs of a changed text, character by character.
-StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const TextStory& now, FontTable& fonts) {
-    const Descent descent(asRead.text(), now.text());
+StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const TextStory& now, const Descent& descent,
+                      FontTable& fonts) {
     StyleRuns out;
+    RunWalk paragraphs(before.paragraphs);
+    RunWalk characters(before.characters);
     const std::vector<std::size_t> lengths = paragraphLengths(now.text());
     std::size_t start = 0;
     for (std::size_t i = 0; i < lengths.size(); ++i) {
         const std::size_t origin = descent.of(start);
-        StyleRun paragraph = StyleRuns::at(before.paragraphs, origin);
+        StyleRun paragraph = paragraphs.at(origin);
         const ParagraphFormat& format = now.paragraphFormats()[i];
         const ParagraphFormat& old = asRead.paragraphFormats({origin, 0}).front();
         change(paragraph.exception, codeOf(old), codeOf(format), paragraph::fields);
@@ -125,7 +101,7 @@ StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const Te
         StyleRuns::append(out.paragraphs, std::move(paragraph));
         for (const std::size_t end = start + lengths[i]; start < end; ++start) {
             const std::size_t from = descent.of(start);
-            StyleRun run = StyleRuns::at(before.characters, from);
+            StyleRun run = characters.at(from);
             const CharacterFormat& formerly = asRead.formatAt(from);
             const CharacterFormat& current = now.formatAt(start);
             if (!(formerly == current)) {
@@ -171,7 +147,33 @@ void putText(std::vector<Record>& block, const std::u16string& text, const Style
     put(block, Record::atom(type::StyleTextPropAtom, runs.bytes()));
 }
 
+bool isNumberedAt(const TextStory& story, std::size_t paragraph) {
+    return story.paragraphFormats()[paragraph].bullet == ppBulletNumbered;
+}
+
+/// The paragraph that a character belongs to.
+std::size_t paragraphAt(const std::u16string& text, std::size_t place) {
+    const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(place, text.size()));
+    return static_cast<std::size_t>(std::count(text.begin(), end, TextStory::paragraphMark));
+}
+
 } // namespace
+
+bool numberingHasChanged(const TextStory& asRead, const TextStory& now) {
+    if (!isNumbered(asRead) && !isNumbered(now)) {
+        return false;
+    }
+    const Descent descent(asRead.text(), now.text());
+    const std::vector<std::size_t> lengths = paragraphLengths(now.text());
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        if (isNumberedAt(now, i) != isNumberedAt(asRead, paragraphAt(asRead.text(), descent.of(start)))) {
+            return true;
+        }
+        start += lengths[i];
+    }
+    return false;
+}
 
 std::vector<Record> textRecords(const TextStory& story, std::uint32_t kind, FontTable& fonts) {
     std::vector<Record> block{Record::atom(type::TextHeaderAtom, headerOf(kind))};
@@ -183,7 +185,7 @@ std::vector<Record> changedText(const std::vector<Record>& block, const TextStor
                                 std::uint32_t kind, FontTable& fonts) {
     const auto header =
         std::find_if(block.begin(), block.end(), [](const Record& each) { return each.is(type::TextHeaderAtom); });
-    if (header == block.end() || isNumbered(asRead) || isNumbered(now)) {
+    if (header == block.end() || numberingHasChanged(asRead, now)) {
         std::vector<Record> fresh = textRecords(now, kind, fonts);
         if (header != block.end()) {
             fresh.front().instance = header->instance;
@@ -194,10 +196,12 @@ std::vector<Record> changedText(const std::vector<Record>& block, const TextStor
     const auto styles =
         std::find_if(block.begin(), block.end(), [](const Record& each) { return each.is(type::StyleTextPropAtom); });
     const StyleRuns before = styles == block.end() ? StyleRuns::plain(length) : StyleRuns::read(styles->data, length);
+    const Descent descent(asRead.text(), now.text());
     std::vector<Record> changed = block;
     drop(changed, type::TextSpecialInfoAtom);
     changed[static_cast<std::size_t>(header - block.begin())].data = headerOf(kind);
-    putText(changed, now.text(), changedRuns(before, asRead, now, fonts));
+    putText(changed, now.text(), changedRuns(before, asRead, now, descent, fonts));
+    movePlaces(changed, descent);
     return changed;
 }
 

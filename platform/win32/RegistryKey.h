@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-namespace library {
+namespace platform {
 
 /// An open registry key, or none.
 class RegistryKey {
@@ -21,12 +21,15 @@ public:
     }
 
     /// Creates the key and those above it, or opens it. Raises the error of the system.
-    [[nodiscard]] static RegistryKey create(HKEY root, const std::wstring& path);
+    [[nodiscard]] static RegistryKey create(HKEY root, const std::wstring& path, REGSAM access = KEY_SET_VALUE);
     /// None where it is missing. Raises any other error of the system, such as missing rights.
     [[nodiscard]] static RegistryKey open(HKEY root, const std::wstring& path, REGSAM access);
 
+    [[nodiscard]] HKEY get() const noexcept { return key_; }
     [[nodiscard]] explicit operator bool() const noexcept { return key_ != nullptr; }
 
+    /// A text without its terminating NUL; empty where it is missing, or no text.
+    [[nodiscard]] std::wstring text(const std::wstring& name) const;
     /// Writes a text; raises the error of the system.
     void setText(const std::wstring& name, const std::wstring& text) const;
     /// Removes a value; one that is missing is as good as removed. Raises any other error of the system.
@@ -43,4 +46,4 @@ private:
 /// Raises the error of the system that a registry call gave, if it is one.
 void checkRegistry(LSTATUS status);
 
-} // namespace library
+} // namespace platform

@@ -1,8 +1,10 @@
-#include "library/registration/RegistryKey.h"
+#include "platform/win32/RegistryKey.h"
 
 #include "automation/com/ComError.h"
 
-namespace library {
+#include <algorithm>
+
+namespace platform {
 
 RegistryKey::~RegistryKey() {
     if (key_ != nullptr) {
@@ -10,9 +12,9 @@ RegistryKey::~RegistryKey() {
     }
 }
 
-RegistryKey RegistryKey::create(HKEY root, const std::wstring& path) {
+RegistryKey RegistryKey::create(HKEY root, const std::wstring& path, REGSAM access) {
     HKEY key = nullptr;
-    checkRegistry(RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &key, nullptr));
+    checkRegistry(RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, access, nullptr, &key, nullptr));
     return RegistryKey(key);
 }
 
@@ -24,6 +26,18 @@ RegistryKey RegistryKey::open(HKEY root, const std::wstring& path, REGSAM access
     }
     checkRegistry(status);
     return RegistryKey(key);
+}
+
+std::wstring RegistryKey::text(const std::wstring& name) const {
+    DWORD size = 0;
+    if (RegGetValueW(key_, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &size) != ERROR_SUCCESS) {
+        return {};
+    }
+    std::wstring text(size / sizeof(wchar_t), L'\0');
+    checkRegistry(RegGetValueW(key_, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &size));
+    text.resize(size / sizeof(wchar_t));
+    text.resize(std::min(text.find(L'\0'), text.size()));
+    return text;
 }
 
 void RegistryKey::setText(const std::wstring& name, const std::wstring& text) const {
@@ -48,4 +62,4 @@ void checkRegistry(LSTATUS status) {
     automation::com::check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
 }
 
-} // namespace library
+} // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <chrono>
+#include <iosfwd>
+#include <string>
+
+namespace host {
+
+/// Tells someone who waits how far long work has come: on a terminal by a line that is written over and over, elsewhere
+/// by a plain line every half minute.
+class Progress {
+public:
+    /// Tells nobody.
+    Progress() = default;
+    /// `out` must outlive this object.
+    Progress(std::ostream& out, bool isTerminal);
+    ~Progress();
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    Progress(Progress&&) = delete;
+    Progress& operator=(Progress&&) = delete;
+
+    /// The work is at this place, the `step`-th of `steps`.
+    void at(const std::string& place, std::size_t step, std::size_t steps);
+    /// Takes the line off the terminal, before something else is written there.
+    void clear();
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    std::ostream* out_ = nullptr;
+    bool isTerminal_ = false;
+    std::size_t width_ = 0; ///< of the line on the terminal
+    Clock::time_point told_ = Clock::now();
+};
+
+} // namespace host

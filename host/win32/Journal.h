@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/win32/Handle.h"
+#include "host/win32/Loan.h"
+
+namespace host {
+
+/// What is borrowed of this machine, noted in a file before it is changed: where a run is ended before it could give
+/// everything back, the next one does.
+class Journal {
+public:
+    /// Opens the journal of the current user, with what an earlier run has left in it. Raises where another run has it.
+    Journal();
+    /// Gives everything back.
+    ~Journal();
+    Journal(const Journal&) = delete;
+    Journal& operator=(const Journal&) = delete;
+    Journal(Journal&&) = delete;
+    Journal& operator=(Journal&&) = delete;
+
+    /// To be called before the change. Raises the system's error where the file cannot be written.
+    void note(Loan loan);
+    /// Gives everything back, what was borrowed last first. What cannot be given back is said on the error output and
+    /// stays in the file for the next run. Returns how much was given back.
+    std::size_t giveBack();
+
+    /// The file, with its full path.
+    [[nodiscard]] static std::filesystem::path path();
+
+private:
+    void readLeft();
+    void rewrite();
+    void append(const Loan& loan);
+
+    Handle file_;
+    std::vector<Loan> loans_;
+};
+
+} // namespace host

@@ -1,0 +1,39 @@
+#include "simulator/files/drawing/DepthCodes.h"
+
+#include "simulator/files/drawing/Codes.h"
+#include "simulator/files/drawing/PropertyIds.h"
+
+namespace simulator::drawing {
+
+Shadow readShadow(const Looks& looks) {
+    constexpr std::uint32_t gray = 0x808080;
+    Shadow shadow;
+    shadow.visible = looks.flag(property::shadowFlags, flag::shadowed, false);
+    shadow.obscured = looks.flag(property::shadowFlags, flag::shadowObscured, false);
+    shadow.color = colorOf(looks.number(property::shadowColor, gray), shadow.color);
+    shadow.offsetX = looks.points(property::shadowOffsetX, shadow.offsetX);
+    shadow.offsetY = looks.points(property::shadowOffsetY, shadow.offsetY);
+    return shadow;
+}
+
+void writeShadow(PropertyTable& properties, const Shadow& shadow) {
+    properties.setFlag(property::shadowFlags, flag::shadowed, shadow.visible);
+    properties.setFlag(property::shadowFlags, flag::shadowObscured, shadow.obscured);
+    properties.set(property::shadowColor, codeOf(shadow.color));
+    properties.set(property::shadowOffsetX, emu(shadow.offsetX));
+    properties.set(property::shadowOffsetY, emu(shadow.offsetY));
+}
+
+ThreeD readThreeD(const Looks& looks) {
+    ThreeD threeD;
+    threeD.visible = looks.flag(property::extrusionFlags, flag::extruded, false);
+    threeD.depth = looks.points(property::extrusionDepth, threeD.depth);
+    return threeD;
+}
+
+void writeThreeD(PropertyTable& properties, const ThreeD& threeD) {
+    properties.setFlag(property::extrusionFlags, flag::extruded, threeD.visible);
+    properties.set(property::extrusionDepth, emu(threeD.depth));
+}
+
+} // namespace simulator::drawing

@@ -1,0 +1,135 @@
+#include "simulator/win32/StandInIdentity.h"
+#include "tests/library/UserHive.h"
+#include "tests/win32/Program.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <fstream>
+#include <functional>
+#include <thread>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using tests::Program;
+using tests::UserHive;
+
+const std::wstring host = L"host\\exercise-host.exe";
+const std::wstring recentFolders = L"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList";
+const fs::path folder = L"C:\\Formation";
+
+/// The class that a name stands for, taken away for the length of a scope.
+class NameAside {
+public:
+    explicit NameAside(const std::wstring& name) : key_(L"Software\\Classes\\" + name + L"\\CLSID") {
+        EXPECT_EQ(RegGetValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text_, &size_),
+                  ERROR_SUCCESS);
+        EXPECT_EQ(RegDeleteKeyW(HKEY_LOCAL_MACHINE, key_.c_str()), ERROR_SUCCESS);
+    }
+    ~NameAside() {
+        EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, REG_SZ, text_, size_), ERROR_SUCCESS);
+    }
+    NameAside(const NameAside&) = delete;
+    NameAside& operator=(const NameAside&) = delete;
+    NameAside(NameAside&&) = delete;
+    NameAside& operator=(NameAside&&) = delete;
+
+private:
+    std::wstring key_;
+    wchar_t text_[64] = {};
+    DWORD size_ = sizeof(text_);
+};
+
+bool comesTrue(const std::function<bool()>& what) {
+    using namespace std::chrono_literals;
+    for (int wait = 0; wait < 1000 && !what(); ++wait) {
+        std::this_thread::sleep_for(20ms);
+    }
+    return what();
+}
+
+bool isPowerPointRegistered() {
+    CLSID id{};
+    return SUCCEEDED(CLSIDFromProgID(simulator::standin::programmaticIds[0], &id)) &&
+           IsEqualCLSID(id, simulator::standin::applicationClass);
+}
+
+TEST(HostTest, SaysInOneSentenceWhatIsNotRegistered) {
+    const struct {
+        const wchar_t* name;
+        const char* said;
+    } cases[] = {{L"K73053.Module", "exercise-host: K73053.dll is not registered for programs of"},
+                 {L"PowerPoint.Application.11", "exercise-host: PowerPoint is not registered on this machine"}};
+    for (const auto& [name, said] : cases) {
+        const NameAside aside(name);
+        const Program run(host, L"run 305 --powerpoint");
+        EXPECT_EQ(run.exitCode(), 2U);
+        const std::string output = run.output();
+        EXPECT_EQ(output.find(said), 0U) << output;
+        EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 1) << output;
+    }
+}
+
+/// A learner's settings and files, which a run borrows and cannot give back.
+class CutShortTest : public testing::Test {
+protected:
+    void SetUp() override {
+        former_ = UserHive::stored(recentFolders, L"Default");
+        UserHive::put(recentFolders, L"Default", L"D:\\Cours\\");
+        fs::create_directories(folder);
+        std::ofstream(folder / "mine.txt") << "mine";
+    }
+    void TearDown() override {
+        fs::remove(file_);
+        fs::remove_all(folder);
+        RegSetKeyValueW(HKEY_CURRENT_USER, recentFolders.c_str(), L"Default", former_.type, former_.data.data(),
+                        static_cast<DWORD>(former_.data.size()));
+    }
+
+    /// A file with one scenario, named on the command line.
+    [[nodiscard]] std::wstring scenario(const std::string& moves) const {
+        std::ofstream(file_) << "question 305\ncourse\n  Presentations.Add\nscenario \"one\"\n  before InitQuestion\n"
+                             << moves;
+        return L"verify --powerpoint --file \"" + file_.wstring() + L"\"";
+    }
+
+    UserHive::Stored former_;
+    fs::path file_ = fs::temp_directory_path() / "K73053-long.scn";
+};
+
+TEST_F(CutShortTest, IsMadeGoodByTheNextRun) {
+    std::string moves = R"(
+  Files.Create "17305305.doc"
+  Files.MakeReadOnly "17305305.doc"
+  PowerPoint.Start
+  Registry.Deny "SOFTWARE\Microsoft\Office\11.0\Powerpoint\RecentFolderList"
+  PowerPoint.Uninstall
+)";
+    for (int i = 0; i < 8000; ++i) {
+        moves += "  Set p = Presentations\n";
+    }
+    {
+        const Program run(host, scenario(moves));
+        ASSERT_TRUE(comesTrue([] { return !isPowerPointRegistered(); })) << run.output();
+        run.kill();
+    }
+    EXPECT_FALSE(isPowerPointRegistered());
+    EXPECT_FALSE(fs::exists(folder / "mine.txt"));
+    EXPECT_EQ(UserHive::stored(recentFolders, L"Default"), UserHive::Stored()) << "nobody may open the key";
+
+    const Program next(host, scenario("  PowerPoint.Start\n"));
+    EXPECT_EQ(next.exitCode(), 0U) << next.output();
+    EXPECT_NE(next.output().find("exercise-host: gave back"), std::string::npos) << next.output();
+    EXPECT_TRUE(isPowerPointRegistered());
+    EXPECT_TRUE(fs::exists(folder / "mine.txt"));
+    EXPECT_FALSE(fs::exists(folder / "17305305.doc"));
+    EXPECT_EQ(UserHive::stored(recentFolders, L"Default"), UserHive::text(L"D:\\Cours\\", 1));
+    for (const auto& entry : fs::directory_iterator("C:\\")) {
+        EXPECT_FALSE(entry.path().filename().wstring().starts_with(L"Formation-"))
+            << "it stays aside: " << entry.path();
+    }
+}
+
+} // namespace
