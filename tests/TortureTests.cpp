@@ -57,6 +57,13 @@ TEST(TortureTests, JudgeFindsWhatIsWrong) {
         EXPECT_EQ(judge.findings(aftermath, one.call, busy).empty(), one.isRight)
             << (one.error ? one.error->what() : "silence");
     }
+    const Fault late{Fault::Kind::Late, Lasting::Once};
+    host::torture::Aftermath raised;
+    raised.error = busy.error();
+    EXPECT_TRUE(judge.findings(flawless, prepare, late).empty());
+    EXPECT_EQ(judge.findings(raised, other, late).size(), 1U);
+    EXPECT_EQ(judge.findings(raised, other, Fault{Fault::Kind::Dies, Lasting::FromThereOn}).size(), 1U);
+
     host::torture::Aftermath lost;
     lost.findings = {"lost"};
     lost.bars = {"moved"};

@@ -12,10 +12,11 @@ public:
     automation::Value around(const automation::Crossing& crossing, const Next& next) override {
         const bool isAutomation = crossing.border == automation::Border::Automation;
         // Prepare begins where the presentation is opened, and is over where the folders are pointed at the exercise.
-        isInPrepare_ = (isAutomation && crossing.member == u"Open") ||
-                       (isInPrepare_ && crossing.border != automation::Border::Registry);
+        const bool opens = isAutomation && crossing.member == u"Open";
+        isInPrepare_ = opens || (isInPrepare_ && crossing.border != automation::Border::Registry);
         ++calls;
-        prepareCalls += isInPrepare_ ? 1U : 0U;
+        // The presentations that open it have been asked for just before.
+        prepareCalls += opens ? 2U : isInPrepare_ ? 1U : 0U;
         automationCalls += isAutomation ? 1U : 0U;
         if (isAutomation) {
             names.insert(std::u16string(crossing.target).append(u".").append(crossing.member));

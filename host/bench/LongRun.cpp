@@ -1,6 +1,5 @@
 #include "host/bench/LongRun.h"
 
-#include "host/bench/Memory.h"
 #include "host/run/FirstMoves.h"
 
 namespace host::bench {
@@ -27,8 +26,11 @@ std::vector<Holding> longRun(const std::vector<BuiltCourse>& courses, std::size_
         application = host.application;
         window = host.window;
         if (done % between == 0) {
-            holdings.push_back({done, residentKilobytes(), automation::Object::alive(), world->leftOpen()});
+            holdings.push_back({done, processUse(), automation::Object::alive(), {}});
         }
+    }
+    if (!holdings.empty()) {
+        holdings.back().leftOpen = world->leftOpen();
     }
     return holdings;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/bench/ProcessUse.h"
 #include "host/run/TrainingHost.h"
 
 namespace host::bench {
@@ -7,9 +8,9 @@ namespace host::bench {
 /// What a process holds after a number of questions.
 struct Holding {
     std::size_t questions = 0;
-    std::optional<std::size_t> kilobytes; ///< resident; nothing where the system does not tell
-    std::size_t objects = 0;              ///< automation objects alive
-    std::vector<std::string> leftOpen;    ///< registry keys and the like
+    ProcessUse use;
+    std::size_t objects = 0;           ///< automation objects alive
+    std::vector<std::string> leftOpen; ///< registry keys and the like; asked for at the end alone
 };
 
 /// A file with its course, built.

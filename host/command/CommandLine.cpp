@@ -79,7 +79,10 @@ struct CommandLine {
         bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
             ->check(CLI::PositiveNumber);
 
-        for (CLI::App* const command : {&run, &tryOut, &verify}) {
+        bench.add_option("--slides", benchRequest.slides, "With --powerpoint: slides of the large deck")
+            ->capture_default_str()
+            ->check(CLI::PositiveNumber);
+        for (CLI::App* const command : {&run, &tryOut, &verify, &torture, &bench}) {
             auto* const real = command->add_flag(
                 "--powerpoint", withPowerPoint,
                 "On Windows: drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
@@ -113,10 +116,11 @@ struct CommandLine {
     CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
-/// What the command is to run in. Raises UsageError where there is no such thing.
-WorldMaker worldsFor(const CommandLine& asked, const WorldMaker& embedded, const ComWorldsMaker& makeComWorlds) {
+/// The worlds with PowerPoint in a process of its own, where they are asked for. Raises UsageError where there is no
+/// such thing.
+WorldMaker remoteWorlds(const CommandLine& asked, const ComWorldsMaker& makeComWorlds) {
     if (!asked.withPowerPoint) {
-        return embedded;
+        return nullptr;
     }
     if (makeComWorlds == nullptr) {
         throw UsageError("--powerpoint needs Windows; here only the embedded PowerPoint runs");
@@ -128,7 +132,9 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
                  const LineReaderMaker& makeLines, Output output) {
     try {
         const Library library(asked.folder);
-        const WorldMaker makeWorld = worldsFor(asked, embedded, makeComWorlds);
+        const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
+        const WorldMaker& makeWorld = remote ? remote : embedded;
+        const Worlds worlds{embedded, remote};
         Progress progress(output.error, output.isTerminal);
         if (asked.app.get_subcommands().empty()) {
             throw UsageError("run, try, verify, list, torture or bench? See exercise-host --help");
@@ -143,10 +149,10 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
             return recheck(asked.recheckRequest, library, makeWorld, output.out);
         }
         if (asked.torture) {
-            return runTorture(asked.tortureRequest, library, makeWorld, output.out, progress);
+            return runTorture(asked.tortureRequest, library, worlds, output.out, progress);
         }
         if (asked.bench) {
-            return runBench(asked.benchRequest, library, makeWorld, output.out, progress);
+            return runBench(asked.benchRequest, library, worlds, output.out, progress);
         }
         return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out, progress)
                             : list(asked.listed, library, output.out);

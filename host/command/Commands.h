@@ -17,6 +17,12 @@ enum class ExitCode : int {
     Hung = 3,       ///< a scenario did not come to its end
 };
 
+/// The worlds that a command works in.
+struct Worlds {
+    const WorldMaker& embedded;
+    const WorldMaker& remote; ///< with PowerPoint in a process of its own; empty where they are not asked for
+};
+
 /// What `exercise-host run` is asked for.
 struct RunRequest {
     std::int32_t question = 306;
@@ -63,6 +69,7 @@ struct TortureRequest {
 struct BenchRequest {
     std::vector<std::int32_t> questions; ///< all where none is named
     std::size_t runs = 0;                ///< questions of a long run; 0 for what questions cost
+    std::size_t slides = 50;             ///< of the large deck that is checked through COM
 };
 
 /// Runs one scenario and tells it, up to the four values that the host reads last.
@@ -73,13 +80,15 @@ struct BenchRequest {
 [[nodiscard]] ExitCode verify(const VerifyRequest& request, const Library& library, const WorldMaker& makeWorld,
                               std::ostream& out, Progress& progress);
 
-/// Makes the calls fail that leave the module, one by one, and prints what is then amiss, and a line of totals.
-[[nodiscard]] ExitCode runTorture(const TortureRequest& request, const Library& library, const WorldMaker& makeWorld,
+/// Makes the calls fail that leave the module, one by one, and prints what is then amiss, and a line of totals. With
+/// remote worlds it is PowerPoint's process that dies, refuses or is late.
+[[nodiscard]] ExitCode runTorture(const TortureRequest& request, const Library& library, const Worlds& worlds,
                                   std::ostream& out, Progress& progress);
 
 /// Prints what questions cost in calls and time, and how the cost grows with a deck; or what a long run leaves behind.
-[[nodiscard]] ExitCode runBench(BenchRequest request, const Library& library, const WorldMaker& makeWorld,
-                                std::ostream& out, Progress& progress);
+/// With remote worlds it is what they cost through COM, beside a script.
+[[nodiscard]] ExitCode runBench(BenchRequest request, const Library& library, const Worlds& worlds, std::ostream& out,
+                                Progress& progress);
 
 /// Prints the scenarios of questions, of all where none is named.
 [[nodiscard]] ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out);

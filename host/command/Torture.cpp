@@ -10,23 +10,26 @@ namespace {
 
 using torture::Totals;
 
-void tortureFile(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every,
-                 std::mt19937& random, Totals& totals, std::ostream& out, Progress& progress) {
+void tortureFile(const language::ScenarioFile& file, const Worlds& worlds, std::size_t every, std::mt19937& random,
+                 Totals& totals, std::ostream& out, Progress& progress) {
     Watch watch(Watch::patience, out);
     watch.next(file.name);
-    const torture::Torture torture(file, makeWorld, every, random);
-    torture.run(
-        totals,
-        [&](const std::string& finding) {
-            progress.clear();
-            out << finding << std::endl;
-        },
-        [&](const torture::Operation& operation, std::size_t call, std::size_t calls) {
-            const std::string place = "question " + std::to_string(file.question) + ", " + operation.display() +
-                                      ", call " + std::to_string(call);
-            watch.next(place);
-            progress.at(place, call, calls);
-        });
+    const torture::Torture torture(file, worlds.embedded, every, random);
+    const auto report = [&](const std::string& finding) {
+        progress.clear();
+        out << finding << std::endl;
+    };
+    const auto advance = [&](const torture::Operation& operation, std::size_t call, std::size_t calls) {
+        const std::string place =
+            "question " + std::to_string(file.question) + ", " + operation.display() + ", call " + std::to_string(call);
+        watch.next(place);
+        progress.at(place, call, calls);
+    };
+    if (worlds.remote) {
+        torture.runRemote(worlds.remote, totals, report, advance);
+    } else {
+        torture.run(totals, report, advance);
+    }
 }
 
 void print(const Totals& totals, std::ostream& out) {
@@ -39,8 +42,8 @@ void print(const Totals& totals, std::ostream& out) {
 
 } // namespace
 
-ExitCode runTorture(const TortureRequest& request, const Library& library, const WorldMaker& makeWorld,
-                    std::ostream& out, Progress& progress) {
+ExitCode runTorture(const TortureRequest& request, const Library& library, const Worlds& worlds, std::ostream& out,
+                    Progress& progress) {
     const std::uint32_t draw = request.draw ? *request.draw : std::random_device()();
     if (request.every > 1) {
         out << "one call in " << request.every << ", --draw " << draw << std::endl;
@@ -49,7 +52,7 @@ ExitCode runTorture(const TortureRequest& request, const Library& library, const
     Totals totals;
     for (const std::filesystem::path& path :
          library.filesOf(request.questions.empty() ? Library::questions() : request.questions)) {
-        tortureFile(load(path), makeWorld, request.every, random, totals, out, progress);
+        tortureFile(load(path), worlds, request.every, random, totals, out, progress);
     }
     progress.clear();
     print(totals, out);

@@ -1,5 +1,7 @@
 #include "host/torture/Fault.h"
 
+#include "automation/LateBound.h"
+
 namespace host::torture {
 
 namespace {
@@ -11,6 +13,11 @@ using Kind = Fault::Kind;
 
 constexpr auto outOfMemory = static_cast<std::int32_t>(0x8007000EU);
 constexpr auto invalidRequest = static_cast<std::int32_t>(0x80048240U);
+
+/// Milliseconds by which a late answer comes: longer than a refused call is made again.
+constexpr std::int32_t late = 2500;
+constexpr std::int32_t never = 0;
+constexpr std::int32_t withoutEnd = 0;
 
 /// Ends PowerPoint's process just before the call at a position; the calls themselves pass.
 class Killer final : public automation::Observer {
@@ -37,6 +44,9 @@ std::string_view nameOf(Kind kind) noexcept {
     case Kind::OutOfMemory: return "out of memory";
     case Kind::AccessDenied: return "access denied";
     case Kind::Killed: return "PowerPoint killed";
+    case Kind::Dies: return "PowerPoint dies";
+    case Kind::Refuses: return "PowerPoint refuses";
+    case Kind::Late: return "PowerPoint answers late";
     }
     return "";
 }
@@ -47,6 +57,9 @@ bool Fault::fits(Border border) const noexcept {
     switch (kind) {
     case Kind::Exception:
     case Kind::Busy:
+    case Kind::Dies:
+    case Kind::Refuses:
+    case Kind::Late:
     case Kind::Dead: return border == Border::Automation;
     case Kind::OutOfMemory: return border == Border::Automation || border == Border::File;
     case Kind::AccessDenied: return border != Border::Automation;
@@ -58,6 +71,7 @@ bool Fault::fits(Border border) const noexcept {
 const Error& Fault::error() const {
     static const Error exception(invalidRequest, u"Microsoft PowerPoint", u"Requête non valide.");
     static const Error busy(automation::remote::callRejected, u"Appel", u"L'appel a été rejeté par l'appelé.");
+    static const Error refused(automation::remote::callRejected, u"", u"");
     static const Error dead(automation::remote::serverUnavailable, u"Serveur", u"Le serveur RPC n'est pas disponible.");
     static const Error memory(outOfMemory, u"Système", u"Mémoire insuffisante.");
     static const Error denied(RunTimeError::PathAccess);
@@ -65,7 +79,10 @@ const Error& Fault::error() const {
     case Kind::Exception: return exception;
     case Kind::Busy: return busy;
     case Kind::Dead:
+    case Kind::Dies:
     case Kind::Killed: return dead;
+    case Kind::Refuses:
+    case Kind::Late: return refused;
     case Kind::OutOfMemory: return memory;
     case Kind::AccessDenied: break;
     }
@@ -73,7 +90,7 @@ const Error& Fault::error() const {
 }
 
 std::string Fault::display() const {
-    const bool lasts = lasting == Lasting::FromThereOn && kind != Kind::Killed;
+    const bool lasts = lasting == Lasting::FromThereOn && !isDeath();
     return std::string(nameOf(kind)) + (lasts ? " from there on" : "");
 }
 
@@ -83,6 +100,23 @@ automation::ObserverPtr Fault::at(std::size_t position, World& world) const {
     }
     return std::make_shared<automation::FaultInjector>(position, lasting, error(),
                                                        [fault = *this](Border border) { return !fault.fits(border); });
+}
+
+void Fault::arm(std::size_t position, World& world) const {
+    const auto call = static_cast<std::int32_t>(position);
+    const automation::LateBound standIn(world.standIn());
+    switch (kind) {
+    case Kind::Dies: standIn.call(u"DieAtCall", call); break;
+    case Kind::Refuses: standIn.call(u"RefuseAtCall", call, lasting == Lasting::Once ? 1 : withoutEnd); break;
+    case Kind::Late: standIn.call(u"DelayCall", call, late); break;
+    default: automation::raise(RunTimeError::InvalidProcedureCall);
+    }
+}
+
+void Fault::disarm(World& world) {
+    const automation::LateBound standIn(world.standIn());
+    standIn.put(u"Busy", false);
+    standIn.call(u"DieAtCall", never);
 }
 
 const std::vector<Fault>& Fault::all() {
@@ -95,6 +129,14 @@ const std::vector<Fault>& Fault::all() {
         every.push_back({Kind::Killed, Lasting::FromThereOn});
         return every;
     }();
+    return faults;
+}
+
+const std::vector<Fault>& Fault::remote() {
+    static const std::vector<Fault> faults{{Kind::Dies, Lasting::FromThereOn},
+                                           {Kind::Refuses, Lasting::Once},
+                                           {Kind::Refuses, Lasting::FromThereOn},
+                                           {Kind::Late, Lasting::Once}};
     return faults;
 }
 

@@ -9,13 +9,21 @@ namespace host::torture {
 struct Fault {
     using Lasting = automation::FaultInjector::Lasting;
 
-    enum class Kind : std::uint8_t { Exception, Busy, Dead, OutOfMemory, AccessDenied, Killed };
+    /// The last three are those of a PowerPoint in a process of its own: it dies in the call, refuses it (once it takes
+    /// it when it is made again), or answers it late.
+    enum class Kind : std::uint8_t { Exception, Busy, Dead, OutOfMemory, AccessDenied, Killed, Dies, Refuses, Late };
 
     Kind kind;
     Lasting lasting;
 
     /// True for the calls that can fail so.
     [[nodiscard]] bool fits(automation::Border border) const noexcept;
+    /// PowerPoint's process ends.
+    [[nodiscard]] bool isDeath() const noexcept { return kind == Kind::Killed || kind == Kind::Dies; }
+    /// The call is taken in the end: the host must not notice.
+    [[nodiscard]] bool isDelay() const noexcept {
+        return kind == Kind::Late || (kind == Kind::Refuses && lasting == Lasting::Once);
+    }
     /// What such a call raises.
     [[nodiscard]] const automation::Error& error() const;
     /// In words: `server busy from there on`.
@@ -24,8 +32,15 @@ struct Fault {
     /// Makes the call at a position (from 1) fail in a world, which must outlive the observer.
     [[nodiscard]] automation::ObserverPtr at(std::size_t position, World& world) const;
 
-    /// Every fault there is, each once and from there on; a PowerPoint killed stays dead in any case.
+    /// Makes the process of a world's PowerPoint misbehave at a call, counted from the next one that it takes (1).
+    void arm(std::size_t position, World& world) const;
+    /// Has it behave again.
+    static void disarm(World& world);
+
+    /// Every fault of calls in this process, each once and from there on; a PowerPoint killed stays dead in any case.
     [[nodiscard]] static const std::vector<Fault>& all();
+    /// Every fault of a PowerPoint in a process of its own.
+    [[nodiscard]] static const std::vector<Fault>& remote();
 };
 
 } // namespace host::torture

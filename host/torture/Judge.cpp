@@ -71,8 +71,8 @@ Answer Judge::answerOf(const Aftermath& aftermath, const Fault& fault) const {
         if (error->number() == registryError && error->source().starts_with(registryText)) {
             return Answer::Registry;
         }
-        const bool isOwn = fault.kind == Kind::Killed ? automation::remote::isDead(error->number())
-                                                      : isSameError(error, fault.error());
+        const bool isOwn =
+            fault.isDeath() ? automation::remote::isDead(error->number()) : isSameError(error, fault.error());
         return isOwn ? Answer::Straight : Answer::Wrong;
     }
     if (aftermath.reading && !isSameVerdict(*aftermath.reading, *flawless_.reading)) {
@@ -83,13 +83,19 @@ Answer Judge::answerOf(const Aftermath& aftermath, const Fault& fault) const {
 
 bool Judge::mayAnswer(Answer answer, const Aftermath& aftermath, const Call& call, const Fault& fault) const {
     const bool isAutomation = call.border == Border::Automation;
+    if (fault.isDelay()) {
+        // Whether PowerPoint answers is asked once: it is refused, then, and the answer is no.
+        const bool isAskedOnce = call.text.starts_with(u"Application.WindowState") && fault.kind == Kind::Refuses;
+        return answer == Answer::Silence ||
+               (isAskedOnce && answer == Answer::Code && aftermath.reading->causeErreur == u"%AL");
+    }
     const auto reaches = [&](Border border) {
         return call.border == border || (fault.lasting == Fault::Lasting::FromThereOn && fault.fits(border));
     };
     switch (answer) {
     case Answer::Reported: {
         const std::int32_t number = aftermath.error->number();
-        if (fault.kind == Kind::Killed) {
+        if (fault.isDeath()) {
             return automation::remote::isDead(number);
         }
         // Without an answer the measurement system is no number.
@@ -102,10 +108,10 @@ bool Judge::mayAnswer(Answer answer, const Aftermath& aftermath, const Call& cal
     case Answer::Code: {
         const std::u16string& code = aftermath.reading->causeErreur;
         // A PowerPoint that refuses calls is there, and its window too.
-        return isAutomation && fault.kind != Kind::Killed ? code == u"%AL" : isGeneralCode(code);
+        return isAutomation && !fault.isDeath() ? code == u"%AL" : isGeneralCode(code);
     }
     case Answer::Letter: return question_ == 304 && reaches(Border::File); // files that cannot be found
-    case Answer::Silence: return !(isAutomation && call.isOfPrepare && fault.kind != Kind::Killed);
+    case Answer::Silence: return !(isAutomation && call.isOfPrepare && !fault.isDeath());
     case Answer::Wrong: return false;
     }
     return false;
@@ -113,8 +119,8 @@ bool Judge::mayAnswer(Answer answer, const Aftermath& aftermath, const Call& cal
 
 std::vector<std::string> Judge::findings(const Aftermath& aftermath, const Call& call, const Fault& fault) const {
     std::vector<std::string> all = aftermath.findings;
-    // A bar that could not be read before it was arranged cannot be put back.
-    if (!(call.isOfLayout && fault.lasting == Fault::Lasting::Once)) {
+    // A bar that could not be read before it was arranged cannot be put back, nor can those of a process that has died.
+    if (!(call.isOfLayout && fault.lasting == Fault::Lasting::Once) && fault.kind != Kind::Dies) {
         all.insert(all.end(), aftermath.bars.begin(), aftermath.bars.end());
     }
     const Answer answer = answerOf(aftermath, fault);
@@ -127,7 +133,7 @@ std::vector<std::string> Judge::findings(const Aftermath& aftermath, const Call&
         !isReportOfPrepare(*aftermath.error, fault)) {
         all.push_back("a failure in Prepare is reported as " + inWords(*aftermath.error));
     }
-    if (aftermath.powerPointEnded && fault.kind != Kind::Killed && fault.kind != Kind::AccessDenied) {
+    if (aftermath.powerPointEnded && !fault.isDeath() && fault.kind != Kind::AccessDenied) {
         all.emplace_back("the learner's PowerPoint has been ended");
     }
     return all;
@@ -148,7 +154,7 @@ bool Judge::isReport(const Error& error) const {
 
 bool Judge::isReportOfPrepare(const Error& error, const Fault& fault) const {
     const std::u16string report = reportOf(className(), u"Prepare");
-    if (fault.kind == Kind::Killed) {
+    if (fault.isDeath()) {
         return error.source().starts_with(report);
     }
     return error.source() == report + fault.error().source() && error.number() == fault.error().number();

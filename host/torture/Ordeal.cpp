@@ -58,29 +58,16 @@ void compareBars(const Belongings& before, const Belongings& after, std::vector<
 
 } // namespace
 
-/// Lets an observer be put in and taken out while the calls that it observes go on, and counts them.
-class Ordeal::Switch final : public automation::Observer {
-public:
-    automation::Value around(const automation::Crossing& crossing, const Next& next) override {
-        ++calls;
-        return observer ? observer->around(crossing, next) : next();
-    }
-
-    automation::ObserverPtr observer;
-    std::size_t calls = 0;
-};
-
 std::string Operation::display() const {
     return toUtf8(nameOf(call)) + (arrival == Arrival::Started ? " (PowerPoint started)" : "");
 }
 
-Aftermath Ordeal::run(Operation operation, const ObserverMaker& makeObserver, bool foldersStayWritable) const {
+Aftermath Ordeal::run(Operation operation, Tampering& tampering, bool foldersStayWritable) const {
     const std::size_t aliveBefore = automation::Object::alive();
     Aftermath aftermath;
     {
-        const auto line = std::make_shared<Switch>();
-        const WorldPtr world = makeWorld_(line);
-        aftermath = runIn(*world, operation, *line, makeObserver, foldersStayWritable);
+        const WorldPtr world = makeWorld_(tampering.observer());
+        aftermath = runIn(*world, operation, tampering, foldersStayWritable);
     }
     if (const std::size_t aliveAfter = automation::Object::alive(); aliveAfter != aliveBefore) {
         aftermath.findings.push_back(std::to_string(aliveAfter - aliveBefore) + " automation objects left alive");
@@ -88,8 +75,7 @@ Aftermath Ordeal::run(Operation operation, const ObserverMaker& makeObserver, bo
     return aftermath;
 }
 
-Aftermath Ordeal::runIn(World& world, Operation operation, Switch& line, const ObserverMaker& makeObserver,
-                        bool foldersStayWritable) const {
+Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering, bool foldersStayWritable) const {
     settleIn(world);
     const Belongings before(world);
     const std::int32_t windowBefore = world.mainWindow();
@@ -109,10 +95,9 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Switch& line, const O
             static_cast<void>(errorOf(step));
             return;
         }
-        line.observer = makeObserver(world);
-        line.calls = 0;
+        tampering.begin(world);
         aftermath.error = errorOf(step);
-        aftermath.calls = line.calls;
+        aftermath.calls = tampering.calls(world);
     };
     perform(HostCall::InitQuestion, begin);
     if (operation.call == HostCall::TestePoint) {
@@ -128,7 +113,7 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Switch& line, const O
         perform(HostCall::Fermer, [&] { host.fermer(); });
     }
     perform(HostCall::Quitter, [&] { host.quitter(); });
-    line.observer = nullptr;
+    tampering.end(world);
 
     if (foldersStayWritable && foldersOf(world) != before.folders) {
         aftermath.findings.emplace_back("the learner's folders are not restored when the module is left");

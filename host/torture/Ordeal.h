@@ -2,7 +2,7 @@
 
 #include "host/run/TrainingHost.h"
 #include "host/torture/Belongings.h"
-#include "host/torture/Fault.h"
+#include "host/torture/Tampering.h"
 
 namespace host::torture {
 
@@ -39,16 +39,12 @@ public:
     Ordeal(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld)
         : file_(file), course_(course), makeWorld_(makeWorld) {}
 
-    using ObserverMaker = std::function<automation::ObserverPtr(World&)>;
-
-    /// From the beginning of the operation to the end of Quitter calls pass through the observer made. With
-    /// `foldersStayWritable` the folders must be the learner's again before the fresh start.
-    [[nodiscard]] Aftermath run(Operation operation, const ObserverMaker& makeObserver, bool foldersStayWritable) const;
+    /// Calls are tampered with from the beginning of the operation to the end of Quitter. With `foldersStayWritable`
+    /// the folders must be the learner's again before the fresh start.
+    [[nodiscard]] Aftermath run(Operation operation, Tampering& tampering, bool foldersStayWritable) const;
 
 private:
-    class Switch;
-
-    [[nodiscard]] Aftermath runIn(World& world, Operation operation, Switch& line, const ObserverMaker& makeObserver,
+    [[nodiscard]] Aftermath runIn(World& world, Operation operation, Tampering& tampering,
                                   bool foldersStayWritable) const;
 
     const language::ScenarioFile& file_;

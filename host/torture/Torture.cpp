@@ -38,9 +38,24 @@ private:
     bool isInLayout_ = false;
 };
 
+/// An operation with the calls that leave the module in it.
+struct Rehearsal {
+    Aftermath aftermath;
+    std::vector<Call> calls;
+};
+
+Rehearsal rehearse(const Ordeal& ordeal, Operation operation) {
+    const auto recorder = std::make_shared<Recorder>();
+    ObservedCalls observed([&](World&) { return recorder; });
+    Rehearsal rehearsal{ordeal.run(operation, observed, true), {}};
+    recorder->calls.resize(rehearsal.aftermath.calls);
+    rehearsal.calls = std::move(recorder->calls);
+    return rehearsal;
+}
+
 /// The folders can be written in spite of a fault that leaves the registry alone, or that strikes once.
 bool leavesFoldersWritable(const Fault& fault) {
-    return fault.lasting == Fault::Lasting::Once || !fault.fits(Border::Registry) || fault.kind == Fault::Kind::Killed;
+    return fault.lasting == Fault::Lasting::Once || !fault.fits(Border::Registry) || fault.isDeath();
 }
 
 } // namespace
@@ -51,14 +66,41 @@ Torture::Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld
 
 void Torture::run(Totals& totals, const Report& report, const Progress& progress) const {
     for (const Operation& operation : operations) {
-        run(operation, totals, report, progress);
+        const Rehearsal rehearsal = rehearse(ordeal_, operation);
+        const Struck struck = [&](const Fault& fault, std::size_t n) {
+            ObservedCalls observed([&](World& world) { return fault.at(n, world); });
+            return ordeal_.run(operation, observed, leavesFoldersWritable(fault));
+        };
+        run(operation, rehearsal.aftermath, rehearsal.calls, Fault::all(), struck, {totals, report, progress});
     }
 }
 
-void Torture::run(Operation operation, Totals& totals, const Report& report, const Progress& progress) const {
-    auto recorder = std::make_shared<Recorder>();
-    const Aftermath flawless = ordeal_.run(
-        operation, [&](World&) { return recorder; }, true);
+void Torture::runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const Report& report,
+                        const Progress& progress) const {
+    const Ordeal remote(file_, course_, makeRemoteWorld);
+    for (const Operation& operation : operations) {
+        if (operation.arrival == Arrival::Started || operation.call == HostCall::Quitter) {
+            continue;
+        }
+        std::vector<Call> calls = rehearse(ordeal_, operation).calls;
+        std::erase_if(calls, [](const Call& call) { return call.border != Border::Automation; });
+        RemoteCalls untroubled;
+        Aftermath flawless = remote.run(operation, untroubled, true);
+        if (flawless.calls != calls.size()) {
+            flawless.findings.push_back(std::to_string(flawless.calls) + " calls reach PowerPoint, and not " +
+                                        std::to_string(calls.size()));
+        }
+        const Struck struck = [&](const Fault& fault, std::size_t n) {
+            RemoteCalls troubled(fault, n);
+            return remote.run(operation, troubled, leavesFoldersWritable(fault));
+        };
+        run(operation, flawless, calls, Fault::remote(), struck, {totals, report, progress});
+    }
+}
+
+void Torture::run(Operation operation, const Aftermath& flawless, std::span<const Call> calls,
+                  std::span<const Fault> faults, const Struck& struck, const Audience& audience) const {
+    const auto& [totals, report, progress] = audience;
     const std::string place = "question " + std::to_string(file_.question) + ", " + operation.display();
     for (const auto& findings : {flawless.findings, flawless.bars}) {
         for (const std::string& finding : findings) {
@@ -66,17 +108,15 @@ void Torture::run(Operation operation, Totals& totals, const Report& report, con
             report(place + ", nothing failed: " + finding);
         }
     }
-    const std::span<const Call> calls(recorder->calls.data(), flawless.calls);
     const Judge judge(file_.question, operation, flawless);
     for (std::size_t n = firstPosition(); n <= calls.size(); n += every_) {
-        progress(operation, n, calls.size());
         const Call& call = calls[n - 1];
-        for (const Fault& fault : Fault::all()) {
+        for (const Fault& fault : faults) {
             if (!fault.fits(call.border)) {
                 continue;
             }
-            const Aftermath aftermath = ordeal_.run(
-                operation, [&](World& world) { return fault.at(n, world); }, leavesFoldersWritable(fault));
+            progress(operation, n, calls.size());
+            const Aftermath aftermath = struck(fault, n);
             ++totals.failed;
             ++totals.outcomes.at(static_cast<std::size_t>(judge.answerOf(aftermath, fault)));
             for (const std::string& finding : judge.findings(aftermath, call, fault)) {

@@ -27,9 +27,23 @@ public:
 
     /// Adds to the totals. Raises language::Failure where the scenario itself falls short.
     void run(Totals& totals, const Report& report, const Progress& progress) const;
+    /// The same with worlds whose PowerPoint is in a process of its own: it misbehaves at the calls that reach it,
+    /// which must be those that the module makes in this process. The host brings PowerPoint.
+    void runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const Report& report,
+                   const Progress& progress) const;
 
 private:
-    void run(Operation operation, Totals& totals, const Report& report, const Progress& progress) const;
+    /// An operation in which a fault strikes the n-th call.
+    using Struck = std::function<Aftermath(const Fault&, std::size_t)>;
+    /// Whoever is told how it goes.
+    struct Audience {
+        Totals& totals;
+        const Report& report;
+        const Progress& progress;
+    };
+
+    void run(Operation operation, const Aftermath& flawless, std::span<const Call> calls, std::span<const Fault> faults,
+             const Struck& struck, const Audience& audience) const;
     [[nodiscard]] std::size_t firstPosition() const;
 
     const language::ScenarioFile& file_;

@@ -5,6 +5,7 @@
 #include "host/win32/BorrowedFiles.h"
 #include "host/win32/BorrowedRegistry.h"
 #include "host/win32/Desktop.h"
+#include "host/win32/ScriptHost.h"
 #include "host/win32/VtableModule.h"
 #include "simulator/win32/StandInIdentity.h"
 
@@ -91,6 +92,11 @@ public:
         registry_.setText(HKEY_LOCAL_MACHINE,
                           L"Software\\Classes\\" + std::wstring(simulator::standin::programmaticIds[0]) + L"\\CLSID",
                           L"", L"{00000000-0000-0000-0000-000000000000}");
+    }
+
+    ObjectPtr standIn() override { return powerPoint_.standIn().object(); }
+    std::string runScript(const fs::path& script, const std::vector<std::u16string>& arguments) override {
+        return host::runScript(script, arguments);
     }
 
     std::u16string registryText(std::u16string_view key, std::u16string_view name) override {

@@ -55,6 +55,10 @@ public:
     void openDialog(std::u16string_view title) override { machine_.openDialog(title); }
     std::size_t dialogs() override { return machine_.dialogs(); }
     void uninstallPowerPoint() override { machine_.uninstallPowerPoint(); }
+    ObjectPtr standIn() override { automation::raise(RunTimeError::CannotCreateObject); }
+    std::string runScript(const fs::path& /*script*/, const std::vector<std::u16string>& /*arguments*/) override {
+        automation::raise(RunTimeError::CannotCreateObject);
+    }
 
     std::u16string registryText(std::u16string_view key, std::u16string_view name) override {
         return machine_.registryText(key, name);

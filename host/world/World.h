@@ -4,6 +4,7 @@
 #include "host/world/ModuleClient.h"
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -54,6 +55,11 @@ public:
     virtual void openDialog(std::u16string_view title) = 0;
     [[nodiscard]] virtual std::size_t dialogs() = 0;
     virtual void uninstallPowerPoint() = 0;
+    /// What a stand-in of PowerPoint in a process of its own counts, and can be made to do, late-bound.
+    [[nodiscard]] virtual automation::ObjectPtr standIn() = 0;
+    /// Runs a script in the system's script host, with arguments, and returns what it prints.
+    [[nodiscard]] virtual std::string runScript(const std::filesystem::path& script,
+                                                const std::vector<std::u16string>& arguments) = 0;
 
     // The registry of the current user.
 

@@ -4,10 +4,19 @@ namespace simulator::standin {
 
 using automation::com::identityOf;
 
+namespace {
+/// The place of GetIDsOfNames in IDispatch.
+constexpr WORD getIdsOfNames = 5;
+} // namespace
+
 DWORD CallGate::HandleInComingCall(DWORD /*type*/, HTASK /*task*/, DWORD /*tick*/, LPINTERFACEINFO call) noexcept {
     // Counting references and asking for interfaces is not the program's business.
     const bool isAutomation = call != nullptr && IsEqualIID(call->iid, IID_IDispatch);
-    if (!isBusy() || !isAutomation || identityOf(call->pUnk).get() == always_) {
+    if (!isAutomation || identityOf(call->pUnk).get() == always_) {
+        return SERVERCALL_ISHANDLED;
+    }
+    if (!isBusy()) {
+        lookUps_ += call->wMethod == getIdsOfNames ? 1 : 0;
         return SERVERCALL_ISHANDLED;
     }
     if (refusals_ != withoutEnd) {

@@ -19,6 +19,8 @@ public:
     void refuse(std::int32_t calls) noexcept { refusals_ = calls; }
     /// Calls that are still to be refused.
     [[nodiscard]] std::int32_t refusals() const noexcept { return refusals_; }
+    /// Names that clients have had looked up so far.
+    [[nodiscard]] std::int32_t lookUps() const noexcept { return lookUps_; }
     [[nodiscard]] bool isBusy() const noexcept { return refusals_ > 0; }
 
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK task, DWORD tick,
@@ -29,6 +31,7 @@ public:
 private:
     IUnknown* always_;
     std::int32_t refusals_ = 0;
+    std::int32_t lookUps_ = 0;
 };
 
 } // namespace simulator::standin

@@ -16,6 +16,11 @@ void ControlObject::refuse(std::int32_t calls) const {
     gate_->refuse(calls);
 }
 
+void ControlObject::refuseAtCall(std::int32_t n, std::int32_t calls) const {
+    requireRunning();
+    troubles_.beforeCall(n, [gate = gate_, calls] { gate->refuse(calls == 0 ? CallGate::withoutEnd : calls); });
+}
+
 std::int32_t ControlObject::refusals() const {
     requireRunning();
     return gate_->refusals();
@@ -41,6 +46,11 @@ void ControlObject::setSlowness(std::int32_t milliseconds) const {
     troubles_.setSlowness(milliseconds);
 }
 
+void ControlObject::delayCall(std::int32_t n, std::int32_t milliseconds) const {
+    requireRunning();
+    troubles_.delayCall(n, milliseconds);
+}
+
 void ControlObject::dieAtCall(std::int32_t n) const {
     requireRunning();
     troubles_.dieAtCall(n);
@@ -49,6 +59,11 @@ void ControlObject::dieAtCall(std::int32_t n) const {
 std::int32_t ControlObject::calls() const {
     requireRunning();
     return troubles_.calls();
+}
+
+std::int32_t ControlObject::lookUps() const {
+    requireRunning();
+    return gate_->lookUps();
 }
 
 std::int32_t ControlObject::escapes() const {
@@ -66,6 +81,8 @@ const automation::MemberTable& ControlObject::members() const {
         property<&This::dialogs>(u"Dialogs"),           property<&This::slowness, &This::setSlowness>(u"Slowness"),
         method<&This::dieAtCall>(u"DieAtCall"),         property<&This::calls>(u"Calls"),
         property<&This::escapes>(u"Escapes"),           property<&This::bits>(u"Bits"),
+        property<&This::lookUps>(u"LookUps"),           method<&This::refuseAtCall>(u"RefuseAtCall"),
+        method<&This::delayCall>(u"DelayCall"),
     };
     return table;
 }

@@ -23,14 +23,20 @@ public:
     void setBusy(bool busy) const;
     /// Refuses so many calls from now on.
     void refuse(std::int32_t calls) const;
+    /// Refuses so many calls from the n-th call from now on, 1 being the next one; 0 stands for all calls to come.
+    void refuseAtCall(std::int32_t n, std::int32_t calls) const;
     /// Calls that are still to be refused.
     [[nodiscard]] std::int32_t refusals() const;
     void openDialog(const std::u16string& title) const;
     [[nodiscard]] std::int32_t dialogs() const;
     [[nodiscard]] std::int32_t slowness() const;
     void setSlowness(std::int32_t milliseconds) const;
+    /// The n-th call from now takes so many milliseconds more.
+    void delayCall(std::int32_t n, std::int32_t milliseconds) const;
     void dieAtCall(std::int32_t n) const;
     [[nodiscard]] std::int32_t calls() const;
+    /// Names that clients have had looked up so far.
+    [[nodiscard]] std::int32_t lookUps() const;
     [[nodiscard]] std::int32_t escapes() const;
     [[nodiscard]] std::int32_t bits() const { return static_cast<std::int32_t>(sizeof(void*) * 8); }
 

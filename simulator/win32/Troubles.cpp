@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <utility>
+
 namespace simulator::standin {
 
 namespace {
@@ -13,9 +15,21 @@ void Troubles::meet() {
     if (calls_ == deadly_) {
         TerminateProcess(GetCurrentProcess(), diedOnPurpose);
     }
-    if (slowness_ > 0) {
-        Sleep(static_cast<DWORD>(slowness_));
+    if (calls_ == awaited_) {
+        action_();
     }
+    const std::int32_t late = slowness_ + (calls_ == delayed_ ? delay_ : 0);
+    if (late > 0) {
+        Sleep(static_cast<DWORD>(late));
+    }
+}
+
+void Troubles::beforeCall(std::int32_t n, std::function<void()> action) {
+    if (n <= 1) {
+        return action();
+    }
+    awaited_ = calls_ + n - 1;
+    action_ = std::move(action);
 }
 
 } // namespace simulator::standin
