@@ -111,6 +111,10 @@ automation::ObjectPtr Machine::application() {
     return parts_->process.application();
 }
 
+SessionPtr Machine::session() const noexcept {
+    return parts_->process.session();
+}
+
 platform::WindowHandle Machine::mainWindow() const noexcept {
     const SessionPtr session = parts_->process.session();
     return session ? session->window().handle() : 0;

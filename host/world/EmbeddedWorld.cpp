@@ -24,9 +24,10 @@ using automation::ObserverPtr;
 using automation::RunTimeError;
 
 constexpr std::u16string_view courseFolder = u"C:\\Formation\\";
-class EmbeddedWorld final : public World {
+
+class MachineWorld final : public EmbeddedWorld {
 public:
-    explicit EmbeddedWorld(const ObserverPtr& observer) : observer_(observer), machine_(root_.path()) {
+    explicit MachineWorld(const ObserverPtr& observer) : observer_(observer), machine_(root_.path()) {
         if (observer) {
             observed_.emplace(machine_.services(), observer);
         }
@@ -42,6 +43,8 @@ public:
         return *module_;
     }
     std::u16string hostFolder() const override { return std::u16string(courseFolder); }
+
+    const simulator::Machine& machine() const noexcept override { return machine_; }
 
     ObjectPtr application() override { return machine_.application(); }
     std::int32_t mainWindow() override { return machine_.mainWindow(); }
@@ -123,8 +126,8 @@ private:
 
 } // namespace
 
-WorldPtr makeEmbeddedWorld(const ObserverPtr& observer) {
-    return std::make_unique<EmbeddedWorld>(observer);
+std::unique_ptr<EmbeddedWorld> makeEmbeddedWorld(const ObserverPtr& observer) {
+    return std::make_unique<MachineWorld>(observer);
 }
 
 } // namespace host

@@ -3,10 +3,21 @@
 #include "automation/observe/Observer.h"
 #include "host/world/World.h"
 
+namespace simulator {
+class Machine;
+}
+
 namespace host {
 
 /// A world in this process: the embedded PowerPoint on a machine in memory, with its files in a folder of their own
-/// that goes with the world. Calls that leave the module pass through `observer`, where one is given.
-[[nodiscard]] WorldPtr makeEmbeddedWorld(const automation::ObserverPtr& observer = nullptr);
+/// that goes with the world.
+class EmbeddedWorld : public World {
+public:
+    /// The machine as it stands, documents included.
+    [[nodiscard]] virtual const simulator::Machine& machine() const noexcept = 0;
+};
+
+/// Calls that leave the module pass through `observer`, where one is given.
+[[nodiscard]] std::unique_ptr<EmbeddedWorld> makeEmbeddedWorld(const automation::ObserverPtr& observer = nullptr);
 
 } // namespace host
