@@ -19,7 +19,10 @@ std::string verified(const std::string& text, ExitCode expected) {
     const std::string path = (folder.path() / "learner.scn").string();
     std::ofstream(path) << text;
     std::ostringstream out;
-    EXPECT_EQ(verify({{}, {path}}, Library(SCENARIOS), makeEmbeddedWorld, out), expected) << out.str() << text;
+    VerifyRequest request;
+    request.files = {path};
+    Progress nobody;
+    EXPECT_EQ(verify(request, Library(SCENARIOS), makeEmbeddedWorld, out, nobody), expected) << out.str() << text;
     return out.str();
 }
 

@@ -149,7 +149,7 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
         const Worlds worlds{embedded, remote};
         Progress progress(output.error, output.isTerminal);
         if (asked.app.get_subcommands().empty()) {
-            throw UsageError("run, try, verify, list, torture, learners or bench? See exercise-host --help");
+            throw UsageError("which command? See exercise-host --help");
         }
         if (asked.run) {
             return run(asked.runRequest, library, makeWorld, output.out);
