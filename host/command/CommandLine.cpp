@@ -23,6 +23,7 @@ constexpr const char* examples = R"(Examples:
   exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
   exercise-host torture 306              every call of question 306 made to fail in every way
+  exercise-host learners 306             random learners, judged by the module and by a second judge
   exercise-host bench                    what the questions cost in calls and time
 
 Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
@@ -75,6 +76,15 @@ struct CommandLine {
             ->check(CLI::PositiveNumber);
         torture.add_option("--draw", tortureRequest.draw, "Where --every begins (at random)");
 
+        learners.add_option("questions", learnersRequest.questions, "Numbers of questions (all)")
+            ->transform(questionNumber);
+        learners.add_option("--runs", learnersRequest.runs, "Learners of a question")
+            ->capture_default_str()
+            ->check(CLI::PositiveNumber);
+        learners.add_option("--draw", learnersRequest.draw, "Number that the learners are drawn with (at random)");
+        learners.add_option("--save", learnersRequest.folder, "Folder for the scenarios of disagreements")
+            ->capture_default_str();
+
         bench.add_option("questions", benchRequest.questions, "Numbers of questions (all)")->transform(questionNumber);
         bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
             ->check(CLI::PositiveNumber);
@@ -87,7 +97,7 @@ struct CommandLine {
                 ->needs(real)
                 ->check(CLI::IsMember({32, 64}));
         }
-        for (CLI::App* const command : {&run, &tryOut, &verify, &recheck, &list, &torture, &bench}) {
+        for (CLI::App* const command : {&run, &tryOut, &verify, &recheck, &list, &torture, &learners, &bench}) {
             command->fallthrough();
         }
     }
@@ -100,6 +110,7 @@ struct CommandLine {
     std::int32_t tried = 0;
     std::vector<std::int32_t> listed;
     TortureRequest tortureRequest;
+    LearnersRequest learnersRequest;
     BenchRequest benchRequest;
     bool withPowerPoint = false;
     std::int32_t powerPointBits = 0;
@@ -110,6 +121,7 @@ struct CommandLine {
     CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
     CLI::App& torture = *app.add_subcommand(
         "torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong");
+    CLI::App& learners = *app.add_subcommand("learners", "Let learners work at random, and judge them a second time");
     CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
@@ -131,7 +143,7 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
         const WorldMaker makeWorld = worldsFor(asked, embedded, makeComWorlds);
         Progress progress(output.error, output.isTerminal);
         if (asked.app.get_subcommands().empty()) {
-            throw UsageError("run, try, verify, list, torture or bench? See exercise-host --help");
+            throw UsageError("run, try, verify, list, torture, learners or bench? See exercise-host --help");
         }
         if (asked.run) {
             return run(asked.runRequest, library, makeWorld, output.out);
@@ -144,6 +156,9 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
         }
         if (asked.torture) {
             return runTorture(asked.tortureRequest, library, makeWorld, output.out, progress);
+        }
+        if (asked.learners) {
+            return runLearners(asked.learnersRequest, library, output.out);
         }
         if (asked.bench) {
             return runBench(asked.benchRequest, library, makeWorld, output.out, progress);

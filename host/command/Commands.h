@@ -65,6 +65,14 @@ struct BenchRequest {
     std::size_t runs = 0;                ///< questions of a long run; 0 for what questions cost
 };
 
+/// What `exercise-host learners` is asked for.
+struct LearnersRequest {
+    std::vector<std::int32_t> questions; ///< all where none is named
+    std::size_t runs = 250;              ///< learners of a question
+    std::optional<std::uint32_t> draw;   ///< of the random numbers that guide them; a new one where it is missing
+    std::string folder = ".";            ///< where the scenario of a disagreement is saved
+};
+
 /// Runs one scenario and tells it, up to the four values that the host reads last.
 [[nodiscard]] ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld,
                            std::ostream& out);
@@ -76,6 +84,10 @@ struct BenchRequest {
 /// Makes the calls fail that leave the module, one by one, and prints what is then amiss, and a line of totals.
 [[nodiscard]] ExitCode runTorture(const TortureRequest& request, const Library& library, const WorldMaker& makeWorld,
                                   std::ostream& out, Progress& progress);
+
+/// Lets learners work at random on the embedded PowerPoint and compares the module's verdicts with those of judges that
+/// read the documents by themselves; prints what came out, and the shortest scenario of each disagreement.
+[[nodiscard]] ExitCode runLearners(const LearnersRequest& request, const Library& library, std::ostream& out);
 
 /// Prints what questions cost in calls and time, and how the cost grows with a deck; or what a long run leaves behind.
 [[nodiscard]] ExitCode runBench(BenchRequest request, const Library& library, const WorldMaker& makeWorld,

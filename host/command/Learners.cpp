@@ -1,0 +1,127 @@
+#include "host/command/Commands.h"
+#include "host/command/Watch.h"
+#include "host/learners/ScenarioText.h"
+#include "host/learners/Shrink.h"
+#include "host/run/Course.h"
+
+#include "automation/Text.h"
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <ostream>
+
+namespace host {
+
+namespace {
+
+using learners::Attempt;
+using learners::Finding;
+using learners::Moves;
+
+std::string outcomeOf(const Reading& reading) {
+    if (reading.error) {
+        return reading.error->number() == 0 ? "error 0" : "refused";
+    }
+    const std::string letter = automation::toUtf8(reading.causeErreur);
+    return reading.erreurGenerale ? "general " + letter : letter.empty() ? "success" : letter;
+}
+
+/// The learners of one question.
+class Classroom {
+public:
+    Classroom(const language::ScenarioFile& file, std::uint32_t draw)
+        : file_(file), lesson_(learners::lessonOf(file.question)), course_(file, makeEmbeddedWorld), draw_(draw) {}
+
+    /// Stops at the first disagreement, whose scenario is saved in `folder`.
+    void run(std::size_t runs, const std::string& folder, std::ostream& out) {
+        const learners::Learner learner(lesson_, course_, draw_);
+        while (runs_ != runs && disagreements_ == 0) {
+            ++runs_;
+            const Attempt attempt = learner.work();
+            for (const Finding& finding : attempt.findings) {
+                ++outcomes_[outcomeOf(finding.read)];
+            }
+            if (!attempt.isAgreed()) {
+                ++disagreements_;
+                save(attempt, folder, out);
+            }
+        }
+    }
+
+    /// One line of figures; true where all was agreed on, and more than one thing came out where more can.
+    bool tell(std::ostream& out) const {
+        out << "question " << file_.question << ": " << runs_ << " runs;";
+        for (const auto& [outcome, count] : outcomes_) {
+            out << ' ' << outcome << ' ' << count << ',';
+        }
+        const std::vector<std::string> missing = outcomesMissing();
+        for (const std::string& outcome : missing) {
+            out << " no " << outcome << ',';
+        }
+        out << ' ' << disagreements_ << " disagreements\n";
+        const bool isMonotonous = lesson_.outcomes.size() > 1 && missing.size() + 1 >= lesson_.outcomes.size();
+        if (isMonotonous) {
+            out << "question " << file_.question << ": the learners do not come to enough\n";
+        }
+        return !isMonotonous && disagreements_ == 0;
+    }
+
+private:
+    [[nodiscard]] std::vector<std::string> outcomesMissing() const {
+        std::vector<std::string> missing = lesson_.outcomes;
+        std::erase_if(missing, [this](const std::string& outcome) { return outcomes_.contains(outcome); });
+        return missing;
+    }
+
+    void save(const Attempt& attempt, const std::string& folder, std::ostream& out) const {
+        const auto disagrees = [this](const Moves& moves) {
+            if (moves.empty() || moves.back() != learners::checkMove) {
+                return false;
+            }
+            const auto findings = learners::replay(file_.question, course_, moves);
+            return findings && !findings->back().isAgreed();
+        };
+        const bool isReproduced = disagrees(attempt.moves);
+        const Moves moves = isReproduced ? learners::shrunk(attempt.moves, disagrees) : attempt.moves;
+        const std::vector<Finding> findings =
+            isReproduced ? learners::replay(file_.question, course_, moves).value() : attempt.findings;
+        const std::string text = scenarioText(file_, moves, findings, "what a learner did");
+        const std::string path = folder + "/learner-0" + std::to_string(file_.question) + ".scn";
+        out << "question " << file_.question << ", run " << runs_ << ": expected " << findings.back().wanted.display()
+            << ", the host reads " << findings.back().read.display()
+            << (isReproduced ? "" : ", but not when the moves are made again") << '\n'
+            << text << (std::ofstream(path) << text ? "saved as " : "cannot be saved as ") << path << std::endl;
+    }
+
+    const language::ScenarioFile& file_;
+    const learners::Lesson& lesson_;
+    Course course_;
+    learners::Draw draw_;
+    std::size_t runs_ = 0;
+    std::size_t disagreements_ = 0;
+    std::map<std::string, std::size_t> outcomes_;
+};
+
+} // namespace
+
+ExitCode runLearners(const LearnersRequest& request, const Library& library, std::ostream& out) {
+    const std::uint32_t draw = request.draw ? *request.draw : std::random_device()();
+    out << request.runs << " learners a question, --draw " << draw << std::endl;
+    std::size_t passed = 0;
+    std::size_t failed = 0;
+    Watch watch(Watch::patience, out);
+    for (const std::filesystem::path& path :
+         library.filesOf(request.questions.empty() ? Library::questions() : request.questions)) {
+        watch.next("the learners of " + path.string());
+        const language::ScenarioFile file = load(path);
+        Classroom classroom(file, draw + static_cast<std::uint32_t>(file.question));
+        classroom.run(request.runs, request.folder, out);
+        ++(classroom.tell(out) ? passed : failed);
+        out << std::flush;
+    }
+    out << passed << " passed, " << failed << " failed\n";
+    return failed == 0 ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace host
