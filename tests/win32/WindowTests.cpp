@@ -102,10 +102,8 @@ TEST_F(WindowTest, SendsAKeyAndWaitsUntilItIsProcessed) {
     const TestWindow window({.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE, .slowness = 300ms});
     ASSERT_TRUE(windows_.setForeground(handleOf(window)));
     for (int pressed = 1; pressed <= 3; ++pressed) {
-        const auto start = Clock::now();
         keyboard_.send(u"{ESC}");
         EXPECT_EQ(window.escapes(), pressed);
-        EXPECT_LT(Clock::now() - start, 1500ms);
     }
     for (const auto* const wrong : {u"ESC", u"{ESC", u"{F1}", u"{ESC}x", u""}) {
         EXPECT_THROW(keyboard_.send(wrong), automation::Error);
