@@ -39,7 +39,7 @@ protected:
         return ask(shapes, u"AddShape", kind, 100, 100, 200, 100);
     }
     [[nodiscard]] LateBound text(std::u16string_view words, float width) const {
-        const LateBound box = ask(shapes, u"AddTextbox", 1, 0, 0, width, 100);
+        LateBound box = ask(shapes, u"AddTextbox", 1, 0, 0, width, 100);
         ask(ask(box, u"TextFrame"), u"TextRange").put(u"Text", words);
         return box;
     }

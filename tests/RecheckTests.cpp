@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <iterator>
 #include <set>
 #include <sstream>
 
@@ -86,9 +87,10 @@ TEST(Recheck, JudgesASavedPresentationAsTheLiveOne) {
             if (!first.saved || !first.reading) {
                 continue;
             }
-            std::ofstream(file, std::ios::binary)
-                .write(reinterpret_cast<const char*>(first.saved->data()),
-                       static_cast<std::streamsize>(first.saved->size()));
+            {
+                std::ofstream copy(file, std::ios::binary);
+                std::copy(first.saved->begin(), first.saved->end(), std::ostreambuf_iterator<char>(copy));
+            }
             std::ostringstream out;
             (void)host::recheck({file.string(), question, ""}, scenarios, host::makeEmbeddedWorld, out);
             const std::string head = "Question " + std::to_string(question) + ": ";

@@ -60,8 +60,8 @@ std::u16string openDialog(const Hand& /*hand*/) {
     return u"PowerPoint.OpenDialog \"Remplacer\"";
 }
 
-constexpr Habit all[] = {{3, addAtEnd},     {2, rearrange}, {4, show},      {2, snap},
-                         {4, presentation}, {1, leave},     {1, openDialog}};
+constexpr auto all = std::to_array<Habit>(
+    {{3, addAtEnd}, {2, rearrange}, {4, show}, {2, snap}, {4, presentation}, {1, leave}, {1, openDialog}});
 
 } // namespace
 

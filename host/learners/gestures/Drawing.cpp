@@ -59,8 +59,8 @@ std::u16string picture(const Hand& hand) {
     return said(hand.shapes(), u".AddPicture \"C:\\Images\\photo.png\", msoFalse, msoTrue, ", frame(hand));
 }
 
-constexpr Habit all[] = {{8, autoShape}, {5, textBox}, {2, line},  {3, polyline},
-                         {3, freeform},  {3, wordArt}, {2, title}, {1, picture}};
+constexpr auto all = std::to_array<Habit>(
+    {{8, autoShape}, {5, textBox}, {2, line}, {3, polyline}, {3, freeform}, {3, wordArt}, {2, title}, {1, picture}});
 
 } // namespace
 

@@ -83,9 +83,22 @@ std::u16string arrange(const Hand& hand) {
                                                          : u".Distribute msoDistributeVertically, msoFalse");
 }
 
-constexpr Habit all[] = {{8, move},        {3, nudge},          {6, resize}, {2, turn},    {6, remove},  {3, duplicate},
-                         {3, cutAndPaste}, {5, restack},        {6, group},  {3, ungroup}, {1, regroup}, {2, inGroup},
-                         {6, select},      {1, deleteSelected}, {1, rename}, {1, arrange}};
+constexpr auto all = std::to_array<Habit>({{8, move},
+                                           {3, nudge},
+                                           {6, resize},
+                                           {2, turn},
+                                           {6, remove},
+                                           {3, duplicate},
+                                           {3, cutAndPaste},
+                                           {5, restack},
+                                           {6, group},
+                                           {3, ungroup},
+                                           {1, regroup},
+                                           {2, inGroup},
+                                           {6, select},
+                                           {1, deleteSelected},
+                                           {1, rename},
+                                           {1, arrange}});
 
 } // namespace
 

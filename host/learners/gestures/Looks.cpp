@@ -55,8 +55,14 @@ std::u16string otherShape(const Hand& hand) {
     return said(hand.anyShape(), u".AutoShapeType = ", hand.draw.between(1, 70));
 }
 
-constexpr Habit all[] = {{4, fill},   {1, fillOfScheme},   {4, otherFill}, {1, line},
-                         {2, shadow}, {3, thirdDimension}, {1, format},    {3, otherShape}};
+constexpr auto all = std::to_array<Habit>({{4, fill},
+                                           {1, fillOfScheme},
+                                           {4, otherFill},
+                                           {1, line},
+                                           {2, shadow},
+                                           {3, thirdDimension},
+                                           {1, format},
+                                           {3, otherShape}});
 
 } // namespace
 

@@ -64,8 +64,8 @@ std::u16string selectAndType(const Hand& hand) {
     return said(part(hand), u".Select\nActiveWindow.Selection.TextRange.Text = ", phrase(hand));
 }
 
-constexpr Habit all[] = {{4, type},  {4, insert},     {5, replace},      {3, erase},
-                         {4, color}, {1, changeCase}, {2, selectAndType}};
+constexpr auto all = std::to_array<Habit>(
+    {{4, type}, {4, insert}, {5, replace}, {3, erase}, {4, color}, {1, changeCase}, {2, selectAndType}});
 
 } // namespace
 

@@ -41,7 +41,7 @@ public:
 
 private:
     static Verdict ofSlide(const simulator::Slide& slide) {
-        const Verdict wrong = Verdict::of(u"C");
+        Verdict wrong = Verdict::of(u"C");
         if (slide.shapes().size() != 2) {
             return wrong;
         }
