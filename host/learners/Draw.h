@@ -16,7 +16,9 @@ public:
     std::size_t below(std::size_t limit) { return random_() % limit; }
     std::size_t between(std::size_t least, std::size_t most) { return least + below(most - least + 1); }
     bool percent(std::size_t chance) { return below(100) < chance; }
-    template <typename Items> const auto& of(const Items& items) { return items[below(std::size(items))]; }
+    template <typename Items> const auto& of(const Items& items) {
+        return *std::next(std::begin(items), static_cast<std::ptrdiff_t>(below(std::size(items))));
+    }
 
 private:
     std::mt19937 random_;

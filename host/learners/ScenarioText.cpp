@@ -2,8 +2,8 @@
 
 #include "automation/Text.h"
 
-#include <array>
-#include <cstdio>
+#include <iomanip>
+#include <sstream>
 
 namespace host::learners {
 
@@ -16,9 +16,10 @@ std::string quoted(const std::u16string& text) {
 }
 
 std::string hexadecimal(std::int32_t number) {
-    std::array<char, 9> digits{};
-    std::snprintf(digits.data(), digits.size(), "%08X", static_cast<unsigned>(number));
-    return std::string("&H") + digits.data();
+    std::ostringstream digits;
+    digits << "&H" << std::uppercase << std::hex << std::setw(8) << std::setfill('0')
+           << static_cast<std::uint32_t>(number);
+    return digits.str();
 }
 
 /// The statements of one check.

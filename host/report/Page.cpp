@@ -217,12 +217,9 @@ private:
     }
 
     static std::string lastReading(const Result& result) {
-        for (auto attempt = result.attempts.rbegin(); attempt != result.attempts.rend(); ++attempt) {
-            if (attempt->reading) {
-                return attempt->reading->display();
-            }
-        }
-        return "nothing read";
+        const auto last = std::find_if(result.attempts.rbegin(), result.attempts.rend(),
+                                       [](const Attempt& attempt) { return attempt.reading.has_value(); });
+        return last == result.attempts.rend() ? "nothing read" : last->reading->display();
     }
 
     void writeAttempt(const Attempt& attempt) {

@@ -6,7 +6,7 @@ namespace host::torture {
 
 /// A call that left the module when nothing failed.
 struct Call {
-    automation::Border border;
+    automation::Border border = automation::Border::Automation;
     std::u16string text;      ///< as a macro would state it
     bool isOfPrepare = false; ///< made by the question's Prepare
     bool isOfLayout = false;  ///< reads how the command bars stand

@@ -45,7 +45,7 @@ struct Rehearsal {
 };
 
 Rehearsal rehearse(const Ordeal& ordeal, Operation operation) {
-    const auto recorder = std::make_shared<Recorder>();
+    auto recorder = std::make_shared<Recorder>();
     ObservedCalls observed([&](World&) { return recorder; });
     Rehearsal rehearsal{ordeal.run(operation, observed, true), {}};
     recorder->calls.resize(rehearsal.aftermath.calls);

@@ -111,7 +111,7 @@ Markup::Attributes Paint::line(const Line& line) const {
 }
 
 std::string Paint::paintOf(const Fill& fill) {
-    const std::string fore = color(fill.fore);
+    std::string fore = color(fill.fore);
     const std::string back = color(fill.back);
     switch (fill.type) {
     case msoFillGradient:

@@ -25,7 +25,7 @@ const Found* fixedShape(const Work& work) {
     return frontmost(work, [](const Found& found) { return found.mark == u"ZOR1"; });
 }
 
-constexpr Rule box[] = {
+constexpr auto box = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.standing().size() == 1 && work.standing().front().mark == u"ZOR1"; }},
     {u"C", [](const Work& work) { return work.standing().size() > 2; }},
     {u"Z", [](const Work& work) { return frontmost(work, [](const Found& f) { return f.isGroup(); }) != nullptr; }},
@@ -44,9 +44,9 @@ constexpr Rule box[] = {
          const simulator::Frame& frame = textBox(work)->shape->frame();
          return frame.top >= 150 || frame.left >= 150;
      }},
-};
+});
 
-constexpr Rule basicShape[] = {
+constexpr auto basicShape = std::to_array<Rule>({
     {u"Z", [](const Work& work) { return work.addedGroups() != 0; }},
     {u"B", [](const Work& work) { return work.misses(u"ZOR1") || work.misses(u"ZOR2"); }},
     {u"A",
@@ -57,9 +57,9 @@ constexpr Rule basicShape[] = {
          }) == 0;
      }},
     {u"C", [](const Work& work) { return work.added().size() > 1; }},
-};
+});
 
-constexpr Rule rectangle[] = {
+constexpr auto rectangle = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.added().size() - work.addedGroups() > 1; }},
     {u"E", [](const Work& work) { return work.addedGroups() != 0; }},
     {u"B", [](const Work& work) { return work.added().empty(); }},
@@ -69,7 +69,7 @@ constexpr Rule rectangle[] = {
          return isAutoShape(work.added().front(), {61, 62, 65, 66});
      }},
     {u"D", [](const Work& work) { return !isAutoShape(work.added().front(), {1}); }},
-};
+});
 
 bool holdsTitle(const Work& work) {
     return frontmost(work, [](const Found& found) {
@@ -78,7 +78,7 @@ bool holdsTitle(const Work& work) {
            }) != nullptr;
 }
 
-constexpr Rule wordArt[] = {
+constexpr auto wordArt = std::to_array<Rule>({
     {u"C", [](const Work& work) { return work.standing().empty(); }},
     {u"B", [](const Work& work) { return work.findStanding(u"ZOR1") != nullptr; }},
     {u"C", [](const Work& work) { return work.findStanding(u"ZOR2") == nullptr; }},
@@ -86,14 +86,14 @@ constexpr Rule wordArt[] = {
     {u"B", [](const Work& work) { return work.standing().size() == 3 && holdsTitle(work); }},
     {u"F", [](const Work& work) { return work.standing().size() > 2; }},
     {u"E", [](const Work& work) { return work.added().size() != work.added(simulator::msoTextEffect); }},
-};
+});
 
-constexpr RuleBook all[] = {
+constexpr auto all = std::to_array<RuleBook>({
     {309, 1, box},
     {314, 1, basicShape},
     {317, 1, rectangle},
     {323, 5, wordArt},
-};
+});
 
 } // namespace
 

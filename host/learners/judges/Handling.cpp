@@ -21,18 +21,18 @@ std::set<const Shape*> selected(const Work& work) {
     return outermost;
 }
 
-constexpr Rule selecting[] = {
+constexpr auto selecting = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR2"); }},
     {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR2"); }},
     {u"B", [](const Work& work) { return work.scene().window()->selection.type() != simulator::ppSelectionShapes; }},
     {u"C", [](const Work& work) { return selected(work).size() > 1; }},
     {u"B", [](const Work& work) { return markOf(**selected(work).begin()) != u"ZOR2"; }},
-};
+});
 
-constexpr Rule deleting[] = {
+constexpr auto deleting = std::to_array<Rule>({
     {u"A", [](const Work& work) { return !work.misses(u"ZOR3"); }},
     {u"B", [](const Work& work) { return work.misses(u"ZOR1") || work.misses(u"ZOR2"); }},
-};
+});
 
 /// The items of the backmost group added.
 const std::vector<ShapePtr>& itemsOfNewGroup(const Work& work) {
@@ -46,7 +46,7 @@ bool isInNewGroup(const Work& work, std::u16string_view mark) {
     return std::any_of(items.begin(), items.end(), [mark](const ShapePtr& item) { return markOf(*item) == mark; });
 }
 
-constexpr Rule grouping[] = {
+constexpr auto grouping = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR4"); }},
     {u"B", [](const Work& work) { return work.misses(u"ZOR2"); }},
     {u"E", [](const Work& work) { return work.addedGroups() == 0; }},
@@ -54,13 +54,13 @@ constexpr Rule grouping[] = {
     {u"C", [](const Work& work) { return !isInNewGroup(work, u"ZOR4"); }},
     {u"D", [](const Work& work) { return !isInNewGroup(work, u"ZOR2"); }},
     {u"H", [](const Work& work) { return itemsOfNewGroup(work).size() > 2; }},
-};
+});
 
-constexpr RuleBook all[] = {
+constexpr auto all = std::to_array<RuleBook>({
     {310, 1, selecting},
     {313, 1, deleting},
     {322, 1, grouping},
-};
+});
 
 } // namespace
 

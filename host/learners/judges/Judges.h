@@ -2,6 +2,8 @@
 
 #include "host/learners/RuleJudge.h"
 
+#include <array>
+
 namespace host::learners {
 
 /// The rule books of the questions that one slide decides.

@@ -16,7 +16,7 @@ std::int32_t rgbOf(const Work& work, const simulator::Color& color) {
     return color.in(work.scene().active()->colors);
 }
 
-constexpr Rule filling[] = {
+constexpr auto filling = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR1"); }},
     {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR1"); }},
     {u"B", [](const Work& work) { return shapeOf(work, u"ZOR1").fill.transparency > 0; }},
@@ -27,26 +27,26 @@ constexpr Rule filling[] = {
          return !fill.visible || rgbOf(work, fill.fore) == rgbOf(work, fill.back);
      }},
     {u"D", [](const Work& work) { return rgbOf(work, shapeOf(work, u"ZOR1").fill.fore) == grey; }},
-};
+});
 
-constexpr Rule snapping[] = {
+constexpr auto snapping = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.scene().active()->snapToGrid; }},
-};
+});
 
-constexpr Rule thirdDimension[] = {
+constexpr auto thirdDimension = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR4"); }},
     {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR4"); }},
     {u"B", [](const Work& work) { return shapeOf(work, u"ZOR4").shadow.visible; }},
     {u"D", [](const Work& work) { return !shapeOf(work, u"ZOR4").threeD.visible; }},
     {u"E", [](const Work& work) { return shapeOf(work, u"ZOR4").threeD.preset == simulator::msoTriStateMixed; }},
     {u"C", [](const Work& work) { return shapeOf(work, u"ZOR4").threeD.preset != 1; }},
-};
+});
 
-constexpr RuleBook all[] = {
+constexpr auto all = std::to_array<RuleBook>({
     {316, 1, filling},
     {320, 0, snapping},
     {321, 1, thirdDimension},
-};
+});
 
 } // namespace
 

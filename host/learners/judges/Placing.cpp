@@ -14,7 +14,7 @@ const simulator::Frame& frameOf(const Work& work, std::u16string_view mark) noex
     return work.find(mark)->shape->frame();
 }
 
-constexpr Rule moving[] = {
+constexpr auto moving = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR2"); }},
     {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR2"); }},
     {u"B", [](const Work& work) { return work.misses(u"ZOR1"); }},
@@ -29,9 +29,9 @@ constexpr Rule moving[] = {
      [](const Work& work) {
          return !isBetween(frameOf(work, u"ZOR2").top, 128, 260) || !isBetween(frameOf(work, u"ZOR2").left, 105, 195);
      }},
-};
+});
 
-constexpr Rule stacking[] = {
+constexpr auto stacking = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR3"); }},
     {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR3"); }},
     {u"B", [](const Work& work) { return work.findStanding(u"ZOR2") == nullptr; }},
@@ -45,16 +45,16 @@ constexpr Rule stacking[] = {
          return frame.left != 138.875F || frame.top != 156.625F;
      }},
     {u"E", [](const Work& work) { return work.findStanding(u"ZOR2")->place < work.find(u"ZOR3")->place; }},
-};
+});
 
-constexpr Rule sizing[] = {
+constexpr auto sizing = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR4"); }},
     {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR4"); }},
     {u"B", [](const Work& work) { return !isBetween(frameOf(work, u"ZOR4").width, 56.5F, 56.75F); }},
     {u"C", [](const Work& work) { return !isBetween(frameOf(work, u"ZOR4").height, 56.5F, 56.75F); }},
-};
+});
 
-constexpr Rule sizingAndMoving[] = {
+constexpr auto sizingAndMoving = std::to_array<Rule>({
     {u"A", [](const Work& work) { return work.misses(u"ZOR4"); }},
     {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR4"); }},
     {u"B", [](const Work& work) { return work.misses(u"ZOR2"); }},
@@ -66,14 +66,14 @@ constexpr Rule sizingAndMoving[] = {
      }},
     {u"F", [](const Work& work) { return frameOf(work, u"ZOR4").top != 311.625F; }},
     {u"E", [](const Work& work) { return frameOf(work, u"ZOR4").left != 311.625F; }},
-};
+});
 
-constexpr RuleBook all[] = {
+constexpr auto all = std::to_array<RuleBook>({
     {311, 1, moving},
     {315, 1, stacking},
     {318, 1, sizing},
     {319, 1, sizingAndMoving},
-};
+});
 
 } // namespace
 

@@ -60,17 +60,13 @@ public:
 private:
     /// The two shapes of the slide stand there in their order, with their paragraphs.
     static bool isWhole(const Work& work) {
-        constexpr std::size_t paragraphs[] = {1, 4};
-        if (work.standing().size() != 2) {
-            return false;
-        }
-        for (const Found& found : work.standing()) {
-            if (found.mark != mark(found.place) || !found.shape->text ||
-                paragraphsOf(found.shape->text->text()).size() != paragraphs[found.place - 1]) {
-                return false;
-            }
-        }
-        return true;
+        constexpr std::array<std::size_t, 2> paragraphs{1, 4};
+        const std::vector<Found>& standing = work.standing();
+        return standing.size() == paragraphs.size() &&
+               std::all_of(standing.begin(), standing.end(), [&](const Found& found) {
+                   return found.mark == mark(found.place) && found.shape->text &&
+                          paragraphsOf(found.shape->text->text()).size() == paragraphs.at(found.place - 1);
+               });
     }
 
     /// How the word looks, or looked last where nothing is left of it.

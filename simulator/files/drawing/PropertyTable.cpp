@@ -35,9 +35,8 @@ std::size_t bytesOf(const Property& property, std::string_view left) {
 
 } // namespace
 
-ArrayHead::ArrayHead(files::ByteReader& in) {
+ArrayHead::ArrayHead(files::ByteReader& in) : count(in.read<std::uint16_t>()) {
     constexpr std::uint16_t packedPoint = 0xFFF0; // two numbers of 16 bits
-    count = in.read<std::uint16_t>();
     in.skip(2);
     const auto size = in.read<std::uint16_t>();
     elementSize = size == packedPoint ? 4 : size;
