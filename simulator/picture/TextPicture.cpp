@@ -204,7 +204,7 @@ void drawText(const Shape& shape, const Paint& paint, Markup& out) {
 
 void drawWordArt(const Shape& shape, const Markup::Attributes& colors, Markup& out) {
     constexpr float inkHeight = 0.95F; ///< of the font size, from the ascenders to the descenders
-    constexpr float baseline = 0.75F;
+    constexpr float inkAscent = 0.75F;
     const TextEffect& effect = *shape.textEffect;
     const Frame& frame = shape.frame();
     const auto rows = static_cast<float>(1 + std::count_if(effect.text.begin(), effect.text.end(), [](char16_t c) {
@@ -215,7 +215,7 @@ void drawWordArt(const Shape& shape, const Markup::Attributes& colors, Markup& o
     for (std::size_t start = 0; start <= effect.text.size(); top += height) {
         const std::size_t end = std::min(effect.text.find_first_of(u"\r\n\v", start), effect.text.size());
         Markup::Attributes attributes{{"x", number(frame.left)},
-                                      {"y", number(top + height * baseline / inkHeight)},
+                                      {"y", number(top + height * inkAscent / inkHeight)},
                                       {"font-size", number(height / inkHeight)},
                                       {"textLength", number(std::max(frame.width, 1.0F))},
                                       {"lengthAdjust", "spacingAndGlyphs"}};
