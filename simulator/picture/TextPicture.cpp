@@ -207,10 +207,10 @@ void drawWordArt(const Shape& shape, const Markup::Attributes& colors, Markup& o
     constexpr float inkAscent = 0.75F;
     const TextEffect& effect = *shape.textEffect;
     const Frame& frame = shape.frame();
-    const auto rows = static_cast<float>(1 + std::count_if(effect.text.begin(), effect.text.end(), [](char16_t c) {
-                                             return c == u'\r' || c == u'\n' || c == u'\v';
-                                         }));
-    const float height = frame.height / rows;
+    const auto lines = static_cast<float>(1 + std::count_if(effect.text.begin(), effect.text.end(), [](char16_t c) {
+                                              return c == u'\r' || c == u'\n' || c == u'\v';
+                                          }));
+    const float height = frame.height / lines;
     float top = frame.top;
     for (std::size_t start = 0; start <= effect.text.size(); top += height) {
         const std::size_t end = std::min(effect.text.find_first_of(u"\r\n\v", start), effect.text.size());
