@@ -14,9 +14,9 @@ TEST(BenchTests, QuestionsMakeThePrescribedCallsAndNoOthers) {
     constexpr std::size_t readingBars = 26;
     constexpr std::size_t restoringBars = 116;
     const host::Library library(SCENARIOS);
-    for (const std::int32_t question : host::Library::questions()) {
-        SCOPED_TRACE(question);
-        const host::language::ScenarioFile file = host::load(library.fileOf(question));
+    for (const std::filesystem::path& path : library.filesOfCourse({})) {
+        SCOPED_TRACE(path);
+        const host::language::ScenarioFile file = host::load(path);
         const auto cost = host::bench::costOf(file, host::Course(file, makeWorld), makeWorld, 0);
         EXPECT_EQ(cost.prepareCalls, cost.prescribed.prepare);
         EXPECT_EQ(cost.testePoint.calls, cost.prescribed.testePoint);

@@ -1,14 +1,11 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
-#include "host/command/CommandLine.h"
-#include "host/command/Commands.h"
 #include "host/language/Parser.h"
 #include "host/run/Guard.h"
 #include "host/run/Runner.h"
-#include "host/world/EmbeddedWorld.h"
 #include "host/world/TemporaryFolder.h"
+#include "tests/Program.h"
 
-#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -37,19 +34,10 @@ constexpr const char* success = "scenario \"four times\"\n"
 class HostTest : public testing::Test {
 protected:
     void write(const std::string& text) { std::ofstream(folder_.path() / "0306.scn") << text; }
-    [[nodiscard]] host::Library library() const { return host::Library(folder_.path()); }
     [[nodiscard]] std::string file() const { return (folder_.path() / "0306.scn").string(); }
 
-    std::string verify(ExitCode expected) {
-        std::ostringstream out;
-        host::Progress nobody;
-        EXPECT_EQ(host::verify({}, library(), host::makeEmbeddedWorld, out, nobody), expected);
-        return out.str();
-    }
-    std::string run(const host::RunRequest& request, ExitCode expected) {
-        std::ostringstream out;
-        EXPECT_EQ(host::run(request, library(), host::makeEmbeddedWorld, out), expected);
-        return out.str();
+    [[nodiscard]] std::string said(const std::vector<std::string>& arguments, ExitCode expected) const {
+        return printedBy(arguments, folder_.path(), expected);
     }
 
 private:
@@ -63,7 +51,7 @@ TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
           "scenario \"a working file left\"\nHost.Fermer\nFiles.Create \"Méthodologie.ppt\"\n"
           "scenario \"a folder changed\"\nHost.Fermer\nRegistry.RecentFolder(\"Default\") = \"D:\\\"\n"
           "scenario \"PowerPoint gone\"\nPowerPoint.Close\nPresentations.Add\n");
-    const std::string out = verify(ExitCode::FellShort);
+    const std::string out = said({"verify"}, ExitCode::FellShort);
     EXPECT_NE(
         out.find(file() + ":10:2: expected the letter \"B\", the host reads the letter \"A\" (\"a wrong letter\")"),
         std::string::npos);
@@ -94,49 +82,49 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     const LateBound application(world->application());
     const LateBound working(application.get(u"ActivePresentation").to<ObjectPtr>());
     const std::u16string copy = world->hostFolder() + u"copie";
-    const auto judged = [&](ExitCode expected, const std::string& courseFolder) {
+    const std::vector<std::string> recheck = {"recheck", (folder / "eleve.ppt").string(), "--question", "306"};
+    const std::vector<std::string> ofTheCourse = {"--course", folder.string()};
+    const auto judged = [&](std::vector<std::string> arguments, ExitCode expected) {
         working.call(u"SaveCopyAs", copy);
         copyOut(*world, copy + u".ppt", folder / "eleve.ppt");
-        std::ostringstream out;
-        EXPECT_EQ(host::recheck({(folder / "eleve.ppt").string(), 306, courseFolder}, library(),
-                                host::makeEmbeddedWorld, out),
-                  expected);
-        return out.str();
+        return said(arguments, expected);
     };
-    EXPECT_TRUE(judged(ExitCode::FellShort, "").starts_with("Question 306: the letter \"A\"\n"));
+    EXPECT_TRUE(judged(recheck, ExitCode::FellShort).starts_with("Question 306: the letter \"A\"\n"));
     LateBound shape(working.get(u"Slides").to<ObjectPtr>());
     shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
     shape = LateBound(shape.get(u"Shapes").to<ObjectPtr>());
     shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
     const LateBound frame(shape.get(u"TextFrame").to<ObjectPtr>());
     LateBound(frame.get(u"TextRange").to<ObjectPtr>()).put(u"Text", std::u16string(u"créer créer créer créer"));
-    EXPECT_TRUE(judged(ExitCode::Good, folder.string()).starts_with("Question 306: a success with the remark \"F\"\n"));
+    std::vector<std::string> both = recheck;
+    both.insert(both.end(), ofTheCourse.begin(), ofTheCourse.end());
+    EXPECT_TRUE(judged(both, ExitCode::Good).starts_with("Question 306: a success with the remark \"F\"\n"));
 
     std::ofstream(folder / "eleve.ppt") << "no presentation";
-    std::ostringstream damaged;
-    EXPECT_THROW(
-        (void)host::recheck({(folder / "eleve.ppt").string(), 306, ""}, library(), host::makeEmbeddedWorld, damaged),
-        host::UsageError);
+    EXPECT_NE(said(recheck, ExitCode::WrongUsage).find("eleve.ppt"), std::string::npos);
 
-    host::RunRequest request;
-    request.course = folder.string();
-    EXPECT_NE(run(request, ExitCode::Good).find("CauseErreur: F"), std::string::npos);
+    const auto staged = [&](const char* command) {
+        return std::vector<std::string>{command, "306", "--course", folder.string()};
+    };
+    EXPECT_NE(said(staged("run"), ExitCode::Good).find("CauseErreur: F"), std::string::npos);
+    EXPECT_NE(said(staged("try"), ExitCode::Good).find("shape 1"), std::string::npos);
     std::filesystem::remove(folder / "07305306.ppt");
-    std::ostringstream out;
-    EXPECT_THROW((void)host::run(request, library(), host::makeEmbeddedWorld, out), host::UsageError);
+    for (const char* const command : {"run", "try"}) {
+        EXPECT_NE(said(staged(command), ExitCode::WrongUsage).find("there is no 07305306.ppt"), std::string::npos);
+    }
 }
 
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
     write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\n");
-    const std::string out = verify(ExitCode::FellShort);
+    const std::string out = said({"verify"}, ExitCode::FellShort);
     EXPECT_TRUE(out.starts_with(file() + ":3:15: error 438")) << out;
     EXPECT_TRUE(out.ends_with("\n0 passed, 2 failed\n")) << out;
-    EXPECT_NE(run({}, ExitCode::FellShort).find(":3:15: error 438"), std::string::npos);
+    EXPECT_NE(said({"run"}, ExitCode::FellShort).find(":3:15: error 438"), std::string::npos);
 }
 
 TEST_F(HostTest, RunTellsTheRoadAndEndsWithTheFourValues) {
     write(std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n" + success);
-    const std::string out = run({}, ExitCode::Good);
+    const std::string out = said({"run"}, ExitCode::Good);
     for (const char* const told :
          {"07305306.ppt", "The host calls InitQuestion", "PowerPoint has started",
           "Méthodologie.ppt stands in the place of 07305306.ppt", "1 slide, marked ZOR1",
@@ -153,7 +141,8 @@ TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
     write(std::string(course) + success +
           "scenario \"three\"\nActivePresentation.Slides(1).Shapes(1).TextFrame."
           "TextRange.Text = \"créer créer créer\"\ncheck \"C\" complement \" 3\"\n");
-    const auto object = nlohmann::json::parse(run({306, "three", true, true, {}, {}}, ExitCode::Good));
+    const auto object =
+        nlohmann::json::parse(said({"run", "306", "--scenario", "three", "--json", "--trace"}, ExitCode::Good));
     EXPECT_EQ(object["CauseErreur"], "C");
     EXPECT_EQ(object["ErreurGenerale"], false);
     EXPECT_EQ(object["BravoNuance"], false);
@@ -188,21 +177,13 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
         {{"verify", "--scenarios", "nowhere"}, ExitCode::WrongUsage, "no folder of scenarios: nowhere"},
         {{"list"}, ExitCode::Good, "0306.scn: question 306\n    nothing\n"},
     };
-    const auto printedBy = [&](const Case& asked) {
-        std::ostringstream out;
-        EXPECT_EQ(host::runCommandLine(asked.arguments, library().folder(), "1.2.3", host::makeEmbeddedWorld,
-                                       {out, out}, nullptr),
-                  asked.expected)
-            << asked.printed;
-        return out.str();
-    };
     write(good);
     for (const Case& asked : cases) {
-        const std::string printed = printedBy(asked);
+        const std::string printed = said(asked.arguments, asked.expected);
         EXPECT_NE(printed.find(asked.printed), std::string::npos) << printed;
     }
     write(good + "check A\n\ncheck remark\n");
-    EXPECT_EQ(printedBy({{"verify"}, ExitCode::WrongUsage, "wrong lines"}),
+    EXPECT_EQ(said({"verify"}, ExitCode::WrongUsage),
               file() + ":8:7: expected a letter in quotes, success, remark, general or error, found 'A'\n" + file() +
                   ":10:13: expected the letter of the remark, in quotes, found the end of the line\n");
 }

@@ -1,19 +1,15 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
-#include "host/command/Commands.h"
 #include "host/command/LiveCheck.h"
 #include "host/run/Runner.h"
-#include "host/world/EmbeddedWorld.h"
 #include "host/world/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
+#include "tests/Program.h"
 
 #include <algorithm>
 #include <array>
 #include <fstream>
 #include <iterator>
 #include <set>
-#include <sstream>
 
 namespace {
 
@@ -78,8 +74,9 @@ TEST(Recheck, JudgesASavedPresentationAsTheLiveOne) {
     const host::TemporaryFolder folder;
     const std::filesystem::path file = folder.path() / "eleve.ppt";
     std::set<std::int32_t> judged;
-    for (const std::int32_t question : host::Library::questions()) {
-        const host::language::ScenarioFile story = host::load(scenarios.fileOf(question));
+    for (const std::filesystem::path& path : scenarios.filesOfCourse({})) {
+        const host::language::ScenarioFile story = host::load(path);
+        const std::int32_t question = story.question;
         const host::Runner runner(story, host::makeEmbeddedWorld);
         for (const host::language::Scenario& scenario : story.scenarios) {
             FirstCheck first;
@@ -91,11 +88,10 @@ TEST(Recheck, JudgesASavedPresentationAsTheLiveOne) {
                 std::ofstream copy(file, std::ios::binary);
                 std::copy(first.saved->begin(), first.saved->end(), std::ostreambuf_iterator<char>(copy));
             }
-            std::ostringstream out;
-            (void)host::recheck({file.string(), question, ""}, scenarios, host::makeEmbeddedWorld, out);
+            const std::string said =
+                printedBy({"recheck", file.string(), "--question", std::to_string(question)}, SCENARIOS);
             const std::string head = "Question " + std::to_string(question) + ": ";
-            ASSERT_TRUE(out.str().starts_with(head));
-            const std::string said = out.str();
+            ASSERT_TRUE(said.starts_with(head));
             const std::string verdict = said.substr(head.size(), said.find("\nNot checked") - head.size());
             const std::string live = first.reading->display();
             const bool isExcused = std::any_of(excuses.begin(), excuses.end(), [&](const Excuse& excuse) {
@@ -110,7 +106,7 @@ TEST(Recheck, JudgesASavedPresentationAsTheLiveOne) {
             }
         }
     }
-    EXPECT_EQ(judged.size(), host::Library::questions().size());
+    EXPECT_EQ(judged.size(), scenarios.filesOfCourse({}).size());
 }
 
 } // namespace

@@ -1,11 +1,5 @@
-#include "host/command/Commands.h"
-#include "host/try/PlainLines.h"
-#include "host/world/EmbeddedWorld.h"
 #include "host/world/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
-
-#include <sstream>
+#include "tests/Program.h"
 
 namespace {
 
@@ -21,30 +15,18 @@ class TryTest : public testing::Test {
 protected:
     /// Everything said in a conversation about question 314.
     std::string talk(const std::string& typed, ExitCode expected = ExitCode::Good) const {
-        std::istringstream in(typed);
-        std::ostringstream out;
-        host::PlainLines lines(in);
-        EXPECT_EQ(host::tryOut(314, library_, host::makeEmbeddedWorld, lines, out), expected);
-        return out.str();
+        return printedBy({"try", "314"}, SCENARIOS, expected, typed);
     }
     /// What a command of the host answers about a file.
     std::string verify(const std::string& file) const {
-        std::ostringstream out;
-        host::Progress nobody;
-        host::VerifyRequest request;
-        request.files = {file};
-        EXPECT_EQ(host::verify(request, library_, host::makeEmbeddedWorld, out, nobody), ExitCode::Good);
-        return out.str();
+        return printedBy({"verify", "--file", file}, SCENARIOS, ExitCode::Good);
     }
     std::string recheck(const std::string& file) const {
-        std::ostringstream out;
-        EXPECT_EQ(host::recheck({file, 314, ""}, library_, host::makeEmbeddedWorld, out), ExitCode::Good);
-        return out.str();
+        return printedBy({"recheck", file, "--question", "314"}, SCENARIOS, ExitCode::Good);
     }
     [[nodiscard]] std::string file(const std::string& name) const { return (folder_.path() / name).string(); }
 
 private:
-    host::Library library_{std::filesystem::path(SCENARIOS)};
     host::TemporaryFolder folder_;
 };
 

@@ -2,6 +2,7 @@
 #include "host/bench/LongRun.h"
 #include "host/bench/QuestionCost.h"
 #include "host/command/BenchParts.h"
+#include "host/command/Options.h"
 
 #include <iomanip>
 #include <ostream>
@@ -33,8 +34,9 @@ std::string against(std::size_t measured, std::size_t prescribed) {
     return std::to_string(measured) + '/' + std::to_string(prescribed);
 }
 
-bool printQuestions(const std::vector<std::int32_t>& questions, const Library& library, const WorldMaker& makeWorld,
-                    std::ostream& out) {
+bool printQuestions(const BenchRequest& request, const CommandContext& at) {
+    std::ostream& out = at.out;
+    const WorldMaker& makeWorld = at.worlds.embedded;
     out << "Calls that leave the module, measured/prescribed, names of PowerPoint's members among them (each looked "
            "up\n"
            "once in a session through COM), and processor time, the shortest of "
@@ -43,7 +45,7 @@ bool printQuestions(const std::vector<std::int32_t>& questions, const Library& l
     std::set<std::u16string> names;
     std::size_t automationCalls = 0;
     bool isGood = true;
-    for (const std::filesystem::path& path : library.filesOf(questions)) {
+    for (const std::filesystem::path& path : at.library.filesOfCourse(request.questions)) {
         const language::ScenarioFile file = load(path);
         const Course course(file, makeWorld);
         const QuestionCost cost = bench::costOf(file, course, makeWorld, timedRuns);
@@ -81,24 +83,24 @@ bool printLargeDeck(const WorldMaker& makeWorld, std::ostream& out) {
     return isFlat && isGood;
 }
 
-bool printLongRun(const BenchRequest& request, const Library& library, const Worlds& worlds, std::ostream& out,
-                  Progress& progress) {
+bool printLongRun(const BenchRequest& request, const CommandContext& at) {
+    std::ostream& out = at.out;
     std::vector<language::ScenarioFile> files;
-    for (const std::filesystem::path& path : library.filesOf(request.questions)) {
+    for (const std::filesystem::path& path : at.library.filesOfCourse(request.questions)) {
         files.push_back(load(path));
     }
     std::vector<bench::BuiltCourse> courses;
     courses.reserve(files.size());
     for (const language::ScenarioFile& file : files) {
-        courses.push_back({file, Course(file, worlds.embedded)});
+        courses.push_back({file, Course(file, at.worlds.embedded)});
     }
     out << "Questions in one process, with one module and one PowerPoint\n\n"
            "questions  resident kB  handles  live objects"
         << std::endl;
     const std::vector<bench::Holding> holdings =
-        bench::longRun(courses, request.runs, worlds.remote ? worlds.remote : worlds.embedded,
-                       [&](std::size_t done) { progress.at("questions", done, request.runs); });
-    progress.clear();
+        bench::longRun(courses, request.runs, at.worlds.chosen(),
+                       [&](std::size_t done) { at.progress.at("questions", done, request.runs); });
+    at.progress.clear();
     const auto shown = [](const std::optional<std::size_t>& figure) {
         return figure ? std::to_string(*figure) : "unknown";
     };
@@ -122,21 +124,31 @@ bool printLongRun(const BenchRequest& request, const Library& library, const Wor
     return isGood;
 }
 
+/// Prints what questions cost in calls and time, and how the cost grows with a deck; or what a long run leaves behind.
+/// With remote worlds it is what they cost through COM, beside a script.
+bool printAll(const BenchRequest& request, const CommandContext& at) {
+    if (request.runs != 0) {
+        return printLongRun(request, at);
+    }
+    if (at.worlds.remote) {
+        return printRemoteCosts(request, at);
+    }
+    const bool isGood = printQuestions(request, at);
+    return printLargeDeck(at.worlds.embedded, at.out) && isGood;
+}
+
 } // namespace
 
-ExitCode runBench(BenchRequest request, const Library& library, const Worlds& worlds, std::ostream& out,
-                  Progress& progress) {
-    if (request.questions.empty()) {
-        request.questions = Library::questions();
-    }
-    if (request.runs != 0) {
-        return printLongRun(request, library, worlds, out, progress) ? ExitCode::Good : ExitCode::FellShort;
-    }
-    if (worlds.remote) {
-        return printRemoteCosts(request, library, worlds, out) ? ExitCode::Good : ExitCode::FellShort;
-    }
-    const bool isGood = printQuestions(request.questions, library, worlds.embedded, out);
-    return printLargeDeck(worlds.embedded, out) && isGood ? ExitCode::Good : ExitCode::FellShort;
+Action addBench(CLI::App& command) {
+    const auto request = std::make_shared<BenchRequest>();
+    addQuestions(command, request->questions);
+    command.add_option("--runs", request->runs, "Work through so many questions, and see what the process holds")
+        ->check(CLI::PositiveNumber);
+    command.add_option("--slides", request->slides, "With --powerpoint: slides of the large deck")
+        ->capture_default_str()
+        ->check(CLI::PositiveNumber);
+    return
+        [request](const CommandContext& at) { return printAll(*request, at) ? ExitCode::Good : ExitCode::FellShort; };
 }
 
 } // namespace host

@@ -6,6 +6,13 @@
 
 namespace host {
 
+/// What `exercise-host bench` is asked for.
+struct BenchRequest {
+    std::vector<std::int32_t> questions; ///< all where none is named
+    std::size_t runs = 0;                ///< questions of a long run; 0 for what questions cost
+    std::size_t slides = 50;             ///< of the large deck that is checked through COM
+};
+
 /// True where a figure is within its bound; says so where it is not.
 [[nodiscard]] bool holds(bool isWithin, std::string_view what, std::ostream& out);
 
@@ -18,7 +25,6 @@ printGrowth(bench::DeckSize size,
 
 /// Prints what questions cost through COM, and a large deck's check beside the same check as a script; true where all
 /// is within its bounds.
-[[nodiscard]] bool printRemoteCosts(const BenchRequest& request, const Library& library, const Worlds& worlds,
-                                    std::ostream& out);
+[[nodiscard]] bool printRemoteCosts(const BenchRequest& request, const CommandContext& at);
 
 } // namespace host

@@ -1,6 +1,5 @@
 #include "host/command/CommandLine.h"
-
-#include <CLI/CLI.hpp>
+#include "host/command/Options.h"
 
 namespace host {
 
@@ -19,7 +18,7 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify --file mine.scn   a scenario file of your own
   exercise-host verify --report F.html   a page of all scenarios, with pictures of the slides
   exercise-host run 315 --picture DIR    the slide before and after, as SVG
-  exercise-host run 306 --course DIR     on the course's own files
+  exercise-host run 306 --course DIR     on the course's own files; so do try and recheck
   exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
   exercise-host torture 306              every call of question 306 made to fail in every way
@@ -29,103 +28,53 @@ constexpr const char* examples = R"(Examples:
 Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
 scenario hung.)";
 
-/// Takes a question's number as its file is named, too: 0306 is 306.
-std::string questionNumber(const std::string& text) {
-    return text.substr(std::min(text.find_first_not_of('0'), text.size()));
-}
+/// One of the program's commands.
+struct Command {
+    const char* name;
+    const char* what;
+    Action (*add)(CLI::App&);
+    bool takesPowerPoint; ///< with `--powerpoint` it works through COM
+};
 
-/// The command line with all that it can ask for.
+constexpr std::array commands{
+    Command{"run", "Tell the whole road of one question, and what the host reads last", addRun, true},
+    Command{"try", "Talk: state a learner's moves, see values, ask for the verdict", addTry, true},
+    Command{"verify", "Run scenarios and print what falls short", addVerify, true},
+    Command{"recheck", "Judge a saved working presentation, without a live PowerPoint", addRecheck, false},
+    Command{"list", "List questions and scenarios", addList, false},
+    Command{"torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong",
+            addTorture, true},
+    Command{"learners", "Let learners work at random, and judge them a second time", addLearners, false},
+    Command{"bench", "Measure calls, time and memory", addBench, true},
+};
+
+/// The command line with what it asks for.
 struct CommandLine {
     CommandLine(const std::filesystem::path& scenarios, const std::string& version) : folder(scenarios.string()) {
         app.footer(examples);
         app.set_version_flag("--version", version);
         app.require_subcommand(0, 1); // so that an unknown word is named
         app.add_option("--scenarios", folder, "Folder of the scenario files")->capture_default_str();
-
-        run.add_option("question", runRequest.question, "Number of the question")
-            ->capture_default_str()
-            ->transform(questionNumber);
-        run.add_option("--scenario", runRequest.scenario, "Title of the scenario (the first that ends in a success)");
-        run.add_flag("--json", runRequest.asJson, "Print one JSON object");
-        run.add_flag("--trace", runRequest.withTrace, "List every call that leaves the module, its time and outcome");
-
-        run.add_option("--picture", runRequest.pictures, "Folder for pictures of the slide before and after");
-        run.add_option("--course", runRequest.course, "Folder of the course's own files (07305306.ppt ...)");
-
-        tryOut.add_option("question", tried, "Number of the question")->required()->transform(questionNumber);
-
-        recheck.add_option("file", recheckRequest.file, "A working presentation that a learner has saved")->required();
-        recheck.add_option("--question", recheckRequest.question, "Number of the question")
-            ->required()
-            ->transform(questionNumber);
-        recheck.add_option("--course", recheckRequest.course, "Folder of the course's own files");
-
-        verify.add_option("questions", verifyRequest.questions, "Numbers of questions (all)")
-            ->transform(questionNumber);
-        verify.add_option("--file", verifyRequest.files, "A scenario file");
-        verify.add_option("--report", verifyRequest.page, "Write a page of all scenarios, with pictures (F.html)");
-        verify.add_option("--junit", verifyRequest.junit, "Write a report as build servers read it (F.xml)");
-        verify.add_option("--json", verifyRequest.json, "Write a report as JSON (F.json)");
-
-        list.add_option("questions", listed, "Numbers of questions (all)")->transform(questionNumber);
-
-        torture.add_option("questions", tortureRequest.questions, "Numbers of questions (all)")
-            ->transform(questionNumber);
-        torture.add_option("--every", tortureRequest.every, "Make one call in so many fail")
-            ->capture_default_str()
-            ->check(CLI::PositiveNumber);
-        torture.add_option("--draw", tortureRequest.draw, "Where --every begins (at random)");
-
-        learners.add_option("questions", learnersRequest.questions, "Numbers of questions (all)")
-            ->transform(questionNumber);
-        learners.add_option("--runs", learnersRequest.runs, "Learners of a question")
-            ->capture_default_str()
-            ->check(CLI::PositiveNumber);
-        learners.add_option("--draw", learnersRequest.draw, "Number that the learners are drawn with (at random)");
-        learners.add_option("--save", learnersRequest.folder, "Folder for the scenarios of disagreements")
-            ->capture_default_str();
-
-        bench.add_option("questions", benchRequest.questions, "Numbers of questions (all)")->transform(questionNumber);
-        bench.add_option("--runs", benchRequest.runs, "Work through so many questions, and see what the process holds")
-            ->check(CLI::PositiveNumber);
-
-        bench.add_option("--slides", benchRequest.slides, "With --powerpoint: slides of the large deck")
-            ->capture_default_str()
-            ->check(CLI::PositiveNumber);
-        for (CLI::App* const command : {&run, &tryOut, &verify, &torture, &bench}) {
-            auto* const real = command->add_flag(
-                "--powerpoint", withPowerPoint,
-                "On Windows: drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
-            command->add_option("--powerpoint-bits", powerPointBits, "Demand a stand-in of 32 or 64 bits")
-                ->needs(real)
-                ->check(CLI::IsMember({32, 64}));
-        }
-        for (CLI::App* const command : {&run, &tryOut, &verify, &recheck, &list, &torture, &learners, &bench}) {
-            command->fallthrough();
+        for (const Command& each : commands) {
+            CLI::App& command = *app.add_subcommand(each.name, each.what);
+            command.callback([this, action = each.add(command)] { chosen = action; });
+            command.fallthrough();
+            if (each.takesPowerPoint) {
+                auto* const real = command.add_flag(
+                    "--powerpoint", withPowerPoint,
+                    "On Windows: drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
+                command.add_option("--powerpoint-bits", powerPointBits, "Demand a stand-in of 32 or 64 bits")
+                    ->needs(real)
+                    ->check(CLI::IsMember({32, 64}));
+            }
         }
     }
 
     CLI::App app{purpose, "exercise-host"};
     std::string folder;
-    RunRequest runRequest;
-    VerifyRequest verifyRequest;
-    RecheckRequest recheckRequest;
-    std::int32_t tried = 0;
-    std::vector<std::int32_t> listed;
-    TortureRequest tortureRequest;
-    LearnersRequest learnersRequest;
-    BenchRequest benchRequest;
+    Action chosen; ///< empty where no command is named
     bool withPowerPoint = false;
     std::int32_t powerPointBits = 0;
-    CLI::App& run = *app.add_subcommand("run", "Tell the whole road of one question, and what the host reads last");
-    CLI::App& tryOut = *app.add_subcommand("try", "Talk: state a learner's moves, see values, ask for the verdict");
-    CLI::App& verify = *app.add_subcommand("verify", "Run scenarios and print what falls short");
-    CLI::App& recheck = *app.add_subcommand("recheck", "Judge a saved working presentation, without a live PowerPoint");
-    CLI::App& list = *app.add_subcommand("list", "List questions and scenarios");
-    CLI::App& torture = *app.add_subcommand(
-        "torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong");
-    CLI::App& learners = *app.add_subcommand("learners", "Let learners work at random, and judge them a second time");
-    CLI::App& bench = *app.add_subcommand("bench", "Measure calls, time and memory");
 };
 
 /// The worlds with PowerPoint in a process of its own, where they are asked for. Raises UsageError where there is no
@@ -143,34 +92,13 @@ WorldMaker remoteWorlds(const CommandLine& asked, const ComWorldsMaker& makeComW
 ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const ComWorldsMaker& makeComWorlds,
                  const LineReaderMaker& makeLines, Output output) {
     try {
-        const Library library(asked.folder);
-        const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
-        const WorldMaker& makeWorld = remote ? remote : embedded;
-        const Worlds worlds{embedded, remote};
-        Progress progress(output.error, output.isTerminal);
-        if (asked.app.get_subcommands().empty()) {
+        if (asked.chosen == nullptr) {
             throw UsageError("which command? See exercise-host --help");
         }
-        if (asked.run) {
-            return run(asked.runRequest, library, makeWorld, output.out);
-        }
-        if (asked.tryOut) {
-            return tryOut(asked.tried, library, makeWorld, *makeLines(), output.out);
-        }
-        if (asked.recheck) {
-            return recheck(asked.recheckRequest, library, makeWorld, output.out);
-        }
-        if (asked.torture) {
-            return runTorture(asked.tortureRequest, library, worlds, output.out, progress);
-        }
-        if (asked.learners) {
-            return runLearners(asked.learnersRequest, library, output.out);
-        }
-        if (asked.bench) {
-            return runBench(asked.benchRequest, library, worlds, output.out, progress);
-        }
-        return asked.verify ? verify(asked.verifyRequest, library, makeWorld, output.out, progress)
-                            : list(asked.listed, library, output.out);
+        const Library library(asked.folder);
+        const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
+        Progress progress(output.error, output.isTerminal);
+        return asked.chosen({library, {embedded, remote}, makeLines, output.out, progress});
     } catch (const language::WrongLines& wrong) {
         for (const language::Remark& remark : wrong.remarks) {
             output.error << remark.in(wrong.file) << '\n';
@@ -192,7 +120,6 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments, const std::fi
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }
-    line.verifyRequest.countsCalls = !line.withPowerPoint;
     const ExitCode code = perform(line, makeWorld, makeComWorlds, makeLines, output);
     if (!output.out.flush()) {
         output.error << "exercise-host: the output could not be written\n";

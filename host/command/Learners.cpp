@@ -1,4 +1,5 @@
 #include "host/command/Commands.h"
+#include "host/command/Options.h"
 #include "host/command/Watch.h"
 #include "host/learners/ScenarioText.h"
 #include "host/learners/Shrink.h"
@@ -18,6 +19,13 @@ namespace {
 using learners::Attempt;
 using learners::Finding;
 using learners::Moves;
+
+struct LearnersRequest {
+    std::vector<std::int32_t> questions; ///< all where none is named
+    std::size_t runs = 250;              ///< learners of a question
+    std::optional<std::uint32_t> draw;   ///< of the random numbers that guide them; a new one where it is missing
+    std::string folder = ".";            ///< where the scenario of a disagreement is saved
+};
 
 std::string outcomeOf(const Reading& reading) {
     if (reading.error) {
@@ -103,25 +111,37 @@ private:
     std::map<std::string, std::size_t> outcomes_;
 };
 
-} // namespace
-
-ExitCode runLearners(const LearnersRequest& request, const Library& library, std::ostream& out) {
+/// Lets learners work at random on the embedded PowerPoint and compares the module's verdicts with those of judges that
+/// read the documents by themselves; prints what came out, and the shortest scenario of each disagreement.
+ExitCode letLearn(const LearnersRequest& request, const CommandContext& at) {
     const std::uint32_t draw = request.draw ? *request.draw : std::random_device()();
-    out << request.runs << " learners a question, --draw " << draw << std::endl;
+    at.out << request.runs << " learners a question, --draw " << draw << std::endl;
     std::size_t passed = 0;
     std::size_t failed = 0;
-    Watch watch(Watch::patience, out);
-    for (const std::filesystem::path& path :
-         library.filesOf(request.questions.empty() ? Library::questions() : request.questions)) {
+    Watch watch(Watch::patience, at.out);
+    for (const std::filesystem::path& path : at.library.filesOfCourse(request.questions)) {
         watch.next("the learners of " + path.string());
         const language::ScenarioFile file = load(path);
         Classroom classroom(file, draw + static_cast<std::uint32_t>(file.question));
-        classroom.run(request.runs, request.folder, out);
-        ++(classroom.tell(out) ? passed : failed);
-        out << std::flush;
+        classroom.run(request.runs, request.folder, at.out);
+        ++(classroom.tell(at.out) ? passed : failed);
+        at.out << std::flush;
     }
-    out << passed << " passed, " << failed << " failed\n";
+    at.out << passed << " passed, " << failed << " failed\n";
     return failed == 0 ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace
+
+Action addLearners(CLI::App& command) {
+    const auto request = std::make_shared<LearnersRequest>();
+    addQuestions(command, request->questions);
+    command.add_option("--runs", request->runs, "Learners of a question")
+        ->capture_default_str()
+        ->check(CLI::PositiveNumber);
+    command.add_option("--draw", request->draw, "Number that the learners are drawn with (at random)");
+    command.add_option("--save", request->folder, "Folder for the scenarios of disagreements")->capture_default_str();
+    return [request](const CommandContext& at) { return letLearn(*request, at); };
 }
 
 } // namespace host

@@ -46,10 +46,13 @@ std::vector<fs::path> Library::filesOf(const std::vector<std::int32_t>& question
     return paths;
 }
 
-std::vector<std::int32_t> Library::questions() {
-    std::vector<std::int32_t> numbers(lastQuestion - firstQuestion + 1);
-    std::iota(numbers.begin(), numbers.end(), firstQuestion);
-    return numbers;
+std::vector<fs::path> Library::filesOfCourse(const std::vector<std::int32_t>& questions) const {
+    if (!questions.empty()) {
+        return filesOf(questions);
+    }
+    std::vector<std::int32_t> all(lastQuestion - firstQuestion + 1);
+    std::iota(all.begin(), all.end(), firstQuestion);
+    return filesOf(all);
 }
 
 language::ScenarioFile load(const fs::path& path) {
@@ -59,6 +62,16 @@ language::ScenarioFile load(const fs::path& path) {
     }
     const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     return language::parse(path.string(), text);
+}
+
+Course courseOf(const language::ScenarioFile& file, const std::string& folder, const WorldMaker& makeWorld) {
+    try {
+        return folder.empty() ? Course(file, makeWorld) : Course(folder, file.question);
+    } catch (const language::Failure& failure) {
+        throw UsageError(failure.remark.in(file.name));
+    } catch (const std::runtime_error& error) {
+        throw UsageError(error.what());
+    }
 }
 
 Bytes contentsOf(const fs::path& path) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/language/Ast.h"
-#include "host/world/World.h"
+#include "host/run/Course.h"
 
 #include <filesystem>
 
@@ -19,9 +19,8 @@ public:
     /// course.
     [[nodiscard]] std::filesystem::path fileOf(std::int32_t question) const;
     [[nodiscard]] std::vector<std::filesystem::path> filesOf(const std::vector<std::int32_t>& questions) const;
-
-    /// The numbers of all questions of the course.
-    [[nodiscard]] static std::vector<std::int32_t> questions();
+    /// The same, but the files of all questions of the course where none is named.
+    [[nodiscard]] std::vector<std::filesystem::path> filesOfCourse(const std::vector<std::int32_t>& questions) const;
 
 private:
     std::filesystem::path folder_;
@@ -29,6 +28,11 @@ private:
 
 /// Reads a scenario file. Raises language::WrongLines, or UsageError where the file cannot be read.
 [[nodiscard]] language::ScenarioFile load(const std::filesystem::path& path);
+
+/// What the course delivers for a question: its own files in a folder, or where none is named what the scenario file
+/// builds. Raises UsageError where there is no presentation or it cannot be built.
+[[nodiscard]] Course courseOf(const language::ScenarioFile& file, const std::string& folder,
+                              const WorldMaker& makeWorld);
 
 /// The content of a file. Raises UsageError where it cannot be read.
 [[nodiscard]] Bytes contentsOf(const std::filesystem::path& path);

@@ -1,4 +1,5 @@
 #include "host/command/Commands.h"
+#include "host/command/Options.h"
 
 #include "automation/Text.h"
 
@@ -6,6 +7,9 @@
 
 namespace host {
 
+namespace {
+
+/// Prints the scenarios of questions, of all where none is named.
 ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out) {
     for (const std::filesystem::path& path : questions.empty() ? library.files() : library.filesOf(questions)) {
         const language::ScenarioFile file = load(path);
@@ -15,6 +19,14 @@ ExitCode list(const std::vector<std::int32_t>& questions, const Library& library
         }
     }
     return ExitCode::Good;
+}
+
+} // namespace
+
+Action addList(CLI::App& command) {
+    const auto questions = std::make_shared<std::vector<std::int32_t>>();
+    addQuestions(command, *questions);
+    return [questions](const CommandContext& at) { return list(*questions, at.library, at.out); };
 }
 
 } // namespace host

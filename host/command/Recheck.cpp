@@ -1,5 +1,6 @@
 #include "host/command/Commands.h"
 #include "host/command/LiveCheck.h"
+#include "host/command/Options.h"
 #include "host/run/TrainingHost.h"
 
 #include "automation/LateBound.h"
@@ -33,48 +34,54 @@ void exchange(World& world, const Bytes& file, std::int32_t question) {
     }
 }
 
-Course courseFor(const RecheckRequest& request, const language::ScenarioFile& file, const WorldMaker& makeWorld) {
-    try {
-        return request.course.empty() ? Course(file, makeWorld) : Course(request.course, request.question);
-    } catch (const std::runtime_error& error) {
-        throw UsageError(error.what());
-    }
-}
+struct RecheckRequest {
+    std::string file; ///< a working presentation that a learner has saved
+    std::int32_t question = 0;
+    std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
+};
 
 /// The verdict of the module on the file.
-Reading judge(World& world, const Course& course, std::int32_t question, const Bytes& file) {
+Reading judge(World& world, const Course& course, const RecheckRequest& request) {
+    const Bytes saved = contentsOf(request.file);
     Witness nobody;
-    TrainingHost host(world, course, question, nobody);
-    host.initQuestion(question, world.hostFolder());
+    TrainingHost host(world, course, request.question, nobody);
+    host.initQuestion(request.question, world.hostFolder());
     try {
-        exchange(world, file, question);
+        exchange(world, saved, request.question);
     } catch (const automation::Error& error) {
         host.finish();
-        throw UsageError(toUtf8(error.description()));
+        throw UsageError(request.file + ": " + toUtf8(error.description()));
     }
     Reading reading = host.check();
     host.finish();
     return reading;
 }
 
-} // namespace
-
-ExitCode recheck(const RecheckRequest& request, const Library& library, const WorldMaker& makeWorld,
-                 std::ostream& out) {
-    const Bytes saved = contentsOf(request.file);
-    const language::ScenarioFile file = load(library.fileOf(request.question));
-    const Course course = courseFor(request, file, makeWorld);
-    const WorldPtr world = makeWorld(nullptr);
-    const Reading reading = judge(*world, course, request.question, saved);
-    out << "Question " << request.question << ": " << reading.display() << '\n';
+/// Judges a saved working presentation and names the checks that a file does not allow.
+ExitCode recheck(const RecheckRequest& request, const CommandContext& at) {
+    const language::ScenarioFile file = load(at.library.fileOf(request.question));
+    const Course course = courseOf(file, request.course, at.worlds.embedded);
+    const WorldPtr world = at.worlds.embedded(nullptr);
+    const Reading reading = judge(*world, course, request);
+    at.out << "Question " << request.question << ": " << reading.display() << '\n';
     for (const LiveCheck& check : liveChecks()) {
         if (check.concerns(request.question)) {
-            out << "Not checked, a file does not tell: " << check.what << '\n';
+            at.out << "Not checked, a file does not tell: " << check.what << '\n';
         }
     }
     const bool isGood =
         !reading.error && !reading.erreurGenerale && (reading.causeErreur.empty() || reading.bravoNuance);
     return isGood ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace
+
+Action addRecheck(CLI::App& command) {
+    const auto request = std::make_shared<RecheckRequest>();
+    command.add_option("file", request->file, "A working presentation that a learner has saved")->required();
+    addQuestion(command, "--question", request->question)->required();
+    addCourse(command, request->course);
+    return [request](const CommandContext& at) { return recheck(*request, at); };
 }
 
 } // namespace host

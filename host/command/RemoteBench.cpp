@@ -48,17 +48,17 @@ void printFirstAnswer(const language::ScenarioFile& file, const Worlds& worlds, 
         << " ms; question " << file.question << "'s InitQuestion answers " << first.count() << " ms later\n\n";
 }
 
-bool printRemoteQuestions(const BenchRequest& request, const Library& library, const Worlds& worlds,
-                          std::ostream& out) {
+bool printRemoteQuestions(const BenchRequest& request, const CommandContext& at) {
+    std::ostream& out = at.out;
     out << "Calls that reach PowerPoint, names looked up in them and names that they state, and time by the clock\n\n"
            "question  InitQuestion  TestePoint  Fermer  look-ups  names  ms InitQuestion  ms TestePoint  us a call"
         << std::endl;
     bool isGood = true;
-    for (const std::filesystem::path& path : library.filesOf(request.questions)) {
+    for (const std::filesystem::path& path : at.library.filesOfCourse(request.questions)) {
         const language::ScenarioFile file = load(path);
-        const Course course(file, worlds.embedded);
-        const QuestionCost here = bench::costOf(file, course, worlds.embedded, 0);
-        const QuestionCost cost = bench::remoteCostOf(file, course, worlds.remote);
+        const Course course(file, at.worlds.embedded);
+        const QuestionCost here = bench::costOf(file, course, at.worlds.embedded, 0);
+        const QuestionCost cost = bench::remoteCostOf(file, course, at.worlds.remote);
         out << std::setw(8) << file.question << std::setw(14) << cost.initQuestion.calls << std::setw(12)
             << cost.testePoint.calls << std::setw(8) << cost.fermer.calls << std::setw(10) << cost.lookUps
             << std::setw(7) << here.names.size() << std::fixed << std::setprecision(1) << std::setw(17)
@@ -86,7 +86,8 @@ ScriptRun runCheck(World& world, const std::filesystem::path& script) {
     return run;
 }
 
-bool printBesideScript(const BenchRequest& request, const Library& library, const Worlds& worlds, std::ostream& out) {
+bool printBesideScript(const BenchRequest& request, const CommandContext& at) {
+    std::ostream& out = at.out;
     bench::DeckSize size;
     size.slides = request.slides;
     out << "\nQuestion 306's check on a deck of " << size.slides << " slides, " << size.shapesOnSlide
@@ -100,10 +101,10 @@ bool printBesideScript(const BenchRequest& request, const Library& library, cons
             << std::endl;
     };
     ScriptRun script;
-    const QuestionCost cost = bench::remoteCostOf(file, Course(file, worlds.embedded), worlds.remote,
+    const QuestionCost cost = bench::remoteCostOf(file, Course(file, at.worlds.embedded), at.worlds.remote,
                                                   [&](World& world, bench::Moment moment) {
                                                       if (moment == bench::Moment::Checked) {
-                                                          script = runCheck(world, library.folder() / "0306.vbs");
+                                                          script = runCheck(world, at.library.folder() / "0306.vbs");
                                                       }
                                                   });
     print("library ", cost.testePoint.calls, cost.lookUps, cost.testePoint.time.count());
@@ -119,15 +120,15 @@ bool printBesideScript(const BenchRequest& request, const Library& library, cons
 
 } // namespace
 
-bool printRemoteCosts(const BenchRequest& request, const Library& library, const Worlds& worlds, std::ostream& out) {
-    printFirstAnswer(load(library.filesOf(request.questions).front()), worlds, out);
-    bool isGood = printRemoteQuestions(request, library, worlds, out);
-    isGood = printBesideScript(request, library, worlds, out) && isGood;
-    out << "The same check on growing decks: 5 text shapes on a slide, 20 words in a shape\n\n";
+bool printRemoteCosts(const BenchRequest& request, const CommandContext& at) {
+    printFirstAnswer(load(at.library.filesOfCourse(request.questions).front()), at.worlds, at.out);
+    bool isGood = printRemoteQuestions(request, at);
+    isGood = printBesideScript(request, at) && isGood;
+    at.out << "The same check on growing decks: 5 text shapes on a slide, 20 words in a shape\n\n";
     const auto costOf = [&](const language::ScenarioFile& file, std::size_t /*times*/) {
-        return bench::remoteCostOf(file, Course(file, worlds.embedded), worlds.remote);
+        return bench::remoteCostOf(file, Course(file, at.worlds.embedded), at.worlds.remote);
     };
-    return printGrowth({1, 5, 20}, costOf, out) && isGood;
+    return printGrowth({1, 5, 20}, costOf, at.out) && isGood;
 }
 
 } // namespace host

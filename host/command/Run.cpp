@@ -1,5 +1,6 @@
 #include "host/command/Commands.h"
 #include "host/command/JsonStory.h"
+#include "host/command/Options.h"
 #include "host/command/PlainStory.h"
 #include "host/command/Telling.h"
 #include "host/picture/Camera.h"
@@ -19,6 +20,15 @@ using automation::toUtf8;
 using language::Scenario;
 using language::ScenarioFile;
 
+struct RunRequest {
+    std::int32_t question = 306;
+    std::string scenario; ///< its title; empty for the first that ends in a success
+    bool asJson = false;
+    bool withTrace = false;
+    std::string course;   ///< folder of the course's own files; empty for those that the scenario file builds
+    std::string pictures; ///< folder for pictures of the slide before and after; empty for none
+};
+
 const Scenario& chosen(const ScenarioFile& file, const std::string& title) {
     const auto isWanted = [&](const Scenario& scenario) {
         const Expectation* const last = scenario.lastExpectation();
@@ -30,14 +40,6 @@ const Scenario& chosen(const ScenarioFile& file, const std::string& title) {
                                        : file.name + " has no scenario \"" + title + "\"");
     }
     return *found;
-}
-
-Course courseIn(const std::string& folder, std::int32_t question) {
-    try {
-        return {folder, question};
-    } catch (const std::runtime_error& error) {
-        throw UsageError(error.what());
-    }
 }
 
 std::string complementOf(const Reading& reading) {
@@ -91,8 +93,7 @@ nlohmann::ordered_json toJson(const ScenarioFile& file, const Scenario& scenario
     return object;
 }
 
-} // namespace
-
+/// Runs one scenario and tells it, up to the four values that the host reads last.
 ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
     const ScenarioFile file = load(library.fileOf(request.question));
     const Scenario& scenario = chosen(file, request.scenario);
@@ -104,11 +105,11 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
             ? std::make_shared<automation::CallTrace>([&](const automation::TracedCall& call) { story.call(call); })
             : nullptr;
 
+    const Runner runner = request.course.empty() ? Runner(file, makeWorld)
+                                                 : Runner(file, courseOf(file, request.course, makeWorld), makeWorld);
     if (!request.asJson) {
         out << "Question " << file.question << ": " << toUtf8(scenario.title) << "\n\n";
     }
-    const Runner runner = request.course.empty() ? Runner(file, makeWorld)
-                                                 : Runner(file, courseIn(request.course, file.question), makeWorld);
     BeforeAfter slide;
     const auto makeWitness = [&](World& world) {
         auto witnesses = std::make_unique<Witnesses>();
@@ -141,6 +142,19 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
         }
     }
     return outcome.failures.empty() ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace
+
+Action addRun(CLI::App& command) {
+    const auto request = std::make_shared<RunRequest>();
+    addQuestion(command, "question", request->question)->capture_default_str();
+    command.add_option("--scenario", request->scenario, "Title of the scenario (the first that ends in a success)");
+    command.add_flag("--json", request->asJson, "Print one JSON object");
+    command.add_flag("--trace", request->withTrace, "List every call that leaves the module, its time and outcome");
+    command.add_option("--picture", request->pictures, "Folder for pictures of the slide before and after");
+    addCourse(command, request->course);
+    return [request](const CommandContext& at) { return run(*request, at.library, at.worlds.chosen(), at.out); };
 }
 
 } // namespace host

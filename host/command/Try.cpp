@@ -1,16 +1,32 @@
 #include "host/command/Commands.h"
+#include "host/command/Options.h"
 #include "host/try/Conversation.h"
 
 namespace host {
 
-ExitCode tryOut(std::int32_t question, const Library& library, const WorldMaker& makeWorld, LineReader& lines,
-                std::ostream& out) {
-    const language::ScenarioFile file = load(library.fileOf(question));
-    try {
-        return Conversation(file, makeWorld, lines, out).run() ? ExitCode::Good : ExitCode::FellShort;
-    } catch (const language::Failure& failure) { // of the course
-        throw UsageError(failure.remark.in(file.name));
-    }
+namespace {
+
+struct TryRequest {
+    std::int32_t question = 0;
+    std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
+};
+
+/// Prepares a question and talks with the course author, who states moves, asks for verdicts and saves scenarios.
+ExitCode talk(const TryRequest& request, const CommandContext& at) {
+    const language::ScenarioFile file = load(at.library.fileOf(request.question));
+    const WorldMaker& makeWorld = at.worlds.chosen();
+    const std::unique_ptr<LineReader> lines = at.makeLines();
+    Conversation conversation(file, courseOf(file, request.course, makeWorld), makeWorld, *lines, at.out);
+    return conversation.run() ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace
+
+Action addTry(CLI::App& command) {
+    const auto request = std::make_shared<TryRequest>();
+    addQuestion(command, "question", request->question)->required();
+    addCourse(command, request->course);
+    return [request](const CommandContext& at) { return talk(*request, at); };
 }
 
 } // namespace host

@@ -1,4 +1,5 @@
 #include "host/command/Commands.h"
+#include "host/command/Options.h"
 #include "host/command/Watch.h"
 #include "host/picture/Camera.h"
 #include "host/report/JUnit.h"
@@ -26,11 +27,19 @@ using report::Result;
 
 using Files = std::vector<language::ScenarioFile>;
 
+/// All files of the library where nothing is named.
+struct VerifyRequest {
+    std::vector<std::int32_t> questions;
+    std::vector<std::string> files;
+    std::string page;  ///< file for a report as a page; empty for none
+    std::string junit; ///< file for a report as build servers read it; empty for none
+    std::string json;  ///< file for a report as JSON; empty for none
+};
+
 /// Runs the scenarios of files, one after the other.
 class Verification {
 public:
-    Verification(const VerifyRequest& request, const WorldMaker& makeWorld, std::ostream& out, Progress& progress)
-        : request_(request), makeWorld_(makeWorld), out_(out), progress_(progress) {}
+    Verification(const VerifyRequest& request, const CommandContext& at) : request_(request), at_(at) {}
 
     Report run(const Files& files) {
         for (const language::ScenarioFile& file : files) {
@@ -40,24 +49,24 @@ public:
         for (const language::ScenarioFile& file : files) {
             report.push_back(run(file));
         }
-        progress_.clear();
+        at_.progress.clear();
         return report;
     }
 
 private:
     FileResult run(const language::ScenarioFile& file) {
         FileResult result{file.name, file.question, toUtf8(file.heading), {}};
-        Watch watch(Watch::patience, out_);
+        Watch watch(Watch::patience, at_.out);
         watch.next(file.name + ", its course");
-        const Runner runner(file, makeWorld_);
+        const Runner runner(file, at_.worlds.chosen());
         for (const language::Scenario& scenario : file.scenarios) {
             const std::string place = file.name + " \"" + toUtf8(scenario.title) + "\"";
             watch.next(place);
-            progress_.at(result.name() + ", " + toUtf8(scenario.title), ++scenario_, scenarios_);
+            at_.progress.at(result.name() + ", " + toUtf8(scenario.title), ++scenario_, scenarios_);
             result.results.push_back(run(runner, scenario));
             for (const language::Remark& failure : result.results.back().failures) {
-                progress_.clear();
-                out_ << failure.in(file.name) << " (\"" << toUtf8(scenario.title) << "\")" << std::endl;
+                at_.progress.clear();
+                at_.out << failure.in(file.name) << " (\"" << toUtf8(scenario.title) << "\")" << std::endl;
             }
         }
         return result;
@@ -65,8 +74,7 @@ private:
 
     Result run(const Runner& runner, const language::Scenario& scenario) {
         Result result{toUtf8(scenario.title), scenario.place.line, {}, {}, 0, {}};
-        const auto counter =
-            isReported() && request_.countsCalls ? std::make_shared<automation::CallCounter>() : nullptr;
+        const auto counter = isReported() && !at_.worlds.remote ? std::make_shared<automation::CallCounter>() : nullptr;
         const auto makeWitness = [&](World& world) {
             auto witnesses = std::make_unique<Witnesses>();
             if (!request_.page.empty()) {
@@ -87,9 +95,7 @@ private:
     }
 
     const VerifyRequest& request_;
-    const WorldMaker& makeWorld_;
-    std::ostream& out_;
-    Progress& progress_;
+    const CommandContext& at_;
     std::size_t scenario_ = 0;
     std::size_t scenarios_ = 0;
 };
@@ -125,12 +131,10 @@ void write(const VerifyRequest& request, const Report& report) {
     }
 }
 
-} // namespace
-
-ExitCode verify(const VerifyRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out,
-                Progress& progress) {
+/// Runs all scenarios, prints what falls short and writes the reports asked for.
+ExitCode verify(const VerifyRequest& request, const CommandContext& at) {
     Files files;
-    for (const std::filesystem::path& path : named(request, library)) {
+    for (const std::filesystem::path& path : named(request, at.library)) {
         files.push_back(load(path));
     }
     if (std::all_of(files.begin(), files.end(), [](const auto& file) { return file.scenarios.empty(); })) {
@@ -141,11 +145,23 @@ ExitCode verify(const VerifyRequest& request, const Library& library, const Worl
             demandWritable(file);
         }
     }
-    const Report report = Verification(request, makeWorld, out, progress).run(files);
+    const Report report = Verification(request, at).run(files);
     write(request, report);
     const report::Totals totals(report);
-    out << totals.passed << " passed, " << totals.failed << " failed\n";
+    at.out << totals.passed << " passed, " << totals.failed << " failed\n";
     return totals.failed == 0 ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace
+
+Action addVerify(CLI::App& command) {
+    const auto request = std::make_shared<VerifyRequest>();
+    addQuestions(command, request->questions);
+    command.add_option("--file", request->files, "A scenario file");
+    command.add_option("--report", request->page, "Write a page of all scenarios, with pictures (F.html)");
+    command.add_option("--junit", request->junit, "Write a report as build servers read it (F.xml)");
+    command.add_option("--json", request->json, "Write a report as JSON (F.json)");
+    return [request](const CommandContext& at) { return verify(*request, at); };
 }
 
 } // namespace host

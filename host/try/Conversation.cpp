@@ -84,9 +84,9 @@ const std::vector<Conversation::Verb>& Conversation::verbs() {
     return all;
 }
 
-Conversation::Conversation(const language::ScenarioFile& file, WorldMaker makeWorld, LineReader& lines,
+Conversation::Conversation(const language::ScenarioFile& file, Course course, WorldMaker makeWorld, LineReader& lines,
                            std::ostream& out)
-    : file_(file), makeWorld_(std::move(makeWorld)), lines_(lines), out_(out), course_(file, makeWorld_) {}
+    : file_(file), makeWorld_(std::move(makeWorld)), lines_(lines), out_(out), course_(std::move(course)) {}
 
 bool Conversation::run() {
     out_ << toUtf8(file_.heading.empty() ? u"Question " + automation::decimal(file_.question) : file_.heading) << '\n';

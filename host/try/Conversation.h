@@ -11,8 +11,9 @@ namespace host {
 /// and a few verbs judge, begin anew and save.
 class Conversation {
 public:
-    /// All must outlive this object. Builds the course's files. Raises language::Failure where that fails.
-    Conversation(const language::ScenarioFile& file, WorldMaker makeWorld, LineReader& lines, std::ostream& out);
+    /// `file`, `lines` and `out` must outlive this object.
+    Conversation(const language::ScenarioFile& file, Course course, WorldMaker makeWorld, LineReader& lines,
+                 std::ostream& out);
 
     /// Prepares the question, and takes lines until the author leaves. False where the question could not be prepared,
     /// or could not be closed as it should be.
