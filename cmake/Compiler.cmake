@@ -1,4 +1,4 @@
-# Warnings, sanitizers and the standard headers that every source needs, for all components alike.
+# Warnings and sanitizers, for all components and programs alike.
 add_library(compiler INTERFACE)
 
 if(MSVC)
@@ -26,7 +26,3 @@ endif()
 if(WIN32)
     target_compile_definitions(compiler INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0601 _WIN32_WINNT=0x0601)
 endif()
-
-target_precompile_headers(compiler INTERFACE
-    <algorithm> <array> <cstdint> <functional> <map> <memory> <optional> <span> <string> <string_view> <utility>
-    <variant> <vector>)
