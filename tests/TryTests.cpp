@@ -13,9 +13,10 @@ struct Exchange {
 
 class TryTest : public testing::Test {
 protected:
-    /// Everything said in a conversation about question 314.
-    std::string talk(const std::string& typed, ExitCode expected = ExitCode::Good) const {
-        return printedBy({"try", "314"}, SCENARIOS, expected, typed);
+    /// Everything said in a conversation about a question.
+    static std::string talk(const std::string& typed, std::optional<ExitCode> expected = ExitCode::Good,
+                            const std::string& question = "314") {
+        return printedBy({"try", question}, SCENARIOS, expected, typed);
     }
     /// What a command of the host answers about a file.
     std::string verify(const std::string& file) const {
@@ -106,6 +107,35 @@ TEST_F(TryTest, TheEndOfTheInputLeavesNothingBehindAndWhatIsLeftIsSaid) {
              ExitCode::FellShort);
     EXPECT_NE(said.find("Not as it was before: the learner's folder Default was \""), std::string::npos) << said;
     EXPECT_EQ(automation::Object::alive(), alive);
+}
+
+TEST_F(TryTest, GeneralErrorsAreExplained) {
+    struct Case {
+        std::string move;
+        std::string code;
+        std::string meaning;
+    };
+    const std::vector<Case> cases = {
+        {"PowerPoint.Hide", "AK", "PowerPoint's window is gone, or hidden."},
+        {"PowerPoint.StopAnswering", "%AL", "PowerPoint does not answer."},
+        {"ActivePresentation.Close", "A", "no presentation is open."},
+        {"ActivePresentation.Slides(2).Delete", "C", "a prepared slide is missing."},
+        {"ActivePresentation.Slides(2).Duplicate", "D", "a prepared slide was copied, or a check before has counted "},
+        {"ActivePresentation.Slides.Add 3, ppLayoutBlank", "E", "the slides are out of order, or one was added."},
+        {"ActivePresentation.SaveAs Host.Folder & \"Autre.ppt\"", "F", "the working presentation is not open from "},
+        {"Presentations.Add", "G", "the working presentation is open, but not the active one."},
+    };
+    for (const Case& each : cases) {
+        const std::string said = talk(each.move + "\ncheck\nPowerPoint.AnswerAgain\n", std::nullopt, "318");
+        EXPECT_NE(said.find("reads the general error \"" + each.code + "\": "), std::string::npos) << said;
+        EXPECT_NE(said.find("own checks were not made: " + each.meaning), std::string::npos) << said;
+    }
+    // What the first check has not found is all that the second one expects, and what the second leaves the third.
+    const std::string said = talk("ActivePresentation.Slides(2).Delete\ncheck\ncheck\ncheck\n", std::nullopt, "318");
+    const std::size_t missing = said.find("the general error \"C\"");
+    const std::size_t judged = said.find("the letter \"", missing);
+    EXPECT_LT(judged, said.find("the general error \"D\"")) << said;
+    EXPECT_NE(said.find("To have the same moves judged afresh", judged), std::string::npos) << said;
 }
 
 } // namespace

@@ -3,6 +3,9 @@
 #include "host/report/Gallery.h"
 #include "host/report/Letters.h"
 #include "host/report/PageStyle.h"
+#include "host/run/GeneralCode.h"
+
+#include "automation/Text.h"
 
 namespace host::report {
 
@@ -181,7 +184,7 @@ private:
                 writeLetter(letter);
             }
             const Markup::Element reached = out_.element("dd");
-            out_.text(letter.isGeneral ? "general error: " : letter.isRemark ? "remark: " : "");
+            out_.text(kindOf(letter));
             for (std::size_t i = 0; i < letter.reachedBy.size(); ++i) {
                 out_.text(i == 0 ? "" : " · ");
                 writeLink(file, letter.reachedBy[i], file.results.at(letter.reachedBy[i]).title);
@@ -190,6 +193,14 @@ private:
                 out_.text("no scenario reaches it");
             }
         }
+    }
+
+    static std::string kindOf(const Letter& letter) {
+        if (!letter.isGeneral) {
+            return letter.isRemark ? "remark: " : "";
+        }
+        const std::string_view meaning = meaningOfGeneralCode(automation::fromUtf8(letter.letter));
+        return "general error" + (meaning.empty() ? "" : ", " + std::string(meaning)) + ": ";
     }
 
     void writeScenario(const FileResult& file, std::size_t place) {
