@@ -1,6 +1,9 @@
 #include "host/world/TemporaryFolder.h"
 #include "tests/Program.h"
 
+#include <fstream>
+#include <iterator>
+
 namespace {
 
 using host::ExitCode;
@@ -26,6 +29,10 @@ protected:
         return printedBy({"recheck", file, "--question", "314"}, SCENARIOS, ExitCode::Good);
     }
     [[nodiscard]] std::string file(const std::string& name) const { return (folder_.path() / name).string(); }
+    [[nodiscard]] std::string contentOf(const std::string& name) const {
+        std::ifstream content(folder_.path() / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(content), std::istreambuf_iterator<char>()};
+    }
 
 private:
     host::TemporaryFolder folder_;
@@ -107,6 +114,22 @@ TEST_F(TryTest, TheEndOfTheInputLeavesNothingBehindAndWhatIsLeftIsSaid) {
              ExitCode::FellShort);
     EXPECT_NE(said.find("Not as it was before: the learner's folder Default was \""), std::string::npos) << said;
     EXPECT_EQ(automation::Object::alive(), alive);
+}
+
+TEST_F(TryTest, ASavedScenarioExpectsAllThatTheHostReads) {
+    const std::string said = talk("Set t = ActivePresentation.Slides(1).Shapes(1).TextFrame.TextRange\n"
+                                  "t.Text = \"créer créer créer créer\"\ncheck\ncheck\nHost.Fermer\ncheck\n"
+                                  "save " +
+                                      file("mine.scn") + " \"so \"well\" done\"\n",
+                                  ExitCode::Good, "306");
+    EXPECT_NE(said.find("with 3 moves and 3 checks.\n"), std::string::npos) << said;
+    const std::string text = contentOf("mine.scn");
+    EXPECT_NE(text.find("scenario \"so \"\"well\"\" done\"\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("  check remark \"F\"\n  check general \"D\"\n  expect Host.BravoNuance = True\n"
+                        "  Host.Fermer\n  check error 91\n"),
+              std::string::npos)
+        << text;
+    EXPECT_EQ(verify(file("mine.scn")), "1 passed, 0 failed\n");
 }
 
 TEST_F(TryTest, GeneralErrorsAreExplained) {

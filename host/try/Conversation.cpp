@@ -3,10 +3,10 @@
 #include "automation/MemberTable.h"
 #include "automation/Text.h"
 #include "host/language/Parser.h"
+#include "host/language/Writer.h"
 #include "host/try/Completion.h"
 #include "host/try/Contents.h"
 #include "host/try/Immediate.h"
-#include "host/try/SavedScenario.h"
 #include "host/try/Trouble.h"
 #include "host/try/Verdict.h"
 
@@ -197,7 +197,7 @@ void Conversation::judge(const Expectation* expected) {
 }
 
 void Conversation::undo(const std::string& /*rest*/) {
-    const std::size_t made = attempt_->takeMoves().size();
+    const std::size_t made = attempt_->moves();
     begin();
     out_ << "The question is prepared anew, without the " << howMany(made, "move") << " made.\n";
 }
@@ -239,11 +239,10 @@ void Conversation::saveAs(const std::string& rest, bool replaces) {
     const std::string name = trimmed(rest.substr(0, quote));
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    const std::string text = scenarioText(file_, title, attempt_->moves());
+    const std::string text = language::scenarioText(file_, title, attempt_->statements());
     writeFile(name, Bytes(text.begin(), text.end()), replaces);
-    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with "
-         << howMany(attempt_->moves().size() - attempt_->checks(), "move") << " and "
-         << howMany(attempt_->checks(), "check") << ".\n";
+    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << howMany(attempt_->moves(), "move")
+         << " and " << howMany(attempt_->checks(), "check") << ".\n";
     if (attempt_->checks() == 0) {
         out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
     }
