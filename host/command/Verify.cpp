@@ -8,6 +8,7 @@
 #include "host/report/Recorder.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
+#include "host/world/RealFile.h"
 
 #include "automation/Text.h"
 #include "automation/observe/CallCounter.h"

@@ -9,11 +9,9 @@
 #include "host/try/Immediate.h"
 #include "host/try/Trouble.h"
 #include "host/try/Verdict.h"
+#include "host/world/RealFile.h"
 
-#include <filesystem>
-#include <fstream>
 #include <iomanip>
-#include <iterator>
 #include <ostream>
 
 namespace host {
@@ -41,17 +39,13 @@ fs::path pathOf(const std::string& name) {
     return fs::path(fromUtf8(name));
 }
 
-/// Writes a file, which must not be there unless it may be replaced.
-void writeFile(const std::string& name, const Bytes& content, bool replaces) {
+/// Writes a file by a verb, which replaces one that is there already only where it ends with an exclamation mark.
+void writeBy(const std::string& verb, const std::string& name, std::string_view content) {
     const fs::path path = pathOf(name);
-    if (!replaces && fs::exists(path)) {
-        throw std::runtime_error(name + " is there already: name another file, or say save! to replace it");
+    if (!verb.ends_with('!') && fs::exists(path)) {
+        throw std::runtime_error(name + " is there already: name another file, or say " + verb + "! to replace it");
     }
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    std::copy(content.begin(), content.end(), std::ostreambuf_iterator<char>(file));
-    if (!file.flush()) {
-        throw std::runtime_error(name + " cannot be written: is there such a folder, and may you write there?");
-    }
+    writeContents(path, content);
 }
 
 /// True for an `expect error` whose statement is still to come.
@@ -76,7 +70,9 @@ const std::vector<Conversation::Verb>& Conversation::verbs() {
         {"save", "mine.scn", "writes moves and checks as a scenario (save! replaces a file)", &Conversation::save,
          true},
         {"save!", "mine.scn", "", &Conversation::saveOver, true},
-        {"export", "mine.ppt", "writes the presentation as it is now", &Conversation::exportTo, true},
+        {"export", "mine.ppt", "writes the presentation as it is now (export! replaces a file)",
+         &Conversation::exportTo, true},
+        {"export!", "mine.ppt", "", &Conversation::exportOver, true},
         {"help", "", "says this", &Conversation::help},
         {"quit", "", "closes the question; so do exit and the end of the input", &Conversation::quit},
         {"exit", "", "", &Conversation::quit},
@@ -234,13 +230,12 @@ void Conversation::members(const std::string& expression) {
     out_ << "  " << row << '\n';
 }
 
-void Conversation::saveAs(const std::string& rest, bool replaces) {
+void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     const std::size_t quote = std::min(rest.find('"'), rest.size());
     const std::string name = trimmed(rest.substr(0, quote));
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    const std::string text = language::scenarioText(file_, title, attempt_->statements());
-    writeFile(name, Bytes(text.begin(), text.end()), replaces);
+    writeBy(verb, name, language::scenarioText(file_, title, attempt_->statements()));
     out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << howMany(attempt_->moves(), "move")
          << " and " << howMany(attempt_->checks(), "check") << ".\n";
     if (attempt_->checks() == 0) {
@@ -248,8 +243,9 @@ void Conversation::saveAs(const std::string& rest, bool replaces) {
     }
 }
 
-void Conversation::exportTo(const std::string& file) {
-    writeFile(file, attempt_->presentation(), true);
+void Conversation::exportBy(const std::string& verb, const std::string& file) {
+    const Bytes content = attempt_->presentation();
+    writeBy(verb, file, std::string(content.begin(), content.end()));
     out_ << "The presentation is in " << file << ".\n";
 }
 

@@ -42,10 +42,12 @@ private:
     void again(const std::string&);
     void show(const std::string&);
     void members(const std::string& expression);
-    void save(const std::string& rest) { saveAs(rest, false); }
-    void saveOver(const std::string& rest) { saveAs(rest, true); }
-    void saveAs(const std::string& rest, bool replaces);
-    void exportTo(const std::string& file);
+    void save(const std::string& rest) { saveBy("save", rest); }
+    void saveOver(const std::string& rest) { saveBy("save!", rest); }
+    void saveBy(const std::string& verb, const std::string& rest);
+    void exportTo(const std::string& file) { exportBy("export", file); }
+    void exportOver(const std::string& file) { exportBy("export!", file); }
+    void exportBy(const std::string& verb, const std::string& file);
     void help(const std::string&);
     void quit(const std::string&) { isOver_ = true; }
 
