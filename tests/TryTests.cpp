@@ -134,6 +134,18 @@ TEST_F(TryTest, ASavedScenarioExpectsAllThatTheHostReads) {
     EXPECT_EQ(verify(file("mine.scn")), "1 passed, 0 failed\n");
 }
 
+TEST_F(TryTest, ASavedScenarioThatDoesNotStageTheCoursesOwnFilesSaysSo) {
+    const std::string saved = "Scenario \"mine\" is in " + file("mine.scn") + ", with 0 moves and 1 check.\n";
+    const std::string otherDeck = "The moves were made on the course's own files; verify will judge it on the "
+                                  "presentation that the scenario file builds.\n";
+    const std::string closed = "The question is closed, and everything is as it was before.\n";
+    const std::string typed = "check\nsave! " + file("mine.scn") + "\n";
+    EXPECT_TRUE(talk("export " + file("07305314.ppt") + "\n" + typed).ends_with(saved + closed));
+    const std::string folder = std::filesystem::path(file("07305314.ppt")).parent_path().string();
+    EXPECT_TRUE(printedBy({"try", "314", "--course", folder}, SCENARIOS, ExitCode::Good, typed)
+                    .ends_with(saved + otherDeck + closed));
+}
+
 TEST_F(TryTest, GeneralErrorsAreExplained) {
     struct Case {
         std::string move;

@@ -241,6 +241,10 @@ void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     if (attempt_->checks() == 0) {
         out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
     }
+    if (!course_.isBuilt()) {
+        out_ << "The moves were made on the course's own files; verify will judge it on the presentation that the "
+                "scenario file builds.\n";
+    }
 }
 
 void Conversation::exportBy(const std::string& verb, const std::string& file) {

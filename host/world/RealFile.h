@@ -10,8 +10,8 @@ namespace host {
 /// Writes a file anew.
 void writeContents(const std::filesystem::path& path, std::string_view content);
 
-/// Makes sure that a file can be written, and removes what it holds of earlier work: where the work that it is to tell of
-/// does not come to its end, nobody takes the old for its outcome.
+/// Makes sure that a file can be written, and removes what it holds of earlier work: where the work that it is to tell
+/// of does not come to its end, nobody takes the old for its outcome.
 void clearForWriting(const std::filesystem::path& path);
 
 } // namespace host
