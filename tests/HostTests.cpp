@@ -114,6 +114,35 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     }
 }
 
+TEST_F(HostTest, NoReportOfEarlierWorkIsLeftWhileScenariosRun) {
+    write(std::string(course) + success);
+    const std::vector<std::string> formats = {"--report", "--junit", "--json"};
+    std::vector<std::string> arguments = {"verify"};
+    std::vector<std::filesystem::path> reports;
+    for (const std::string& format : formats) {
+        reports.push_back(std::filesystem::path(file()).replace_extension(format));
+        std::ofstream(reports.back()) << "all is well";
+        arguments.insert(arguments.end(), {format, reports.back().string()});
+    }
+    std::size_t looked = 0;
+    const auto lookFirst = [&](const auto& observer) {
+        ++looked;
+        for (const std::filesystem::path& report : reports) {
+            EXPECT_FALSE(std::filesystem::exists(report)) << report;
+        }
+        return host::makeEmbeddedWorld(observer);
+    };
+    std::ostringstream out;
+    EXPECT_EQ(host::runCommandLine(arguments, std::filesystem::path(file()).parent_path(), "1.2.3", lookFirst,
+                                   {out, out}, nullptr),
+              ExitCode::Good)
+        << out.str();
+    EXPECT_NE(looked, 0U);
+    for (const std::filesystem::path& report : reports) {
+        EXPECT_GT(std::filesystem::file_size(report), 100U) << report;
+    }
+}
+
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
     write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\n");
     const std::string out = said({"verify"}, ExitCode::FellShort);
