@@ -146,6 +146,16 @@ TEST_F(TryTest, ASavedScenarioThatDoesNotStageTheCoursesOwnFilesSaysSo) {
                     .ends_with(saved + otherDeck + closed));
 }
 
+TEST_F(TryTest, TextsAreShownOnOneLine) {
+    const std::string text = "ActivePresentation.Slides(1).Shapes(2).TextFrame.TextRange.Text";
+    const std::string long59(59, 'a');
+    const std::string said = talk("?" + text + "\n" + text + " = \"un\" & vbCr & \"deux\"\n?" + text + "\nshow\n" +
+                                  text + " = \"" + long59 + "😀b\"\nshow\n");
+    EXPECT_NE(said.find("\nun␍deux\n"), std::string::npos) << said;
+    EXPECT_NE(said.find("ZOR2: un␍deux\n"), std::string::npos) << said;
+    EXPECT_NE(said.find("ZOR2: " + long59 + "...\n"), std::string::npos) << said;
+}
+
 TEST_F(TryTest, GeneralErrorsAreExplained) {
     struct Case {
         std::string move;
