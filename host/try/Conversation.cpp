@@ -61,18 +61,18 @@ const std::vector<Conversation::Verb>& Conversation::verbs() {
         {"Set", "s = ActivePresentation.Slides(1).Shapes(2)", "moves are stated as in a macro", nullptr},
         {"s.Left", "= 20", "", nullptr},
         {"?s.Left", "", "prints a value, or what an object is", nullptr},
-        {"members", "s", "lists the members of an object", &Conversation::members, true},
+        {"members", "s", "lists the members of an object", &Conversation::members, Rest::Something},
         {"show", "", "lists the slides and shapes as they are now", &Conversation::show},
-        {"check", "", "asks for the verdict, and explains what the host reads", &Conversation::check},
+        {"check", "", "asks for the verdict, and explains what the host reads", &Conversation::check, Rest::Anything},
         {"check", "success", "asks for the verdict, and says whether it is this one", nullptr},
         {"undo", "", "goes back to the question as it was prepared", &Conversation::undo},
         {"again", "", "prepares the question anew and makes the moves once more", &Conversation::again},
         {"save", "mine.scn", "writes moves and checks as a scenario (save! replaces a file)", &Conversation::save,
-         true},
-        {"save!", "mine.scn", "", &Conversation::saveOver, true},
+         Rest::Something},
+        {"save!", "mine.scn", "", &Conversation::saveOver, Rest::Something},
         {"export", "mine.ppt", "writes the presentation as it is now (export! replaces a file)",
-         &Conversation::exportTo, true},
-        {"export!", "mine.ppt", "", &Conversation::exportOver, true},
+         &Conversation::exportTo, Rest::Something},
+        {"export!", "mine.ppt", "", &Conversation::exportOver, Rest::Something},
         {"help", "", "says this", &Conversation::help},
         {"quit", "", "closes the question; so do exit and the end of the input", &Conversation::quit},
         {"exit", "", "", &Conversation::quit},
@@ -131,20 +131,26 @@ bool Conversation::close() {
     return findings.empty();
 }
 
-void Conversation::obey(const std::string& line) {
-    const std::size_t stop = std::min(line.find(' '), line.size());
-    const std::string word = line.substr(0, stop);
-    const std::string rest = trimmed(line.substr(stop));
+const Conversation::Verb* Conversation::verbOf(const std::string& word) {
     const auto& all = verbs();
-    const auto verb = std::find_if(all.begin(), all.end(), [&](const Verb& each) {
-        return each.act != nullptr && each.name == word && (each.takesRest || rest.empty());
+    const auto found = std::find_if(all.begin(), all.end(), [&](const Verb& each) {
+        return each.act != nullptr && automation::equalIgnoringCase(fromUtf8(each.name), fromUtf8(word));
     });
+    return found == all.end() ? nullptr : &*found;
+}
+
+void Conversation::obey(const std::string& line) {
+    const std::size_t stop = std::min(line.find_first_of(" \t\""), line.size());
+    const std::string rest = trimmed(line.substr(stop));
+    const Verb* const verb = rest.starts_with('=') ? nullptr : verbOf(line.substr(0, stop));
     try {
         if (line.starts_with('?')) {
             print(" " + line.substr(1)); // columns count in the line
-        } else if (verb != all.end() && verb->takesRest && rest.empty()) {
+        } else if (verb != nullptr && verb->takes == Rest::Something && rest.empty()) {
             out_ << "For example: " << verb->name << ' ' << verb->rest << '\n';
-        } else if (verb != all.end()) {
+        } else if (verb != nullptr && verb->takes == Rest::Nothing && !rest.empty()) {
+            out_ << "Nothing stands behind " << verb->name << '\n';
+        } else if (verb != nullptr) {
             (this->*verb->act)(rest);
         } else if (!line.empty() && line.front() != '#' && line.front() != '\'') {
             perform(line);
@@ -192,6 +198,14 @@ void Conversation::judge(const Expectation* expected) {
     }
 }
 
+void Conversation::check(const std::string& expected) {
+    if (expected.empty()) {
+        judge(nullptr);
+    } else {
+        perform("check " + expected);
+    }
+}
+
 void Conversation::undo(const std::string& /*rest*/) {
     const std::size_t made = attempt_->moves();
     begin();
@@ -233,6 +247,9 @@ void Conversation::members(const std::string& expression) {
 void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     const std::size_t quote = std::min(rest.find('"'), rest.size());
     const std::string name = trimmed(rest.substr(0, quote));
+    if (name.empty()) {
+        throw std::runtime_error("A title stands behind the name of a file: " + verb + " mine.scn " + rest);
+    }
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
     writeBy(verb, name, language::scenarioText(file_, title, attempt_->statements()));
@@ -266,7 +283,8 @@ void Conversation::help(const std::string& /*rest*/) {
 std::vector<std::string> Conversation::completions(const std::string& line) {
     std::vector<std::string> words;
     for (const Verb& verb : verbs()) {
-        if (verb.act != nullptr && !line.empty() && verb.name.starts_with(line)) {
+        if (verb.act != nullptr && !line.empty() &&
+            automation::equalIgnoringCase(fromUtf8(verb.name.substr(0, line.size())), fromUtf8(line))) {
             words.emplace_back(verb.name);
         }
     }
