@@ -1,3 +1,6 @@
+#include "host/command/Library.h"
+#include "host/language/Parser.h"
+#include "host/try/Completion.h"
 #include "host/world/TemporaryFolder.h"
 #include "tests/Program.h"
 
@@ -107,6 +110,30 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
     EXPECT_EQ(said, "The question is closed, and everything is as it was before.\n");
     EXPECT_EQ(verify(file("mine.scn")), "1 passed, 0 failed\n");
     EXPECT_TRUE(recheck(file("mine.ppt")).starts_with("Question 314: a success\n"));
+}
+
+TEST_F(TryTest, CompletingCallsNoMethod) {
+    const host::language::ScenarioFile scenarios = host::load(host::Library(SCENARIOS).fileOf(314));
+    const host::Course course(scenarios, host::makeEmbeddedWorld);
+    host::Attempt attempt(314, course, host::makeEmbeddedWorld);
+    const auto completions = [&](const std::string& line) { return host::completionsOf(line, attempt); };
+    EXPECT_EQ(completions("?activepres"), std::vector<std::string>{"ActivePresentation"});
+    EXPECT_EQ(completions("x = ActivePresentation.Slides(1).Shapes(\"Text Box 3\").Rotat"),
+              std::vector<std::string>{"Rotation"});
+    EXPECT_EQ(completions("Reg"), std::vector<std::string>{"Registry"});
+    for (const char* const line :
+         {"ActivePresentation.Slides(1).Shapes.AddShape(1, 0, 0, 9, 9).", "ActivePresentation.Slides(1).Duplicate().",
+          "ActivePresentation.Slides(1).Shapes(ActivePresentation.Slides.Add(1, 12).SlideIndex).", "PowerPoint.Kill().",
+          "Host.Fermer().", "ActivePresentation.Slides(9).", "Presentations.Add.Sli", "nothing.Sli", "(((", "?."}) {
+        EXPECT_EQ(completions(line), std::vector<std::string>()) << line;
+    }
+    const auto count = [&](const std::u16string& collection) {
+        return attempt.evaluate(host::language::parseExpression(collection + u".Count")).to<std::int32_t>();
+    };
+    EXPECT_EQ(count(u"Presentations"), 1);
+    EXPECT_EQ(count(u"ActivePresentation.Slides"), 1);
+    EXPECT_EQ(count(u"ActivePresentation.Slides(1).Shapes"), 3);
+    EXPECT_EQ(attempt.close(), std::vector<std::string>());
 }
 
 TEST_F(TryTest, TheEndOfTheInputLeavesNothingBehindAndWhatIsLeftIsSaid) {
