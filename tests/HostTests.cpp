@@ -235,6 +235,32 @@ TEST_F(HostTest, AnObjectLeftAliveIsNoticed) {
     EXPECT_EQ(outcome.failures[0].message, "1 automation objects left alive");
 }
 
+TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
+    using host::Progress;
+    Progress::Clock::time_point now;
+    const auto clock = [&] { return now; };
+    std::ostringstream plain;
+    std::ostringstream terminal;
+    {
+        Progress plainly(plain, false, clock);
+        Progress rewriting(terminal, true, clock);
+        const auto at = [&](std::chrono::milliseconds passed, const std::string& place, std::size_t step) {
+            now += passed;
+            plainly.at(place, step, 30);
+            rewriting.at(place, step, 30);
+        };
+        at(std::chrono::milliseconds(99), "too early", 1);
+        at(std::chrono::milliseconds(1), std::string(70, '-') + "é😀 goes on", 2);
+        at(std::chrono::milliseconds(100), "é", 3);
+        at(std::chrono::milliseconds(20), "too early", 4);
+        at(std::chrono::seconds(30), "half a minute", 5);
+    }
+    EXPECT_EQ(plain.str(), "5 of 30: half a minute\n");
+    const std::string blanks(69, ' ');
+    EXPECT_EQ(terminal.str(), "\r2 of 30: " + std::string(69, '-') + "-" + "\r3 of 30: é" + blanks +
+                                  "\r5 of 30: half a minute" + "\r" + std::string(22, ' ') + "\r");
+}
+
 TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
     const host::WorldPtr world = host::makeEmbeddedWorld();
     world->startPowerPoint();
