@@ -114,6 +114,35 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     }
 }
 
+TEST_F(HostTest, NoReportOfEarlierWorkIsLeftWhileScenariosRun) {
+    write(std::string(course) + success);
+    const std::vector<std::string> formats = {"--report", "--junit", "--json"};
+    std::vector<std::string> arguments = {"verify"};
+    std::vector<std::filesystem::path> reports;
+    for (const std::string& format : formats) {
+        reports.push_back(std::filesystem::path(file()).replace_extension(format));
+        std::ofstream(reports.back()) << "all is well";
+        arguments.insert(arguments.end(), {format, reports.back().string()});
+    }
+    std::size_t looked = 0;
+    const auto lookFirst = [&](const auto& observer) {
+        ++looked;
+        for (const std::filesystem::path& report : reports) {
+            EXPECT_FALSE(std::filesystem::exists(report)) << report;
+        }
+        return host::makeEmbeddedWorld(observer);
+    };
+    std::ostringstream out;
+    EXPECT_EQ(host::runCommandLine(arguments, std::filesystem::path(file()).parent_path(), "1.2.3", lookFirst,
+                                   {out, out}, nullptr),
+              ExitCode::Good)
+        << out.str();
+    EXPECT_NE(looked, 0U);
+    for (const std::filesystem::path& report : reports) {
+        EXPECT_GT(std::filesystem::file_size(report), 100U) << report;
+    }
+}
+
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
     write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\n");
     const std::string out = said({"verify"}, ExitCode::FellShort);
@@ -204,6 +233,32 @@ TEST_F(HostTest, AnObjectLeftAliveIsNoticed) {
         runner.run(file.scenarios[0], [&](host::World& world) { return std::make_unique<Keeper>(world, kept); });
     ASSERT_EQ(outcome.failures.size(), 1U);
     EXPECT_EQ(outcome.failures[0].message, "1 automation objects left alive");
+}
+
+TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
+    using host::Progress;
+    Progress::Clock::time_point now;
+    const auto clock = [&] { return now; };
+    std::ostringstream plain;
+    std::ostringstream terminal;
+    {
+        Progress plainly(plain, false, clock);
+        Progress rewriting(terminal, true, clock);
+        const auto at = [&](std::chrono::milliseconds passed, const std::string& place, std::size_t step) {
+            now += passed;
+            plainly.at(place, step, 30);
+            rewriting.at(place, step, 30);
+        };
+        at(std::chrono::milliseconds(99), "too early", 1);
+        at(std::chrono::milliseconds(1), std::string(70, '-') + "é😀 goes on", 2);
+        at(std::chrono::milliseconds(100), "é", 3);
+        at(std::chrono::milliseconds(20), "too early", 4);
+        at(std::chrono::seconds(30), "half a minute", 5);
+    }
+    EXPECT_EQ(plain.str(), "5 of 30: half a minute\n");
+    const std::string blanks(69, ' ');
+    EXPECT_EQ(terminal.str(), "\r2 of 30: " + std::string(69, '-') + "-" + "\r3 of 30: é" + blanks +
+                                  "\r5 of 30: half a minute" + "\r" + std::string(22, ' ') + "\r");
 }
 
 TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {

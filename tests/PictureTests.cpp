@@ -87,6 +87,45 @@ TEST_F(PictureTest, ShapesStandInTheirOrderWithOutlineFillAndLine) {
     EXPECT_TRUE(holdsInOrder(picture(), {"<linearGradient", "#ff0000"}));
 }
 
+TEST_F(PictureTest, ShadowAndDepthLieBehindTheirShape) {
+    const LateBound box = shape(msoShapeRectangle);
+    ask(ask(box, u"Fill"), u"ForeColor").put(u"RGB", red);
+    const LateBound shadow = ask(box, u"Shadow");
+    shadow.put(u"Visible", std::int32_t{msoTrue});
+    shadow.put(u"OffsetX", 7);
+    shadow.put(u"OffsetY", -9);
+    ask(shadow, u"ForeColor").put(u"RGB", blue);
+    const std::string shadowed = picture();
+    EXPECT_TRUE(holdsInOrder(shadowed, {"translate(7 -9)", "fill=\"#0000ff\"", "fill=\"#ff0000\""})) << shadowed;
+    EXPECT_EQ(shadowed.find("#990000"), std::string::npos);
+
+    const LateBound depth = ask(box, u"ThreeD");
+    depth.put(u"Visible", std::int32_t{msoTrue});
+    depth.put(u"Depth", 60);
+    EXPECT_TRUE(holdsInOrder(picture(), {"translate(21 -21)", "fill=\"#990000\"", "translate(3.5 -3.5)",
+                                         "fill=\"#990000\"", "fill=\"#ff0000\""}));
+    say(box, u"Flip", std::int32_t{msoFlipHorizontal});
+    EXPECT_TRUE(holdsInOrder(picture(), {"translate(21 -21) translate(400 0) scale(-1 1)"}));
+    ask(box, u"Fill").put(u"Visible", std::int32_t{msoFalse});
+    depth.put(u"Visible", std::int32_t{msoFalse});
+    shadow.put(u"Visible", std::int32_t{msoFalse});
+    EXPECT_EQ(picture().find("translate"), std::string::npos);
+}
+
+TEST_F(PictureTest, GroupsAreDrawnWhereTheyStandWithAllThatIsInThem) {
+    for (const std::int32_t color : {red, blue, 0x00FF00}) {
+        ask(ask(shape(msoShapeRectangle), u"Fill"), u"ForeColor").put(u"RGB", color);
+    }
+    EXPECT_TRUE(holdsInOrder(picture(), {"#ff0000", "#0000ff", "#00ff00"}));
+    const LateBound group = ask(ask(shapes, u"Range", automation::Array{1, 3}), u"Group");
+    group.put(u"Name", u"Paire");
+    EXPECT_TRUE(holdsInOrder(picture(), {"#0000ff", "</g><g><title>Paire</title><g><title>", "#ff0000",
+                                         "</g><g><title>", "#00ff00", "</g></g>"}));
+    group.put(u"Visible", std::int32_t{msoFalse});
+    EXPECT_EQ(picture().find("#ff0000"), std::string::npos);
+    EXPECT_NE(picture().find("#0000ff"), std::string::npos);
+}
+
 TEST_F(PictureTest, TextIsBrokenWhereItsBoxEndsAndKeepsItsColours) {
     const LateBound box = text(u"Fort contraste entre <couleur> & \u0007 lisibles", 120);
     const LateBound letters = ask(ask(ask(box, u"TextFrame"), u"TextRange"), u"Characters", 6, 4);

@@ -41,11 +41,12 @@ public:
     Classroom(const language::ScenarioFile& file, std::uint32_t draw)
         : file_(file), lesson_(learners::lessonOf(file.question)), course_(file, makeEmbeddedWorld), draw_(draw) {}
 
-    /// Stops at the first disagreement, whose scenario is saved in `folder`.
-    void run(std::size_t runs, const std::string& folder, std::ostream& out) {
+    /// Stops at the first disagreement, whose scenario is saved in `folder`. `work` is told of every learner.
+    void run(std::size_t runs, const std::string& folder, std::ostream& out,
+             const std::function<void(std::size_t run)>& work) {
         const learners::Learner learner(lesson_, course_, draw_);
         while (runs_ != runs && disagreements_ == 0) {
-            ++runs_;
+            work(++runs_);
             const Attempt attempt = learner.work();
             for (const Finding& finding : attempt.findings) {
                 ++outcomes_[outcomeOf(finding.read)];
@@ -119,11 +120,17 @@ ExitCode letLearn(const LearnersRequest& request, const CommandContext& at) {
     std::size_t passed = 0;
     std::size_t failed = 0;
     Watch watch(Watch::patience, at.out);
-    for (const std::filesystem::path& path : at.library.filesOfCourse(request.questions)) {
+    const std::vector<std::filesystem::path> paths = at.library.filesOfCourse(request.questions);
+    std::size_t begun = 0; ///< learners of the questions before
+    for (const std::filesystem::path& path : paths) {
         watch.next("the learners of " + path.string());
         const language::ScenarioFile file = load(path);
         Classroom classroom(file, draw + static_cast<std::uint32_t>(file.question));
-        classroom.run(request.runs, request.folder, at.out);
+        classroom.run(request.runs, request.folder, at.out, [&](std::size_t run) {
+            at.progress.at("learners of " + std::to_string(file.question), begun + run, paths.size() * request.runs);
+        });
+        begun += request.runs;
+        at.progress.clear();
         ++(classroom.tell(at.out) ? passed : failed);
         at.out << std::flush;
     }

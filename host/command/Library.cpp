@@ -74,25 +74,4 @@ Course courseOf(const language::ScenarioFile& file, const std::string& folder, c
     }
 }
 
-Bytes contentsOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file || !fs::is_regular_file(path)) {
-        throw UsageError("no file: " + path.string());
-    }
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-void demandWritable(const fs::path& path) {
-    if (!std::ofstream(path, std::ios::binary | std::ios::app)) {
-        throw UsageError("cannot be written: " + path.string());
-    }
-}
-
-void writeContents(const fs::path& path, std::string_view content) {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (!file.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
-        throw UsageError("cannot be written: " + path.string());
-    }
-}
-
 } // namespace host

@@ -34,15 +34,6 @@ private:
 [[nodiscard]] Course courseOf(const language::ScenarioFile& file, const std::string& folder,
                               const WorldMaker& makeWorld);
 
-/// The content of a file. Raises UsageError where it cannot be read.
-[[nodiscard]] Bytes contentsOf(const std::filesystem::path& path);
-
-/// Makes sure that a file can be written, before the work whose outcome it is to hold. Raises UsageError.
-void demandWritable(const std::filesystem::path& path);
-
-/// Writes a file. Raises UsageError where that fails.
-void writeContents(const std::filesystem::path& path, std::string_view content);
-
 /// A command line that asks for something that does not exist, in words for its user.
 struct UsageError : std::exception {
     explicit UsageError(std::string text) : message(std::move(text)) {}

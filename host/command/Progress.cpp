@@ -1,5 +1,8 @@
 #include "host/command/Progress.h"
 
+#include "automation/Text.h"
+#include "host/language/Words.h"
+
 #include <algorithm>
 #include <ostream>
 
@@ -11,31 +14,29 @@ constexpr std::chrono::seconds repeated{30};
 constexpr std::size_t widthOfTerminal = 79;
 } // namespace
 
-Progress::Progress(std::ostream& out, bool isTerminal) : out_(&out), isTerminal_(isTerminal) {}
+Progress::Progress(std::ostream& out, bool isTerminal, std::function<Clock::time_point()> now)
+    : out_(&out), isTerminal_(isTerminal), now_(std::move(now)) {}
 
 Progress::~Progress() {
     clear();
 }
 
 void Progress::at(const std::string& place, std::size_t step, std::size_t steps) {
-    const Clock::time_point now = Clock::now();
+    const Clock::time_point now = now_();
     if (out_ == nullptr || now - told_ < (isTerminal_ ? Clock::duration(rewritten) : Clock::duration(repeated))) {
         return;
     }
     told_ = now;
-    std::string line = std::to_string(step) + " of " + std::to_string(steps) + ": " + place;
+    const std::string line = std::to_string(step) + " of " + std::to_string(steps) + ": " + place;
     if (!isTerminal_) {
         *out_ << line << std::endl;
         return;
     }
-    if (line.size() > widthOfTerminal) {
-        line.resize(widthOfTerminal);
-        while ((line.back() & 0x80) != 0) { // no half of a letter
-            line.pop_back();
-        }
-    }
-    *out_ << '\r' << line << std::string(width_ - std::min(width_, line.size()), ' ') << std::flush;
-    width_ = line.size();
+    const std::u16string all = automation::fromUtf8(line);
+    const std::u16string_view shown = beginningOf(all, widthOfTerminal);
+    *out_ << '\r' << automation::toUtf8(shown) << std::string(width_ - std::min(width_, shown.size()), ' ')
+          << std::flush;
+    width_ = shown.size();
 }
 
 void Progress::clear() {

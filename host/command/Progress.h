@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <iosfwd>
 #include <string>
 
@@ -10,10 +11,12 @@ namespace host {
 /// by a plain line every half minute.
 class Progress {
 public:
+    using Clock = std::chrono::steady_clock;
+
     /// Tells nobody.
     Progress() = default;
     /// `out` must outlive this object.
-    Progress(std::ostream& out, bool isTerminal);
+    Progress(std::ostream& out, bool isTerminal, std::function<Clock::time_point()> now = Clock::now);
     ~Progress();
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
@@ -26,12 +29,11 @@ public:
     void clear();
 
 private:
-    using Clock = std::chrono::steady_clock;
-
     std::ostream* out_ = nullptr;
     bool isTerminal_ = false;
+    std::function<Clock::time_point()> now_ = Clock::now;
     std::size_t width_ = 0; ///< of the line on the terminal
-    Clock::time_point told_ = Clock::now();
+    Clock::time_point told_ = now_();
 };
 
 } // namespace host

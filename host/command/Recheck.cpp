@@ -2,6 +2,7 @@
 #include "host/command/LiveCheck.h"
 #include "host/command/Options.h"
 #include "host/run/TrainingHost.h"
+#include "host/world/RealFile.h"
 
 #include "automation/LateBound.h"
 #include "automation/Text.h"

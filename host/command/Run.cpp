@@ -6,6 +6,7 @@
 #include "host/picture/Camera.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
+#include "host/world/RealFile.h"
 
 #include "automation/Text.h"
 

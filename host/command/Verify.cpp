@@ -8,6 +8,7 @@
 #include "host/report/Recorder.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
+#include "host/world/RealFile.h"
 
 #include "automation/Text.h"
 #include "automation/observe/CallCounter.h"
@@ -133,17 +134,17 @@ void write(const VerifyRequest& request, const Report& report) {
 
 /// Runs all scenarios, prints what falls short and writes the reports asked for.
 ExitCode verify(const VerifyRequest& request, const CommandContext& at) {
+    for (const std::string& file : {request.page, request.junit, request.json}) {
+        if (!file.empty()) {
+            clearForWriting(file);
+        }
+    }
     Files files;
     for (const std::filesystem::path& path : named(request, at.library)) {
         files.push_back(load(path));
     }
     if (std::all_of(files.begin(), files.end(), [](const auto& file) { return file.scenarios.empty(); })) {
         throw UsageError("no scenario to verify");
-    }
-    for (const std::string& file : {request.page, request.junit, request.json}) {
-        if (!file.empty()) {
-            demandWritable(file);
-        }
     }
     const Report report = Verification(request, at).run(files);
     write(request, report);

@@ -3,6 +3,7 @@
 #include "host/try/PlainLines.h"
 
 #include <editline/readline.h>
+#include <langinfo.h>
 #include <unistd.h>
 
 #include <clocale>
@@ -22,6 +23,14 @@ volatile std::sig_atomic_t& interruption() {
 }
 
 constexpr std::array interruptions{SIGINT, SIGTERM, SIGHUP};
+
+/// What a letter is, the terminal says; where it says nothing, lines are UTF-8 as everything that is printed.
+void takeUtf8() {
+    std::setlocale(LC_CTYPE, "");
+    if (std::string_view(nl_langinfo(CODESET)) != "UTF-8") {
+        std::setlocale(LC_CTYPE, "C.UTF-8");
+    }
+}
 
 /// The library asks plain functions.
 LineReader::Completer& completer() {
@@ -62,7 +71,7 @@ public:
 
 EditedLines::EditedLines() {
     static constexpr const char* breaks = " \t().,=&+-?\"";
-    std::setlocale(LC_CTYPE, ""); // what a letter is, the terminal says
+    takeUtf8();
     rl_basic_word_break_characters = breaks;
     rl_attempted_completion_function = complete;
     rl_completion_append_character = '\0';

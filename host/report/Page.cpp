@@ -1,18 +1,18 @@
 #include "host/report/Page.h"
 
+#include "host/language/Words.h"
 #include "host/report/Gallery.h"
 #include "host/report/Letters.h"
 #include "host/report/PageStyle.h"
+#include "host/run/GeneralCode.h"
+
+#include "automation/Text.h"
 
 namespace host::report {
 
 namespace {
 
 using simulator::picture::Markup;
-
-std::string counted(std::size_t number, const std::string& what) {
-    return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
-}
 
 /// A number with its thousands apart.
 std::string grouped(std::size_t number) {
@@ -144,8 +144,12 @@ private:
 
     void writeRow(const FileResult& file, const std::vector<Letter>& letters) {
         const Markup::Element row = out_.element("summary");
-        out_.leaf("span", {{"class", "number"}}, file.isQuestion() ? std::to_string(file.question) : file.name());
-        out_.leaf("span", {{"class", "subject"}}, subjectOf(file));
+        {
+            const Markup::Element heading = out_.element("h2");
+            out_.leaf("span", {{"class", "number"}}, file.isQuestion() ? std::to_string(file.question) : file.name());
+            out_.text(" ");
+            out_.leaf("span", {{"class", "subject"}}, subjectOf(file));
+        }
         {
             const Markup::Element list = out_.element("span", {{"class", "letters"}});
             for (const Letter& letter : letters) {
@@ -181,7 +185,7 @@ private:
                 writeLetter(letter);
             }
             const Markup::Element reached = out_.element("dd");
-            out_.text(letter.isGeneral ? "general error: " : letter.isRemark ? "remark: " : "");
+            out_.text(kindOf(letter));
             for (std::size_t i = 0; i < letter.reachedBy.size(); ++i) {
                 out_.text(i == 0 ? "" : " · ");
                 writeLink(file, letter.reachedBy[i], file.results.at(letter.reachedBy[i]).title);
@@ -190,6 +194,14 @@ private:
                 out_.text("no scenario reaches it");
             }
         }
+    }
+
+    static std::string kindOf(const Letter& letter) {
+        if (!letter.isGeneral) {
+            return letter.isRemark ? "remark: " : "";
+        }
+        const std::string_view meaning = meaningOfGeneralCode(automation::fromUtf8(letter.letter));
+        return "general error" + (meaning.empty() ? "" : ", " + std::string(meaning)) + ": ";
     }
 
     void writeScenario(const FileResult& file, std::size_t place) {
@@ -201,15 +213,16 @@ private:
         const Markup::Element scenario = out_.element("details", attributes);
         {
             const Markup::Element summary = out_.element("summary");
-            out_.leaf("span", {{"class", "title"}}, result.title);
+            out_.leaf("h3", {}, result.title);
             out_.leaf("span", {{"class", result.passed() ? "verdict good" : "verdict bad"}},
                       (result.passed() ? "✓ " : "✗ ") + lastReading(result));
         }
         for (const language::Remark& failure : result.failures) {
             out_.leaf("p", {{"class", "bad"}}, failure.in(file.file));
         }
-        for (const Attempt& attempt : result.attempts) {
-            writeAttempt(attempt);
+        for (std::size_t i = 0; i < result.attempts.size(); ++i) {
+            writeAttempt(result.attempts[i],
+                         file.name() + ", " + result.title + (i == 0 ? "" : ", check " + std::to_string(i + 1)) + ": ");
         }
         out_.leaf("p", {{"class", "quiet"}},
                   (result.calls == 0 ? "" : counted(result.calls, "call") + ", ") + inMilliseconds(result.time) +
@@ -222,7 +235,8 @@ private:
         return last == result.attempts.rend() ? "nothing read" : last->reading->display();
     }
 
-    void writeAttempt(const Attempt& attempt) {
+    /// `place` begins the names of the pictures, for those who do not see them.
+    void writeAttempt(const Attempt& attempt, const std::string& place) {
         const Markup::Element whole = out_.element("div", {{"class", "attempt"}});
         {
             const Markup::Element told = out_.element("div");
@@ -230,7 +244,7 @@ private:
             writeReading(attempt);
         }
         if (attempt.reading) {
-            writeSlides(attempt.slide);
+            writeSlides(attempt.slide, place);
         }
     }
 
@@ -254,21 +268,21 @@ private:
         out_.text("Expected " + expected + ", read " + (isExpected && expected == read ? "the same" : read));
     }
 
-    void writeSlides(const BeforeAfter& slide) {
+    void writeSlides(const BeforeAfter& slide, const std::string& place) {
         const bool isUnchanged = slide.before == slide.after;
         const Markup::Element pair = out_.element("div", {{"class", "slides"}});
         if (isUnchanged) {
-            writeSlide(slide.before, "Before and after");
+            writeSlide(slide.before, place, "Before and after");
         } else {
-            writeSlide(slide.before, "Before");
-            writeSlide(slide.after, "After");
+            writeSlide(slide.before, place, "Before");
+            writeSlide(slide.after, place, "After");
         }
     }
 
-    void writeSlide(const Picture& picture, const std::string& words) {
+    void writeSlide(const Picture& picture, const std::string& place, const std::string& words) {
         const Markup::Element figure = out_.element("figure");
         if (!picture.bytes.empty()) {
-            gallery_.show(picture, words, out_);
+            gallery_.show(picture, place + words, out_);
         }
         out_.leaf("figcaption", {}, picture.bytes.empty() ? words + ": no slide to be seen" : words);
     }

@@ -39,10 +39,16 @@ a:focus-visible, summary:focus-visible { outline: 2px solid var(--link); outline
 details.file { margin: 0 0 .5rem; border: 1px solid var(--line); border-radius: 10px; background: var(--card); }
 summary { cursor: pointer; list-style: none; }
 summary::-webkit-details-marker { display: none; }
+summary h2, summary h3 { margin: 0; font: inherit; }
+.number::before, h3::before {
+  content: "▸"; content: "▸" / ""; display: inline-block; width: 1.1rem; color: var(--quiet); font-weight: 400;
+}
+[open] > summary .number::before, [open] > summary h3::before { content: "▾"; content: "▾" / ""; }
 .file > summary {
-  display: grid; grid-template-columns: 4.5rem minmax(0, 1fr) minmax(0, 18rem) 8rem; gap: .25rem 1rem;
+  display: grid; grid-template-columns: minmax(0, 1fr) minmax(0, 18rem) 8rem; gap: .25rem 1rem;
   align-items: center; padding: .7rem 1rem;
 }
+.file > summary h2 { display: grid; grid-template-columns: 5.5rem minmax(0, 1fr); gap: .25rem 1rem; align-items: center; }
 .number { font-weight: 650; font-variant-numeric: tabular-nums; }
 .count { justify-self: end; font-size: .9rem; font-variant-numeric: tabular-nums; white-space: nowrap; }
 .good { color: var(--good); }
@@ -63,9 +69,7 @@ summary::-webkit-details-marker { display: none; }
 .reach dd { font-size: .9rem; }
 details.scenario { border-top: 1px solid var(--line); }
 .scenario > summary { display: flex; flex-wrap: wrap; gap: .1rem .6rem; padding: .6rem 0; }
-.scenario > summary .title { flex: 1 1 16rem; min-width: 0; }
-.scenario > summary .title::before { content: "▸"; display: inline-block; width: 1.1rem; color: var(--quiet); }
-.scenario[open] > summary .title::before { content: "▾"; }
+.scenario > summary h3 { flex: 1 1 16rem; min-width: 0; }
 .verdict { font-size: .9rem; }
 .attempt { display: grid; gap: .75rem 1.5rem; margin: .25rem 0 1.25rem; }
 .moves { margin: 0; padding: .5rem .75rem; border-radius: 8px; background: var(--paper); list-style: none; }
@@ -83,8 +87,9 @@ figcaption { margin-top: .2rem; color: var(--quiet); font-size: .85rem; }
 @media (min-width: 60rem) { .attempt { grid-template-columns: minmax(0, 1fr) minmax(0, 30rem); } }
 @media (max-width: 46rem) {
   .file > summary { grid-template-columns: minmax(0, 1fr) auto; }
-  .file > summary .subject, .file > summary .letters { grid-column: 1 / -1; }
-  .file > summary .count { grid-row: 1; grid-column: 2; }
+  .file > summary h2, .file > summary .letters { grid-column: 1 / -1; }
+  .file > summary h2 { grid-row: 1; grid-template-columns: minmax(0, 1fr); }
+  .file > summary .count { grid-row: 1; grid-column: 2; align-self: start; }
 }
 @media print { details.file { break-inside: avoid; } }
 )css";

@@ -19,7 +19,7 @@ constexpr std::u16string_view builtName = u"cours.ppt";
 
 } // namespace
 
-Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) {
+Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) : isBuilt_(true) {
     const WorldPtr world = makeWorld(nullptr);
     const std::u16string folder = world->hostFolder();
     const std::u16string built = folder + std::u16string(builtName);
@@ -47,7 +47,7 @@ Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) 
     }
 }
 
-Course::Course(const std::filesystem::path& folder, std::int32_t question) {
+Course::Course(const std::filesystem::path& folder, std::int32_t question) : isBuilt_(false) {
     const std::u16string number = automation::decimal(question);
     const std::u16string wanted = std::u16string(courseNumber) + number + u".ppt";
     bool isFound = false;

@@ -2,20 +2,15 @@
 
 #include "automation/LateBound.h"
 #include "host/language/Parser.h"
-#include "host/try/SavedScenario.h"
+#include "host/language/Writer.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace host {
 
-namespace {
-
-using language::Check;
 using language::Statement;
-
-bool isCheck(const Statement& statement) {
-    return std::holds_alternative<Check>(statement.node);
-}
-
-} // namespace
 
 Attempt::Attempt(std::int32_t question, const Course& course, const WorldMaker& makeWorld)
     : world_(makeWorld(nullptr)), guard_(*world_), exercise_(*world_, course, question, guard_) {
@@ -24,22 +19,49 @@ Attempt::Attempt(std::int32_t question, const Course& course, const WorldMaker& 
 
 void Attempt::perform(Statement move) {
     exercise_.execute(move);
-    moves_.push_back(std::move(move));
+    steps_.push_back({std::move(move), true});
 }
 
 Reading Attempt::check() {
     Reading reading = exercise_.check();
-    moves_.push_back(language::parseStatement(checkOf(reading)));
+    for (const std::u16string& line : language::checkOf(reading)) {
+        remember(language::parseStatement(line));
+    }
+    ++checks_;
     return reading;
 }
 
-std::size_t Attempt::checks() const {
-    return static_cast<std::size_t>(std::count_if(moves_.begin(), moves_.end(), isCheck));
+void Attempt::remember(Statement expectation) {
+    if (!std::holds_alternative<language::Check>(expectation.node)) {
+        try {
+            exercise_.execute(expectation);
+        } catch (const language::Failure&) {
+            return; // where there is no question any more, nothing can be read of it
+        }
+    }
+    steps_.push_back({std::move(expectation), false});
+}
+
+std::size_t Attempt::moves() const {
+    return static_cast<std::size_t>(std::count_if(steps_.begin(), steps_.end(), std::mem_fn(&Step::isMove)));
+}
+
+std::vector<std::u16string> Attempt::statements() const {
+    std::vector<std::u16string> all;
+    for (const Step& step : steps_) {
+        all.push_back(step.statement.text);
+    }
+    return all;
 }
 
 std::vector<Statement> Attempt::takeMoves() {
-    std::vector<Statement> taken = std::exchange(moves_, {});
-    std::erase_if(taken, isCheck);
+    std::vector<Statement> taken;
+    checks_ = 0;
+    for (Step& step : std::exchange(steps_, {})) {
+        if (step.isMove) {
+            taken.push_back(std::move(step.statement));
+        }
+    }
     return taken;
 }
 

@@ -20,9 +20,11 @@ public:
     /// One TestePoint, remembered as the check that it passes.
     [[nodiscard]] Reading check();
 
-    /// The moves, checks among them, in order.
-    [[nodiscard]] const std::vector<language::Statement>& moves() const noexcept { return moves_; }
-    [[nodiscard]] std::size_t checks() const;
+    /// How many moves were made, and how often was checked.
+    [[nodiscard]] std::size_t moves() const;
+    [[nodiscard]] std::size_t checks() const noexcept { return checks_; }
+    /// The statements of a scenario in which the same happens.
+    [[nodiscard]] std::vector<std::u16string> statements() const;
     /// The moves without the checks, to be made once more; none are left here.
     [[nodiscard]] std::vector<language::Statement> takeMoves();
 
@@ -34,10 +36,19 @@ public:
     [[nodiscard]] std::vector<std::string> close();
 
 private:
+    struct Step {
+        language::Statement statement;
+        bool isMove = false; ///< else it is of a check
+    };
+
+    /// Keeps what a check expects, as far as it can be read.
+    void remember(language::Statement expectation);
+
     WorldPtr world_;
     Guard guard_;
     Exercise exercise_;
-    std::vector<language::Statement> moves_;
+    std::vector<Step> steps_;
+    std::size_t checks_ = 0;
 };
 
 } // namespace host

@@ -2,6 +2,7 @@
 
 #include "automation/LateBound.h"
 #include "automation/Text.h"
+#include "host/language/Words.h"
 
 #include <ostream>
 
@@ -37,10 +38,8 @@ std::string textOf(const LateBound& shape) {
     if (!shape.get(u"HasTextFrame").to<bool>()) {
         return {};
     }
-    auto text = part(part(shape, u"TextFrame"), u"TextRange").get(u"Text").to<std::u16string>();
-    std::replace_if(
-        text.begin(), text.end(), [](char16_t c) { return c < u' '; }, u'/');
-    return text.empty() ? "" : ": " + toUtf8(text.substr(0, most)) + (text.size() > most ? "..." : "");
+    const auto text = part(part(shape, u"TextFrame"), u"TextRange").get(u"Text").to<std::u16string>();
+    return text.empty() ? "" : ": " + onOneLine(beginningOf(text, most)) + (text.size() > most ? "..." : "");
 }
 
 void printSlide(const LateBound& slide, std::int32_t number, std::ostream& out) {

@@ -3,17 +3,15 @@
 #include "automation/MemberTable.h"
 #include "automation/Text.h"
 #include "host/language/Parser.h"
+#include "host/language/Writer.h"
 #include "host/try/Completion.h"
 #include "host/try/Contents.h"
 #include "host/try/Immediate.h"
-#include "host/try/SavedScenario.h"
 #include "host/try/Trouble.h"
 #include "host/try/Verdict.h"
+#include "host/world/RealFile.h"
 
-#include <filesystem>
-#include <fstream>
 #include <iomanip>
-#include <iterator>
 #include <ostream>
 
 namespace host {
@@ -41,17 +39,13 @@ fs::path pathOf(const std::string& name) {
     return fs::path(fromUtf8(name));
 }
 
-/// Writes a file, which must not be there unless it may be replaced.
-void writeFile(const std::string& name, const Bytes& content, bool replaces) {
+/// Writes a file by a verb, which replaces one that is there already only where it ends with an exclamation mark.
+void writeBy(const std::string& verb, const std::string& name, std::string_view content) {
     const fs::path path = pathOf(name);
-    if (!replaces && fs::exists(path)) {
-        throw std::runtime_error(name + " is there already: name another file, or say save! to replace it");
+    if (!verb.ends_with('!') && fs::exists(path)) {
+        throw std::runtime_error(name + " is there already: name another file, or say " + verb + "! to replace it");
     }
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    std::copy(content.begin(), content.end(), std::ostreambuf_iterator<char>(file));
-    if (!file.flush()) {
-        throw std::runtime_error(name + " cannot be written: is there such a folder, and may you write there?");
-    }
+    writeContents(path, content);
 }
 
 /// True for an `expect error` whose statement is still to come.
@@ -67,16 +61,18 @@ const std::vector<Conversation::Verb>& Conversation::verbs() {
         {"Set", "s = ActivePresentation.Slides(1).Shapes(2)", "moves are stated as in a macro", nullptr},
         {"s.Left", "= 20", "", nullptr},
         {"?s.Left", "", "prints a value, or what an object is", nullptr},
-        {"members", "s", "lists the members of an object", &Conversation::members, true},
+        {"members", "s", "lists the members of an object", &Conversation::members, Rest::Something},
         {"show", "", "lists the slides and shapes as they are now", &Conversation::show},
-        {"check", "", "asks for the verdict, and explains what the host reads", &Conversation::check},
+        {"check", "", "asks for the verdict, and explains what the host reads", &Conversation::check, Rest::Anything},
         {"check", "success", "asks for the verdict, and says whether it is this one", nullptr},
         {"undo", "", "goes back to the question as it was prepared", &Conversation::undo},
         {"again", "", "prepares the question anew and makes the moves once more", &Conversation::again},
         {"save", "mine.scn", "writes moves and checks as a scenario (save! replaces a file)", &Conversation::save,
-         true},
-        {"save!", "mine.scn", "", &Conversation::saveOver, true},
-        {"export", "mine.ppt", "writes the presentation as it is now", &Conversation::exportTo, true},
+         Rest::Something},
+        {"save!", "mine.scn", "", &Conversation::saveOver, Rest::Something},
+        {"export", "mine.ppt", "writes the presentation as it is now (export! replaces a file)",
+         &Conversation::exportTo, Rest::Something},
+        {"export!", "mine.ppt", "", &Conversation::exportOver, Rest::Something},
         {"help", "", "says this", &Conversation::help},
         {"quit", "", "closes the question; so do exit and the end of the input", &Conversation::quit},
         {"exit", "", "", &Conversation::quit},
@@ -135,20 +131,26 @@ bool Conversation::close() {
     return findings.empty();
 }
 
-void Conversation::obey(const std::string& line) {
-    const std::size_t stop = std::min(line.find(' '), line.size());
-    const std::string word = line.substr(0, stop);
-    const std::string rest = trimmed(line.substr(stop));
+const Conversation::Verb* Conversation::verbOf(const std::string& word) {
     const auto& all = verbs();
-    const auto verb = std::find_if(all.begin(), all.end(), [&](const Verb& each) {
-        return each.act != nullptr && each.name == word && (each.takesRest || rest.empty());
+    const auto found = std::find_if(all.begin(), all.end(), [&](const Verb& each) {
+        return each.act != nullptr && automation::equalIgnoringCase(fromUtf8(each.name), fromUtf8(word));
     });
+    return found == all.end() ? nullptr : &*found;
+}
+
+void Conversation::obey(const std::string& line) {
+    const std::size_t stop = std::min(line.find_first_of(" \t\""), line.size());
+    const std::string rest = trimmed(line.substr(stop));
+    const Verb* const verb = rest.starts_with('=') ? nullptr : verbOf(line.substr(0, stop));
     try {
         if (line.starts_with('?')) {
             print(" " + line.substr(1)); // columns count in the line
-        } else if (verb != all.end() && verb->takesRest && rest.empty()) {
+        } else if (verb != nullptr && verb->takes == Rest::Something && rest.empty()) {
             out_ << "For example: " << verb->name << ' ' << verb->rest << '\n';
-        } else if (verb != all.end()) {
+        } else if (verb != nullptr && verb->takes == Rest::Nothing && !rest.empty()) {
+            out_ << "Nothing stands behind " << verb->name << '\n';
+        } else if (verb != nullptr) {
             (this->*verb->act)(rest);
         } else if (!line.empty() && line.front() != '#' && line.front() != '\'') {
             perform(line);
@@ -196,8 +198,16 @@ void Conversation::judge(const Expectation* expected) {
     }
 }
 
+void Conversation::check(const std::string& expected) {
+    if (expected.empty()) {
+        judge(nullptr);
+    } else {
+        perform("check " + expected);
+    }
+}
+
 void Conversation::undo(const std::string& /*rest*/) {
-    const std::size_t made = attempt_->takeMoves().size();
+    const std::size_t made = attempt_->moves();
     begin();
     out_ << "The question is prepared anew, without the " << howMany(made, "move") << " made.\n";
 }
@@ -234,23 +244,29 @@ void Conversation::members(const std::string& expression) {
     out_ << "  " << row << '\n';
 }
 
-void Conversation::saveAs(const std::string& rest, bool replaces) {
+void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     const std::size_t quote = std::min(rest.find('"'), rest.size());
     const std::string name = trimmed(rest.substr(0, quote));
+    if (name.empty()) {
+        throw std::runtime_error("A title stands behind the name of a file: " + verb + " mine.scn " + rest);
+    }
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    const std::string text = scenarioText(file_, title, attempt_->moves());
-    writeFile(name, Bytes(text.begin(), text.end()), replaces);
-    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with "
-         << howMany(attempt_->moves().size() - attempt_->checks(), "move") << " and "
-         << howMany(attempt_->checks(), "check") << ".\n";
+    writeBy(verb, name, language::scenarioText(file_, title, attempt_->statements()));
+    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << howMany(attempt_->moves(), "move")
+         << " and " << howMany(attempt_->checks(), "check") << ".\n";
     if (attempt_->checks() == 0) {
         out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
     }
+    if (!course_.isBuilt()) {
+        out_ << "The moves were made on the course's own files; verify will judge it on the presentation that the "
+                "scenario file builds.\n";
+    }
 }
 
-void Conversation::exportTo(const std::string& file) {
-    writeFile(file, attempt_->presentation(), true);
+void Conversation::exportBy(const std::string& verb, const std::string& file) {
+    const Bytes content = attempt_->presentation();
+    writeBy(verb, file, std::string(content.begin(), content.end()));
     out_ << "The presentation is in " << file << ".\n";
 }
 
@@ -267,7 +283,8 @@ void Conversation::help(const std::string& /*rest*/) {
 std::vector<std::string> Conversation::completions(const std::string& line) {
     std::vector<std::string> words;
     for (const Verb& verb : verbs()) {
-        if (verb.act != nullptr && !line.empty() && verb.name.starts_with(line)) {
+        if (verb.act != nullptr && !line.empty() &&
+            automation::equalIgnoringCase(fromUtf8(verb.name.substr(0, line.size())), fromUtf8(line))) {
             words.emplace_back(verb.name);
         }
     }

@@ -20,14 +20,19 @@ public:
     [[nodiscard]] bool run();
 
 private:
+    /// What may stand behind a verb.
+    enum class Rest : std::uint8_t { Nothing, Something, Anything };
+
     struct Verb {
         std::string_view name;
         std::string_view rest; ///< of its example in the help
         std::string_view what;
         void (Conversation::*act)(const std::string& rest); ///< null for what is no verb: statements, `?`
-        bool takesRest = false;
+        Rest takes = Rest::Nothing;
     };
     static const std::vector<Verb>& verbs();
+    /// Null for a word that is none; in any case, as all words are.
+    static const Verb* verbOf(const std::string& word);
 
     /// Prepares the question in the place of what is being tried. Where that raises, the conversation is over.
     void begin();
@@ -37,15 +42,17 @@ private:
     void print(const std::string& expression);
     void judge(const Expectation* expected);
 
-    void check(const std::string&) { judge(nullptr); }
+    void check(const std::string& expected);
     void undo(const std::string&);
     void again(const std::string&);
     void show(const std::string&);
     void members(const std::string& expression);
-    void save(const std::string& rest) { saveAs(rest, false); }
-    void saveOver(const std::string& rest) { saveAs(rest, true); }
-    void saveAs(const std::string& rest, bool replaces);
-    void exportTo(const std::string& file);
+    void save(const std::string& rest) { saveBy("save", rest); }
+    void saveOver(const std::string& rest) { saveBy("save!", rest); }
+    void saveBy(const std::string& verb, const std::string& rest);
+    void exportTo(const std::string& file) { exportBy("export", file); }
+    void exportOver(const std::string& file) { exportBy("export!", file); }
+    void exportBy(const std::string& verb, const std::string& file);
     void help(const std::string&);
     void quit(const std::string&) { isOver_ = true; }
 

@@ -3,6 +3,7 @@
 #include "automation/Error.h"
 #include "automation/Object.h"
 #include "automation/Text.h"
+#include "host/language/Words.h"
 
 namespace host {
 
@@ -34,13 +35,13 @@ std::string printed(const ObjectPtr& object) {
     const std::u16string className = object->className();
     std::string text = className.empty() ? "an object" : automation::toUtf8(className);
     if (const auto name = plainProperty(*object, u"Name")) {
-        return text + " " + automation::toUtf8(name->display());
+        return text + " " + onOneLine(name->display());
     }
     if (const auto value = plainProperty(*object, {})) {
-        return text + " " + automation::toUtf8(value->display());
+        return text + " " + onOneLine(value->display());
     }
     if (const auto count = plainProperty(*object, u"Count")) {
-        return text + " of " + automation::toUtf8(count->display());
+        return text + " of " + onOneLine(count->display());
     }
     return text;
 }
@@ -50,12 +51,12 @@ std::string printed(const Value& value) {
         return printed(value.as<ObjectPtr>());
     }
     if (value.is<automation::Array>()) {
-        return automation::toUtf8(value.display());
+        return onOneLine(value.display());
     }
     if (value.isMissing()) {
         return "Missing";
     }
-    std::string text = automation::toUtf8(value.to<std::u16string>());
+    std::string text = onOneLine(value.to<std::u16string>());
     return isNumber(value) && !text.starts_with('-') ? " " + text : text;
 }
 

@@ -1,6 +1,7 @@
 #include "host/try/Verdict.h"
 
 #include "automation/Text.h"
+#include "host/run/GeneralCode.h"
 
 #include <ostream>
 
@@ -10,34 +11,13 @@ namespace {
 
 using automation::toUtf8;
 
-struct GeneralCode {
-    std::u16string_view code;
-    std::string_view meaning;
-};
-
-constexpr auto generalCodes = std::to_array<GeneralCode>({
-    {u"AK", "PowerPoint is gone, or not to be seen"},
-    {u"%AL", "PowerPoint does not answer"},
-    {u"AM", "PowerPoint's main window is gone"},
-    {u"A", "the working presentation is not open"},
-    {u"C", "a slide that was prepared is missing"},
-    {u"D", "the slides are not as many as were prepared, or the same preparation was checked before"},
-    {u"E", "the slides are not in their order"},
-    {u"F", "the presentation that is open lies in another folder"},
-    {u"G", "the working presentation is not the active one"},
-});
-
 std::string meaningOf(const Reading& reading) {
     if (reading.error && reading.error->number() != 0) {
         return "The module has failed: the host reads no verdict.";
     }
     if (reading.erreurGenerale) {
-        const auto* const found = std::find_if(generalCodes.begin(), generalCodes.end(), [&](const GeneralCode& each) {
-            return each.code == reading.causeErreur;
-        });
-        return found == generalCodes.end()
-                   ? std::string("The question's own checks were not made.")
-                   : "The question's own checks were not made: " + std::string(found->meaning) + ".";
+        const std::string_view meaning = meaningOfGeneralCode(reading.causeErreur);
+        return "The question's own checks were not made" + (meaning.empty() ? "" : ": " + std::string(meaning)) + ".";
     }
     if (reading.error || reading.causeErreur.empty()) {
         return "The learner has done what is asked.";

@@ -17,6 +17,7 @@ from selenium.webdriver.common.by import By
 SIZES = {"phone": (390, 844, True), "desk": (1280, 800, False)}
 LEAST_CONTRAST = 4.5
 LOOK = pathlib.Path(__file__).with_name("look.js").read_text(encoding="utf-8")
+PICTURES = pathlib.Path(__file__).resolve().parents[2] / "docs/pictures"
 MOST_BYTES = 8_000_000
 # A scenario that falls short, with all that could break a page or XML in its title, its moves and its slide.
 TROUBLE = """# Trouble <b>&amp; "quotes"</b>
@@ -75,6 +76,20 @@ def look(driver, page, name):
     check(f"{name}: the browser has nothing to say", messages)
 
 
+def listen(driver, name, files, scenarios):
+    """What a screen reader finds on a page with everything unfolded: a heading for each row, and no two pictures of one name."""
+    nodes = driver.execute_cdp_cmd("Accessibility.getFullAXTree", {})["nodes"]
+    found = [(node["role"]["value"], node.get("name", {}).get("value", ""),
+              next((each["value"]["value"] for each in node["properties"] if each["name"] == "level"), None))
+             for node in nodes if not node["ignored"]]
+    levels = [level for role, _, level in found if role == "heading"]
+    check(f"{name}: headings of questions and scenarios",
+          "" if (levels.count(2), levels.count(3)) == (files, scenarios) else (levels.count(2), levels.count(3)))
+    pictures = [words for role, words, _ in found if role in ("image", "img")]
+    check(f"{name}: every picture has a name of its own", [words for words in set(pictures) if pictures.count(words) > 1][:5])
+    check(f"{name}: there are pictures", "" if len(pictures) >= scenarios else len(pictures))
+
+
 def verify(host, folder, *arguments, good=True):
     names = {"--report": folder / "page.html", "--junit": folder / "junit.xml", "--json": folder / "report.json"}
     asked = [str(part) for pair in names.items() for part in pair]
@@ -98,11 +113,17 @@ def all_questions(driver, host, folder):
     check("every letter is reached",
           [(file["question"], letter["letter"]) for file in data["files"] for letter in file["letters"] if not letter["reachedBy"]])
     look(driver, page, "all questions")
+    listen(driver, "all questions", len(data["files"]), scenarios)
     rows = driver.find_elements(By.CSS_SELECTOR, "details.file > summary")
     numbers = [row.find_element(By.CSS_SELECTOR, ".number").text for row in rows]
     check("a row for every question", sorted(set(map(str, range(301, 324))) - set(numbers)))
     shown = driver.execute_script("return document.querySelectorAll('details.scenario').length")
     check("every scenario is on the page", "" if shown == passed else shown)
+    check("every row shows whether it is folded", driver.execute_script(
+        "const marks = (open) => [...document.querySelectorAll('details')].map((one) => ((one.open = open),"
+        "  getComputedStyle(one.querySelector(':scope > summary .number, :scope > summary h3'), '::before').content));"
+        "const unfolded = marks(true); const folded = marks(false);"
+        "return folded.filter((mark, at) => mark === unfolded[at] || mark === 'none')"))
     check("a link unfolds what it leads to", driver.execute_script(
         "document.querySelectorAll('details').forEach((one) => (one.open = false));"
         "const link = document.querySelector('#q0315 dd a'); location.hash = link.getAttribute('href');"
@@ -133,6 +154,9 @@ def pictures(host, folder):
         before, after = (xml.parse(folder / question / name).getroot() for name in ("before.svg", "after.svg"))
         same = xml.tostring(before) == xml.tostring(after)
         check(f"pictures of {question}", ran.stderr or ("nothing has changed" if same else ""))
+    for name in ("before", "after"):
+        shown = (PICTURES / f"308-{name}.svg").read_bytes()
+        check(f"308 {name} in the README", "" if shown == (folder / f"308/{name}.svg").read_bytes() else "another picture")
 
 
 def main(host):

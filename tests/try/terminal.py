@@ -1,0 +1,97 @@
+"""Types lines at a terminal of `exercise-host try`, as a course author does, in a locale that knows no accents.
+
+terminal.py EXERCISE-HOST: ends with a line "N passed, N failed".
+"""
+import os
+import pty
+import re
+import select
+import signal
+import sys
+import time
+
+PATIENCE = 120  # seconds for an answer
+PROMPT = "314> "
+TAB, UP, LEFT, INTERRUPT = "\t", "\x1b[A", "\x1b[D", "\x03"
+CLOSED = "everything is as it was before."
+
+results = []
+
+
+def check(name, wrong):
+    results.append(not wrong)
+    if wrong:
+        print(f"{name}: {wrong}")
+
+
+class Terminal:
+    """A terminal with a conversation in it."""
+
+    def __init__(self, host):
+        self.seen = ""
+        self.process, self.terminal = pty.fork()
+        if self.process == 0:
+            os.environ.update(LC_ALL="C", TERM="xterm", COLUMNS="200")
+            os.execv(host, [host, "try", "314"])
+
+    def type(self, keys):
+        self.seen = ""
+        os.write(self.terminal, keys.encode())
+
+    def wait_for(self, text):
+        """What is printed up to a text, since something was typed, without what moves the cursor."""
+        end = time.monotonic() + PATIENCE
+        while text not in self.plain():
+            if time.monotonic() > end or not select.select([self.terminal], [], [], PATIENCE)[0]:
+                raise TimeoutError(f"no {text!r} in {self.plain()!r}")
+            try:
+                self.seen += os.read(self.terminal, 65536).decode("utf-8", "replace")
+            except OSError:  # the program has ended
+                if text not in self.plain():
+                    raise
+        return self.plain()
+
+    def plain(self):
+        return re.sub(r"\x1b\[[0-9;?]*[A-Za-z]|\x1b[=>]", "", self.seen)
+
+    def answer(self, keys):
+        """What is printed behind a line that is typed, up to the next prompt."""
+        self.type(keys + "\r")
+        return self.wait_for("\n" + PROMPT).split("\n", 1)[1]
+
+    def end(self):
+        """The exit code, once the program has ended."""
+        end = time.monotonic() + PATIENCE
+        while time.monotonic() < end:
+            ended, status = os.waitpid(self.process, os.WNOHANG)
+            if ended:
+                return os.waitstatus_to_exitcode(status)
+            time.sleep(0.05)
+        os.kill(self.process, signal.SIGKILL)
+        os.waitpid(self.process, 0)
+        return "none: the program goes on"
+
+
+def expect(terminal, name, keys, wanted):
+    answered = terminal.answer(keys)
+    check(name, "" if wanted in answered else f"{keys!r} is answered {answered!r}")
+
+
+def main(host):
+    terminal = Terminal(host)
+    terminal.wait_for(PROMPT)
+    expect(terminal, "Tab completes a member", "?ActivePresentation.Sli" + TAB + ".Count", " 1")
+    expect(terminal, "Tab completes what stands in parentheses", "?ActivePresentation.Slides(1).Sha" + TAB, "Shapes of 3")
+    expect(terminal, "an arrow brings back a line", UP, "Shapes of 3")
+    expect(terminal, "and the one before", UP + UP, " 1")
+    expect(terminal, "a line is edited", '?"ac"' + LEFT + LEFT + "b", "abc")
+    expect(terminal, "accents arrive", '?"créer é"', "créer é")
+    terminal.type("?ActivePresentation.Slides" + INTERRUPT)
+    terminal.wait_for(CLOSED)
+    check("Ctrl-C closes the question", "" if (code := terminal.end()) == 0 else f"exit code {code}")
+    print(f"{sum(results)} passed, {len(results) - sum(results)} failed")
+    return 0 if all(results) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1]))
