@@ -1,4 +1,5 @@
 #include "host/command/Telling.h"
+#include "host/language/Words.h"
 
 #include "automation/Text.h"
 
@@ -14,10 +15,6 @@ std::string listed(const std::vector<std::u16string>& texts) {
         all += (i == 0 ? "" : i + 1 == texts.size() ? " and " : ", ") + toUtf8(texts[i]);
     }
     return all;
-}
-
-std::string counted(std::size_t number, const std::string& what) {
-    return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
 /// `marked ZOR1 to ZOR4`; empty where nothing is.
