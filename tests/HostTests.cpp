@@ -241,6 +241,7 @@ TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
     const auto clock = [&] { return now; };
     std::ostringstream plain;
     std::ostringstream terminal;
+    const std::string dashes(68, '-');
     {
         Progress plainly(plain, false, clock);
         Progress rewriting(terminal, true, clock);
@@ -250,15 +251,14 @@ TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
             rewriting.at(place, step, 30);
         };
         at(std::chrono::milliseconds(99), "too early", 1);
-        at(std::chrono::milliseconds(1), std::string(70, '-') + "é😀 goes on", 2);
+        at(std::chrono::milliseconds(1), dashes + "é😀 goes on", 2);
         at(std::chrono::milliseconds(100), "é", 3);
         at(std::chrono::milliseconds(20), "too early", 4);
         at(std::chrono::seconds(30), "half a minute", 5);
     }
     EXPECT_EQ(plain.str(), "5 of 30: half a minute\n");
-    const std::string blanks(69, ' ');
-    EXPECT_EQ(terminal.str(), "\r2 of 30: " + std::string(69, '-') + "-" + "\r3 of 30: é" + blanks +
-                                  "\r5 of 30: half a minute" + "\r" + std::string(22, ' ') + "\r");
+    EXPECT_EQ(terminal.str(), "\r2 of 30: " + dashes + "é\r3 of 30: é" + std::string(68, ' ') +
+                                  "\r5 of 30: half a minute\r" + std::string(22, ' ') + "\r");
 }
 
 TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
