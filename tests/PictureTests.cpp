@@ -106,6 +106,7 @@ TEST_F(PictureTest, ShadowAndDepthLieBehindTheirShape) {
                                          "fill=\"#990000\"", "fill=\"#ff0000\""}));
     say(box, u"Flip", std::int32_t{msoFlipHorizontal});
     EXPECT_TRUE(holdsInOrder(picture(), {"translate(21 -21) translate(400 0) scale(-1 1)"}));
+    say(box, u"Flip", std::int32_t{msoFlipHorizontal});
     ask(box, u"Fill").put(u"Visible", std::int32_t{msoFalse});
     depth.put(u"Visible", std::int32_t{msoFalse});
     shadow.put(u"Visible", std::int32_t{msoFalse});

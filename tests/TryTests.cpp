@@ -149,16 +149,19 @@ TEST_F(TryTest, TheEndOfTheInputLeavesNothingBehindAndWhatIsLeftIsSaid) {
 }
 
 TEST_F(TryTest, ASavedScenarioExpectsAllThatTheHostReads) {
-    const std::string said = talk("Set t = ActivePresentation.Slides(1).Shapes(1).TextFrame.TextRange\n"
-                                  "t.Text = \"créer créer créer créer\"\ncheck\ncheck\nHost.Fermer\ncheck\n"
-                                  "save " +
+    const std::string said = talk("Set deck = ActivePresentation.Slides\n"
+                                  "deck(1).Shapes(2).TextFrame.TextRange.Text = \"Bien créer une présentation\"\n"
+                                  "deck(2).Shapes(2).TextFrame.TextRange.Paragraphs(2).Words(1).Text = \"créer \"\n"
+                                  "deck(3).Shapes(2).TextFrame.TextRange.Paragraphs(2).Words(6).Text = \"créer\"\n"
+                                  "deck(4).Shapes(1).TextFrame.TextRange.Words(6).Text = \"créer \"\n"
+                                  "check\ncheck\nHost.Fermer\ncheck\nsave " +
                                       file("mine.scn") + " \"so \"well\" done\"\n",
                                   ExitCode::Good, "306");
-    EXPECT_NE(said.find("with 3 moves and 3 checks.\n"), std::string::npos) << said;
+    EXPECT_NE(said.find("with 6 moves and 3 checks.\n"), std::string::npos) << said;
     const std::string text = contentOf("mine.scn");
     EXPECT_NE(text.find("scenario \"so \"\"well\"\" done\"\n"), std::string::npos) << text;
     EXPECT_NE(text.find("  check remark \"F\"\n  check general \"D\"\n  expect Host.BravoNuance = True\n"
-                        "  Host.Fermer\n  check error 91\n"),
+                        "  Host.Fermer\n  check general \"A\"\n"),
               std::string::npos)
         << text;
     EXPECT_EQ(verify(file("mine.scn")), "1 passed, 0 failed\n");
