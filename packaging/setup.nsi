@@ -38,6 +38,28 @@ VIAddVersionKey LegalCopyright ""
 LangString NotRegistered ${LANG_ENGLISH} "The library could not be registered; nothing is installed. regsvr32 ended with"
 LangString NotRegistered ${LANG_FRENCH} "L'enregistrement a échoué ; rien n'est installé. Code de regsvr32 :"
 
+LangString InUse ${LANG_ENGLISH} "is in use; nothing has been changed. End the training host, and start again."
+LangString InUse ${LANG_FRENCH} "est utilisé ; rien n'a été modifié. Fermez le logiciel de formation et recommencez."
+
+; Ends with exit code 2 where a program of FOLDER runs or a library of it is loaded: what is in use can be neither replaced
+; nor removed. Open to writing is what nobody has loaded.
+!macro DEMAND_FREE FOLDER
+    !insertmacro DEMAND_FREE_FILE "${FOLDER}\x86\K73053.dll"
+    !insertmacro DEMAND_FREE_FILE "${FOLDER}\x64\K73053.dll"
+    !insertmacro DEMAND_FREE_FILE "${FOLDER}\tools\exercise-host.exe"
+!macroend
+!macro DEMAND_FREE_FILE FILE
+    ${If} ${FileExists} "${FILE}"
+        ClearErrors
+        FileOpen $1 "${FILE}" a
+        ${If} ${Errors}
+            SetErrorLevel 2
+            Abort "${FILE} $(InUse)"
+        ${EndIf}
+        FileClose $1
+    ${EndIf}
+!macroend
+
 ; Call ${PREFIX}Register: with "" or "/u " in $1, registers the libraries for whom the installation is, or takes that back.
 ; Leaves 0 in $0 where both have done it, otherwise the exit code of the one that has not.
 !macro DEFINE_REGISTER PREFIX
@@ -61,7 +83,7 @@ LangString NotRegistered ${LANG_FRENCH} "L'enregistrement a échoué ; rien n'es
 !macro REMOVE_FILES
     SetOutPath $TEMP ; a current folder cannot be removed
     !include "${REMOVE}"
-    Delete /REBOOTOK "$INSTDIR\uninstall.exe"
+    Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
 !macroend
 
@@ -91,11 +113,18 @@ Function un.onInit
 FunctionEnd
 
 Section
-    ; Another version makes room, wherever it is.
+    !insertmacro DEMAND_FREE $INSTDIR
+    ; Another version makes room, wherever it is; it refuses where it is in use itself.
     ReadRegStr $0 SHCTX "${ENTRY}" "InstallLocation"
     ${If} $0 != ""
     ${AndIf} ${FileExists} "$0\uninstall.exe"
-        ExecWait '"$0\uninstall.exe" /S _?=$0'
+        !insertmacro DEMAND_FREE $0
+        StrCpy $1 2 ; where it does not even start
+        ExecWait '"$0\uninstall.exe" /S _?=$0' $1
+        ${If} $1 != 0
+            SetErrorLevel 2
+            Abort "$0 $(InUse)"
+        ${EndIf}
         Delete "$0\uninstall.exe"
         RMDir "$0"
     ${EndIf}
@@ -126,6 +155,7 @@ Section
 SectionEnd
 
 Section Uninstall
+    !insertmacro DEMAND_FREE $INSTDIR
     StrCpy $1 "/u "
     Call un.Register
     !insertmacro REMOVE_FILES
