@@ -83,7 +83,7 @@ def main(host):
     expect(terminal, "Tab completes a member", "?ActivePresentation.Sli" + TAB + ".Count", " 1")
     expect(terminal, "Tab completes what stands in parentheses", "?ActivePresentation.Slides(1).Sha" + TAB, "Shapes of 3")
     expect(terminal, "an arrow brings back a line", UP, "Shapes of 3")
-    expect(terminal, "and the one before", UP + UP, " 1")
+    expect(terminal, "and the first one, behind what was typed twice", UP + UP + UP, " 1")
     expect(terminal, "a line is edited", '?"ac"' + LEFT + LEFT + "b", "abc")
     expect(terminal, "accents arrive", '?"créer é"', "créer é")
     terminal.type("?ActivePresentation.Slides" + INTERRUPT)
