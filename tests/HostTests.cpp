@@ -84,7 +84,7 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     const std::u16string copy = world->hostFolder() + u"copie";
     const std::vector<std::string> recheck = {"recheck", (folder / "eleve.ppt").string(), "--question", "306"};
     const std::vector<std::string> ofTheCourse = {"--course", folder.string()};
-    const auto judged = [&](std::vector<std::string> arguments, ExitCode expected) {
+    const auto judged = [&](const std::vector<std::string>& arguments, ExitCode expected) {
         working.call(u"SaveCopyAs", copy);
         copyOut(*world, copy + u".ppt", folder / "eleve.ppt");
         return said(arguments, expected);
