@@ -1,4 +1,5 @@
 #include "host/bench/Accesses.h"
+#include "host/language/Words.h"
 #include "tests/QuestionBench.h"
 #include "tests/TraceLog.h"
 
@@ -6,29 +7,24 @@
 
 namespace {
 
-void replaceAll(std::string& text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
-
 /// The words of a trace, one a line.
 std::string shortened(std::string trace) {
     for (int slide = 1; slide <= 5; ++slide) {
         const std::string number = std::to_string(slide);
         const std::string shapes = "Application.ActivePresentation.Slides.Item(" + number + ").Shapes";
         for (int shape = 1; shape <= 5; ++shape) {
-            replaceAll(trace, shapes + ".Item(" + std::to_string(shape) + ")", number + "/" + std::to_string(shape));
+            host::replaceAll(trace, shapes + ".Item(" + std::to_string(shape) + ")",
+                             number + "/" + std::to_string(shape));
         }
-        replaceAll(trace, shapes, number);
-        replaceAll(trace, "Application.ActivePresentation.Slides.Item(" + number + ")", "Slides(" + number + ")");
+        host::replaceAll(trace, shapes, number);
+        host::replaceAll(trace, "Application.ActivePresentation.Slides.Item(" + number + ")", "Slides(" + number + ")");
     }
-    replaceAll(trace, "Application.ActivePresentation.Slides", "Slides");
-    replaceAll(trace, ".Tags.Item(\"Identite\")", "#");
-    replaceAll(trace, ".TextFrame.TextRange", "~");
-    replaceAll(trace, "(-1, -1)", "()");
-    replaceAll(trace, ", -1)", ")");
-    replaceAll(trace, " ", "_");
+    host::replaceAll(trace, "Application.ActivePresentation.Slides", "Slides");
+    host::replaceAll(trace, ".Tags.Item(\"Identite\")", "#");
+    host::replaceAll(trace, ".TextFrame.TextRange", "~");
+    host::replaceAll(trace, "(-1, -1)", "()");
+    host::replaceAll(trace, ", -1)", ")");
+    host::replaceAll(trace, " ", "_");
     return trace;
 }
 

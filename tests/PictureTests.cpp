@@ -138,6 +138,10 @@ TEST_F(PictureTest, TextIsBrokenWhereItsBoxEndsAndKeepsItsColours) {
     EXPECT_EQ(drawn.find('\a'), std::string::npos);
     box.put(u"Width", 700);
     EXPECT_FALSE(holdsInOrder(picture(), {">Fort</text>"}));
+    const LateBound smile = text(u"a😀b", 200);
+    const LateBound half = ask(ask(ask(smile, u"TextFrame"), u"TextRange"), u"Characters", 1, 2);
+    ask(ask(half, u"Font"), u"Color").put(u"RGB", red);
+    EXPECT_TRUE(holdsInOrder(picture(), {"fill=\"#ff0000\">a😀<tspan fill=\"#000000\">b</tspan>"}));
 }
 
 TEST_F(PictureTest, WordArtFillsItsFrame) {

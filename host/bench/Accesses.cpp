@@ -1,5 +1,7 @@
 #include "host/bench/Accesses.h"
 
+#include "host/language/Words.h"
+
 #include <array>
 #include <map>
 #include <sstream>
@@ -7,12 +9,6 @@
 namespace host::bench {
 
 namespace {
-
-void replaceAll(std::string& text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
 
 /// The words of the notation, one a line.
 std::string expanded(std::string words) {

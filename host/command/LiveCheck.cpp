@@ -1,6 +1,6 @@
 #include "host/command/LiveCheck.h"
 
-#include "automation/LateBound.h"
+#include "host/world/Members.h"
 
 namespace host {
 
@@ -11,17 +11,12 @@ using automation::ObjectPtr;
 
 /// Selects the shape that question 310 looks for, where it stands on the slide by itself.
 void selectWhatIsLookedFor(World& /*world*/, const ObjectPtr& presentation) {
-    const LateBound slides(LateBound(presentation).get(u"Slides").to<ObjectPtr>());
-    const LateBound slide(slides.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
-    const LateBound shapes(slide.get(u"Shapes").to<ObjectPtr>());
-    const auto count = shapes.get(u"Count").to<std::int32_t>();
-    for (std::int32_t i = 1; i <= count; ++i) {
-        const LateBound shape(shapes.call(u"Item", i).to<ObjectPtr>());
-        const LateBound tags(shape.get(u"Tags").to<ObjectPtr>());
-        if (tags.call(u"Item", u"Identite").to<std::u16string>() == u"ZOR2") {
+    const LateBound slide = itemOf(memberOf(LateBound(presentation), u"Slides"), 1);
+    forEachItem(memberOf(slide, u"Shapes"), [](const LateBound& shape) {
+        if (memberOf(shape, u"Tags").call(u"Item", u"Identite").to<std::u16string>() == u"ZOR2") {
             shape.call(u"Select");
         }
-    }
+    });
 }
 
 void putOutlineBeside(World& world, const ObjectPtr& /*presentation*/) {

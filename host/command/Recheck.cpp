@@ -2,9 +2,9 @@
 #include "host/command/LiveCheck.h"
 #include "host/command/Options.h"
 #include "host/run/TrainingHost.h"
+#include "host/world/Members.h"
 #include "host/world/RealFile.h"
 
-#include "automation/LateBound.h"
 #include "automation/Text.h"
 
 #include <ostream>
@@ -22,12 +22,11 @@ using automation::toUtf8;
 /// what the question has kept of it lives on.
 void exchange(World& world, const Bytes& file, std::int32_t question) {
     const LateBound application(world.application());
-    const LateBound prepared(application.get(u"ActivePresentation").to<ObjectPtr>());
+    const LateBound prepared = memberOf(application, u"ActivePresentation");
     const auto path = prepared.get(u"FullName").to<std::u16string>();
     prepared.call(u"SaveAs", world.hostFolder() + u"delivered.ppt");
     world.writeFile(path, file);
-    const LateBound presentations(application.get(u"Presentations").to<ObjectPtr>());
-    const auto saved = presentations.call(u"Open", path).to<ObjectPtr>();
+    const auto saved = memberOf(application, u"Presentations").call(u"Open", path).to<ObjectPtr>();
     for (const LiveCheck& check : liveChecks()) {
         if (check.concerns(question) && check.assume != nullptr) {
             check.assume(world, saved);

@@ -3,6 +3,7 @@
 #include "host/command/Options.h"
 #include "host/command/PlainStory.h"
 #include "host/command/Telling.h"
+#include "host/language/Words.h"
 #include "host/picture/Camera.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
@@ -43,19 +44,11 @@ const Scenario& chosen(const ScenarioFile& file, const std::string& title) {
     return *found;
 }
 
-std::string complementOf(const Reading& reading) {
-    std::string all;
-    for (const std::u16string& text : reading.complement) {
-        all += (all.empty() ? "\"" : ", \"") + toUtf8(text) + "\"";
-    }
-    return all;
-}
-
 void printValues(const Reading& reading, std::ostream& out) {
     out << "\nErreurGenerale: " << (reading.erreurGenerale ? "True" : "False")
         << "\nCauseErreur: " << toUtf8(reading.causeErreur)
-        << "\nBravoNuance: " << (reading.bravoNuance ? "True" : "False") << "\nComplement: " << complementOf(reading)
-        << '\n';
+        << "\nBravoNuance: " << (reading.bravoNuance ? "True" : "False")
+        << "\nComplement: " << inQuotes(reading.complement) << '\n';
 }
 
 /// Writes what there is of a slide before and after into a folder, and answers with the files.

@@ -1,6 +1,6 @@
 #include "host/language/Expectation.h"
 
-#include "automation/Text.h"
+#include "host/language/Words.h"
 
 #include <algorithm>
 
@@ -8,18 +8,11 @@ namespace host {
 
 namespace {
 
-std::string quoted(const std::u16string& text) {
-    return "\"" + automation::toUtf8(text) + "\"";
-}
-
 std::string verdict(bool isRemark, const std::u16string& letter, const std::vector<std::u16string>& complement) {
-    std::string text = isRemark         ? "a success with the remark " + quoted(letter)
-                       : letter.empty() ? std::string("a success")
-                                        : "the letter " + quoted(letter);
-    for (std::size_t i = 0; i < complement.size(); ++i) {
-        text += (i == 0 ? " with the complement " : ", ") + quoted(complement[i]);
-    }
-    return text;
+    const std::string text = isRemark         ? "a success with the remark " + inQuotes(letter)
+                             : letter.empty() ? std::string("a success")
+                                              : "the letter " + inQuotes(letter);
+    return text + (complement.empty() ? "" : " with the complement " + inQuotes(complement));
 }
 
 } // namespace
@@ -39,7 +32,8 @@ std::string Reading::display() const {
     if (error) {
         return "the " + inWords(*error);
     }
-    return erreurGenerale ? "the general error " + quoted(causeErreur) : verdict(bravoNuance, causeErreur, complement);
+    return erreurGenerale ? "the general error " + inQuotes(causeErreur)
+                          : verdict(bravoNuance, causeErreur, complement);
 }
 
 bool ExpectedError::matches(const automation::Error& error) const {
@@ -51,7 +45,7 @@ bool ExpectedError::matches(const automation::Error& error) const {
 std::string ExpectedError::display() const {
     std::string text = "the " + inWords(automation::Error(number, {}, {}));
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        text += (i == 0 ? " from a source with " : " and ") + quoted(parts[i]);
+        text += (i == 0 ? " from a source with " : " and ") + inQuotes(parts[i]);
     }
     return text;
 }
@@ -74,7 +68,7 @@ bool Expectation::isSuccess() const noexcept {
 std::string Expectation::display() const {
     switch (kind) {
     case Kind::Error: return error.display();
-    case Kind::General: return "the general error " + quoted(letter);
+    case Kind::General: return "the general error " + inQuotes(letter);
     default: return verdict(kind == Kind::Remark, letter, complement);
     }
 }

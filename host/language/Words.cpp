@@ -27,14 +27,14 @@ std::string counted(std::size_t number, const std::string& what) {
     return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
-std::string quoted(std::u16string_view text) {
+std::string inQuotes(std::u16string_view text) {
     return "\"" + automation::toUtf8(text) + "\"";
 }
 
-std::string quoted(const std::vector<std::u16string>& texts) {
+std::string inQuotes(const std::vector<std::u16string>& texts) {
     std::string all;
     for (const std::u16string& text : texts) {
-        all += (all.empty() ? "" : ", ") + quoted(text);
+        all += (all.empty() ? "" : ", ") + inQuotes(text);
     }
     return all;
 }

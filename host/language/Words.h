@@ -11,9 +11,9 @@ namespace host {
 [[nodiscard]] std::string counted(std::size_t number, const std::string& what);
 
 /// A text in quotes.
-[[nodiscard]] std::string quoted(std::u16string_view text);
+[[nodiscard]] std::string inQuotes(std::u16string_view text);
 /// Texts in quotes, with commas between them; empty where there are none.
-[[nodiscard]] std::string quoted(const std::vector<std::u16string>& texts);
+[[nodiscard]] std::string inQuotes(const std::vector<std::u16string>& texts);
 
 /// A text on one line: control characters show as the signs that stand for them, a carriage return as `␍`.
 [[nodiscard]] std::string onOneLine(std::u16string_view text);

@@ -1,6 +1,7 @@
 #include "host/learners/Lesson.h"
 
 #include "automation/Text.h"
+#include "host/language/Words.h"
 
 #include <algorithm>
 #include <limits>
@@ -10,12 +11,6 @@
 namespace host::learners {
 
 namespace {
-
-void replaceAll(std::string& text, std::string_view what, std::string_view by) {
-    for (std::size_t place = text.find(what); place != std::string::npos; place = text.find(what, place + by.size())) {
-        text.replace(place, what.size(), by);
-    }
-}
 
 std::u16string wayOf(std::string line, std::size_t slide) {
     replaceAll(line, " | ", "\n");

@@ -1,7 +1,7 @@
 #include "host/picture/Exposure.h"
 
-#include "automation/LateBound.h"
 #include "automation/Text.h"
+#include "host/world/Members.h"
 
 #include <algorithm>
 
@@ -12,18 +12,6 @@ namespace {
 using automation::LateBound;
 using automation::ObjectPtr;
 
-LateBound memberOf(const LateBound& object, std::u16string_view name) {
-    return LateBound(object.get(name).to<ObjectPtr>());
-}
-
-LateBound item(const LateBound& collection, std::int32_t place) {
-    return LateBound(collection.call(u"Item", place).to<ObjectPtr>());
-}
-
-std::int32_t countOf(const LateBound& collection) {
-    return collection.get(u"Count").to<std::int32_t>();
-}
-
 /// The presentation that bears a full name, or the active one for no name; raises where there is none.
 LateBound presentationIn(const LateBound& application, const std::u16string& fullName) {
     if (fullName.empty()) {
@@ -31,7 +19,7 @@ LateBound presentationIn(const LateBound& application, const std::u16string& ful
     }
     const LateBound open = memberOf(application, u"Presentations");
     for (std::int32_t i = 1; i <= countOf(open); ++i) {
-        LateBound presentation = item(open, i);
+        LateBound presentation = itemOf(open, i);
         if (presentation.get(u"FullName").to<std::u16string>() == fullName) {
             return presentation;
         }
@@ -64,7 +52,7 @@ Picture pictureOf(World& world, const LateBound& slide) {
 
 std::int32_t shownIn(const LateBound& presentation, const Exposure& exposure) {
     try {
-        const LateBound window = item(memberOf(presentation, u"Windows"), 1);
+        const LateBound window = itemOf(memberOf(presentation, u"Windows"), 1);
         return memberOf(memberOf(window, u"View"), u"Slide").get(u"SlideID").to<std::int32_t>();
     } catch (const automation::Error&) {
         return exposure.slides.empty() ? 0 : exposure.slides.front().id;
@@ -124,7 +112,7 @@ Exposure expose(World& world, const std::u16string& presentation) {
         const LateBound slides = memberOf(wanted, u"Slides");
         const std::int32_t count = countOf(slides);
         for (std::int32_t i = 1; i <= count; ++i) {
-            const LateBound slide = item(slides, i);
+            const LateBound slide = itemOf(slides, i);
             exposure.slides.push_back({slide.get(u"SlideID").to<std::int32_t>(), pictureOf(world, slide)});
         }
         exposure.shown = shownIn(wanted, exposure);

@@ -1,6 +1,6 @@
 #include "host/run/Snapshot.h"
 
-#include "automation/LateBound.h"
+#include "host/world/Members.h"
 
 #include <algorithm>
 #include <iterator>
@@ -10,30 +10,17 @@ namespace host {
 namespace {
 
 using automation::LateBound;
-using automation::ObjectPtr;
 
 /// The tag by which the module knows slides and shapes again.
 constexpr std::u16string_view identityTag = u"Identite";
 
-/// Every item of a collection.
-template <typename Take> void forEach(const LateBound& collection, const Take& take) {
-    const auto count = collection.get(u"Count").to<std::int32_t>();
-    for (std::int32_t i = 1; i <= count; ++i) {
-        take(LateBound(collection.call(u"Item", i).to<ObjectPtr>()));
-    }
-}
-
-LateBound member(const LateBound& object, std::u16string_view name) {
-    return LateBound(object.get(name).to<ObjectPtr>());
-}
-
 std::u16string identityOf(const LateBound& marked) {
-    return member(marked, u"Tags").call(u"Item", identityTag).to<std::u16string>();
+    return memberOf(marked, u"Tags").call(u"Item", identityTag).to<std::u16string>();
 }
 
 SlideMarks marksOf(const LateBound& slide) {
     SlideMarks marks{identityOf(slide), {}};
-    forEach(member(slide, u"Shapes"), [&](const LateBound& shape) { marks.shapes.push_back(identityOf(shape)); });
+    forEachItem(memberOf(slide, u"Shapes"), [&](const LateBound& shape) { marks.shapes.push_back(identityOf(shape)); });
     return marks;
 }
 
@@ -43,8 +30,8 @@ OpenPresentation read(const LateBound& presentation, const Snapshot::WantsSlides
                             presentation.get(u"Saved").to<bool>(),
                             {}};
     if (!wantsSlides || wantsSlides(result.fullName)) {
-        forEach(member(presentation, u"Slides"),
-                [&](const LateBound& slide) { result.slides.push_back(marksOf(slide)); });
+        forEachItem(memberOf(presentation, u"Slides"),
+                    [&](const LateBound& slide) { result.slides.push_back(marksOf(slide)); });
     }
     return result;
 }
@@ -52,8 +39,8 @@ OpenPresentation read(const LateBound& presentation, const Snapshot::WantsSlides
 std::optional<std::vector<OpenPresentation>> presentationsIn(World& world, const Snapshot::WantsSlides& wantsSlides) {
     try {
         std::vector<OpenPresentation> all;
-        forEach(member(LateBound(world.application()), u"Presentations"),
-                [&](const LateBound& presentation) { all.push_back(read(presentation, wantsSlides)); });
+        forEachItem(memberOf(LateBound(world.application()), u"Presentations"),
+                    [&](const LateBound& presentation) { all.push_back(read(presentation, wantsSlides)); });
         return all;
     } catch (const automation::Error&) {
         return std::nullopt;

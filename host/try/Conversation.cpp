@@ -3,6 +3,7 @@
 #include "automation/MemberTable.h"
 #include "automation/Text.h"
 #include "host/language/Parser.h"
+#include "host/language/Words.h"
 #include "host/language/Writer.h"
 #include "host/try/Completion.h"
 #include "host/try/Contents.h"
@@ -28,10 +29,6 @@ std::string trimmed(const std::string& text) {
     constexpr const char* blanks = " \t\r";
     const std::size_t first = std::min(text.find_first_not_of(blanks), text.size());
     return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
-
-std::string howMany(std::size_t number, const std::string& what) {
-    return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
 /// A file as the author names it.
@@ -209,7 +206,7 @@ void Conversation::check(const std::string& expected) {
 void Conversation::undo(const std::string& /*rest*/) {
     const std::size_t made = attempt_->moves();
     begin();
-    out_ << "The question is prepared anew, without the " << howMany(made, "move") << " made.\n";
+    out_ << "The question is prepared anew, without the " << counted(made, "move") << " made.\n";
 }
 
 void Conversation::again(const std::string& /*rest*/) {
@@ -218,7 +215,7 @@ void Conversation::again(const std::string& /*rest*/) {
     for (Statement& move : moves) {
         attempt_->perform(std::move(move));
     }
-    out_ << "The question is prepared anew, and " << howMany(moves.size(), "move") << " made once more.\n";
+    out_ << "The question is prepared anew, and " << counted(moves.size(), "move") << " made once more.\n";
 }
 
 void Conversation::show(const std::string& /*rest*/) {
@@ -253,8 +250,8 @@ void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
     writeBy(verb, name, language::scenarioText(file_, title, attempt_->statements()));
-    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << howMany(attempt_->moves(), "move")
-         << " and " << howMany(attempt_->checks(), "check") << ".\n";
+    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << counted(attempt_->moves(), "move")
+         << " and " << counted(attempt_->checks(), "check") << ".\n";
     if (attempt_->checks() == 0) {
         out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
     }

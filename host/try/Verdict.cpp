@@ -1,6 +1,6 @@
 #include "host/try/Verdict.h"
 
-#include "automation/Text.h"
+#include "host/language/Words.h"
 #include "host/run/GeneralCode.h"
 
 #include <ostream>
@@ -8,8 +8,6 @@
 namespace host {
 
 namespace {
-
-using automation::toUtf8;
 
 std::string meaningOf(const Reading& reading) {
     if (reading.error && reading.error->number() != 0) {
@@ -28,13 +26,9 @@ std::string meaningOf(const Reading& reading) {
 }
 
 void printReading(const Reading& reading, std::ostream& out) {
-    out << "ErreurGenerale " << (reading.erreurGenerale ? "True" : "False") << ", CauseErreur \""
-        << toUtf8(reading.causeErreur) << "\", BravoNuance " << (reading.bravoNuance ? "True" : "False")
-        << ", Complement ";
-    for (std::size_t i = 0; i < reading.complement.size(); ++i) {
-        out << (i == 0 ? "\"" : ", \"") << toUtf8(reading.complement[i]) << '"';
-    }
-    out << (reading.complement.empty() ? "empty" : "");
+    out << "ErreurGenerale " << (reading.erreurGenerale ? "True" : "False") << ", CauseErreur "
+        << inQuotes(reading.causeErreur) << ", BravoNuance " << (reading.bravoNuance ? "True" : "False")
+        << ", Complement " << (reading.complement.empty() ? "empty" : inQuotes(reading.complement));
 }
 
 /// The titles of scenarios, a few of them.
@@ -44,7 +38,7 @@ void printAlike(const Reading& reading, const language::ScenarioFile& file, std:
     for (const language::Scenario& scenario : file.scenarios) {
         const Expectation* const last = scenario.lastExpectation();
         if (last != nullptr && last->matches(reading) && found < most) {
-            out << (found == 0 ? "Scenarios that end so: \"" : ", \"") << toUtf8(scenario.title) << '"';
+            out << (found == 0 ? "Scenarios that end so: " : ", ") << inQuotes(scenario.title);
             ++found;
         }
     }

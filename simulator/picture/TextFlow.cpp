@@ -93,12 +93,21 @@ private:
         std::vector<TextPiece> pieces;
         for (std::size_t place = start_; place < end; ++place) {
             CharacterFormat format = formatAt(place);
-            if (pieces.empty() || pieces.back().format != format) {
+            if (pieces.empty() || (pieces.back().format != format && !isSecondHalf(place))) {
                 pieces.push_back({{place, 0}, std::move(format)});
             }
             ++pieces.back().span.length;
         }
         return pieces;
+    }
+
+    /// True within a character of two UTF-16 units, which looks as its first one says.
+    [[nodiscard]] bool isSecondHalf(std::size_t place) const {
+        const auto isWithin = [](char16_t unit, char16_t first, char16_t last) {
+            return unit >= first && unit <= last;
+        };
+        const std::u16string& text = story_.text();
+        return place != 0 && isWithin(text[place - 1], 0xD800, 0xDBFF) && isWithin(text[place], 0xDC00, 0xDFFF);
     }
 
     [[nodiscard]] CharacterFormat formatAt(std::size_t place) const {
