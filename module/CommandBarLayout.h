@@ -3,7 +3,6 @@
 #include "ppt/Application.h"
 
 #include <array>
-#include <optional>
 #include <string_view>
 #include <vector>
 

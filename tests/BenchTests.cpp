@@ -8,11 +8,7 @@ namespace {
 
 const host::WorldMaker makeWorld = host::makeEmbeddedWorld;
 
-/// What a question begins and ends with beside the prescribed steps is the keeping of the learner's command bars: as
-/// many calls for every question.
-TEST(BenchTests, QuestionsMakeThePrescribedCallsAndNoOthers) {
-    constexpr std::size_t readingBars = 26;
-    constexpr std::size_t restoringBars = 116;
+TEST(BenchTests, QuestionsMakeThePrescribedCallsAndThoseThatKeepTheBars) {
     const host::Library library(SCENARIOS);
     for (const std::filesystem::path& path : library.filesOfCourse({})) {
         SCOPED_TRACE(path);
@@ -20,8 +16,18 @@ TEST(BenchTests, QuestionsMakeThePrescribedCallsAndNoOthers) {
         const auto cost = host::bench::costOf(file, host::Course(file, makeWorld), makeWorld, 0);
         EXPECT_EQ(cost.prepareCalls, cost.prescribed.prepare);
         EXPECT_EQ(cost.testePoint.calls, cost.prescribed.testePoint);
-        EXPECT_EQ(cost.initQuestion.calls, cost.prescribed.initQuestion + readingBars);
-        EXPECT_EQ(cost.fermer.calls, cost.prescribed.fermer + restoringBars);
+        EXPECT_EQ(cost.initQuestion.calls, cost.prescribed.initQuestion + cost.keeping.initQuestion);
+        EXPECT_EQ(cost.fermer.calls, cost.prescribed.fermer + cost.keeping.fermer);
+    }
+}
+
+TEST(BenchTests, ALargerDeckTakesAsManyCallsAsItsWordsDemand) {
+    for (const std::size_t slides : {2U, 4U}) {
+        const host::bench::DeckSize size{slides, 3, 7};
+        const host::language::ScenarioFile file = host::bench::largeDeck(size);
+        const auto cost = host::bench::costOf(file, host::Course(file, makeWorld), makeWorld, 0);
+        EXPECT_TRUE(file.scenarios.front().lastExpectation()->matches(cost.reading));
+        EXPECT_EQ(cost.testePoint.automationCalls, host::bench::prescribedAutomationCalls(size)) << slides;
     }
 }
 

@@ -1,33 +1,28 @@
 #pragma once
 
+#include "host/learners/Draw.h"
+
 #include <cstdlib>
 #include <iostream>
-#include <random>
 #include <string>
 
 namespace tests {
 
-/// Random numbers that are the same in every run, unless the environment variable CHANCE says where they begin;
+/// Random decisions that are the same in every run, unless the environment variable CHANCE says where they begin;
 /// printed, so that what they find can be found again.
-class Chance {
+class Chance : public host::learners::Draw {
 public:
-    Chance() : random_(begin()) {}
+    Chance() : Draw(begin()) {}
 
-    /// A number below `limit`, which is not 0.
-    std::size_t below(std::size_t limit) { return random_() % limit; }
     bool oneIn(std::size_t many) { return below(many) == 0; }
-    template <typename Items> const auto& of(const Items& items) { return items[below(std::size(items))]; }
-    std::uint64_t bits() { return random_(); }
 
 private:
-    static std::uint64_t begin() {
+    static std::uint32_t begin() {
         const char* const said = std::getenv("CHANCE");
-        const std::uint64_t number = said != nullptr ? std::stoull(said) : 1;
+        const std::uint32_t number = said != nullptr ? static_cast<std::uint32_t>(std::stoul(said)) : 1;
         std::cout << "random numbers from CHANCE=" << number << std::endl;
         return number;
     }
-
-    std::mt19937_64 random_;
 };
 
 } // namespace tests

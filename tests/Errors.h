@@ -1,20 +1,10 @@
 #pragma once
 
-#include "automation/Error.h"
+#include "host/torture/ErrorOf.h"
 
 #include <gtest/gtest.h>
 
-#include <optional>
-
-/// The automation error that an operation raises; nothing when it raises none.
-template <typename Operation> std::optional<automation::Error> errorOf(const Operation& operation) {
-    try {
-        operation();
-        return std::nullopt;
-    } catch (const automation::Error& error) {
-        return error;
-    }
-}
+using host::torture::errorOf;
 
 inline constexpr std::int32_t noError = -1;
 

@@ -10,13 +10,13 @@
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/PersistWriter.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "tests/Chance.h"
 #include "tests/Errors.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <fstream>
-#include <random>
 
 namespace simulator {
 namespace {
@@ -309,8 +309,8 @@ TEST(PresentationFormat, WithstandsWrongBytes) {
     const PowerPointFormat format;
     const std::string sound = format.save(*richPresentation());
     const std::string document = compound::read(sound).stream(u"PowerPoint Document")->bytes;
-    std::mt19937 random(2003); // NOLINT(cert-msc51-cpp): the same bytes each time
-    const auto number = [&random](std::size_t below) { return static_cast<std::size_t>(random() % below); };
+    tests::Chance chance;
+    const auto number = [&chance](std::size_t below) { return chance.below(below); };
     constexpr std::array<std::uint8_t, 8> favourites{0x00, 0x01, 0x0F, 0x7F, 0x80, 0xFE, 0xFF, 0x10};
     std::size_t refused = 0;
     constexpr std::size_t rounds = 600;

@@ -1,9 +1,8 @@
 #include "automation/Text.h"
 #include "simulator/document/TextStory.h"
+#include "tests/Chance.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 namespace simulator {
 namespace {
@@ -129,8 +128,8 @@ struct PlainStory {
 };
 
 TEST(TextStory, AgreesWithAPlainListThroughManyEdits) {
-    std::mt19937 random(2003);
-    const auto below = [&random](std::size_t limit) { return static_cast<std::size_t>(random()) % limit; };
+    tests::Chance chance;
+    const auto below = [&chance](std::size_t limit) { return chance.below(limit); };
     const Texts additions{u"", u"x", u"deux mots", u"fin\r", u"  ", u"\r\r", u"\v"};
     TextStory story;
     mark(story, {}, '1');

@@ -25,6 +25,7 @@ public:
         const bool reached = position_ != 0 && calls_ >= position_;
         if (reached && (calls_ == position_ || lasting_ == Lasting::FromThereOn) &&
             !(spares_ && spares_(crossing.border))) {
+            hasStruck_ = true;
             throw error_;
         }
         return next();
@@ -32,6 +33,8 @@ public:
 
     /// Calls seen so far, failed ones included.
     [[nodiscard]] std::size_t calls() const noexcept { return calls_; }
+    /// True once a call has been made to fail.
+    [[nodiscard]] bool hasStruck() const noexcept { return hasStruck_; }
 
 private:
     std::size_t position_;
@@ -39,6 +42,7 @@ private:
     Error error_;
     Spares spares_;
     std::size_t calls_ = 0;
+    bool hasStruck_ = false;
 };
 
 } // namespace automation

@@ -1,6 +1,5 @@
 #include "automation/observe/Observer.h"
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 

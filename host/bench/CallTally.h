@@ -1,6 +1,6 @@
 #pragma once
 
-#include "automation/observe/Observer.h"
+#include "host/bench/PrepareSpan.h"
 
 #include <set>
 
@@ -11,12 +11,8 @@ class CallTally final : public automation::Observer {
 public:
     automation::Value around(const automation::Crossing& crossing, const Next& next) override {
         const bool isAutomation = crossing.border == automation::Border::Automation;
-        // Prepare begins where the presentation is opened, and is over where the folders are pointed at the exercise.
-        const bool opens = isAutomation && crossing.member == u"Open";
-        isInPrepare_ = opens || (isInPrepare_ && crossing.border != automation::Border::Registry);
         ++calls;
-        // The presentations that open it have been asked for just before.
-        prepareCalls += opens ? 2U : isInPrepare_ ? 1U : 0U;
+        prepareCalls += prepare_.contains(crossing) ? 1U : 0U;
         automationCalls += isAutomation ? 1U : 0U;
         if (isAutomation) {
             names.insert(std::u16string(crossing.target).append(u".").append(crossing.member));
@@ -30,7 +26,7 @@ public:
     std::set<std::u16string> names; ///< members of PowerPoint's, each looked up once in a session through COM
 
 private:
-    bool isInPrepare_ = false;
+    PrepareSpan prepare_;
 };
 
 } // namespace host::bench

@@ -18,6 +18,8 @@ constexpr std::size_t toShape = toShapes + 1; // .Item
 constexpr std::size_t toText = toShape + 2;   // .TextFrame.TextRange
 constexpr std::size_t identity = 2;           // .Tags.Item or .Tags.Add
 constexpr std::size_t ofBar = 3;              // CommandBars.Item.Visible
+constexpr std::size_t arrangedBars = 4;       // standard, formatting, Drawing, Task Pane
+constexpr std::size_t tooltips = 2;           // CommandBars.DisplayTooltips
 constexpr std::size_t ofPresentation = 3;     // Presentations.Item.Name
 constexpr std::size_t countPresentations = 2; // Presentations.Count
 constexpr std::size_t keyAccess = 3;          // open, read or write, close
@@ -128,10 +130,10 @@ PrescribedCalls prescribedCalls(std::int32_t question, const Surroundings& surro
     const std::size_t taking = 2 + 3; // the key of the folders; the window's class, and twice whether it is visible
     const std::size_t saving = 2 + surroundings.bars * ofBar + folderValues * keyAccess;
     const std::size_t noDialog = 1;
-    const std::size_t templates = 4 + 2 * keyAccess + 1; // two names in a key; two values; the folder made
+    const std::size_t templates = 4 + 2 * keyAccess + 1; // a key's one name and no second; two values; the folder made
     const std::size_t cleaning = files.presentations * countPresentations + 2 * files.all;
     const std::size_t renaming = 2 * files.delivered;
-    const std::size_t arranging = (4 + 4 + 6 + 3) * ofBar + 2; // four bars, and the tooltips
+    const std::size_t arranging = (4 + 4 + 6 + 3) * ofBar + tooltips; // of the four bars
     const std::size_t folders = folderValues * keyAccess;
     const std::size_t startup = 1;
     const std::size_t closing = 3 * ofPresentation; // FullName, Saved, Close
@@ -140,6 +142,12 @@ PrescribedCalls prescribedCalls(std::int32_t question, const Surroundings& surro
             prepare,
             automationCallsOfGeneralChecks(slidesChecked) + windowCallsOfChecks + callsIn(accessesOf(question)),
             1 + noDialog + ofBar + startup + answers + cleaning + closing + folders};
+}
+
+KeepingCalls keepingCalls(const Surroundings& surroundings) {
+    const std::size_t reading = 2 * arrangedBars * ofBar; // Enabled and Position; Visible has been read already
+    const std::size_t shownAgain = 1;                     // the task pane
+    return {reading + tooltips, reading + (surroundings.bars + shownAgain) * ofBar + tooltips};
 }
 
 std::size_t prescribedAutomationCalls(const DeckSize& deck) {

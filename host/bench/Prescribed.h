@@ -25,9 +25,18 @@ struct PrescribedCalls {
     std::size_t fermer;
 };
 
+/// Calls that keep the learner's command bars as they were, beside those prescribed.
+struct KeepingCalls {
+    std::size_t initQuestion; ///< how the bars stand is read before they are arranged
+    std::size_t fermer;       ///< they are put back
+};
+
 /// `slidesChecked` is the number of slides when the learner has worked.
 [[nodiscard]] PrescribedCalls prescribedCalls(std::int32_t question, const Surroundings& surroundings,
                                               std::size_t slidesChecked);
+
+/// For a PowerPoint that has just been started: of the bars only the task pane does not stand as an exercise has it.
+[[nodiscard]] KeepingCalls keepingCalls(const Surroundings& surroundings);
 
 /// Calls to PowerPoint that a TestePoint of question 306 takes on a large deck.
 [[nodiscard]] std::size_t prescribedAutomationCalls(const DeckSize& deck);

@@ -82,12 +82,18 @@ QuestionCost observedCostOf(const language::ScenarioFile& file, const Course& co
     };
     QuestionCost cost = Run(file, course, *makeWorld(tally), meter, watch).cost;
     cost.prescribed = prescribed;
+    cost.keeping = keepingCalls(prepared.value());
     cost.prepareCalls = tally->prepareCalls;
     cost.names = tally->names;
     return cost;
 }
 
 } // namespace
+
+bool QuestionCost::isAsPrescribed() const noexcept {
+    return initQuestion.calls == prescribed.initQuestion + keeping.initQuestion && prepareCalls == prescribed.prepare &&
+           testePoint.calls == prescribed.testePoint && fermer.calls == prescribed.fermer + keeping.fermer;
+}
 
 QuestionCost costOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld, int runs) {
     QuestionCost cost = observedCostOf(file, course, makeWorld);

@@ -26,12 +26,15 @@ struct QuestionCost {
     std::size_t prepareCalls = 0;   ///< of InitQuestion's calls
     std::set<std::u16string> names; ///< of PowerPoint's members called
     PrescribedCalls prescribed{};   ///< where calls are observed
+    KeepingCalls keeping{};         ///< beside them
     std::size_t lookUps = 0;        ///< of names, by a PowerPoint in a process of its own
     Reading reading;                ///< after the first moves of the scenario file
 
     [[nodiscard]] std::size_t automationCalls() const noexcept {
         return initQuestion.automationCalls + testePoint.automationCalls + fermer.automationCalls;
     }
+    /// True where InitQuestion, Prepare, TestePoint and Fermer make the calls prescribed, and those that keep the bars.
+    [[nodiscard]] bool isAsPrescribed() const noexcept;
     [[nodiscard]] Milliseconds time() const noexcept { return initQuestion.time + testePoint.time + fermer.time; }
 };
 

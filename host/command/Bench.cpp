@@ -29,19 +29,21 @@ double microsecondsACall(const QuestionCost& cost) {
     return 1000 * cost.time().count() / static_cast<double>(calls);
 }
 
-/// Calls measured and calls prescribed.
-std::string against(std::size_t measured, std::size_t prescribed) {
-    return std::to_string(measured) + '/' + std::to_string(prescribed);
+/// Calls measured and calls prescribed, with those that keep the bars.
+std::string against(std::size_t measured, std::size_t prescribed, std::size_t keeping = 0) {
+    return std::to_string(measured) + '/' + std::to_string(prescribed) +
+           (keeping == 0 ? "" : '+' + std::to_string(keeping));
 }
 
 bool printQuestions(const BenchRequest& request, const CommandContext& at) {
     std::ostream& out = at.out;
     const WorldMaker& makeWorld = at.worlds.embedded;
-    out << "Calls that leave the module, measured/prescribed, names of PowerPoint's members among them (each looked "
-           "up\n"
-           "once in a session through COM), and processor time, the shortest of "
+    out << "Calls that leave the module, measured/prescribed+those that keep the learner's bars as they were; names "
+           "of\n"
+           "PowerPoint's members among them, each looked up once in a session through COM; processor time, the "
+           "shortest of "
         << timedRuns << " runs\n\n"
-        << "question  InitQuestion  of which Prepare  TestePoint     Fermer  names  us a call\n";
+        << "question  InitQuestion  of which Prepare  TestePoint      Fermer  names  us a call\n";
     std::set<std::u16string> names;
     std::size_t automationCalls = 0;
     bool isGood = true;
@@ -51,20 +53,16 @@ bool printQuestions(const BenchRequest& request, const CommandContext& at) {
         const QuestionCost cost = bench::costOf(file, course, makeWorld, timedRuns);
         const bench::PrescribedCalls& prescribed = cost.prescribed;
         out << std::setw(8) << file.question << std::setw(14)
-            << against(cost.initQuestion.calls, prescribed.initQuestion) << std::setw(18)
+            << against(cost.initQuestion.calls, prescribed.initQuestion, cost.keeping.initQuestion) << std::setw(18)
             << against(cost.prepareCalls, prescribed.prepare) << std::setw(12)
-            << against(cost.testePoint.calls, prescribed.testePoint) << std::setw(11)
-            << against(cost.fermer.calls, prescribed.fermer) << std::setw(7) << cost.names.size() << std::fixed
-            << std::setprecision(2) << std::setw(11) << microsecondsACall(cost) << std::endl;
-        isGood =
-            holds(cost.prepareCalls == prescribed.prepare, "Prepare makes other calls than prescribed", out) && isGood;
-        isGood = holds(cost.testePoint.calls == prescribed.testePoint, "TestePoint makes other calls than prescribed",
-                       out) &&
-                 isGood;
+            << against(cost.testePoint.calls, prescribed.testePoint) << std::setw(12)
+            << against(cost.fermer.calls, prescribed.fermer, cost.keeping.fermer) << std::setw(7) << cost.names.size()
+            << std::fixed << std::setprecision(2) << std::setw(11) << microsecondsACall(cost) << std::endl;
+        isGood = holds(cost.isAsPrescribed(), "other calls than prescribed", out) && isGood;
         names.insert(cost.names.begin(), cost.names.end());
         automationCalls += cost.automationCalls();
     }
-    out << "\nIn one session: " << automationCalls << " automation calls, " << names.size() << " names looked up\n\n";
+    out << "\nIn one session: " << automationCalls << " automation calls, " << names.size() << " names stated\n\n";
     return isGood;
 }
 

@@ -1,5 +1,6 @@
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
+#include "host/command/ProcessorTime.h"
 #include "host/command/Watch.h"
 #include "host/learners/ScenarioText.h"
 #include "host/learners/Shrink.h"
@@ -35,6 +36,15 @@ std::string outcomeOf(const Reading& reading) {
     const std::string letter = automation::toUtf8(reading.causeErreur);
     return reading.erreurGenerale ? "general " + letter : letter.empty() ? "success" : letter;
 }
+
+/// What came of the learners of all questions.
+struct LearnersTotals {
+    std::size_t learners = 0;
+    std::size_t checks = 0;
+    std::size_t disagreements = 0;
+    std::size_t outcomes = 0; ///< of the questions' own checks
+    std::size_t missing = 0;  ///< of them, those that no learner came to
+};
 
 /// The learners of one question.
 class Classroom {
@@ -75,6 +85,16 @@ public:
             out << "question " << file_.question << ": the learners do not come to enough\n";
         }
         return !isMonotonous && disagreements_ == 0;
+    }
+
+    void addTo(LearnersTotals& totals) const {
+        totals.learners += runs_;
+        for (const auto& [outcome, count] : outcomes_) {
+            totals.checks += count;
+        }
+        totals.disagreements += disagreements_;
+        totals.outcomes += lesson_.outcomes.size();
+        totals.missing += outcomesMissing().size();
     }
 
 private:
@@ -120,6 +140,7 @@ ExitCode letLearn(const LearnersRequest& request, const CommandContext& at) {
     at.out << request.runs << " learners a question, --draw " << draw << std::endl;
     std::size_t passed = 0;
     std::size_t failed = 0;
+    LearnersTotals totals;
     Watch watch(Watch::patience, at.out);
     const std::vector<std::filesystem::path> paths = at.library.filesOfCourse(request.questions);
     std::size_t begun = 0; ///< learners of the questions before
@@ -133,8 +154,12 @@ ExitCode letLearn(const LearnersRequest& request, const CommandContext& at) {
         begun += request.runs;
         at.progress.clear();
         ++(classroom.tell(at.out) ? passed : failed);
+        classroom.addTo(totals);
         at.out << std::flush;
     }
+    at.out << totals.learners << " learners, " << totals.checks << " checks, " << totals.disagreements
+           << " disagreements, " << totals.missing << " of " << totals.outcomes << " outcomes never reached, "
+           << processorSeconds() << " s of processor time\n";
     at.out << passed << " passed, " << failed << " failed\n";
     return failed == 0 ? ExitCode::Good : ExitCode::FellShort;
 }

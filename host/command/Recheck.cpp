@@ -8,7 +8,6 @@
 #include "automation/Text.h"
 
 #include <ostream>
-#include <stdexcept>
 
 namespace host {
 

@@ -1,6 +1,7 @@
 #include "host/torture/Torture.h"
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
+#include "host/command/ProcessorTime.h"
 #include "host/command/Watch.h"
 
 #include <ostream>
@@ -44,7 +45,7 @@ void print(const Totals& totals, std::ostream& out) {
     for (std::size_t i = 0; i < totals.outcomes.size(); ++i) {
         out << (i == 0 ? " " : ", ") << totals.outcomes.at(i) << ' ' << nameOf(static_cast<torture::Answer>(i));
     }
-    out << "; " << totals.findings << " findings" << std::endl;
+    out << "; " << totals.findings << " findings; " << processorSeconds() << " s of processor time" << std::endl;
 }
 
 /// Makes the calls fail that leave the module, one by one, and prints what is then amiss, and a line of totals. With

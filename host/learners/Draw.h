@@ -15,6 +15,10 @@ public:
     /// A number below `limit`, which is not 0.
     std::size_t below(std::size_t limit) { return random_() % limit; }
     std::size_t between(std::size_t least, std::size_t most) { return least + below(most - least + 1); }
+    std::uint64_t bits() {
+        const std::uint64_t high = random_();
+        return high << 32U | random_();
+    }
     bool percent(std::size_t chance) { return below(100) < chance; }
     template <typename Items> const auto& of(const Items& items) {
         return *std::next(std::begin(items), static_cast<std::ptrdiff_t>(below(std::size(items))));

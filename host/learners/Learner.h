@@ -4,8 +4,6 @@
 #include "host/learners/Lesson.h"
 #include "host/learners/Trial.h"
 
-#include <functional>
-
 namespace host::learners {
 
 /// What a learner has done.

@@ -7,6 +7,7 @@
 #include <limits>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace host::learners {
 
@@ -21,7 +22,37 @@ std::u16string wayOf(std::string line, std::size_t slide) {
         line.replace(place, end - place,
                      "ActivePresentation.Slides(" + (number.empty() ? std::to_string(slide) : number) + ").Shapes");
     }
-    return line == "nothing" ? u"" : automation::fromUtf8(line);
+    return automation::fromUtf8(line);
+}
+
+/// A step of lines that speak of one target.
+Step stepOf(const std::vector<std::string>& lines, std::string_view target, std::size_t slide) {
+    constexpr std::string_view nothing = "nothing";
+    Step step;
+    for (std::string line : lines) {
+        if (line.starts_with(nothing)) {
+            const std::string_view times = std::string_view(line).substr(nothing.size()); // " x2"
+            step.resize(step.size() + (times.empty() ? 1U : static_cast<std::size_t>(times.back() - '0')));
+        } else {
+            replaceAll(line, "^", target);
+            step.push_back(wayOf(line, slide));
+        }
+    }
+    return step;
+}
+
+/// Adds a step, or one for each target where its first line names several.
+void addSteps(std::vector<std::string> lines, Lesson& lesson) {
+    std::istringstream words(lines.front());
+    std::string word;
+    if (words >> word; word != "for") {
+        lesson.steps.push_back(stepOf(lines, {}, lesson.slide));
+        return;
+    }
+    lines.erase(lines.begin());
+    while (words >> word) {
+        lesson.steps.push_back(stepOf(lines, word, lesson.slide));
+    }
 }
 
 Lesson headOf(const std::string& line) {
@@ -39,19 +70,22 @@ Lesson headOf(const std::string& line) {
 
 void readLessons(std::string_view text, std::vector<Lesson>& lessons) {
     std::istringstream lines{std::string(text)};
-    bool isBetween = true;
+    std::vector<std::string> ofStep;
+    const auto endStep = [&] {
+        if (!ofStep.empty()) {
+            addSteps(std::exchange(ofStep, {}), lessons.back());
+        }
+    };
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with("lesson ")) {
             lessons.push_back(headOf(line));
-        } else if (!line.empty()) {
-            Lesson& lesson = lessons.back();
-            if (isBetween) {
-                lesson.steps.emplace_back();
-            }
-            lesson.steps.back().push_back(wayOf(line, lesson.slide));
+        } else if (line.empty()) {
+            endStep();
+        } else {
+            ofStep.push_back(line);
         }
-        isBetween = line.empty();
     }
+    endStep();
 }
 
 } // namespace

@@ -29,11 +29,13 @@ struct Lesson {
 ///     @.AddShape msoShapeOval, 0, 0, 20, 20
 ///     @(1)~.Select | ActiveWindow.Selection.Delete
 ///
-///     nothing
-///     @(2).Delete
+///     for @(2) @3(1)
+///     nothing x2
+///     ^.Delete
 ///
-/// Each line of a step is one way. `@` stands for the shapes of the lesson's slide, `@3` for those of the third one,
-/// `~` for the text of a shape; a bar separates statements.
+/// Each line of a step is one way; what is done twice as often stands for two. `@` stands for the shapes of the
+/// lesson's slide, `@3` for those of the third one, `~` for the text of a shape; a bar separates statements. A step
+/// that begins with `for` is one for each target that follows, which `^` stands for.
 namespace lessons {
 extern const std::string_view texts;    ///< 301 to 308
 extern const std::string_view drawings; ///< 309 to 315

@@ -2,8 +2,6 @@
 
 #include "host/world/World.h"
 
-#include <optional>
-
 namespace host {
 
 /// A picture of a slide, as a file holds it: "svg" where PowerPoint has a filter for it, else "png".

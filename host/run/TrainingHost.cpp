@@ -2,8 +2,6 @@
 
 #include "platform/ErrorReport.h"
 
-#include <utility>
-
 namespace host {
 
 TrainingHost::TrainingHost(World& world, const Course& course, std::int32_t question, Witness& witness)

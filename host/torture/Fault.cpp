@@ -31,6 +31,8 @@ public:
         return next();
     }
 
+    [[nodiscard]] bool hasStruck() const noexcept { return left_ == 0; }
+
 private:
     std::size_t left_;
     World& world_;
@@ -94,12 +96,13 @@ std::string Fault::display() const {
     return std::string(nameOf(kind)) + (lasts ? " from there on" : "");
 }
 
-automation::ObserverPtr Fault::at(std::size_t position, World& world) const {
+Strike Fault::at(std::size_t position, World& world) const {
+    const auto strike = [](auto observer) { return Strike{observer, [observer] { return observer->hasStruck(); }}; };
     if (kind == Kind::Killed) {
-        return std::make_shared<Killer>(position, world);
+        return strike(std::make_shared<Killer>(position, world));
     }
-    return std::make_shared<automation::FaultInjector>(position, lasting, error(),
-                                                       [fault = *this](Border border) { return !fault.fits(border); });
+    return strike(std::make_shared<automation::FaultInjector>(
+        position, lasting, error(), [fault = *this](Border border) { return !fault.fits(border); }));
 }
 
 void Fault::arm(std::size_t position, World& world) const {
@@ -117,6 +120,14 @@ void Fault::disarm(World& world) {
     const automation::LateBound standIn(world.standIn());
     standIn.put(u"Busy", false);
     standIn.call(u"DieAtCall", never);
+}
+
+bool Fault::hasStruck(World& world) const {
+    if (isDeath()) {
+        return world.mainWindow() == 0;
+    }
+    const automation::LateBound standIn(world.standIn());
+    return standIn.get(kind == Kind::Late ? u"Delayed" : u"Refused").to<std::int32_t>() != 0;
 }
 
 const std::vector<Fault>& Fault::all() {

@@ -5,6 +5,12 @@
 
 namespace host::torture {
 
+/// What makes calls fail, and whether it has.
+struct Strike {
+    automation::ObserverPtr observer;
+    std::function<bool()> hasStruck;
+};
+
 /// A way in which a call fails.
 struct Fault {
     using Lasting = automation::FaultInjector::Lasting;
@@ -30,12 +36,14 @@ struct Fault {
     [[nodiscard]] std::string display() const;
 
     /// Makes the call at a position (from 1) fail in a world, which must outlive the observer.
-    [[nodiscard]] automation::ObserverPtr at(std::size_t position, World& world) const;
+    [[nodiscard]] Strike at(std::size_t position, World& world) const;
 
     /// Makes the process of a world's PowerPoint misbehave at a call, counted from the next one that it takes (1).
     void arm(std::size_t position, World& world) const;
     /// Has it behave again.
     static void disarm(World& world);
+    /// True where the process has met the call at which it was to misbehave.
+    [[nodiscard]] bool hasStruck(World& world) const;
 
     /// Every fault of calls in this process, each once and from there on; a PowerPoint killed stays dead in any case.
     [[nodiscard]] static const std::vector<Fault>& all();

@@ -6,35 +6,9 @@ namespace host::torture {
 
 namespace {
 
-using automation::Border;
 using automation::Error;
-using automation::RunTimeError;
 using Kind = Fault::Kind;
-
-constexpr auto registryError = static_cast<std::int32_t>(0x800403E8U);
-constexpr std::u16string_view registryText =
-    u"Impossible d'accéder en lecture-écriture à la clé de base de registre\n\r";
-constexpr std::u16string_view classPrefix = u"DLL K61027 - CLASSE ";
-constexpr std::u16string_view servicePrefix = u"\n\r - SERVICE ";
-constexpr std::u16string_view objectPrefix = u" - OBJET ";
-
-/// The beginning of an error report's source.
-std::u16string reportOf(std::u16string_view className, std::u16string_view service) {
-    return std::u16string(classPrefix).append(className).append(servicePrefix).append(service).append(objectPrefix);
-}
-
-std::vector<std::u16string_view> servicesOf(HostCall call) {
-    if (call == HostCall::InitQuestion) {
-        return {u"GetApplication", u"InitQuestion", u"Nettoyage", u"Renomme", u"ChangeDir"};
-    }
-    return call == HostCall::TestePoint ? std::vector<std::u16string_view>()
-                                        : std::vector<std::u16string_view>{u"Nettoyage"};
-}
-
-bool isGeneralCode(std::u16string_view code) {
-    constexpr std::array<std::u16string_view, 9> codes{u"AK", u"%AL", u"AM", u"A", u"C", u"D", u"E", u"F", u"G"};
-    return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
+using Lasting = Fault::Lasting;
 
 bool isSameError(const std::optional<Error>& left, const std::optional<Error>& right) {
     return left.has_value() == right.has_value() &&
@@ -49,119 +23,60 @@ bool isSameVerdict(const Reading& left, const Reading& right) {
 
 } // namespace
 
-std::string_view nameOf(Answer answer) noexcept {
-    switch (answer) {
-    case Answer::Reported: return "reported with class and service";
-    case Answer::Registry: return "named the registry key";
-    case Answer::Straight: return "raised straight";
-    case Answer::Code: return "general code";
-    case Answer::Letter: return "letter";
-    case Answer::Silence: return "passed over";
-    case Answer::Wrong: return "wrong";
+Judgement Judge::judge(const Aftermath& aftermath, std::size_t position, const Fault& fault) const {
+    const Prescription prescription = prescriptionFor(question_, operation_, route_, position, fault);
+    Judgement judgement{Answer::Wrong, aftermath.findings};
+    std::vector<std::string>& findings = judgement.findings;
+    if (!aftermath.isStruck) {
+        findings.emplace_back("the fault has not struck");
     }
-    return "";
+    // A bar that could not be read before it was arranged cannot be put back, nor can those of a process that has died.
+    const bool isUnread = route_[position].stage == Stage::Layout && fault.lasting == Lasting::Once;
+    if (!isUnread && fault.kind != Kind::Dies) {
+        findings.insert(findings.end(), aftermath.bars.begin(), aftermath.bars.end());
+    }
+    if (isAnsweredBy(prescription, aftermath)) {
+        judgement.answer = prescription.answer;
+    } else {
+        findings.push_back("the host gets" + (aftermath.error ? " " + inWords(*aftermath.error) : " no error") +
+                           (aftermath.reading ? ", " + aftermath.reading->display() : "") +
+                           ", and not: " + prescription.display());
+    }
+    if (aftermath.powerPointEnded && !mayEndPowerPoint(position, fault)) {
+        findings.emplace_back("the learner's PowerPoint has been ended");
+    }
+    return judgement;
 }
 
-Answer Judge::answerOf(const Aftermath& aftermath, const Fault& fault) const {
-    const auto& error = aftermath.error;
-    if (error && !isSameError(error, flawless_.error)) {
-        if (isReport(*error)) {
-            return Answer::Reported;
-        }
-        if (error->number() == registryError && error->source().starts_with(registryText)) {
-            return Answer::Registry;
-        }
-        const bool isOwn =
-            fault.isDeath() ? automation::remote::isDead(error->number()) : isSameError(error, fault.error());
-        return isOwn ? Answer::Straight : Answer::Wrong;
-    }
-    if (aftermath.reading && !isSameVerdict(*aftermath.reading, *flawless_.reading)) {
-        return aftermath.reading->erreurGenerale ? Answer::Code : Answer::Letter;
-    }
-    return Answer::Silence;
-}
-
-bool Judge::mayAnswer(Answer answer, const Aftermath& aftermath, const Call& call, const Fault& fault) const {
-    const bool isAutomation = call.border == Border::Automation;
-    if (fault.isDelay()) {
-        // Whether PowerPoint answers is asked once: it is refused, then, and the answer is no.
-        const bool isAskedOnce = call.text.starts_with(u"Application.WindowState") && fault.kind == Kind::Refuses;
-        return answer == Answer::Silence ||
-               (isAskedOnce && answer == Answer::Code && aftermath.reading->causeErreur == u"%AL");
-    }
-    const auto reaches = [&](Border border) {
-        return call.border == border || (fault.lasting == Fault::Lasting::FromThereOn && fault.fits(border));
-    };
-    switch (answer) {
-    case Answer::Reported: {
-        const std::int32_t number = aftermath.error->number();
-        if (fault.isDeath()) {
-            return automation::remote::isDead(number);
-        }
-        // Without an answer the measurement system is no number.
-        const bool isEmptyNumber =
-            call.border == Border::Locale && number == static_cast<std::int32_t>(RunTimeError::TypeMismatch);
-        return number == fault.error().number() || (!isAutomation && number == registryError) || isEmptyNumber;
-    }
-    case Answer::Registry: return fault.kind == Kind::AccessDenied;
-    case Answer::Straight: return reaches(Border::Automation) && !(isAutomation && call.isOfPrepare);
-    case Answer::Code: {
-        const std::u16string& code = aftermath.reading->causeErreur;
-        // A PowerPoint that refuses calls is there, and its window too.
-        return isAutomation && !fault.isDeath() ? code == u"%AL" : isGeneralCode(code);
-    }
-    case Answer::Letter: return question_ == 304 && reaches(Border::File); // files that cannot be found
-    case Answer::Silence: return !(isAutomation && call.isOfPrepare && !fault.isDeath());
-    case Answer::Wrong: return false;
+bool Judge::isAnsweredBy(const Prescription& prescription, const Aftermath& aftermath) const {
+    const std::optional<Error>& error = aftermath.error;
+    const std::optional<Reading>& reading = aftermath.reading;
+    switch (prescription.answer) {
+    case Answer::Reported:
+    case Answer::Registry:
+    case Answer::Straight: return error && prescription.admits(*error);
+    case Answer::Code: return !error && reading && reading->erreurGenerale && reading->causeErreur == prescription.code;
+    case Answer::Letter:
+        return !error && reading && !reading->erreurGenerale && !isSameVerdict(*reading, *flawless_.reading);
+    case Answer::Silence:
+        return isSameError(error, flawless_.error) && (!reading || isSameVerdict(*reading, *flawless_.reading));
+    case Answer::Wrong: break;
     }
     return false;
 }
 
-std::vector<std::string> Judge::findings(const Aftermath& aftermath, const Call& call, const Fault& fault) const {
-    std::vector<std::string> all = aftermath.findings;
-    // A bar that could not be read before it was arranged cannot be put back, nor can those of a process that has died.
-    if (!(call.isOfLayout && fault.lasting == Fault::Lasting::Once) && fault.kind != Kind::Dies) {
-        all.insert(all.end(), aftermath.bars.begin(), aftermath.bars.end());
-    }
-    const Answer answer = answerOf(aftermath, fault);
-    if (!mayAnswer(answer, aftermath, call, fault)) {
-        all.push_back("the host must not get: " + std::string(nameOf(answer)) +
-                      (aftermath.error ? ", " + inWords(*aftermath.error) : "") +
-                      (aftermath.reading ? ", " + aftermath.reading->display() : ""));
-    }
-    if (call.isOfPrepare && call.border == Border::Automation && aftermath.error &&
-        !isReportOfPrepare(*aftermath.error, fault)) {
-        all.push_back("a failure in Prepare is reported as " + inWords(*aftermath.error));
-    }
-    if (aftermath.powerPointEnded && !fault.isDeath() && fault.kind != Kind::AccessDenied) {
-        all.emplace_back("the learner's PowerPoint has been ended");
-    }
-    return all;
-}
-
-bool Judge::isReport(const Error& error) const {
-    const std::u16string& source = error.source();
-    const auto begins = [&](std::u16string_view owner, std::u16string_view service) {
-        return source.starts_with(reportOf(owner, service));
-    };
-    const auto services = servicesOf(operation_.call);
-    if (std::any_of(services.begin(), services.end(), [&](auto service) { return begins(u"Module", service); })) {
+bool Judge::mayEndPowerPoint(std::size_t position, const Fault& fault) const {
+    if (fault.isDeath()) {
         return true;
     }
-    return (operation_.call == HostCall::InitQuestion && begins(className(), u"Prepare")) ||
-           (operation_.call == HostCall::TestePoint && begins(className(), u"TestePoint"));
-}
-
-bool Judge::isReportOfPrepare(const Error& error, const Fault& fault) const {
-    const std::u16string report = reportOf(className(), u"Prepare");
-    if (fault.isDeath()) {
-        return error.source().starts_with(report);
-    }
-    return error.source() == report + fault.error().source() && error.number() == fault.error().number();
-}
-
-std::u16string Judge::className() const {
-    return u"Question0" + automation::decimal(question_);
+    // A PowerPoint whose window is not visible is quit, and one whose window is no more is taken for one that the
+    // module has started; where that cannot be asked it looks the same.
+    const bool isLast = operation_.call == HostCall::Quitter;
+    const auto isLook = [](const Call& call) { return call.member == u"isVisible" || call.member == u"className"; };
+    const auto later = route_.subspan(position);
+    return fault.kind == Kind::AccessDenied &&
+           (isLook(later.front()) ||
+            (fault.lasting == Lasting::FromThereOn && (!isLast || std::any_of(later.begin(), later.end(), isLook))));
 }
 
 } // namespace host::torture

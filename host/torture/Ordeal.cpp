@@ -3,6 +3,7 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
 #include "host/run/FirstMoves.h"
+#include "host/torture/ErrorOf.h"
 
 namespace host::torture {
 
@@ -11,16 +12,6 @@ namespace {
 using automation::LateBound;
 using automation::ObjectPtr;
 using automation::toUtf8;
-
-/// The error that a step raises; nothing where it raises none.
-template <typename Step> std::optional<automation::Error> errorOf(const Step& step) {
-    try {
-        step();
-        return std::nullopt;
-    } catch (const automation::Error& error) {
-        return error;
-    }
-}
 
 /// PowerPoint as the learner has left it: a presentation not saved yet, bars arranged by hand.
 void settleIn(World& world) {
@@ -59,7 +50,8 @@ void compareBars(const Belongings& before, const Belongings& after, std::vector<
 } // namespace
 
 std::string Operation::display() const {
-    return toUtf8(nameOf(call)) + (arrival == Arrival::Started ? " (PowerPoint started)" : "");
+    return toUtf8(nameOf(call)) + (arrival == Arrival::Started ? " (PowerPoint started)" : "") +
+           (isHeld ? " (a question held)" : "");
 }
 
 Aftermath Ordeal::run(Operation operation, Tampering& tampering, bool foldersStayWritable) const {
@@ -98,7 +90,11 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering,
         tampering.begin(world);
         aftermath.error = errorOf(step);
         aftermath.calls = tampering.calls(world);
+        aftermath.isStruck = tampering.hasStruck(world);
     };
+    if (operation.isHeld) {
+        begin();
+    }
     perform(HostCall::InitQuestion, begin);
     if (operation.call == HostCall::TestePoint) {
         performFirstMoves(file_, world, host);

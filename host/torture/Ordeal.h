@@ -15,6 +15,7 @@ struct Operation {
 
     HostCall call;
     Arrival arrival;
+    bool isHeld = false; ///< for InitQuestion: a question has been begun before and not been closed
 
     /// In words: `InitQuestion (PowerPoint started)`.
     [[nodiscard]] std::string display() const;
@@ -25,6 +26,7 @@ struct Aftermath {
     std::optional<automation::Error> error; ///< what the operation raised
     std::optional<Reading> reading;         ///< of TestePoint
     std::size_t calls = 0;                  ///< that left the module during the operation
+    bool isStruck = true;                   ///< the call that was to fail has been reached
     bool powerPointEnded = false;           ///< the learner's PowerPoint no longer ran when the module was left
     std::vector<std::string> bars;          ///< what is amiss with the command bars
     std::vector<std::string> findings;      ///< what else is amiss

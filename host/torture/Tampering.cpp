@@ -18,20 +18,25 @@ public:
     std::size_t calls = 0;
 };
 
-ObservedCalls::ObservedCalls(ObserverMaker makeObserver)
-    : makeObserver_(std::move(makeObserver)), line_(std::make_shared<Switch>()) {}
+ObservedCalls::ObservedCalls(StrikeMaker makeStrike)
+    : makeStrike_(std::move(makeStrike)), line_(std::make_shared<Switch>()) {}
 
 automation::ObserverPtr ObservedCalls::observer() {
     return line_;
 }
 
 void ObservedCalls::begin(World& world) {
-    line_->observer = makeObserver_(world);
+    strike_ = makeStrike_(world);
+    line_->observer = strike_.observer;
     line_->calls = 0;
 }
 
 std::size_t ObservedCalls::calls(World& /*world*/) {
     return line_->calls;
+}
+
+bool ObservedCalls::hasStruck(World& /*world*/) {
+    return !strike_.hasStruck || strike_.hasStruck();
 }
 
 void ObservedCalls::end(World& /*world*/) {
@@ -52,6 +57,10 @@ std::size_t RemoteCalls::calls(World& world) {
     } catch (const automation::Error&) {
         return 0;
     }
+}
+
+bool RemoteCalls::hasStruck(World& world) {
+    return fault_ == nullptr || fault_->hasStruck(world);
 }
 
 void RemoteCalls::end(World& world) {

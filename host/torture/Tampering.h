@@ -20,6 +20,8 @@ public:
     virtual void begin(World& world) = 0;
     /// Calls since it has begun.
     [[nodiscard]] virtual std::size_t calls(World& world) = 0;
+    /// True where a call has been tampered with, or none was to be.
+    [[nodiscard]] virtual bool hasStruck(World& world) = 0;
     /// The module has been left: nothing fails any more.
     virtual void end(World& world) = 0;
 };
@@ -27,19 +29,21 @@ public:
 /// Has the calls of a world in this process pass through an observer.
 class ObservedCalls final : public Tampering {
 public:
-    using ObserverMaker = std::function<automation::ObserverPtr(World&)>;
+    using StrikeMaker = std::function<Strike(World&)>;
 
-    explicit ObservedCalls(ObserverMaker makeObserver);
+    explicit ObservedCalls(StrikeMaker makeStrike);
 
     automation::ObserverPtr observer() override;
     void begin(World& world) override;
     std::size_t calls(World& world) override;
+    bool hasStruck(World& world) override;
     void end(World& world) override;
 
 private:
     class Switch;
 
-    ObserverMaker makeObserver_;
+    StrikeMaker makeStrike_;
+    Strike strike_;
     std::shared_ptr<Switch> line_;
 };
 
@@ -52,6 +56,7 @@ public:
     void begin(World& world) override;
     /// 0 where PowerPoint does not answer any more.
     std::size_t calls(World& world) override;
+    bool hasStruck(World& world) override;
     void end(World& world) override;
 
 private:

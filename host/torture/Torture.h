@@ -42,8 +42,15 @@ private:
         const Progress& progress;
     };
 
-    void run(Operation operation, const Aftermath& flawless, std::span<const Call> calls, std::span<const Fault> faults,
-             const Struck& struck, const Audience& audience) const;
+    /// An operation as it goes when nothing fails, and the calls on its route that can be made to fail.
+    struct Ground {
+        Operation operation;
+        const Aftermath& flawless;
+        std::span<const Call> route;
+        std::span<const std::size_t> positions;
+    };
+
+    void run(const Ground& ground, std::span<const Fault> faults, const Struck& struck, const Audience& audience) const;
     [[nodiscard]] std::size_t firstPosition() const;
 
     const language::ScenarioFile& file_;

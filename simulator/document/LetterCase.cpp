@@ -2,7 +2,6 @@
 
 #include "automation/Text.h"
 
-#include <algorithm>
 #include <array>
 
 namespace simulator {

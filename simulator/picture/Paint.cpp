@@ -1,7 +1,6 @@
 #include "simulator/picture/Paint.h"
 
 #include <array>
-#include <cmath>
 
 namespace simulator::picture {
 

@@ -19,6 +19,7 @@ DWORD CallGate::HandleInComingCall(DWORD /*type*/, HTASK /*task*/, DWORD /*tick*
         lookUps_ += call->wMethod == getIdsOfNames ? 1 : 0;
         return SERVERCALL_ISHANDLED;
     }
+    ++refused_;
     if (refusals_ != withoutEnd) {
         --refusals_;
     }

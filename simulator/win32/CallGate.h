@@ -19,6 +19,8 @@ public:
     void refuse(std::int32_t calls) noexcept { refusals_ = calls; }
     /// Calls that are still to be refused.
     [[nodiscard]] std::int32_t refusals() const noexcept { return refusals_; }
+    /// Calls refused so far.
+    [[nodiscard]] std::int32_t refused() const noexcept { return refused_; }
     /// Names that clients have had looked up so far.
     [[nodiscard]] std::int32_t lookUps() const noexcept { return lookUps_; }
     [[nodiscard]] bool isBusy() const noexcept { return refusals_ > 0; }
@@ -31,6 +33,7 @@ public:
 private:
     IUnknown* always_;
     std::int32_t refusals_ = 0;
+    std::int32_t refused_ = 0;
     std::int32_t lookUps_ = 0;
 };
 

@@ -61,6 +61,16 @@ std::int32_t ControlObject::calls() const {
     return troubles_.calls();
 }
 
+std::int32_t ControlObject::refused() const {
+    requireRunning();
+    return gate_->refused();
+}
+
+std::int32_t ControlObject::delayed() const {
+    requireRunning();
+    return troubles_.delays();
+}
+
 std::int32_t ControlObject::lookUps() const {
     requireRunning();
     return gate_->lookUps();
@@ -82,7 +92,8 @@ const automation::MemberTable& ControlObject::members() const {
         method<&This::dieAtCall>(u"DieAtCall"),         property<&This::calls>(u"Calls"),
         property<&This::escapes>(u"Escapes"),           property<&This::bits>(u"Bits"),
         property<&This::lookUps>(u"LookUps"),           method<&This::refuseAtCall>(u"RefuseAtCall"),
-        method<&This::delayCall>(u"DelayCall"),
+        method<&This::delayCall>(u"DelayCall"),         property<&This::refused>(u"Refused"),
+        property<&This::delayed>(u"Delayed"),
     };
     return table;
 }

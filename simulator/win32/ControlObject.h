@@ -27,6 +27,10 @@ public:
     void refuseAtCall(std::int32_t n, std::int32_t calls) const;
     /// Calls that are still to be refused.
     [[nodiscard]] std::int32_t refusals() const;
+    /// Calls refused so far.
+    [[nodiscard]] std::int32_t refused() const;
+    /// Calls delayed so far.
+    [[nodiscard]] std::int32_t delayed() const;
     void openDialog(const std::u16string& title) const;
     [[nodiscard]] std::int32_t dialogs() const;
     [[nodiscard]] std::int32_t slowness() const;

@@ -18,7 +18,9 @@ void Troubles::meet() {
     if (calls_ == awaited_) {
         action_();
     }
-    const std::int32_t late = slowness_ + (calls_ == delayed_ ? delay_ : 0);
+    const bool isLate = calls_ == delayed_;
+    delays_ += isLate ? 1 : 0;
+    const std::int32_t late = slowness_ + (isLate ? delay_ : 0);
     if (late > 0) {
         Sleep(static_cast<DWORD>(late));
     }

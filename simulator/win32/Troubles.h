@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <limits>
 
 namespace simulator::standin {
 
@@ -24,6 +23,8 @@ public:
         delayed_ = calls_ + n;
         delay_ = milliseconds;
     }
+    /// Calls so far that have been delayed so.
+    [[nodiscard]] std::int32_t delays() const noexcept { return delays_; }
     /// Does something before the n-th call from now reaches its object, where it is not too late: at once for n = 1,
     /// else during the call before.
     void beforeCall(std::int32_t n, std::function<void()> action);
@@ -35,6 +36,7 @@ private:
     std::int32_t slowness_ = 0;
     std::int32_t delayed_ = never; ///< the call, counted from the first one
     std::int32_t delay_ = 0;
+    std::int32_t delays_ = 0;
     std::int32_t awaited_ = never; ///< the call, counted from the first one
     std::function<void()> action_; ///< taken during the call awaited
     std::int32_t deadly_ = never;  ///< the call, counted from the first one

@@ -14,8 +14,7 @@ t~.Text = "x"
 t~.Text = "   "
 t~.Text = vbCr
 
-nothing
-nothing
+nothing x2
 t.Top = 150
 t.Duplicate
 t.Delete
@@ -33,8 +32,7 @@ lesson 310 slide 1: success A B C Z
 ActivePresentation.Slides(1).Select
 @.Range(Array(2, 3)).Select
 
-nothing
-nothing
+nothing x2
 @(2).Delete
 @(2).ZOrder msoBringToFront
 @(3).Select msoFalse
@@ -55,8 +53,7 @@ lesson 311 slide 1: success A B C D E F Z
 @(2).Left = 195.125
 @(2).Left = 104.875
 
-nothing
-nothing
+nothing x2
 @(2).Width = 444
 @(2).ScaleHeight 2, msoFalse
 @(1).IncrementLeft 1
@@ -71,8 +68,7 @@ lesson 312 slide 1: success A B C Z refused
 @.AddPolyline Array(Array(100, 100), Array(150, 50), Array(200, 100))
 @.AddShape msoShapeRectangle, 0, 0, 20, 20
 
-nothing
-nothing
+nothing x2
 @.AddPolyline Array(Array(300, 100), Array(350, 50), Array(400, 100))
 @(4).Nodes.Insert 1, msoSegmentLine, msoEditingAuto, 20, 20
 @(4).Nodes.Delete 1
@@ -88,8 +84,7 @@ lesson 313 slide 1: success A B
 @(3).Cut
 @(2).Delete
 
-nothing
-nothing
+nothing x2
 @(1).Delete
 @(1).Duplicate
 @.Range(Array(1, 2)).Group
@@ -103,8 +98,7 @@ lesson 314 slide 1: success A B C Z
 @.AddTextbox msoTextOrientationHorizontal, 20, 20, 100, 60
 @(1).Duplicate
 
-nothing
-nothing
+nothing x2
 @(1).Delete
 @(3).Ungroup
 @(4).AutoShapeType = msoShapeCube
@@ -118,8 +112,7 @@ lesson 315 slide 1: success A B C D E Z
 @(3).ZOrder msoSendBackward
 @(2).ZOrder msoSendToBack
 
-nothing
-nothing
+nothing x2
 @(2).IncrementLeft 0.125
 @(3).IncrementLeft 0.125
 @(3).IncrementTop -1

@@ -9,8 +9,7 @@ const std::string_view looks = R"(lesson 316 slide 1: success A B C D G Z
 @(1).Fill.ForeColor.RGB = RGB(128, 128, 128)
 @(1).Fill.ForeColor.RGB = RGB(255, 255, 255)
 
-nothing
-nothing
+nothing x2
 @(1).Fill.Transparency = 0.5
 @(1).Fill.TwoColorGradient msoGradientHorizontal, 1
 @(1).Fill.Patterned msoPattern10Percent
@@ -29,8 +28,7 @@ lesson 317 slide 1: success A B C D E F
 @.AddShape msoShapeOval, 20, 20, 100, 60
 @.AddTextbox msoTextOrientationHorizontal, 20, 20, 100, 60
 
-nothing
-nothing
+nothing x2
 @.AddShape msoShapeOval, 20, 20, 100, 60
 @.Range(Array(1, 2)).Group
 @(3).Ungroup
@@ -52,8 +50,7 @@ lesson 318 slide 1: success A B C Z
 @(4).Height = 56.375
 @(4).Height = 56.875
 
-nothing
-nothing
+nothing x2
 @(4).Delete
 @(4).ZOrder msoSendToBack
 @.Range(Array(3, 4)).Group
@@ -74,8 +71,7 @@ lesson 319 slide 1: success A B C D E F Z
 @(4).Left = 311.625
 @(4).Left = 311.75
 
-nothing
-nothing
+nothing x2
 @(2).IncrementLeft 0.125
 @(2).Delete
 @(4).Delete
@@ -95,8 +91,7 @@ lesson 321 slide 1: success A B C D E Z
 @(4).ThreeD.Visible = msoTrue
 @(4).Shadow.Visible = msoFalse
 
-nothing
-nothing
+nothing x2
 @(4).Shadow.Visible = msoTrue
 @(4).ThreeD.Depth = 20
 @(4).ThreeD.Visible = msoFalse
@@ -105,9 +100,7 @@ nothing
 
 lesson 322 slide 1: success A B C D E F H
 
-nothing
-nothing
-nothing
+nothing x3
 @(4).Delete
 @(2).Delete
 
@@ -117,8 +110,7 @@ nothing
 @.Range(Array(2, 3, 4)).Group
 @.Range(Array(1, 2, 4)).Group
 
-nothing
-nothing
+nothing x2
 @(1).Duplicate
 @(1).Ungroup
 @(3).Ungroup
@@ -134,8 +126,7 @@ lesson 323 slide 5: success B C D E F
 @.AddTextEffect msoTextEffect1, "Conseils", "Arial", 36, msoFalse, msoFalse, 100, 40
 @.AddTextbox msoTextOrientationHorizontal, 20, 20, 100, 60
 
-nothing
-nothing
+nothing x2
 @.AddTitle
 @.AddTextEffect msoTextEffect9, "Conseils", "Arial", 36, msoFalse, msoFalse, 100, 40
 @(1).Duplicate

@@ -54,8 +54,7 @@ ActivePresentation.Slides(4).Duplicate
 @(2)~.Text = "5 à 6 lignes par diapositive" & vbCr & "5 à 6 mots par ligne" & vbCr & "Police et Taille des caractères parfaitement lisibles" & vbCr & "Fort contraste entre couleur d'arrière-plan et couleur des caractères"
 @(2)~.Text = "5 à 6 mots par ligne" & vbCr & "5 à 6 lignes par diapositive" & vbCr & "Police et Taille des caractères parfaitement lisibles"
 
-nothing
-nothing
+nothing x2
 @(2)~.Replace "mots par", "Mots par"
 @(2)~.Replace "Fort", "Fors"
 @(2)~.Paragraphs(4).InsertAfter " "
@@ -67,41 +66,15 @@ ActivePresentation.Slides.Add 6, ppLayoutText
 
 lesson 306 slide 2: F A B C
 
-@1(2)~.Replace "faire", "créer"
-@1(2)~.Replace "faire", "creer"
-@1(2)~.Replace "faire", "créer faire"
-@1(2)~.Replace "faire", "créer "
-@1(2)~.Replace "faire", "Créer"
-@1(2)~.Replace "faire", "créer,"
-@1(2)~.Replace "faire", "créer créer"
-@1(2)~.Find("faire").Delete
-
-@2(2)~.Replace "faire", "créer"
-@2(2)~.Replace "faire", "creer"
-@2(2)~.Replace "faire", "créer faire"
-@2(2)~.Replace "faire", "créer "
-@2(2)~.Replace "faire", "Créer"
-@2(2)~.Replace "faire", "créer,"
-@2(2)~.Replace "faire", "créer créer"
-@2(2)~.Find("faire").Delete
-
-@3(2)~.Replace "faire", "créer"
-@3(2)~.Replace "faire", "creer"
-@3(2)~.Replace "faire", "créer faire"
-@3(2)~.Replace "faire", "créer "
-@3(2)~.Replace "faire", "Créer"
-@3(2)~.Replace "faire", "créer,"
-@3(2)~.Replace "faire", "créer créer"
-@3(2)~.Find("faire").Delete
-
-@4(1)~.Replace "faire", "créer"
-@4(1)~.Replace "faire", "creer"
-@4(1)~.Replace "faire", "créer faire"
-@4(1)~.Replace "faire", "créer "
-@4(1)~.Replace "faire", "Créer"
-@4(1)~.Replace "faire", "créer,"
-@4(1)~.Replace "faire", "créer créer"
-@4(1)~.Find("faire").Delete
+for @1(2)~ @2(2)~ @3(2)~ @4(1)~
+^.Replace "faire", "créer"
+^.Replace "faire", "creer"
+^.Replace "faire", "créer faire"
+^.Replace "faire", "créer "
+^.Replace "faire", "Créer"
+^.Replace "faire", "créer,"
+^.Replace "faire", "créer créer"
+^.Find("faire").Delete
 
 nothing
 @(1)~.Text = "créer simple"
@@ -109,21 +82,14 @@ nothing
 
 lesson 307 slide 3: C A B
 
-@3(1)~.Replace "Régles", "Règles"
-@3(1)~.Replace "Régles", "Régles"
-@3(1)~.Replace "Régles", "Regles"
-@3(1)~.Replace "Régles", "Règles Règles"
-@3(1)~.Replace "Régles", "Règles,"
-@3(1)~.Replace "Régles", "Régles,"
-@3(1)~.Find("Régles").Delete
-
-@4(1)~.Replace "Régles", "Règles"
-@4(1)~.Replace "Régles", "Régles"
-@4(1)~.Replace "Régles", "Regles"
-@4(1)~.Replace "Régles", "Règles Règles"
-@4(1)~.Replace "Régles", "Règles,"
-@4(1)~.Replace "Régles", "Régles,"
-@4(1)~.Find("Régles").Delete
+for @3(1)~ @4(1)~
+^.Replace "Régles", "Règles"
+^.Replace "Régles", "Régles"
+^.Replace "Régles", "Regles"
+^.Replace "Régles", "Règles Règles"
+^.Replace "Régles", "Règles,"
+^.Replace "Régles", "Régles,"
+^.Find("Régles").Delete
 
 lesson 308 slide 5: success C D E F G H
 
@@ -135,8 +101,7 @@ lesson 308 slide 5: success C D E F G H
 @(2)~.Replace "parfaitement lisibles", "lisibles parfaitement"
 @(2)~.Replace "parfaitement", "Parfaitement"
 
-nothing
-nothing
+nothing x2
 @(2)~.Find("tout à fait").Font.Color.RGB = RGB(255, 0, 0)
 @(2)~.Find("tout à fait").Font.Color.RGB = RGB(0, 0, 255)
 @(2)~.Find("à fait").Font.Color.RGB = RGB(0, 0, 255)

@@ -4,7 +4,6 @@
 #include "simulator/files/Tables.h"
 #include "simulator/files/drawing/PropertyIds.h"
 
-#include <algorithm>
 #include <array>
 
 namespace simulator::drawing {

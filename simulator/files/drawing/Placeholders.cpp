@@ -3,7 +3,6 @@
 #include "simulator/files/Tables.h"
 #include "simulator/files/text/TextStyles.h"
 
-#include <algorithm>
 #include <array>
 
 namespace simulator::drawing {

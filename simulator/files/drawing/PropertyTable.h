@@ -3,8 +3,6 @@
 #include "simulator/files/Bytes.h"
 #include "simulator/files/records/Record.h"
 
-#include <span>
-
 namespace simulator::drawing {
 
 /// A property of a drawing: a number, and for some a stretch of bytes.

@@ -4,7 +4,6 @@
 #include "simulator/files/Tables.h"
 #include "simulator/files/drawing/Placeholders.h"
 
-#include <algorithm>
 #include <array>
 
 namespace simulator::powerpoint {
