@@ -8,6 +8,7 @@
 #include <chrono>
 #include <fstream>
 #include <functional>
+#include <regex>
 #include <set>
 #include <thread>
 
@@ -66,6 +67,20 @@ TEST(HostTest, SaysInOneSentenceWhatIsNotRegistered) {
         const std::string output = run.output();
         EXPECT_EQ(output.find(said), 0U) << output;
         EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 1) << output;
+    }
+}
+
+TEST(HostTest, ReadsTheSameOfTheLibraryAsOfItsOwnModule) {
+    const auto said = [](const std::wstring& options) {
+        const Program run(host, L"run " + options);
+        EXPECT_EQ(run.exitCode(), 0U);
+        // The folder in which the learner's PowerPoint opens by itself is another one in every world.
+        return std::regex_replace(run.output(), std::regex(R"((folder Default is .* instead of) .*)"), "$1");
+    };
+    for (const wchar_t* const question : {L"306", L"318"}) {
+        const std::string own = said(question);
+        EXPECT_NE(own.find("\nCauseErreur: "), std::string::npos) << own;
+        EXPECT_EQ(said(std::wstring(L"--powerpoint ") + question), own);
     }
 }
 
