@@ -17,8 +17,14 @@ HRESULT ClassObject::CreateInstance(IUnknown* outer, REFIID wanted, void** resul
 }
 
 HRESULT ClassObject::LockServer(BOOL lock) noexcept {
-    lockCount += lock != FALSE ? 1 : -1;
-    return S_OK;
+    if (lock != FALSE) {
+        ++lockCount;
+        return S_OK;
+    }
+    LONG held = lockCount;
+    while (held > 0 && !lockCount.compare_exchange_weak(held, held - 1)) {
+    }
+    return held > 0 ? S_OK : E_UNEXPECTED;
 }
 
 } // namespace library

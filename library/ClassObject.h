@@ -10,6 +10,7 @@ public:
     explicit ClassObject(REFCLSID classId) noexcept : classId_(classId) {}
 
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID wanted, void** result) noexcept override;
+    /// E_UNEXPECTED where a lock is given back that nobody holds.
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override;
 
     /// Locks held on the library by its hosts.

@@ -1,15 +1,15 @@
 #include "module/Module.h"
 
+#include "automation/FirstError.h"
 #include "automation/Text.h"
 #include "exercises/Catalogue.h"
 #include "module/QuestionMembers.h"
 #include "module/TemplatesFolder.h"
 #include "platform/ErrorReport.h"
 
-#include <exception>
-
 namespace k73053 {
 
+using automation::FirstError;
 using automation::LateBound;
 using automation::ObjectPtr;
 using automation::Value;
@@ -20,29 +20,6 @@ namespace {
 constexpr std::int32_t unknownWindow = -1;
 constexpr std::int32_t firstQuestion = 301;
 constexpr std::int32_t lastQuestion = 323;
-
-/// Runs steps that must all be tried, and raises the first error when they have been.
-class AllOf {
-public:
-    template <typename Step> AllOf& then(const Step& step) noexcept {
-        try {
-            step();
-        } catch (...) {
-            if (!first_) {
-                first_ = std::current_exception();
-            }
-        }
-        return *this;
-    }
-    void raiseFirst() const {
-        if (first_) {
-            std::rethrow_exception(first_);
-        }
-    }
-
-private:
-    std::exception_ptr first_;
-};
 
 } // namespace
 
@@ -172,14 +149,14 @@ ObjectPtr Module::Complement() const {
 
 void Module::FermeQuestion() {
     // The learner's settings and the question are given back whatever PowerPoint refuses on the way.
-    AllOf steps;
-    steps.then([&] { leavePowerPointAsFound(); });
+    FirstError error;
+    error.attempt([&] { leavePowerPointAsFound(); });
     if (question_) {
-        steps.then([&] { settings_.RestaureParamUser(); });
+        error.attempt([&] { settings_.RestaureParamUser(); });
     }
-    steps.then([&] { question_.call(members::Fermer); });
+    error.attempt([&] { question_.call(members::Fermer); });
     question_ = LateBound();
-    steps.raiseFirst();
+    error.raise();
 }
 
 void Module::leavePowerPointAsFound() {
@@ -189,10 +166,10 @@ void Module::leavePowerPointAsFound() {
     session_.FermeDialogues(session_.window);
     session_.readKeptSettings();
     if (session_.PowerPointRepond()) {
-        AllOf()
-            .then([&] { staging_.Nettoyage(question_, session_.application); })
-            .then([&] { settings_.commandBars.restore(session_.application); })
-            .raiseFirst();
+        FirstError error;
+        error.attempt([&] { staging_.Nettoyage(question_, session_.application); });
+        error.attempt([&] { settings_.commandBars.restore(session_.application); });
+        error.raise();
     }
 }
 
@@ -201,12 +178,12 @@ void Module::Fermer() {
 }
 
 void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
-    AllOf steps;
+    FirstError error;
     if (question_) {
-        steps.then([&] { FermeQuestion(); });
+        error.attempt([&] { FermeQuestion(); });
     }
     settings_.restoreLeftovers();
-    steps.then([&] {
+    error.attempt([&] {
         const bool isVisible = session_.PowerPointVisible();
         if (isVisible && settings_.commandBars.isChanged() && session_.PowerPointRepond()) {
             settings_.commandBars.restore(session_.application);
@@ -220,7 +197,7 @@ void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
     });
     session_.application = ppt::Application();
     session_.window = 0;
-    steps.raiseFirst();
+    error.raise();
 }
 
 const automation::MemberTable& Module::members() const {

@@ -141,10 +141,13 @@ HRESULT statusOf(const Error& error) noexcept {
     return static_cast<HRESULT>(runTimeBase + low);
 }
 
+void forgetError() noexcept {
+    SetErrorInfo(0, nullptr);
+}
+
 HRESULT reportCurrent(EXCEPINFO* raised) noexcept {
     try {
-        // An earlier error must not be taken for this one where this one cannot be said.
-        SetErrorInfo(0, nullptr);
+        forgetError(); // where this one cannot be said
         const Error error = currentError();
         publish(error);
         if (raised == nullptr) {

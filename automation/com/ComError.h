@@ -35,6 +35,10 @@ void check(HRESULT status);
 /// number 0, which would mean success, leaves as 5 does.
 [[nodiscard]] HRESULT statusOf(const Error& error) noexcept;
 
+/// Leaves the thread without an error object: an earlier one must not be taken for that of a call which says no more
+/// than its status.
+void forgetError() noexcept;
+
 /// The exception being handled as a status, with the thread's error object set to say the same; where `raised` is
 /// given, it is filled alike and the status is DISP_E_EXCEPTION. To be called in a handler.
 [[nodiscard]] HRESULT reportCurrent(EXCEPINFO* raised = nullptr) noexcept;

@@ -1,7 +1,7 @@
 #include "automation/com/MemberDispatch.h"
 
+#include "automation/FirstError.h"
 #include "automation/com/ComError.h"
-#include "automation/com/FirstError.h"
 #include "automation/com/Variant.h"
 #include "automation/com/VariantReader.h"
 #include "automation/com/WideText.h"

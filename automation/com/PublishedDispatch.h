@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/com/ComError.h"
 #include "automation/com/MemberDispatch.h"
 #include "automation/com/Objects.h"
 
@@ -15,6 +16,7 @@ public:
         : object_(*object), standing_(std::move(object), static_cast<First*>(this), this->identity(), this->count()) {}
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
+        forgetError();
         if (count == nullptr) {
             return E_POINTER;
         }
@@ -22,6 +24,7 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT /*index*/, LCID /*locale*/, ITypeInfo** info) noexcept override {
+        forgetError();
         if (info != nullptr) {
             *info = nullptr;
         }
@@ -29,11 +32,13 @@ public:
     }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID /*locale*/,
                                             DISPID* ids) noexcept override {
+        forgetError();
         return IsEqualIID(reserved, IID_NULL) ? member_dispatch::getIdsOfNames(object_.members(), names, count, ids)
                                               : DISP_E_UNKNOWNINTERFACE;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID /*locale*/, WORD flags, DISPPARAMS* parameters,
                                      VARIANT* result, EXCEPINFO* raised, UINT* /*wrongArgument*/) noexcept override {
+        forgetError();
         return IsEqualIID(reserved, IID_NULL) ? member_dispatch::invoke(object_, id, flags, parameters, result, raised)
                                               : DISP_E_UNKNOWNINTERFACE;
     }

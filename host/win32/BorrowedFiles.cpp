@@ -11,14 +11,17 @@ fs::path asideOf(const fs::path& folder) {
     if (!fs::exists(folder) || fs::is_empty(folder)) {
         return fs::exists(folder) ? folder : fs::path();
     }
-    fs::path aside = folder;
-    aside += "-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(GetTickCount64());
-    return aside;
+    return freeNameBeside(folder);
+}
+
+bool isInside(const fs::path& file, const fs::path& folder) {
+    const fs::path place = file.lexically_normal().lexically_relative(folder.lexically_normal());
+    return !place.empty() && *place.begin() != "..";
 }
 
 } // namespace
 
-BorrowedFiles::BorrowedFiles(Journal& journal, const fs::path& folder) : journal_(journal) {
+BorrowedFiles::BorrowedFiles(Journal& journal, const fs::path& folder) : journal_(journal), folder_(folder) {
     const fs::path aside = asideOf(folder);
     journal_.note(Loan::ofFolder(folder, aside));
     if (!aside.empty() && aside != folder) {
@@ -28,7 +31,7 @@ BorrowedFiles::BorrowedFiles(Journal& journal, const fs::path& folder) : journal
 }
 
 void BorrowedFiles::announce(const fs::path& file) {
-    if (fs::exists(file)) {
+    if (isInside(file, folder_) || fs::exists(file)) {
         return;
     }
     fs::path first = file;

@@ -11,11 +11,13 @@ public:
     /// `journal` must outlive this object.
     BorrowedFiles(Journal& journal, const std::filesystem::path& folder);
 
-    /// To be called before a file is created: it goes, or the first folder created for it.
+    /// To be called before a file is created: it goes, or the first folder created for it. What is in the borrowed folder
+    /// goes with that.
     void announce(const std::filesystem::path& file);
 
 private:
     Journal& journal_;
+    std::filesystem::path folder_;
 };
 
 } // namespace host

@@ -1,31 +1,11 @@
 #include "host/win32/BorrowedRegistry.h"
 
-namespace host {
+#include "host/win32/KeyRights.h"
 
-namespace {
+namespace host {
 
 using platform::checkRegistry;
 using platform::RegistryKey;
-
-std::vector<BYTE> rightsOn(HKEY key) {
-    DWORD size = 0;
-    RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, nullptr, &size);
-    std::vector<BYTE> rights(size);
-    checkRegistry(RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, rights.data(), &size));
-    return rights;
-}
-
-/// An access control list without entries grants nothing to anyone.
-void denyAll(HKEY key) {
-    ACL nobody{};
-    SECURITY_DESCRIPTOR closed{};
-    InitializeAcl(&nobody, sizeof(nobody), ACL_REVISION);
-    InitializeSecurityDescriptor(&closed, SECURITY_DESCRIPTOR_REVISION);
-    SetSecurityDescriptorDacl(&closed, TRUE, &nobody, FALSE);
-    checkRegistry(RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, &closed));
-}
-
-} // namespace
 
 std::wstring BorrowedRegistry::text(const std::wstring& key, const std::wstring& name) const {
     if (const auto found = denied_.find(key); found != denied_.end()) {

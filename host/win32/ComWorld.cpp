@@ -7,6 +7,7 @@
 #include "host/win32/Desktop.h"
 #include "host/win32/ScriptHost.h"
 #include "host/win32/VtableModule.h"
+#include "simulator/win32/Registration.h"
 #include "simulator/win32/StandInIdentity.h"
 
 #include <algorithm>
@@ -84,9 +85,7 @@ public:
     }
     std::size_t dialogs() override { return powerPoint_.dialogs(); }
     void uninstallPowerPoint() override {
-        CLSID id{};
-        if (FAILED(CLSIDFromProgID(simulator::standin::programmaticIds[0], &id)) ||
-            !IsEqualCLSID(id, simulator::standin::applicationClass)) {
+        if (!simulator::standin::isRegistered()) {
             refuse(u"only the stand-in is uninstalled for a scenario");
         }
         registry_.setText(HKEY_LOCAL_MACHINE,

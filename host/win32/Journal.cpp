@@ -32,6 +32,23 @@ Handle openAlone(const fs::path& path) {
     return Handle(file);
 }
 
+/// Gives loans back, the last one first; those that cannot be given back stay. Returns how many were.
+std::size_t giveBackAll(std::vector<Loan>& loans, void (Loan::*giveBack)() const) {
+    std::vector<Loan> kept;
+    std::size_t given = 0;
+    for (; !loans.empty(); loans.pop_back()) {
+        try {
+            (loans.back().*giveBack)();
+            ++given;
+        } catch (const std::exception& error) {
+            std::fprintf(stderr, "exercise-host: not given back: %s\n", error.what());
+            kept.insert(kept.begin(), loans.back());
+        }
+    }
+    loans = std::move(kept);
+    return given;
+}
+
 } // namespace
 
 Journal::Journal() : file_(openAlone(path())) {
@@ -39,13 +56,9 @@ Journal::Journal() : file_(openAlone(path())) {
 }
 
 Journal::~Journal() {
-    try {
-        giveBack();
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "exercise-host: %s\n", error.what());
-    }
+    giveBack();
     file_ = Handle();
-    if (loans_.empty()) {
+    if (left_.empty() && own_.empty()) {
         std::error_code ignored;
         fs::remove(path(), ignored);
         fs::remove(path().parent_path(), ignored);
@@ -54,23 +67,18 @@ Journal::~Journal() {
 
 void Journal::note(Loan loan) {
     append(loan);
-    loans_.push_back(std::move(loan));
+    own_.push_back(std::move(loan));
 }
 
-std::size_t Journal::giveBack() {
-    std::vector<Loan> kept;
+std::size_t Journal::giveBack() noexcept {
     std::size_t given = 0;
-    for (; !loans_.empty(); loans_.pop_back()) {
-        try {
-            loans_.back().giveBack();
-            ++given;
-        } catch (const std::exception& error) {
-            std::fprintf(stderr, "exercise-host: not given back: %s\n", error.what());
-            kept.insert(kept.begin(), loans_.back());
-        }
+    try {
+        given += giveBackAll(own_, &Loan::giveBack);
+        given += giveBackAll(left_, &Loan::recover);
+        rewrite();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "exercise-host: what was borrowed cannot be noted: %s\n", error.what());
     }
-    loans_ = std::move(kept);
-    rewrite();
     return given;
 }
 
@@ -91,7 +99,7 @@ void Journal::readLeft() {
     // What follows the last end of line was not written to its end, and so not followed by its change.
     std::size_t start = 0;
     for (std::size_t end = text.find(endOfLine); end != std::wstring::npos; end = text.find(endOfLine, start)) {
-        loans_.push_back(Loan::read(std::wstring_view(text).substr(start, end - start)));
+        left_.push_back(Loan::read(std::wstring_view(text).substr(start, end - start)));
         start = end + 1;
     }
 }
@@ -99,8 +107,10 @@ void Journal::readLeft() {
 void Journal::rewrite() {
     require(SetFilePointer(file_.get(), 0, nullptr, FILE_BEGIN) != INVALID_SET_FILE_POINTER);
     require(SetEndOfFile(file_.get()) != FALSE);
-    for (const Loan& loan : loans_) {
-        append(loan);
+    for (const auto* const loans : {&left_, &own_}) {
+        for (const Loan& loan : *loans) {
+            append(loan);
+        }
     }
 }
 

@@ -6,7 +6,7 @@
 namespace host {
 
 /// What is borrowed of this machine, noted in a file before it is changed: where a run is ended before it could give
-/// everything back, the next one does.
+/// everything back, the next one does, and then removes no file.
 class Journal {
 public:
     /// Opens the journal of the current user, with what an earlier run has left in it. Raises where another run has it.
@@ -22,7 +22,7 @@ public:
     void note(Loan loan);
     /// Gives everything back, what was borrowed last first. What cannot be given back is said on the error output and
     /// stays in the file for the next run. Returns how much was given back.
-    std::size_t giveBack();
+    std::size_t giveBack() noexcept;
 
     /// The file, with its full path.
     [[nodiscard]] static std::filesystem::path path();
@@ -33,7 +33,8 @@ private:
     void append(const Loan& loan);
 
     Handle file_;
-    std::vector<Loan> loans_;
+    std::vector<Loan> left_; ///< by earlier runs
+    std::vector<Loan> own_;  ///< of this run
 };
 
 } // namespace host

@@ -1,11 +1,10 @@
 #include "host/win32/Loan.h"
 
+#include "host/win32/KeyRights.h"
 #include "platform/win32/RegistryKey.h"
 
 #include <array>
-#include <chrono>
 #include <stdexcept>
-#include <thread>
 
 namespace host {
 
@@ -13,16 +12,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-using namespace std::chrono_literals;
 using platform::checkRegistry;
 using platform::RegistryKey;
 using Fields = std::vector<std::wstring>;
 
 constexpr wchar_t separator = L'\t';
-
-/// A PowerPoint that is going holds its files a little longer.
-constexpr auto patience = 3000ms;
-constexpr auto step = 20ms;
 
 // Numbers and bytes as text.
 
@@ -70,19 +64,13 @@ std::wstring firstMissing(HKEY root, const std::wstring& key) {
     }
 }
 
-/// Deletes a key and those above it down to a first one, as far as nothing is left in them.
-void removeBare(HKEY root, std::wstring key, const std::wstring& first, REGSAM view) {
-    while (!key.empty() && key.size() >= first.size()) {
-        if (const auto opened = RegistryKey::open(root, key, KEY_QUERY_VALUE | view); !opened || !opened.isBare()) {
-            return;
-        }
-        checkRegistry(RegDeleteKeyExW(root, key.c_str(), view, 0));
-        const std::size_t end = key.rfind(L'\\');
-        key.resize(end == std::wstring::npos ? 0 : end);
-    }
+/// The path of the key that a key stands in; empty for one that stands in none.
+std::wstring above(const std::wstring& key) {
+    const std::size_t end = key.rfind(L'\\');
+    return key.substr(0, end == std::wstring::npos ? 0 : end);
 }
 
-void giveBackValue(const Fields& fields) {
+void giveBackValue(const Fields& fields, const Clearing& /*ofFiles*/) {
     const REGSAM view = viewOf(fields.at(1));
     const HKEY root = rootOf(fields.at(2));
     const std::wstring& key = fields.at(3);
@@ -98,62 +86,37 @@ void giveBackValue(const Fields& fields) {
         opened.deleteValue(name);
     }
     if (!missing.empty()) {
-        removeBare(root, key, missing, view);
+        RegistryKey::removeBare(root, key, above(missing), view);
     }
 }
 
-/// Rights on a key: its path and the security descriptor. Whoever owns a key may always change them.
-void giveBackRights(const Fields& fields) {
-    std::vector<BYTE> rights = bytesOf(fields.at(2));
+/// Rights on a key: its path and the security descriptor.
+void giveBackRights(const Fields& fields, const Clearing& /*ofFiles*/) {
     if (const auto opened = RegistryKey::open(HKEY_CURRENT_USER, fields.at(1), WRITE_DAC)) {
-        checkRegistry(RegSetKeySecurity(opened.get(), DACL_SECURITY_INFORMATION, rights.data()));
+        setRights(opened.get(), bytesOf(fields.at(2)));
     }
 }
 
-void makeNormal(const fs::path& path) noexcept {
-    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-}
-
-/// Removes read-only files, too. Raises where something is still held open when patience is over.
-void removeAll(const fs::path& path) {
-    const auto end = std::chrono::steady_clock::now() + patience;
-    std::error_code failure;
-    do {
-        makeNormal(path);
-        for (const auto& entry : fs::recursive_directory_iterator(path, failure)) {
-            makeNormal(entry.path());
-        }
-        fs::remove_all(path, failure);
-        if (!fs::exists(path)) {
-            return;
-        }
-        std::this_thread::sleep_for(step);
-    } while (std::chrono::steady_clock::now() < end);
-    throw fs::filesystem_error("it cannot be removed", path, failure);
-}
-
-void giveBackFolder(const Fields& fields) {
+void giveBackFolder(const Fields& fields, const Clearing& clearing) {
     const fs::path folder(fields.at(1));
     const fs::path aside(fields.at(2));
     if (aside == folder) {
-        for (const auto& entry : fs::directory_iterator(folder)) {
-            removeAll(entry.path());
-        }
+        clearing.empty(folder);
     } else if (aside.empty()) {
-        removeAll(folder);
+        clearing.vacate(folder);
     } else if (fs::exists(aside)) {
-        removeAll(folder);
+        clearing.vacate(folder);
         fs::rename(aside, folder);
     }
 }
 
-void giveBackNothing(const Fields& fields) {
-    removeAll(fields.at(1));
+void giveBackNothing(const Fields& fields, const Clearing& clearing) {
+    clearing.vacate(fields.at(1));
 }
 
 struct Kind {
     std::wstring_view name;
-    void (*giveBack)(const Fields&);
+    void (*giveBack)(const Fields&, const Clearing&);
 };
 
 constexpr std::array<Kind, 4> kinds{{{L"value", &giveBackValue},
@@ -214,10 +177,10 @@ std::wstring Loan::line() const {
     return text;
 }
 
-void Loan::giveBack() const {
+void Loan::giveBack(const Clearing& clearing) const {
     for (const Kind& kind : kinds) {
         if (kind.name == fields_.front()) {
-            return kind.giveBack(fields_);
+            return kind.giveBack(fields_, clearing);
         }
     }
     throw std::runtime_error("a line of the journal that nobody has written");

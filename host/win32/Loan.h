@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/win32/Clearing.h"
+
 #include <windows.h>
 
 #include <filesystem>
@@ -27,13 +29,19 @@ public:
     /// All of it in one line.
     [[nodiscard]] std::wstring line() const;
 
-    /// Puts it back; doing so twice does no harm. Raises where that fails.
-    void giveBack() const;
+    /// Puts it back for the run that borrowed it: what others have put in its place goes. Doing so twice does no harm.
+    /// Raises where that fails.
+    void giveBack() const { giveBack(removing); }
+    /// Puts it back for a run that was cut short, maybe long ago: what stands in its place is the user's by now, and is
+    /// kept. Raises where that fails.
+    void recover() const { giveBack(keeping); }
 
 private:
     using Fields = std::vector<std::wstring>;
 
     explicit Loan(Fields fields) : fields_(std::move(fields)) {}
+
+    void giveBack(const Clearing& clearing) const;
 
     Fields fields_; ///< its kind, and what that needs
 };

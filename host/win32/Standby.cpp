@@ -1,5 +1,6 @@
 #include "host/win32/Standby.h"
 
+#include "simulator/win32/Registration.h"
 #include "simulator/win32/StandInIdentity.h"
 
 #include <array>
@@ -16,12 +17,11 @@ constexpr DWORD patience = 20000;
 /// The command that starts the stand-in, as it is registered for this program; empty where it is not what PowerPoint's
 /// name stands for.
 std::wstring registeredProgram() {
-    CLSID id{};
-    if (FAILED(CLSIDFromProgID(standin::programmaticIds[0], &id)) || !IsEqualCLSID(id, standin::applicationClass)) {
+    if (!standin::isRegistered()) {
         return {};
     }
     std::array<wchar_t, 40> text{};
-    StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+    StringFromGUID2(standin::applicationClass, text.data(), static_cast<int>(text.size()));
     const std::wstring key = L"CLSID\\" + std::wstring(text.data()) + L"\\LocalServer32";
     std::array<wchar_t, 1024> program{};
     DWORD size = sizeof(program);

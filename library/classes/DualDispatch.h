@@ -19,6 +19,7 @@ public:
         : automation::com::PublishedDispatch<Default, Others...>(object), object_(*object) {}
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
+        automation::com::forgetError();
         if (count == nullptr) {
             return E_POINTER;
         }
@@ -26,6 +27,7 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID /*locale*/, ITypeInfo** info) noexcept override {
+        automation::com::forgetError();
         if (info == nullptr) {
             return E_POINTER;
         }

@@ -10,7 +10,6 @@ namespace library {
 
 namespace {
 
-using platform::checkRegistry;
 using platform::RegistryKey;
 
 const std::wstring classesKey = L"Software\\Classes";
@@ -28,24 +27,11 @@ void write(HKEY root, const Entry& entry) {
     RegistryKey::create(root, pathOf(entry.key)).setText(entry.name, entry.text);
 }
 
-/// Deletes a key that is bare, and those above it that this leaves bare.
-void deleteBare(HKEY root, std::wstring key, REGSAM view = 0) {
-    while (!key.empty()) {
-        const std::wstring path = pathOf(key);
-        if (const auto opened = RegistryKey::open(root, path, KEY_QUERY_VALUE | view); !opened || !opened.isBare()) {
-            return;
-        }
-        checkRegistry(RegDeleteKeyExW(root, path.c_str(), view, 0));
-        const std::size_t end = key.find_last_of(L'\\');
-        key.resize(end == std::wstring::npos ? 0 : end);
-    }
-}
-
 void remove(HKEY root, const Entry& entry) {
     if (const auto key = RegistryKey::open(root, pathOf(entry.key), KEY_SET_VALUE)) {
         key.deleteValue(entry.name);
     }
-    deleteBare(root, entry.key);
+    RegistryKey::removeBare(root, pathOf(entry.key), classesKey);
 }
 
 bool isOtherRegistered(HKEY root) {
@@ -92,7 +78,7 @@ void unregisterLibrary(Scope scope) {
         removeAll(true);
     }
     // What 32-bit programs see stands below this one, which they cannot see themselves.
-    deleteBare(root, L"Wow6432Node", KEY_WOW64_64KEY);
+    RegistryKey::removeBare(root, pathOf(L"Wow6432Node"), classesKey, KEY_WOW64_64KEY);
 }
 
 } // namespace library

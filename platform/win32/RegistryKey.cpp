@@ -28,6 +28,17 @@ RegistryKey RegistryKey::open(HKEY root, const std::wstring& path, REGSAM access
     return RegistryKey(key);
 }
 
+void RegistryKey::removeBare(HKEY root, std::wstring path, const std::wstring& staying, REGSAM view) {
+    while (path.size() > staying.size()) {
+        if (const auto opened = open(root, path, KEY_QUERY_VALUE | view); !opened || !opened.isBare()) {
+            return;
+        }
+        checkRegistry(RegDeleteKeyExW(root, path.c_str(), view, 0));
+        const std::size_t end = path.rfind(L'\\');
+        path.resize(end == std::wstring::npos ? 0 : end);
+    }
+}
+
 std::wstring RegistryKey::text(const std::wstring& name) const {
     DWORD size = 0;
     if (RegGetValueW(key_, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &size) != ERROR_SUCCESS) {

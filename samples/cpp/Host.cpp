@@ -82,6 +82,9 @@ ComPtr<AbstractModule> createModule() {
         status = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(AbstractModule),
                                   reinterpret_cast<void**>(module.GetAddressOf()));
     }
+    if (status == E_NOINTERFACE) {
+        throw Failure{status, "K73053.Module", "has no AbstractModule of this identity: is K73053.h of this library?"};
+    }
     if (FAILED(status)) {
         throw Failure{status, "K73053.Module", "cannot be created: is the library registered?"};
     }

@@ -108,4 +108,9 @@ void unregisterServer(View view) {
     }
 }
 
+bool isRegistered() noexcept {
+    CLSID id{};
+    return SUCCEEDED(CLSIDFromProgID(programmaticIds[0], &id)) && IsEqualCLSID(id, applicationClass);
+}
+
 } // namespace simulator::standin

@@ -13,4 +13,7 @@ void registerServer(View view);
 /// what they are.
 void unregisterServer(View view);
 
+/// True where PowerPoint's name stands for the stand-in, for programs of this one's width.
+[[nodiscard]] bool isRegistered() noexcept;
+
 } // namespace simulator::standin

@@ -1,9 +1,9 @@
-#include "automation/Error.h"
 #include "automation/WithoutRetry.h"
 #include "automation/com/DispatchObject.h"
 #include "automation/com/Objects.h"
 #include "automation/com/Variant.h"
 #include "automation/com/WideText.h"
+#include "tests/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -81,23 +81,13 @@ private:
     }
 };
 
-template <typename Operation> std::optional<Error> raisedBy(Operation operation) {
-    try {
-        operation();
-    } catch (const Error& error) {
-        return error;
-    }
-    return std::nullopt;
-}
-
 class DispatchObjectTest : public testing::Test {
 protected:
     Value invoke(const Name& name, Access access = Access::Get, std::vector<Value> arguments = {}) {
         return object_->invoke(name, access, arguments);
     }
     std::int32_t numberRaised(const Name& name = u"M", Access access = Access::Get) {
-        const auto error = raisedBy([&] { invoke(name, access); });
-        return error ? error->number() : 0;
+        return errorNumber([&] { invoke(name, access); });
     }
 
     ComPtr<Server> server_ = makeCom<Server>();
@@ -146,10 +136,10 @@ TEST_F(DispatchObjectTest, StatesHowAMemberIsReached) {
                                                          {'O', DISPATCH_PROPERTYPUTREF, 1, DISPID_PROPERTYPUT}}));
     // Only an object is tried by reference, and only where there is no such member.
     server_->statuses = {DISP_E_MEMBERNOTFOUND};
-    EXPECT_EQ(raisedBy([&] { invoke(u"P", Access::Put, {1}); })->number(), 438);
+    EXPECT_EQ(::errorOf([&] { invoke(u"P", Access::Put, {1}); })->number(), 438);
     server_->statuses = {E_FAIL};
-    EXPECT_EQ(raisedBy([&] { invoke(u"P", Access::Put, {object_}); })->number(), E_FAIL);
-    EXPECT_EQ(raisedBy([&] { invoke(u"P", Access::Put); })->number(), 450);
+    EXPECT_EQ(::errorOf([&] { invoke(u"P", Access::Put, {object_}); })->number(), E_FAIL);
+    EXPECT_EQ(::errorOf([&] { invoke(u"P", Access::Put); })->number(), 450);
     EXPECT_EQ(server_->calls.size(), 9U);
 }
 
@@ -158,7 +148,7 @@ TEST_F(DispatchObjectTest, WritesArgumentsBackAlsoFromAMemberThatRaises) {
         Value first = u"a";
         Value second = u"b";
         server_->statuses = {status};
-        raisedBy([&] { invoke(u"M", Access::Call, {Value::reference(first), 5, Value::reference(second)}); });
+        ::errorOf([&] { invoke(u"M", Access::Call, {Value::reference(first), 5, Value::reference(second)}); });
         EXPECT_EQ(first, Value(2));
         EXPECT_EQ(second, Value(0));
     }
@@ -194,7 +184,7 @@ TEST_F(DispatchObjectTest, SaysWhatIDispatchRefusesAsTheRunTimeDoes) {
     server_->lookUpStatuses = {DISP_E_UNKNOWNNAME};
     EXPECT_EQ(numberRaised(u"Unknown"), 438);
     server_->statuses = {E_ACCESSDENIED};
-    EXPECT_FALSE(raisedBy([&] { invoke(u"M"); })->description().empty());
+    EXPECT_FALSE(::errorOf([&] { invoke(u"M"); })->description().empty());
 }
 
 int filledIn = 0;
@@ -231,7 +221,7 @@ TEST_F(DispatchObjectTest, KeepsWhatAMemberRaises) {
         server_->toRaise.scode = scode;
         server_->toRaise.wCode = code;
         server_->statuses = {DISP_E_EXCEPTION};
-        const auto error = raisedBy([&] { invoke(u"M"); });
+        const auto error = ::errorOf([&] { invoke(u"M"); });
         ASSERT_TRUE(error);
         EXPECT_EQ(error->number(), number);
         if (number != DISP_E_EXCEPTION) {
@@ -246,7 +236,7 @@ TEST_F(DispatchObjectTest, KeepsWhatAMemberRaises) {
     server_->toRaise = {};
     server_->toRaise.scode = static_cast<HRESULT>(0x800A0009);
     server_->statuses = {DISP_E_EXCEPTION};
-    EXPECT_EQ(raisedBy([&] { invoke(u"M"); })->description(), describe(RunTimeError::SubscriptOutOfRange));
+    EXPECT_EQ(::errorOf([&] { invoke(u"M"); })->description(), describe(RunTimeError::SubscriptOutOfRange));
 }
 
 TEST_F(DispatchObjectTest, AsksABusyServerAgainForAWhile) {
@@ -293,8 +283,8 @@ TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
     // The end of the process is that of all its objects; an object's own end is not.
     for (const auto& [number, next] :
          {std::pair(remote::serverUnavailable, remote::serverUnavailable),
-          std::pair(remote::callFailed, remote::serverUnavailable), std::pair(remote::disconnected, std::int32_t{0}),
-          std::pair(remote::objectNotConnected, std::int32_t{0})}) {
+          std::pair(remote::callFailed, remote::serverUnavailable), std::pair(remote::disconnected, noError),
+          std::pair(remote::objectNotConnected, noError)}) {
         server_ = makeCom<Server>();
         object_ = objectOf(server_.get());
         const auto childServer = makeCom<Server>();
@@ -302,9 +292,8 @@ TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
         const ObjectPtr child = invoke(u"Child").to<ObjectPtr>();
         server_->statuses = {number};
         EXPECT_EQ(numberRaised(), number);
-        const auto error = raisedBy([&] { child->invoke(u"M", Access::Get, {}); });
-        EXPECT_EQ(error ? error->number() : 0, next);
-        EXPECT_EQ(childServer->calls.size(), next == 0 ? 1U : 0U);
+        EXPECT_EQ(errorNumber([&] { child->invoke(u"M", Access::Get, {}); }), next);
+        EXPECT_EQ(childServer->calls.size(), next == noError ? 1U : 0U);
     }
     server_ = makeCom<Server>();
     object_ = objectOf(server_.get());

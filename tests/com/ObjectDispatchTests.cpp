@@ -24,7 +24,7 @@ protected:
         std::wstring text(name);
         LPOLESTR asked = text.data();
         DISPID id = 0;
-        const HRESULT status = dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, 0, &id);
+        const HRESULT status = afterAnError([&] { return dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, 0, &id); });
         EXPECT_EQ(status, id == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK);
         return id;
     }
@@ -36,7 +36,19 @@ protected:
                          static_cast<UINT>(named.size())};
         raised_.clear();
         result_ = Variant();
-        return dispatch_->Invoke(id, IID_NULL, 0, flags, &given, &result_, &raised_, nullptr);
+        return afterAnError(
+            [&] { return dispatch_->Invoke(id, IID_NULL, 0, flags, &given, &result_, &raised_, nullptr); });
+    }
+    /// The status of a call that follows one that has failed. What that one has said must not be taken for what this one
+    /// says, which is nothing but where it raises.
+    template <typename Call> static HRESULT afterAnError(const Call& call) {
+        ComPtr<ICreateErrorInfo> earlier;
+        EXPECT_EQ(CreateErrorInfo(earlier.receive()), S_OK);
+        SetErrorInfo(0, earlier.as<IErrorInfo>().get());
+        const HRESULT status = call();
+        ComPtr<IErrorInfo> left;
+        EXPECT_TRUE(status == DISP_E_EXCEPTION || GetErrorInfo(0, left.receive()) == S_FALSE) << std::hex << status;
+        return status;
     }
     template <typename... Arguments> HRESULT call(const wchar_t* name, Arguments&&... arguments) {
         std::vector<Variant> list;
@@ -110,8 +122,12 @@ TEST_F(ObjectDispatchTest, RefusesCleanly) {
     EXPECT_EQ(invoke(1, DISPATCH_PROPERTYPUT, one(1), {1}), DISP_E_NONAMEDARGS);
 
     DISPPARAMS broken{nullptr, nullptr, 3, 0};
-    EXPECT_EQ(dispatch_->Invoke(6, IID_NULL, 0, both, &broken, nullptr, nullptr, nullptr), E_INVALIDARG);
-    EXPECT_EQ(dispatch_->Invoke(6, IID_NULL, 0, both, nullptr, nullptr, nullptr, nullptr), E_INVALIDARG);
+    const auto invokeRaw = [&](REFIID reserved, DISPPARAMS* given) {
+        return afterAnError([&] { return dispatch_->Invoke(6, reserved, 0, both, given, nullptr, nullptr, nullptr); });
+    };
+    EXPECT_EQ(invokeRaw(IID_NULL, &broken), E_INVALIDARG);
+    EXPECT_EQ(invokeRaw(IID_NULL, nullptr), E_INVALIDARG);
+    EXPECT_EQ(invokeRaw(IID_IDispatch, &broken), DISP_E_UNKNOWNINTERFACE);
     std::vector<Variant> many(1000);
     EXPECT_EQ(invoke(6, both, std::move(many)), DISP_E_BADPARAMCOUNT);
 }

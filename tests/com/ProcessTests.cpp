@@ -1,7 +1,7 @@
-#include "automation/Error.h"
 #include "automation/LateBound.h"
 #include "automation/WithoutRetry.h"
 #include "automation/com/Objects.h"
+#include "tests/Errors.h"
 #include "tests/com/Sample.h"
 #include "tests/com/TestServer.h"
 
@@ -26,17 +26,8 @@ protected:
         ASSERT_TRUE(remote_);
     }
 
-    template <typename Operation> static std::optional<Error> raisedBy(Operation operation) {
-        try {
-            operation();
-        } catch (const Error& error) {
-            return error;
-        }
-        return std::nullopt;
-    }
     std::int32_t numberRaised() {
-        const auto error = raisedBy([&] { remote_.get(u"Number"); });
-        return error ? error->number() : 0;
+        return errorNumber([&] { remote_.get(u"Number"); });
     }
 
     tests::ServerProcess server_;
@@ -55,14 +46,14 @@ TEST_F(ProcessTest, PassesValuesErrorsAndObjects) {
     remote_.call(u"Change", Value::reference(variable), u"après");
     EXPECT_EQ(variable, Value(u"après"));
 
-    const auto error = raisedBy([&] { remote_.call(u"Fail", 9); });
+    const auto error = ::errorOf([&] { remote_.call(u"Fail", 9); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->number(), 9);
     EXPECT_EQ(error->source(), Sample::source);
     EXPECT_EQ(error->description(), Sample::description);
     EXPECT_EQ(error->helpFile(), Sample::helpFile);
     EXPECT_EQ(error->helpContext(), Sample::helpContext);
-    EXPECT_EQ(raisedBy([&] { remote_.get(u"Absent"); })->number(), 438);
+    EXPECT_EQ(::errorOf([&] { remote_.get(u"Absent"); })->number(), 438);
 
     const ObjectPtr child = remote_.get(u"Child").to<ObjectPtr>();
     EXPECT_TRUE(isSame(child, remote_.get(u"Child").to<ObjectPtr>()));
@@ -92,11 +83,11 @@ TEST_F(ProcessTest, WaitsForABusyServer) {
 TEST_F(ProcessTest, OutlivesAServerThatDies) {
     EXPECT_EQ(remote_.get(u"Number"), Value(7));
     const ObjectPtr child = remote_.get(u"Child").to<ObjectPtr>();
-    const auto error = raisedBy([&] { remote_.call(u"Die"); });
+    const auto error = ::errorOf([&] { remote_.call(u"Die"); });
     ASSERT_TRUE(error);
     EXPECT_TRUE(remote::isDead(error->number())) << std::hex << error->number();
     EXPECT_EQ(numberRaised(), error->number());
-    EXPECT_TRUE(remote::isDead(raisedBy([&] { child->invoke(u"Number", Access::Get, {}); })->number()));
+    EXPECT_TRUE(remote::isDead(::errorOf([&] { child->invoke(u"Number", Access::Get, {}); })->number()));
     EXPECT_TRUE(isSame(remote_.object(), remote_.object()));
 
     const auto start = Clock::now();

@@ -35,10 +35,12 @@ TEST_F(ClassTest, StaysLoadedWhileItIsUsed) {
         EXPECT_FALSE(library_.canUnload());
     }
     EXPECT_TRUE(library_.canUnload());
-    const auto lock = [&](BOOL on) { EXPECT_EQ(library_.classObject(CLSID_Module)->LockServer(on), S_OK); };
-    lock(TRUE);
+    const auto lock = [&](BOOL on) { return library_.classObject(CLSID_Module)->LockServer(on); };
+    EXPECT_EQ(lock(FALSE), E_UNEXPECTED) << "there is none";
+    EXPECT_TRUE(library_.canUnload());
+    EXPECT_EQ(lock(TRUE), S_OK);
     EXPECT_FALSE(library_.canUnload());
-    lock(FALSE);
+    EXPECT_EQ(lock(FALSE), S_OK);
 }
 
 TEST_F(ClassTest, RefusesWhatItDoesNotHave) {

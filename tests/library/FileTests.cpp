@@ -1,9 +1,10 @@
-#include "automation/com/WideText.h"
 #include "tests/library/Library.h"
 
 #include <gtest/gtest.h>
+#include <winver.h>
 
 #include <algorithm>
+#include <array>
 #include <set>
 #include <string>
 #include <vector>
@@ -63,19 +64,20 @@ TEST(LibraryFileTest, ImportsTheSystemAloneAndExportsPlainNames) {
                                                       "DllRegisterServer", "DllUnregisterServer"}));
 }
 
-TEST(LibraryFileTest, SaysItsVersion) {
-    const tests::Library library;
-    HRSRC const found = FindResourceW(library.handle(), MAKEINTRESOURCEW(1), MAKEINTRESOURCEW(16)); // the version
-    ASSERT_NE(found, nullptr);
-    const auto* const bytes = static_cast<const char*>(LockResource(LoadResource(library.handle(), found)));
-    const std::string_view content(bytes, SizeofResource(library.handle(), found));
-    const auto holds = [&](std::wstring_view text) {
-        return content.find({reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t)}) !=
-               std::string_view::npos;
-    };
-    EXPECT_TRUE(holds(L"OriginalFilename"));
-    EXPECT_TRUE(holds(L"K73053.dll"));
-    EXPECT_TRUE(holds(L"ProductVersion"));
+TEST(LibraryFileTest, IsOfTheVersionThatWasBuilt) {
+    const std::wstring path = tests::Library::path();
+    std::vector<std::byte> resource(GetFileVersionInfoSizeW(path.c_str(), nullptr));
+    ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(resource.size()), resource.data()));
+    VS_FIXEDFILEINFO* fixed = nullptr;
+    UINT size = 0;
+    ASSERT_TRUE(VerQueryValueW(resource.data(), L"\\", reinterpret_cast<void**>(&fixed), &size));
+    ASSERT_EQ(size, sizeof(*fixed));
+    EXPECT_EQ(fixed->dwFileType, static_cast<DWORD>(VFT_DLL));
+    constexpr std::array<WORD, 4> built K73053_VERSION;
+    for (const auto& [high, low] : {std::pair(fixed->dwFileVersionMS, fixed->dwFileVersionLS),
+                                    std::pair(fixed->dwProductVersionMS, fixed->dwProductVersionLS)}) {
+        EXPECT_EQ((std::array<WORD, 4>{HIWORD(high), LOWORD(high), HIWORD(low), LOWORD(low)}), built);
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "automation/com/WideText.h"
 #include "tests/library/ErrorSaid.h"
 #include "tests/library/Training.h"
+#include "tests/win32/TestWindow.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -114,6 +115,31 @@ TEST_F(ModuleTest, GivesTheTextsOfACheckByTheHostsInterface) {
     const auto named = automation::com::dispatchOf(late.call(u"Complement").to<ObjectPtr>());
     EXPECT_EQ(automation::com::identityOf(named.get()), automation::com::identityOf(texts.get()))
         << "one object, however it is asked for";
+    EXPECT_EQ(module_->Fermer(), S_OK);
+}
+
+TEST_F(ModuleTest, BringsPowerPointToTheFront) {
+    startPowerPoint();
+    deliver(314, 1);
+    const auto powerPoint = reinterpret_cast<HWND>(static_cast<std::intptr_t>(window_));
+    const tests::TestWindow other({.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE});
+    const struct {
+        const char* what;
+        std::function<HRESULT()> call;
+    } cases[] = {{"for the learner's work", [&] { return init(314); }},
+                 {"for the check", [&] { return module_->TestePoint(); }}};
+    for (const auto& [what, call] : cases) {
+        ShowWindow(powerPoint, SW_MINIMIZE);
+        // A window of another process goes in its own time.
+        for (int wait = 0; wait < 200 && GetForegroundWindow() != other.handle(); ++wait) {
+            SetForegroundWindow(other.handle());
+            Sleep(10);
+        }
+        ASSERT_EQ(GetForegroundWindow(), other.handle()) << what;
+        EXPECT_EQ(call(), S_OK) << what;
+        EXPECT_EQ(GetForegroundWindow(), powerPoint) << what;
+        EXPECT_TRUE(IsZoomed(powerPoint)) << what;
+    }
     EXPECT_EQ(module_->Fermer(), S_OK);
 }
 

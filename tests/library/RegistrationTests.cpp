@@ -1,6 +1,8 @@
 #include "automation/com/ComPtr.h"
+#include "host/win32/KeyRights.h"
 #include "library/registration/Entries.h"
 #include "library/registration/Table.h"
+#include "platform/win32/RegistryKey.h"
 #include "tests/library/ClassesKey.h"
 #include "tests/library/Library.h"
 #include "tests/library/UserHive.h"
@@ -11,6 +13,7 @@
 namespace {
 
 using automation::com::ComPtr;
+using platform::RegistryKey;
 using tests::allClassesContent;
 
 constexpr REGSAM otherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
@@ -64,32 +67,18 @@ private:
 /// A key that nobody may open, for the length of a scope.
 class NoRights {
 public:
-    NoRights(HKEY root, const std::wstring& path) {
-        EXPECT_EQ(RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, READ_CONTROL | WRITE_DAC, nullptr, &key_, nullptr),
-                  ERROR_SUCCESS);
-        DWORD size = 0;
-        RegGetKeySecurity(key_, DACL_SECURITY_INFORMATION, nullptr, &size);
-        former_.resize(size);
-        EXPECT_EQ(RegGetKeySecurity(key_, DACL_SECURITY_INFORMATION, former_.data(), &size), ERROR_SUCCESS);
-        ACL nobody{};
-        SECURITY_DESCRIPTOR closed{};
-        InitializeAcl(&nobody, sizeof(nobody), ACL_REVISION);
-        InitializeSecurityDescriptor(&closed, SECURITY_DESCRIPTOR_REVISION);
-        SetSecurityDescriptorDacl(&closed, TRUE, &nobody, FALSE);
-        EXPECT_EQ(RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, &closed), ERROR_SUCCESS);
+    NoRights(HKEY root, const std::wstring& path) : key_(RegistryKey::open(root, path, READ_CONTROL | WRITE_DAC)) {
+        host::denyAll(key_.get());
     }
-    ~NoRights() {
-        EXPECT_EQ(RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, former_.data()), ERROR_SUCCESS);
-        RegCloseKey(key_);
-    }
+    ~NoRights() { host::setRights(key_.get(), former_); }
     NoRights(const NoRights&) = delete;
     NoRights& operator=(const NoRights&) = delete;
     NoRights(NoRights&&) = delete;
     NoRights& operator=(NoRights&&) = delete;
 
 private:
-    HKEY key_ = nullptr;
-    std::vector<BYTE> former_;
+    RegistryKey key_;
+    std::vector<BYTE> former_ = host::rightsOn(key_.get());
 };
 
 /// The machine without the library, for the length of a test; afterwards it is registered as it was found.
@@ -120,7 +109,19 @@ protected:
         return CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(AbstractModule),
                                 reinterpret_cast<void**>(object.receive()));
     }
-    /// Wine finds classes of the machine alone.
+    /// The same from what is registered for the user, by hand.
+    static HRESULT createFromUsersClasses() {
+        const auto name = RegistryKey::open(HKEY_CURRENT_USER, classes + L"K73053.Module\\CLSID", KEY_QUERY_VALUE);
+        const std::wstring id = name ? name.text(L"") : L"{}";
+        const auto server =
+            RegistryKey::open(HKEY_CURRENT_USER, classes + L"CLSID\\" + id + L"\\InprocServer32", KEY_QUERY_VALUE);
+        CLSID classId{};
+        if (!server || server.text(L"") != tests::Library::path() || FAILED(CLSIDFromString(id.c_str(), &classId))) {
+            return REGDB_E_CLASSNOTREG;
+        }
+        return tests::Library().create<AbstractModule>(classId) ? S_OK : E_NOINTERFACE;
+    }
+    /// Wine's COM finds classes of the machine alone.
     static bool findsUsersClasses() {
         return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr;
     }
@@ -161,11 +162,15 @@ TEST_F(RegistrationTest, IsWrittenForOneUserAndTakenBack) {
     for (const library::Entry& entry : library::entriesFor(tests::Library::path())) {
         EXPECT_EQ(textAt(HKEY_CURRENT_USER, entry), entry.text);
     }
+    EXPECT_EQ(createFromUsersClasses(), S_OK);
     if (findsUsersClasses()) {
         EXPECT_EQ(createByName(), S_OK);
     }
     EXPECT_EQ(library_.install(false, L"USER"), S_OK);
-    EXPECT_NE(createByName(), S_OK);
+    EXPECT_EQ(createFromUsersClasses(), REGDB_E_CLASSNOTREG);
+    if (findsUsersClasses()) {
+        EXPECT_NE(createByName(), S_OK);
+    }
     EXPECT_EQ(library_.install(true, L"nobody"), E_INVALIDARG);
 }
 

@@ -1,6 +1,6 @@
-#include "automation/Error.h"
 #include "automation/com/WideText.h"
 #include "platform/win32/Win32Files.h"
+#include "tests/Errors.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -10,7 +10,6 @@
 
 namespace {
 
-using automation::Error;
 using platform::FileSystem;
 using platform::Win32Files;
 
@@ -42,14 +41,6 @@ protected:
     [[nodiscard]] DWORD attributes(std::u16string_view name) const {
         return GetFileAttributesW(automation::com::WideText(path(name)).get());
     }
-    static std::int32_t numberRaisedBy(const std::function<void()>& operation) {
-        try {
-            operation();
-        } catch (const Error& error) {
-            return error.number();
-        }
-        return 0;
-    }
 
     std::filesystem::path root_;
     Win32Files files_;
@@ -77,14 +68,14 @@ TEST_F(FileTest, ClearsRenamesAndRemovesOrSaysWhyNot) {
         {"rename: taken", [&] { files_.rename(path(u"07305301.ppt"), path(u"prise.ppt")); }, 58},
         {"rename: no folder", [&] { files_.rename(path(u"07305301.ppt"), path(u"absent\\b.ppt")); }, 76},
         {"rename: open", [&] { files_.rename(path(u"ouverte.ppt"), path(u"b.ppt")); }, 70},
-        {"rename", [&] { files_.rename(path(u"07305301.ppt"), path(u"Méthodologie.ppt")); }, 0},
+        {"rename", [&] { files_.rename(path(u"07305301.ppt"), path(u"Méthodologie.ppt")); }, noError},
         {"remove: no file", [&] { files_.remove(path(u"absente.ppt")); }, 53},
         {"remove: read-only", [&] { files_.remove(path(u"verrouillée.ppt")); }, 75},
         {"remove: open", [&] { files_.remove(path(u"ouverte.ppt")); }, 70},
-        {"remove", [&] { files_.remove(path(u"prise.ppt")); }, 0},
+        {"remove", [&] { files_.remove(path(u"prise.ppt")); }, noError},
     };
     for (const auto& [what, operation, number] : cases) {
-        EXPECT_EQ(numberRaisedBy(operation), number) << what;
+        EXPECT_EQ(errorNumber(operation), number) << what;
     }
     CloseHandle(open);
     EXPECT_TRUE(exists(u"Méthodologie.ppt"));

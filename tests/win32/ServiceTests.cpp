@@ -1,7 +1,7 @@
-#include "automation/Error.h"
 #include "automation/LateBound.h"
 #include "automation/com/WideText.h"
 #include "platform/win32/Win32Services.h"
+#include "tests/Errors.h"
 #include "tests/com/TestServer.h"
 
 #include <gtest/gtest.h>
@@ -60,14 +60,6 @@ protected:
     }
     static void remove(const std::wstring& key) { RegDeleteKeyW(HKEY_CLASSES_ROOT, key.c_str()); }
 
-    static std::int32_t numberRaisedBy(const std::function<void()>& operation) {
-        try {
-            operation();
-        } catch (const Error& error) {
-            return error.number();
-        }
-        return 0;
-    }
 
     platform::Win32Services system_;
     platform::ApplicationServers& servers_ = system_.services().servers;
@@ -75,8 +67,8 @@ protected:
 };
 
 TEST_F(ServerTest, AttachesToARunningServerOrSaysThatThereIsNone) {
-    EXPECT_EQ(numberRaisedBy([&] { servers_.attach(id); }), 429);
-    EXPECT_EQ(numberRaisedBy([&] { servers_.attach(u"K73053Tests.Absent"); }), 429);
+    EXPECT_EQ(errorNumber([&] { servers_.attach(id); }), 429);
+    EXPECT_EQ(errorNumber([&] { servers_.attach(u"K73053Tests.Absent"); }), 429);
     tests::ServerProcess process;
     {
         const LateBound attached(servers_.attach(id));
@@ -85,7 +77,7 @@ TEST_F(ServerTest, AttachesToARunningServerOrSaysThatThereIsNone) {
     }
     process.end();
     // The running-object table forgets a process that has ended a little later.
-    const auto attach = [&] { return numberRaisedBy([&] { servers_.attach(id); }); };
+    const auto attach = [&] { return errorNumber([&] { servers_.attach(id); }); };
     for (int wait = 0; wait < 100 && attach() != 429; ++wait) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
@@ -93,13 +85,13 @@ TEST_F(ServerTest, AttachesToARunningServerOrSaysThatThereIsNone) {
 }
 
 TEST_F(ServerTest, StartsAServerOfItsOwn) {
-    EXPECT_EQ(numberRaisedBy([&] { servers_.create(u"K73053Tests.Absent"); }), 429);
+    EXPECT_EQ(errorNumber([&] { servers_.create(u"K73053Tests.Absent"); }), 429);
     const LateBound created(servers_.create(id));
     EXPECT_EQ(created.call(u"Add", 1, 2), Value(3));
     EXPECT_THROW(created.call(u"Die"), Error);
 
     put(classKey_ + L"\\LocalServer32", L"C:\\absent.exe");
-    EXPECT_NE(numberRaisedBy([&] { servers_.create(id); }), 0);
+    EXPECT_NE(errorNumber([&] { servers_.create(id); }), noError);
 }
 
 } // namespace

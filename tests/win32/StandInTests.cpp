@@ -1,15 +1,17 @@
-#include "automation/Error.h"
 #include "automation/LateBound.h"
+#include "automation/WithoutRetry.h"
 #include "automation/com/Objects.h"
 #include "module/Session.h"
 #include "platform/win32/RegistryKey.h"
 #include "platform/win32/Win32Services.h"
 #include "simulator/win32/StandInIdentity.h"
+#include "tests/Errors.h"
 #include "tests/win32/Program.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
 
 namespace {
 
@@ -23,6 +25,19 @@ using automation::com::ComPtr;
 constexpr std::u16string_view powerPoint = u"PowerPoint.Application.11";
 constexpr std::int32_t minimized = 2;
 constexpr std::int32_t maximized = 3;
+
+/// What the running-object table has of the stand-in's controls; null where it has none.
+ObjectPtr controlsThatRun() {
+    ComPtr<IUnknown> running;
+    GetActiveObject(standin::controlClass, nullptr, running.receive());
+    return automation::com::objectOf(running.as<IDispatch>().get());
+}
+
+LateBound control() {
+    LateBound controls(controlsThatRun());
+    EXPECT_TRUE(controls);
+    return controls;
+}
 
 /// The registered stand-in, started for each test and ended after it.
 class StandInTest : public testing::Test {
@@ -41,23 +56,10 @@ protected:
         CloseHandle(process_);
     }
 
-    static LateBound control() {
-        ComPtr<IUnknown> running;
-        EXPECT_EQ(GetActiveObject(standin::controlClass, nullptr, running.receive()), S_OK);
-        return LateBound(automation::com::objectOf(running.as<IDispatch>().get()));
-    }
     void show() {
         application_.put(u"Visible", true);
         ASSERT_NE(IsWindowVisible(frame_), FALSE);
         SetForegroundWindow(frame_);
-    }
-    template <typename Operation> static std::int32_t numberRaised(const Operation& operation) {
-        try {
-            operation();
-        } catch (const automation::Error& error) {
-            return error.number();
-        }
-        return 0;
     }
 
     platform::Win32Servers servers_;
@@ -85,9 +87,9 @@ TEST_F(StandInTest, IsOnePowerPointWithARealWindow) {
 TEST_F(StandInTest, GoesWithQuit) {
     application_.call(u"Quit");
     EXPECT_EQ(IsWindow(frame_), FALSE);
-    EXPECT_EQ(numberRaised([&] { servers_.attach(powerPoint); }), 429);
+    EXPECT_EQ(errorNumber([&] { servers_.attach(powerPoint); }), 429);
     EXPECT_EQ(WaitForSingleObject(process_, 5000), WAIT_OBJECT_0);
-    EXPECT_TRUE(automation::remote::isDead(numberRaised([&] { application_.get(u"Name"); })));
+    EXPECT_TRUE(automation::remote::isDead(errorNumber([&] { application_.get(u"Name"); })));
 }
 
 TEST_F(StandInTest, ClosesDialogsFromTheTopAndByEscape) {
@@ -120,14 +122,14 @@ TEST_F(StandInTest, RefusesCallsWhileItIsBusyAndDiesWhenAsked) {
     controls.call(u"Refuse", 2);
     EXPECT_EQ(application_.get(u"Version"), Value(u"11.0")) << "the bridge tries again";
     controls.put(u"Busy", true);
-    EXPECT_EQ(numberRaised([&] { application_.get(u"Version"); }), automation::remote::callRejected);
+    EXPECT_EQ(errorNumber([&] { application_.get(u"Version"); }), automation::remote::callRejected);
     controls.put(u"Busy", false);
     const auto before = controls.get(u"Calls").to<std::int32_t>();
     application_.get(u"Version");
     EXPECT_EQ(controls.get(u"Calls"), Value(before + 1));
     controls.call(u"DieAtCall", 2);
     application_.get(u"Version");
-    EXPECT_TRUE(automation::remote::isDead(numberRaised([&] { application_.get(u"Version"); })));
+    EXPECT_TRUE(automation::remote::isDead(errorNumber([&] { application_.get(u"Version"); })));
 }
 
 TEST_F(StandInTest, IsAskedOnceWhetherItAnswers) {
@@ -220,6 +222,52 @@ TEST(StandInCommandLineTest, NamesASwitchThatItDoesNotKnow) {
     EXPECT_PRED2(startsWith, said(L"/Nonsense", 2),
                  "powerpnt-standin: The following argument was not expected: /Nonsense; powerpnt-standin --help");
     EXPECT_PRED2(startsWith, said(L"/View:16 /RegServer", 2), "powerpnt-standin: --View: ");
+}
+
+TEST(StandInCommandLineTest, StartsAPowerPointAsItsSwitchesSay) {
+    using Clock = std::chrono::steady_clock;
+    using namespace std::chrono_literals;
+    constexpr DWORD good = 0;
+    constexpr DWORD diedOnPurpose = 3;
+    const auto frame = [] { return FindWindowW(standin::frameClass, nullptr); };
+    const auto askOnce = [](const LateBound& application) {
+        const automation::WithoutRetry once;
+        return errorNumber([&] { application.get(u"Version"); });
+    };
+    const struct {
+        const wchar_t* arguments;
+        DWORD code;
+        std::function<bool(const LateBound&)> isAsAskedFor;
+    } cases[] = {
+        {L"", good, [&](const LateBound&) { return IsWindowVisible(frame()) && !IsIconic(frame()); }},
+        {L"/Hidden", good, [&](const LateBound&) { return !IsWindowVisible(frame()); }},
+        {L"/Minimised", good, [&](const LateBound&) { return IsWindowVisible(frame()) && IsIconic(frame()); }},
+        {L"/Slow:300", good,
+         [&](const LateBound& application) {
+             const auto start = Clock::now();
+             return askOnce(application) == noError && Clock::now() - start >= 300ms;
+         }},
+        {L"/Busy:2", good,
+         [&](const LateBound& application) {
+             constexpr auto refused = automation::remote::callRejected;
+             return askOnce(application) == refused && askOnce(application) == refused &&
+                    askOnce(application) == noError;
+         }},
+        {L"/Die:2", diedOnPurpose,
+         [&](const LateBound& application) {
+             return askOnce(application) == noError && automation::remote::isDead(askOnce(application));
+         }},
+    };
+    for (const auto& [arguments, code, isAsAskedFor] : cases) {
+        const tests::Program program(L"simulator\\powerpnt-standin.exe", arguments);
+        for (int wait = 0; wait < 500 && !controlsThatRun(); ++wait) {
+            Sleep(20);
+        }
+        // Creating it gives the one that runs; and Wine would go on handing out one that has died, if nobody had.
+        EXPECT_TRUE(isAsAskedFor(LateBound(platform::Win32Servers().create(powerPoint)))) << arguments;
+        SendMessageTimeoutW(frame(), WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, 5000, nullptr);
+        EXPECT_EQ(program.exitCode(), code) << arguments;
+    }
 }
 
 } // namespace

@@ -2,13 +2,13 @@
 
 #include <exception>
 
-namespace automation::com {
+namespace automation {
 
 /// Takes steps that do not depend on each other: each of them is taken, and the error of the first that fails is raised
 /// in the end.
 class FirstError {
 public:
-    template <typename Step> void attempt(Step&& step) noexcept {
+    template <typename Step> void attempt(const Step& step) noexcept {
         try {
             step();
         } catch (...) {
@@ -27,4 +27,4 @@ private:
     std::exception_ptr error_;
 };
 
-} // namespace automation::com
+} // namespace automation
