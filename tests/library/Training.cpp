@@ -5,9 +5,7 @@
 #include "automation/com/WideText.h"
 #include "platform/win32/Win32Servers.h"
 
-#include <chrono>
 #include <filesystem>
-#include <thread>
 
 namespace tests {
 
@@ -17,13 +15,14 @@ using automation::com::ComPtr;
 
 namespace {
 
-/// Waits until PowerPoint has ended, so that the next test starts its own.
-void awaitEnd(LONG window) {
-    using namespace std::chrono_literals;
-    for (int i = 0; i < 200 && IsWindow(reinterpret_cast<HWND>(static_cast<std::intptr_t>(window))); ++i) {
-        std::this_thread::sleep_for(10ms);
-    }
-    EXPECT_EQ(FindWindowW(L"PP11FrameClass", nullptr), nullptr);
+HWND frame() {
+    return FindWindowW(L"PP11FrameClass", nullptr);
+}
+
+HANDLE processOf(HWND window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    return OpenProcess(SYNCHRONIZE, FALSE, id);
 }
 
 } // namespace
@@ -55,10 +54,13 @@ void Training::TearDown() {
         application_->Release();
     }
     if (powerPoint_) {
-        const LONG window = mainWindow();
+        // The next test starts a PowerPoint of its own, which needs that this one has gone.
+        const HANDLE process = processOf(frame());
         powerPoint_.call(u"Quit");
         powerPoint_ = automation::LateBound();
-        awaitEnd(window);
+        EXPECT_EQ(WaitForSingleObject(process, 30000), WAIT_OBJECT_0);
+        CloseHandle(process);
+        EXPECT_EQ(frame(), nullptr);
     }
     EXPECT_TRUE(library_.canUnload());
     fs::remove_all(folder_);
@@ -94,7 +96,7 @@ std::u16string Training::folderText() const {
 }
 
 LONG Training::mainWindow() {
-    return static_cast<LONG>(reinterpret_cast<std::intptr_t>(FindWindowW(L"PP11FrameClass", nullptr)));
+    return static_cast<LONG>(reinterpret_cast<std::intptr_t>(frame()));
 }
 
 HRESULT Training::init(LONG question) {

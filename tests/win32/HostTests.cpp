@@ -48,7 +48,7 @@ private:
 
 bool comesTrue(const std::function<bool()>& what) {
     using namespace std::chrono_literals;
-    for (int wait = 0; wait < 1000 && !what(); ++wait) {
+    for (int wait = 0; wait < 4000 && !what(); ++wait) {
         std::this_thread::sleep_for(20ms);
     }
     return what();

@@ -78,7 +78,7 @@ TEST_F(ServerTest, AttachesToARunningServerOrSaysThatThereIsNone) {
     process.end();
     // The running-object table forgets a process that has ended a little later.
     const auto attach = [&] { return errorNumber([&] { servers_.attach(id); }); };
-    for (int wait = 0; wait < 100 && attach() != 429; ++wait) {
+    for (int wait = 0; wait < 1500 && attach() != 429; ++wait) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
     EXPECT_EQ(attach(), 429);

@@ -52,7 +52,7 @@ protected:
     }
     void TearDown() override {
         SendMessageTimeoutW(frame_, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, 5000, nullptr);
-        EXPECT_EQ(WaitForSingleObject(process_, 10000), WAIT_OBJECT_0) << "it ends with its window";
+        EXPECT_EQ(WaitForSingleObject(process_, 30000), WAIT_OBJECT_0) << "it ends with its window";
         CloseHandle(process_);
     }
 
