@@ -189,11 +189,11 @@ public:
 
     /// Any type with any bits, its pointers null or to something of that type; one level of many is another VARIANT.
     const VARIANT& pick(int depth = 0) {
-        static constexpr std::array types{VT_EMPTY, VT_NULL,  VT_I2,      VT_I4,        VT_R4,     VT_R8,
-                                          VT_CY,    VT_DATE,  VT_BSTR,    VT_DISPATCH,  VT_ERROR,  VT_BOOL,
-                                          VT_I1,    VT_UI1,   VT_UI2,     VT_UI4,       VT_I8,     VT_UI8,
-                                          VT_INT,   VT_UINT,  VT_DECIMAL, VT_UNKNOWN,   VT_RECORD, VT_VARIANT,
-                                          VT_VOID,  VT_LPSTR, VT_LPWSTR,  VT_SAFEARRAY, VT_CARRAY, VT_USERDEFINED};
+        static constexpr auto types = std::to_array<VARTYPE>(
+            {VT_EMPTY, VT_NULL,     VT_I2,     VT_I4,        VT_R4,      VT_R8,         VT_CY,     VT_DATE,
+             VT_BSTR,  VT_DISPATCH, VT_ERROR,  VT_BOOL,      VT_I1,      VT_UI1,        VT_UI2,    VT_UI4,
+             VT_I8,    VT_UI8,      VT_INT,    VT_UINT,      VT_DECIMAL, VT_UNKNOWN,    VT_RECORD, VT_VARIANT,
+             VT_VOID,  VT_LPSTR,    VT_LPWSTR, VT_SAFEARRAY, VT_CARRAY,  VT_USERDEFINED});
         Variant& variant = *kept_.emplace_back(std::make_unique<Variant>());
         VARTYPE type = static_cast<VARTYPE>(chance_.oneIn(20) ? chance_.bits() & VT_TYPEMASK : chance_.of(types));
         const std::uint64_t bits = chance_.oneIn(3) ? chance_.below(4) : chance_.bits();
