@@ -1,5 +1,9 @@
 #include "host/win32/BorrowedFiles.h"
 
+#include "automation/Error.h"
+
+#include <algorithm>
+
 namespace host {
 
 namespace fs = std::filesystem;
@@ -14,14 +18,21 @@ fs::path asideOf(const fs::path& folder) {
     return freeNameBeside(folder);
 }
 
+/// A path as others are compared with it.
+fs::path folded(const fs::path& path) {
+    std::wstring text = path.lexically_normal().wstring();
+    CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
+    return text;
+}
+
 bool isInside(const fs::path& file, const fs::path& folder) {
-    const fs::path place = file.lexically_normal().lexically_relative(folder.lexically_normal());
+    const fs::path place = folded(file).lexically_relative(folded(folder));
     return !place.empty() && *place.begin() != "..";
 }
 
 } // namespace
 
-BorrowedFiles::BorrowedFiles(Journal& journal, const fs::path& folder) : journal_(journal), folder_(folder) {
+BorrowedFiles::BorrowedFiles(Journal& journal, const fs::path& folder) : journal_(journal), own_{folder} {
     const fs::path aside = asideOf(folder);
     journal_.note(Loan::ofFolder(folder, aside));
     if (!aside.empty() && aside != folder) {
@@ -31,14 +42,29 @@ BorrowedFiles::BorrowedFiles(Journal& journal, const fs::path& folder) : journal
 }
 
 void BorrowedFiles::announce(const fs::path& file) {
-    if (isInside(file, folder_) || fs::exists(file)) {
+    if (isOwn(file)) {
         return;
+    }
+    if (fs::exists(file)) {
+        demandOwn(file);
     }
     fs::path first = file;
     while (first.has_parent_path() && first.parent_path() != first && !fs::exists(first.parent_path())) {
         first = first.parent_path();
     }
     journal_.note(Loan::ofNothing(first));
+    own_.push_back(first);
+}
+
+void BorrowedFiles::demandOwn(const fs::path& file) const {
+    if (!isOwn(file)) {
+        throw automation::Error(static_cast<std::int32_t>(automation::RunTimeError::PermissionDenied), u"exercise-host",
+                                file.u16string() + u" was there before the scenario, and stays as it is");
+    }
+}
+
+bool BorrowedFiles::isOwn(const fs::path& file) const {
+    return std::any_of(own_.begin(), own_.end(), [&](const fs::path& place) { return isInside(file, place); });
 }
 
 } // namespace host

@@ -11,13 +11,17 @@ public:
     /// `journal` must outlive this object.
     BorrowedFiles(Journal& journal, const std::filesystem::path& folder);
 
-    /// To be called before a file is created: it goes, or the first folder created for it. What is in the borrowed folder
-    /// goes with that.
+    /// To be called before a file is created or written: it goes, or the first folder created for it. What is in the
+    /// borrowed folder goes with that. Raises PermissionDenied (70) where it is there and was not announced.
     void announce(const std::filesystem::path& file);
+    /// Raises PermissionDenied (70) for a file that was not announced: nobody would give it back.
+    void demandOwn(const std::filesystem::path& file) const;
 
 private:
+    [[nodiscard]] bool isOwn(const std::filesystem::path& file) const;
+
     Journal& journal_;
-    std::filesystem::path folder_;
+    std::vector<std::filesystem::path> own_; ///< files and folders
 };
 
 } // namespace host

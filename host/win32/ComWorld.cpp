@@ -27,6 +27,8 @@ using automation::com::fromWide;
 
 constexpr std::u16string_view folder = u"C:\\Formation\\";
 const std::wstring general = L"SOFTWARE\\Microsoft\\Office\\11.0\\Common\\General";
+const std::wstring templates = L"Mod\u00E8les";
+constexpr std::u16string_view shellFolders = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
 const std::wstring international = L"Control Panel\\International";
 const std::wstring measure = L"iMeasure";
 
@@ -142,12 +144,14 @@ public:
     }
     void deleteFile(std::u16string_view path) override {
         const fs::path real = existing(path);
+        files_.demandOwn(real);
         SetFileAttributesW(real.c_str(), FILE_ATTRIBUTE_NORMAL);
         fs::remove(real);
     }
     void setFileAttributes(std::u16string_view path, std::uint32_t attributes) override {
-        SetFileAttributesW(existing(path).c_str(),
-                           attributes == attributes::normal ? FILE_ATTRIBUTE_NORMAL : attributes);
+        const fs::path real = existing(path);
+        files_.demandOwn(real);
+        SetFileAttributesW(real.c_str(), attributes == attributes::normal ? FILE_ATTRIBUTE_NORMAL : attributes);
     }
 
     std::vector<std::string> leftOpen() override {
@@ -170,9 +174,15 @@ private:
         for (const std::u16string_view name : folderSettings::names) {
             setRegistryText(folderSettings::key, name, u"C:\\Mes documents\\" + std::u16string(name) + u"\\");
         }
-        registry_.setText(HKEY_CURRENT_USER, general, L"Templates", L"Mod\u00E8les");
+        registry_.setText(HKEY_CURRENT_USER, general, L"Templates", templates);
         registry_.remove(HKEY_CURRENT_USER, general, L"UserTemplates");
         setMeasurementSystem(u"0");
+        // The folder that InitQuestion makes there.
+        const fs::path profile(registryText(shellFolders, u"AppData"));
+        const fs::path own = profile / L"Microsoft" / templates / L"ZOR Mod\u00E8les";
+        if (!fs::exists(own)) {
+            files_.announce(own);
+        }
     }
 
     std::shared_ptr<Desktop> desktop_;

@@ -1,3 +1,5 @@
+#include "automation/Error.h"
+#include "host/win32/BorrowedFiles.h"
 #include "host/win32/Journal.h"
 #include "host/world/TemporaryFolder.h"
 
@@ -123,6 +125,27 @@ TEST_F(JournalTest, RemovesWhatItsOwnRunHasMadeAndNothingElse) {
         }
         EXPECT_FALSE(fs::exists(Journal::path())) << "nothing is borrowed any more";
     }
+}
+
+TEST_F(JournalTest, LendsNoFileThatWasThereBefore) {
+    const host::TemporaryFolder disk;
+    const fs::path mine = disk.path() / "mine.txt";
+    std::ofstream(mine) << "mine";
+    Journal journal;
+    host::BorrowedFiles files(journal, disk.path() / "Formation");
+    EXPECT_THROW(files.announce(mine), automation::Error);
+    EXPECT_THROW(files.demandOwn(mine), automation::Error);
+
+    const fs::path theirs = disk.path() / "new" / "theirs.txt";
+    files.announce(theirs);
+    fs::create_directories(theirs.parent_path());
+    std::ofstream(theirs) << "theirs";
+    for (const fs::path& own : {theirs, disk.path() / "NEW" / "other.txt", disk.path() / "formation" / "x.ppt"}) {
+        EXPECT_NO_THROW(files.announce(own)) << own;
+        EXPECT_NO_THROW(files.demandOwn(own)) << own;
+    }
+    journal.giveBack();
+    EXPECT_EQ(content(disk.path()), Names{"mine.txt"});
 }
 
 } // namespace
