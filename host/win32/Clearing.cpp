@@ -80,10 +80,10 @@ void keepContent(const fs::path& folder) {
     }
     const fs::path kept = freeNameBeside(folder);
     fs::create_directory(kept);
-    sayKept(folder, kept);
     for (const fs::path& each : contentOf(folder)) {
         fs::rename(each, kept / each.filename());
     }
+    sayKept(folder, kept);
 }
 
 } // namespace
