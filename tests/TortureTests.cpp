@@ -137,6 +137,20 @@ TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
             << position << ", " << fault.display() << ", " << reading.display();
     }
 
+    const std::vector<Call> searching{{Border::File, Stage::Checking, u"find", u"Files.find(\"Plan exo 3.*\", 6)"},
+                                      {Border::File, Stage::Checking, u"find", u"Files.find(\"Plan exo 3.rtf\", 6)"}};
+    const Judge ofSearch(304, {HostCall::TestePoint, {}}, flawless, searching);
+    for (const std::size_t position : {0U, 1U}) {
+        for (const auto* const letter : {u"", u"A", u"B", u"C"}) {
+            host::torture::Aftermath aftermath;
+            aftermath.reading = right;
+            aftermath.reading->causeErreur = letter;
+            EXPECT_EQ(ofSearch.judge(aftermath, position, denied).findings.empty(),
+                      letter == std::u16string(position == 0 ? u"A" : u"B"))
+                << position << ", " << aftermath.reading->display();
+        }
+    }
+
     const std::vector<Call> closing{{Border::Automation, Stage::Returning},
                                     {Border::Registry, Stage::Restoring, u"open", {}, u"K"}};
     const host::torture::Aftermath silent;

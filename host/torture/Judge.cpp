@@ -30,8 +30,10 @@ Judgement Judge::judge(const Aftermath& aftermath, std::size_t position, const F
     if (!aftermath.isStruck) {
         findings.emplace_back("the fault has not struck");
     }
-    // A bar that could not be read before it was arranged cannot be put back, nor can those of a process that has died.
-    const bool isUnread = route_[position].stage == Stage::Layout && fault.lasting == Lasting::Once;
+    // The bar that could not be read before it was arranged cannot be put back, nor can those of a process that has
+    // died.
+    const bool isUnread =
+        route_[position].stage == Stage::Layout && fault.lasting == Lasting::Once && aftermath.bars.size() <= 1;
     if (!isUnread && fault.kind != Kind::Dies) {
         findings.insert(findings.end(), aftermath.bars.begin(), aftermath.bars.end());
     }
@@ -57,7 +59,7 @@ bool Judge::isAnsweredBy(const Prescription& prescription, const Aftermath& afte
     case Answer::Straight: return error && prescription.admits(*error);
     case Answer::Code: return !error && reading && reading->erreurGenerale && reading->causeErreur == prescription.code;
     case Answer::Letter:
-        return !error && reading && !reading->erreurGenerale && !isSameVerdict(*reading, *flawless_.reading);
+        return !error && reading && !reading->erreurGenerale && reading->causeErreur == prescription.code;
     case Answer::Silence:
         return isSameError(error, flawless_.error) && (!reading || isSameVerdict(*reading, *flawless_.reading));
     case Answer::Wrong: break;

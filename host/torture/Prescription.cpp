@@ -53,7 +53,7 @@ constexpr std::array rules{
     Rule{Stage::Fronting, Border::Automation, {}, Answer::Straight},
     Rule{Stage::Examining, Border::Automation, {}, Answer::Straight},
     Rule{Stage::Checking, Border::Automation, {}, Answer::Reported, {}, u"TestePoint", Object::Source},
-    Rule{Stage::Checking, Border::File, {}, Answer::Letter}, // files that cannot be found
+    Rule{Stage::Checking, Border::File, {}, Answer::Letter}, // question 304 finds no files
     Rule{Stage::Ending, Border::Automation, {}, Answer::Straight},
 };
 
@@ -158,7 +158,8 @@ private:
     [[nodiscard]] Prescription prescriptionOf(const Rule& rule, const Call& call) const {
         const bool isOfDeath = isGone_ && call.border == Border::Automation;
         if (rule.answer == Answer::Letter) {
-            return {rule.answer};
+            const bool isOfType = call.text.find(u".rtf") != std::u16string::npos;
+            return {rule.answer, std::nullopt, false, isOfType ? u"B" : u"A"};
         }
         const Error failure = failureOf(call, fault_);
         if (rule.answer != Answer::Reported) {

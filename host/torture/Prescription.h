@@ -29,7 +29,7 @@ struct Prescription {
     /// number will do that says so, and the source need but begin so.
     std::optional<automation::Error> error{};
     bool isOfDeath = false;
-    std::u16string code{}; ///< of a general error
+    std::u16string code{}; ///< of a general error, or the letter
 
     [[nodiscard]] bool admits(const automation::Error& raised) const;
     /// In words: `reported with class and service, error 5 ...`.
