@@ -215,7 +215,8 @@ void assignAt(const VARIANT& reference, const Value& value, int depth) {
 Variant converted(const VARIANT& variant, VARTYPE type) {
     VARIANT source = variant; // the system only reads it, without saying so in its signature
     Variant result;
-    check(VariantChangeTypeEx(&result, &source, LOCALE_INVARIANT, 0, type));
+    const HRESULT status = VariantChangeTypeEx(&result, &source, LOCALE_INVARIANT, 0, type);
+    check(status == E_INVALIDARG ? DISP_E_TYPEMISMATCH : status); // a decimal whose parts are out of range
     return result;
 }
 
