@@ -19,12 +19,6 @@ HWND frame() {
     return FindWindowW(L"PP11FrameClass", nullptr);
 }
 
-HANDLE processOf(HWND window) {
-    DWORD id = 0;
-    GetWindowThreadProcessId(window, &id);
-    return OpenProcess(SYNCHRONIZE, FALSE, id);
-}
-
 } // namespace
 
 void Training::SetUp() {
@@ -54,13 +48,14 @@ void Training::TearDown() {
         application_->Release();
     }
     if (powerPoint_) {
-        // The next test starts a PowerPoint of its own, which needs that this one has gone.
-        const HANDLE process = processOf(frame());
         powerPoint_.call(u"Quit");
         powerPoint_ = automation::LateBound();
-        EXPECT_EQ(WaitForSingleObject(process, 30000), WAIT_OBJECT_0);
-        CloseHandle(process);
+    }
+    if (process_ != nullptr) {
+        // The next test starts a PowerPoint of its own, which needs that this one has gone.
+        EXPECT_EQ(WaitForSingleObject(process_, 30000), WAIT_OBJECT_0);
         EXPECT_EQ(frame(), nullptr);
+        CloseHandle(process_);
     }
     EXPECT_TRUE(library_.canUnload());
     fs::remove_all(folder_);
@@ -72,6 +67,9 @@ void Training::startPowerPoint() {
     application_ = automation::com::dispatchOf(powerPoint_.object()).release();
     window_ = mainWindow();
     ASSERT_NE(window_, 0);
+    DWORD id = 0;
+    GetWindowThreadProcessId(frame(), &id);
+    process_ = OpenProcess(SYNCHRONIZE, FALSE, id);
 }
 
 void Training::deliver(int question, int slides) {

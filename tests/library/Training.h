@@ -40,6 +40,9 @@ protected:
     automation::LateBound powerPoint_; ///< null where the test has not started it
     IDispatch* application_ = nullptr; ///< the host's reference
     LONG window_ = -1;                 ///< the host's window handle
+
+private:
+    HANDLE process_ = nullptr; ///< of the PowerPoint that the test has started
 };
 
 } // namespace tests

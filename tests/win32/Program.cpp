@@ -12,7 +12,7 @@ namespace tests {
 namespace fs = std::filesystem;
 
 namespace {
-constexpr DWORD patience = 30000;
+constexpr DWORD patience = 120000;
 }
 
 Program::Program(const std::wstring& name, const std::wstring& arguments)
