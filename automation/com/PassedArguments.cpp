@@ -1,7 +1,7 @@
 #include "automation/com/PassedArguments.h"
 
-#include "automation/FirstError.h"
 #include "automation/Error.h"
+#include "automation/FirstError.h"
 #include "automation/com/Objects.h"
 #include "automation/com/VariantReader.h"
 

@@ -25,8 +25,8 @@ public:
     /// None where it is missing. Raises any other error of the system, such as missing rights.
     [[nodiscard]] static RegistryKey open(HKEY root, const std::wstring& path, REGSAM access);
 
-    /// Removes a key that is bare, and those above it that this leaves bare, up to one that stays. `view` is a part of the
-    /// registry, or 0 for that of this program. Raises the error of the system.
+    /// Removes a key that is bare, and those above it that this leaves bare, up to one that stays. `view` is a part of
+    /// the registry, or 0 for that of this program. Raises the error of the system.
     static void removeBare(HKEY root, std::wstring path, const std::wstring& staying, REGSAM view = 0);
 
     [[nodiscard]] HKEY get() const noexcept { return key_; }

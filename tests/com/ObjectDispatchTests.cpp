@@ -39,8 +39,8 @@ protected:
         return afterAnError(
             [&] { return dispatch_->Invoke(id, IID_NULL, 0, flags, &given, &result_, &raised_, nullptr); });
     }
-    /// The status of a call that follows one that has failed. What that one has said must not be taken for what this one
-    /// says, which is nothing but where it raises.
+    /// The status of a call that follows one that has failed. What that one has said must not be taken for what this
+    /// one says, which is nothing but where it raises.
     template <typename Call> static HRESULT afterAnError(const Call& call) {
         ComPtr<ICreateErrorInfo> earlier;
         EXPECT_EQ(CreateErrorInfo(earlier.receive()), S_OK);

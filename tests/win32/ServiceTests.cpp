@@ -60,7 +60,6 @@ protected:
     }
     static void remove(const std::wstring& key) { RegDeleteKeyW(HKEY_CLASSES_ROOT, key.c_str()); }
 
-
     platform::Win32Services system_;
     platform::ApplicationServers& servers_ = system_.services().servers;
     std::wstring classKey_;
