@@ -56,11 +56,12 @@ TEST(TortureTests, JudgeDemandsWhatIsPrescribedForEachStep) {
     };
     constexpr std::size_t silence = 0;
     constexpr std::size_t straight = 1;
-    const struct {
+    struct Case {
         HostCall operation;
         Call call;
         std::size_t right; ///< of the answers
-    } cases[] = {
+    };
+    const std::vector<Case> cases = {
         {HostCall::InitQuestion, {Border::Automation, Stage::Obtaining, u"create"}, 3},
         {HostCall::InitQuestion, {Border::Automation, Stage::Obtaining, u"attach"}, silence},
         {HostCall::InitQuestion, {Border::Automation, Stage::Saving}, straight},
@@ -120,17 +121,18 @@ TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
     host::torture::Aftermath flawless;
     flawless.reading = right;
     const Judge judge(306, {HostCall::TestePoint, {}}, flawless, route);
-    const struct {
-        Fault fault;
+    struct Case {
         std::size_t position;
         host::Reading reading;
+        Fault fault;
         bool isRight;
-    } cases[] = {
-        {denied, 0, code(u"AK"), true}, {denied, 0, code(u"%AL"), false}, {denied, 0, right, false},
-        {deaf, 1, code(u"%AL"), true},  {deaf, 1, code(u"AM"), false},    {denied, 2, code(u"AM"), true},
-        {deaf, 3, code(u"%AL"), false}, {late, 1, right, true},           {late, 3, code(u"A"), false},
     };
-    for (const auto& [fault, position, reading, isRight] : cases) {
+    const std::vector<Case> cases = {
+        {0, code(u"AK"), denied, true}, {0, code(u"%AL"), denied, false}, {0, right, denied, false},
+        {1, code(u"%AL"), deaf, true},  {1, code(u"AM"), deaf, false},    {2, code(u"AM"), denied, true},
+        {3, code(u"%AL"), deaf, false}, {1, right, late, true},           {3, code(u"A"), late, false},
+    };
+    for (const auto& [position, reading, fault, isRight] : cases) {
         host::torture::Aftermath aftermath;
         aftermath.reading = reading;
         EXPECT_EQ(judge.judge(aftermath, position, fault).findings.empty(), isRight)

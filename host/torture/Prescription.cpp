@@ -61,11 +61,13 @@ const Rule* ruleFor(const Call& call, Operation operation) {
     if (operation.isHeld && call.stage == Stage::Saving && call.member == u"query") {
         return nullptr; // the learner's folders have been kept since the question held was begun
     }
-    const auto rule = std::find_if(rules.begin(), rules.end(), [&](const Rule& each) {
-        return each.stage == call.stage && each.border == call.border &&
-               (each.member.empty() || each.member == call.member);
-    });
-    return rule == rules.end() || rule->answer == Answer::Silence ? nullptr : rule;
+    for (const Rule& each : rules) {
+        if (each.stage == call.stage && each.border == call.border &&
+            (each.member.empty() || each.member == call.member)) {
+            return each.answer == Answer::Silence ? nullptr : &each;
+        }
+    }
+    return nullptr;
 }
 
 /// What fails where a call does, before anybody reports it.

@@ -95,10 +95,12 @@ constexpr std::array landmarks{
 };
 
 Stage stageAt(const Place& place, Stage before) {
-    const auto reached = std::find_if(landmarks.begin(), landmarks.end(), [&](const Landmark& landmark) {
-        return landmark.from == before && landmark.isAt(place);
-    });
-    return reached == landmarks.end() ? before : reached->to;
+    for (const Landmark& landmark : landmarks) {
+        if (landmark.from == before && landmark.isAt(place)) {
+            return landmark.to;
+        }
+    }
+    return before;
 }
 
 /// The first argument of a call that is a text.
