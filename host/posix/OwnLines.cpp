@@ -24,6 +24,12 @@ volatile std::sig_atomic_t& interruption() {
 
 constexpr std::array interruptions{SIGINT, SIGTERM, SIGHUP};
 
+/// One that comes just before reading begins would not end it: it comes again every second, until nobody reads.
+void interrupt(int /*signal*/) {
+    interruption() = 1;
+    alarm(1);
+}
+
 /// What a letter is, the terminal says; where it says nothing, lines are UTF-8 as everything that is printed.
 void takeUtf8() {
     std::setlocale(LC_CTYPE, "");
@@ -78,8 +84,9 @@ EditedLines::EditedLines() {
     rl_catch_signals = 0;
     using_history();
     struct sigaction action {};
-    action.sa_handler = [](int) { interruption() = 1; };
-    action.sa_flags = static_cast<int>(SA_RESETHAND); // and no SA_RESTART: reading must end
+    action.sa_handler = interrupt; // without SA_RESTART: reading must end
+    sigaction(SIGALRM, &action, nullptr);
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
     for (const int signal : interruptions) {
         sigaction(signal, &action, nullptr);
     }
@@ -87,6 +94,8 @@ EditedLines::EditedLines() {
 
 EditedLines::~EditedLines() {
     completer() = nullptr;
+    alarm(0);
+    std::signal(SIGALRM, SIG_DFL);
     for (const int signal : interruptions) {
         std::signal(signal, SIG_DFL);
     }
@@ -97,6 +106,7 @@ std::optional<std::string> EditedLines::read(const std::string& prompt) {
     const std::unique_ptr<char, decltype(&std::free)> line(interruption() != 0 ? nullptr : readline(prompt.c_str()),
                                                            &std::free);
     if (!line || interruption() != 0) {
+        alarm(0);
         std::cout << '\n';
         return std::nullopt;
     }
