@@ -10,7 +10,7 @@ set(lowest_component automation)
 # their own.
 function(component name)
     file(GLOB_RECURSE sources RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS *.cpp *.h)
-    list(FILTER sources EXCLUDE REGEX "^(com|posix|win32)/|(^|/)main\\.cpp$")
+    list(FILTER sources EXCLUDE REGEX "^(com|posix|win32|tests)/|(^|/)main\\.cpp$")
     add_library(${name} STATIC ${sources})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE compiler)

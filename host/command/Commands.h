@@ -48,9 +48,6 @@ using Action = std::function<ExitCode(const CommandContext&)>;
 [[nodiscard]] Action addVerify(CLI::App& command);
 [[nodiscard]] Action addRecheck(CLI::App& command);
 [[nodiscard]] Action addList(CLI::App& command);
-[[nodiscard]] Action addTorture(CLI::App& command);
-[[nodiscard]] Action addLearners(CLI::App& command);
-[[nodiscard]] Action addBench(CLI::App& command);
 ///@}
 
 } // namespace host

@@ -22,7 +22,7 @@ std::vector<fs::path> Library::files() const {
         throw UsageError("no folder of scenarios: " + folder_.string());
     }
     std::vector<fs::path> all;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder_)) {
         if (entry.is_regular_file() && entry.path().extension() == extension) {
             all.push_back(entry.path());
         }
@@ -36,7 +36,11 @@ fs::path Library::fileOf(std::int32_t question) const {
         throw UsageError("no question " + std::to_string(question) + ": the course has " +
                          std::to_string(firstQuestion) + " to " + std::to_string(lastQuestion));
     }
-    return folder_ / ("0" + std::to_string(question) + extension);
+    const fs::path name = "0" + std::to_string(question) + extension;
+    const std::vector<fs::path> all = files();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&](const fs::path& file) { return file.filename() == name; });
+    return found == all.end() ? folder_ / name : *found;
 }
 
 std::vector<fs::path> Library::filesOf(const std::vector<std::int32_t>& questions) const {

@@ -7,7 +7,8 @@
 
 namespace host {
 
-/// The scenario files of a folder, named "0306.scn" after their question; others ("session.scn") go by their own names.
+/// The scenario files of a folder and of those below it: a question's is named after it, "0306.scn"; others
+/// ("session.scn") go by their own names.
 class Library {
 public:
     explicit Library(std::filesystem::path folder) : folder_(std::move(folder)) {}
@@ -15,8 +16,8 @@ public:
     [[nodiscard]] const std::filesystem::path& folder() const noexcept { return folder_; }
     /// All scenario files, sorted by name.
     [[nodiscard]] std::vector<std::filesystem::path> files() const;
-    /// The file of a question, whether it exists or not. Raises UsageError for a number that is no question of the
-    /// course.
+    /// The file of a question, or where it would be looked for. Raises UsageError for a number that is no question of
+    /// the course.
     [[nodiscard]] std::filesystem::path fileOf(std::int32_t question) const;
     [[nodiscard]] std::vector<std::filesystem::path> filesOf(const std::vector<std::int32_t>& questions) const;
     /// The same, but the files of all questions of the course where none is named.

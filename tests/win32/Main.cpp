@@ -1,6 +1,6 @@
 #include "automation/Object.h"
 #include "automation/com/ComObject.h"
-#include "tests/com/TestServer.h"
+#include "tests/automation/com/TestServer.h"
 #include "tests/win32/Watchdog.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "host/command/CommandLine.h"
+
+namespace host {
+
+/// `exercise-host`, the course author's program.
+[[nodiscard]] const Program& exerciseHost() noexcept;
+
+} // namespace host

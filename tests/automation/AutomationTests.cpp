@@ -1,0 +1,161 @@
+#include "automation/Integer.h"
+#include "automation/LateBound.h"
+#include "automation/MemberTable.h"
+#include "automation/Text.h"
+#include "automation/observe/CallCounter.h"
+#include "automation/observe/CallTrace.h"
+#include "automation/observe/FaultInjector.h"
+#include "tests/support/Errors.h"
+
+#include <limits>
+
+namespace {
+
+using namespace automation;
+
+/// An object with a member of every kind.
+class Sample final : public Published {
+public:
+    [[nodiscard]] std::int32_t number() const { return number_; }
+    void setNumber(std::int16_t number) { number_ = number; }
+    [[nodiscard]] std::u16string item(std::int32_t index) const { return u"item " + decimal(index); }
+    [[nodiscard]] ObjectPtr child() const { return std::make_shared<Sample>(); }
+    void swap(std::u16string& text, std::int32_t& count) const {
+        text += u"!";
+        count *= 2;
+        if (count > 100) {
+            raise(RunTimeError::InvalidProcedureCall);
+        }
+    }
+    [[nodiscard]] std::int32_t add(std::int32_t left, std::optional<std::int32_t> right) const {
+        return left + right.value_or(10);
+    }
+
+    [[nodiscard]] const MemberTable& members() const override {
+        static const MemberTable table{
+            property<&Sample::number, &Sample::setNumber>(u"Number"),
+            method<&Sample::item>(u"Item").asDefault(),
+            property<&Sample::child>(u"Child"),
+            method<&Sample::swap>(u"Swap"),
+            method<&Sample::add>(u"Add"),
+        };
+        return table;
+    }
+
+private:
+    std::int32_t number_ = 7;
+};
+
+TEST(Value, ConvertsAsAutomationDoes) {
+    EXPECT_EQ(Value(2.5).to<std::int16_t>(), 2);
+    EXPECT_EQ(Value(3.5F).to<std::int32_t>(), 4);
+    EXPECT_EQ(Value(true).to<std::int32_t>(), -1);
+    EXPECT_EQ(Value(u" 12.5 ").to<double>(), 12.5);
+    EXPECT_EQ(Value().to<std::int32_t>(), 0);
+    EXPECT_EQ(Value().to<std::u16string>(), u"");
+    EXPECT_EQ(Value(std::int16_t(-2)).to<bool>(), true);
+    EXPECT_EQ(Value(481.625F).to<std::u16string>(), u"481.625");
+    EXPECT_EQ(Value(std::int32_t(-42)).to<std::u16string>(), u"-42");
+}
+
+TEST(Value, RaisesWhatDoesNotConvert) {
+    const auto number = [](RunTimeError error) { return static_cast<std::int32_t>(error); };
+    EXPECT_EQ(errorNumber([] { return Value(32768).to<std::int16_t>(); }), number(RunTimeError::Overflow));
+    EXPECT_EQ(errorNumber([] { return Value(3e9).to<std::int32_t>(); }), number(RunTimeError::Overflow));
+    EXPECT_EQ(errorNumber([] { return Value(1e300).to<float>(); }), number(RunTimeError::Overflow));
+    EXPECT_EQ(errorNumber([] { return Value(u"").to<std::int32_t>(); }), number(RunTimeError::TypeMismatch));
+    for (const char16_t* const text : {u"12x", u"+-5", u"+", u"nan"}) {
+        EXPECT_EQ(errorNumber([&] { return Value(text).to<double>(); }), number(RunTimeError::TypeMismatch));
+    }
+    EXPECT_EQ(errorNumber([] { return Value(Missing()).to<std::u16string>(); }), number(RunTimeError::TypeMismatch));
+    EXPECT_EQ(errorNumber([] { return Value(nullptr).to<std::int32_t>(); }), number(RunTimeError::ObjectNotSet));
+    EXPECT_EQ(errorNumber([] { return Value(1).to<ObjectPtr>(); }), number(RunTimeError::ObjectRequired));
+}
+
+TEST(Integer, OverflowsInItsOwnType) {
+    std::int16_t counter = std::numeric_limits<std::int16_t>::max();
+    EXPECT_EQ(errorNumber([&] { increase(counter); }), 6);
+    EXPECT_EQ(counter, std::numeric_limits<std::int16_t>::max());
+    EXPECT_EQ(errorNumber([] { static_cast<void>(narrow<std::int16_t>(-32769)); }), 6);
+}
+
+TEST(MemberTable, ReachesMembersByNameWhateverTheirCase) {
+    const LateBound sample(std::make_shared<Sample>());
+    sample.put(u"NUMBER", 12);
+    EXPECT_EQ(sample.get(u"number").to<std::int32_t>(), 12);
+    EXPECT_EQ(sample.call(u"add", 1).to<std::int32_t>(), 11);
+    EXPECT_EQ(sample.call(u"add", 1, Missing()).to<std::int32_t>(), 11);
+    EXPECT_EQ(sample.call(defaultMember, 3).to<std::u16string>(), u"item 3");
+    EXPECT_EQ(sample.get(u"Child", 4).to<std::u16string>(), u"item 4") << "arguments go to the default member";
+}
+
+TEST(MemberTable, RefusesWhatIsNotPublished) {
+    const LateBound sample(std::make_shared<Sample>());
+    EXPECT_EQ(errorNumber([&] { sample.get(u"Nothing"); }), 438);
+    EXPECT_EQ(errorNumber([&] { sample.call(u"Number"); }), 438) << "a property is not called";
+    EXPECT_EQ(errorNumber([&] { sample.put(u"Child", 1); }), 438) << "a property without setter is not written";
+    EXPECT_EQ(errorNumber([&] { sample.call(u"Add"); }), 449);
+    EXPECT_EQ(errorNumber([&] { sample.call(u"Add", 1, 2, 3); }), 450);
+    EXPECT_EQ(errorNumber([&] { sample.put(u"Number", 70000); }), 6);
+    EXPECT_EQ(errorNumber([] { LateBound().get(u"Number"); }), 91);
+}
+
+TEST(MemberTable, WritesArgumentsBackEvenWhereTheCallRaises) {
+    const LateBound sample(std::make_shared<Sample>());
+    Value text(u"a");
+    Value count(std::int16_t(3));
+    sample.call(u"Swap", Value::reference(text), Value::reference(count));
+    EXPECT_EQ(text, Value(u"a!"));
+    EXPECT_EQ(count, Value(6));
+    count = Value(60);
+    EXPECT_EQ(errorNumber([&] { sample.call(u"Swap", Value::reference(text), Value::reference(count)); }), 5);
+    EXPECT_EQ(count, Value(120));
+    sample.call(u"Swap", u"by value", 1);
+}
+
+TEST(Observers, StandAroundEveryObjectHandedOut) {
+    const auto counter = std::make_shared<CallCounter>();
+    std::vector<std::u16string> calls;
+    const auto trace = std::make_shared<CallTrace>(
+        [&](const TracedCall& call) { calls.push_back(call.call + u" -> " + call.outcome); });
+    const ObjectPtr inner = std::make_shared<Sample>();
+    const LateBound sample(observed(observed(inner, counter), trace));
+
+    const LateBound child(sample.get(Name(u"Child", u"Sample")).to<ObjectPtr>());
+    child.put(u"Number", 3);
+    EXPECT_EQ(errorNumber([&] { child.get(u"Nothing"); }), 438);
+
+    EXPECT_EQ(counter->count(), 3U);
+    ASSERT_EQ(calls.size(), 3U);
+    EXPECT_EQ(calls[0], u"Sample.Child -> <object>");
+    EXPECT_EQ(calls[1], u"Number = 3 -> Empty");
+    EXPECT_EQ(calls[2].substr(0, 20), u"Nothing -> error 438");
+    EXPECT_TRUE(isSame(sample.object(), inner));
+    EXPECT_TRUE(isSame(inner, sample.object()));
+    EXPECT_EQ(unobserved(sample.object()), inner);
+}
+
+TEST(Observers, MakeTheNthCallFail) {
+    const auto failures = [](FaultInjector::Lasting lasting) {
+        const auto injector = std::make_shared<FaultInjector>(2, lasting, Error(RunTimeError::OutOfMemory));
+        const LateBound sample(observed(std::make_shared<Sample>(), injector));
+        std::string outcome;
+        for (int i = 0; i < 4; ++i) {
+            outcome += errorNumber([&] { sample.get(u"Number"); }) == 7 ? 'x' : '.';
+        }
+        return outcome;
+    };
+    EXPECT_EQ(failures(FaultInjector::Lasting::Once), ".x..");
+    EXPECT_EQ(failures(FaultInjector::Lasting::FromThereOn), ".xxx");
+}
+
+TEST(Text, SurvivesTheWayToUtf8AndBack) {
+    const std::u16string text = u"Méthodologie \u20AC \U0001F600";
+    EXPECT_EQ(fromUtf8(toUtf8(text)), text);
+    EXPECT_EQ(fromUtf8("a\xC3"), u"a\uFFFD");
+    EXPECT_EQ(fromUtf8("\xC0\xAF"), u"\uFFFD\uFFFD") << "overlong";
+    EXPECT_EQ(toUtf8(std::u16string(1, char16_t(0xD800))), "\xEF\xBF\xBD");
+    EXPECT_EQ(lowerCase(u"ÉÈÇÀŒŸ MÉTHODOLOGIE.PPT ×"), u"éèçàœÿ méthodologie.ppt ×");
+}
+
+} // namespace

@@ -1,0 +1,430 @@
+#include "automation/Error.h"
+#include "automation/Text.h"
+#include "automation/com/ComError.h"
+#include "automation/com/Objects.h"
+#include "automation/com/Variant.h"
+#include "automation/com/VariantReader.h"
+#include "automation/com/WideText.h"
+#include "tests/automation/com/Sample.h"
+#include "tests/support/Chance.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <deque>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace {
+
+using namespace automation;
+using namespace automation::com;
+
+/// A VARIANT of a type, filled by what is given.
+template <typename Fill> Variant made(int type, Fill fill) {
+    Variant variant;
+    fill(variant);
+    variant.vt = static_cast<VARTYPE>(type);
+    return variant;
+}
+
+Value read(const VARIANT& variant) {
+    return VariantReader().read(variant);
+}
+
+std::int32_t numberRaisedBy(const std::function<void()>& operation) {
+    try {
+        operation();
+    } catch (const Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+constexpr double beyond = 4294967296.0;
+
+TEST(Variant, ReadsEveryType) {
+    const DECIMAL decimal = [] {
+        DECIMAL result{};
+        VarDecFromR8(-12.5, &result);
+        return result;
+    }();
+    const struct {
+        Variant variant;
+        Value expected;
+    } cases[] = {
+        {Variant(), Empty()},
+        {made(VT_NULL, [](auto&) {}), Empty()},
+        {made(VT_ERROR, [](auto& v) { v.scode = DISP_E_PARAMNOTFOUND; }), Missing()},
+        {made(VT_BOOL, [](auto& v) { v.boolVal = VARIANT_TRUE; }), true},
+        {made(VT_BOOL, [](auto& v) { v.boolVal = 1; }), true},
+        {made(VT_I1, [](auto& v) { v.cVal = static_cast<char>(-5); }), std::int16_t{-5}},
+        {made(VT_UI1, [](auto& v) { v.bVal = 250; }), std::int16_t{250}},
+        {made(VT_I2, [](auto& v) { v.iVal = -32768; }), std::int16_t{-32768}},
+        {made(VT_UI2, [](auto& v) { v.uiVal = 65535; }), 65535},
+        {made(VT_I4, [](auto& v) { v.lVal = -70000; }), -70000},
+        {made(VT_INT, [](auto& v) { v.intVal = 5; }), 5},
+        {made(VT_UI4, [](auto& v) { v.ulVal = 5; }), 5},
+        {made(VT_UINT, [](auto& v) { v.uintVal = 0xFFFFFFFFU; }), 4294967295.0},
+        {made(VT_I8, [](auto& v) { v.llVal = -4294967296LL; }), -beyond},
+        {made(VT_UI8, [](auto& v) { v.ullVal = 9; }), 9},
+        {made(VT_R4, [](auto& v) { v.fltVal = 0.1F; }), 0.1F},
+        {made(VT_R8, [](auto& v) { v.dblVal = 0.1; }), 0.1},
+        {made(VT_CY, [](auto& v) { v.cyVal.int64 = 12500; }), 1.25},
+        {made(VT_DATE, [](auto& v) { v.date = 2.5; }), 2.5},
+        {made(VT_DECIMAL, [&](auto& v) { v.decVal = decimal; }), -12.5},
+        {made(VT_BSTR, [](auto& v) { v.bstrVal = Bstr(u"L'été\0!").release(); }), u"L'été"},
+        {made(VT_BSTR, [](auto& v) { v.bstrVal = nullptr; }), u""},
+        {made(VT_DISPATCH, [](auto& v) { v.pdispVal = nullptr; }), nullptr},
+        {made(VT_UNKNOWN, [](auto& v) { v.punkVal = nullptr; }), nullptr},
+        {made(VT_ARRAY | VT_I4, [](auto& v) { v.parray = nullptr; }), Array()},
+    };
+    for (const auto& [variant, expected] : cases) {
+        EXPECT_EQ(read(variant), expected) << "type " << variant.vt;
+        if (variant.vt == VT_EMPTY || variant.vt == VT_NULL) {
+            continue;
+        }
+        // The same behind a reference to a variable of that type, and to a VARIANT.
+        VARIANT reference;
+        VariantInit(&reference);
+        reference.vt = static_cast<VARTYPE>(VT_BYREF | variant.vt);
+        reference.byref = variant.vt == VT_DECIMAL ? const_cast<DECIMAL*>(&variant.decVal)
+                                                   : const_cast<void*>(static_cast<const void*>(&variant.llVal));
+        EXPECT_EQ(read(reference), expected) << "reference to type " << variant.vt;
+        EXPECT_EQ(read(Variant::reference(reference)), expected) << "reference to a reference to type " << variant.vt;
+    }
+}
+
+TEST(Variant, GivesBackWhatItWasGiven) {
+    const auto sample = std::make_shared<tests::Sample>();
+    const Value values[] = {Empty(),
+                            Missing(),
+                            false,
+                            true,
+                            std::int16_t{-1},
+                            std::numeric_limits<std::int32_t>::min(),
+                            1.5F,
+                            -0.1,
+                            u"",
+                            std::u16string_view(u"a\0b\u00E9\U0001F600", 6),
+                            nullptr,
+                            sample,
+                            Array(),
+                            Array{1, u"deux", Array{sample, Empty()}, nullptr}};
+    for (const Value& value : values) {
+        EXPECT_EQ(read(variantOf(value)), value) << toUtf8(value.display());
+    }
+}
+
+TEST(Variant, ReadsArraysOfAnyTypeAndShape) {
+    SAFEARRAYBOUND bounds[] = {{2, 1}, {3, -1}};
+    SAFEARRAY* const grid = SafeArrayCreate(VT_R4, 2, bounds);
+    for (LONG row = 1; row <= 2; ++row) {
+        for (LONG column = -1; column <= 1; ++column) {
+            LONG index[] = {row, column};
+            float element = static_cast<float>(row * 10 + column);
+            ASSERT_EQ(SafeArrayPutElement(grid, index, &element), S_OK);
+        }
+    }
+    const Variant variant = made(VT_ARRAY | VT_R4, [&](auto& v) { v.parray = grid; });
+    EXPECT_EQ(read(variant), Value(Array{Array{9.0F, 10.0F, 11.0F}, Array{19.0F, 20.0F, 21.0F}}));
+}
+
+TEST(Variant, WritesATableOfNumbersInTwoDimensions) {
+    const Array points{Array{1, 2.5F}, Array{3, 4}, Array{5, 6}};
+    const Variant table = variantOf(points);
+    EXPECT_EQ(SafeArrayGetDim(table.parray), 2U);
+    EXPECT_EQ(read(table), Value(points));
+    const Array ragged{Array{1, 2}, Array{3}};
+    EXPECT_EQ(SafeArrayGetDim(variantOf(ragged).parray), 1U);
+    EXPECT_EQ(read(variantOf(ragged)), Value(ragged));
+}
+
+TEST(Variant, RefusesWhatCannotBeRead) {
+    Variant self; // refers to itself for ever
+    self = Variant::reference(self);
+    Variant nested = variantOf(Array{1});
+    for (int level = 0; level < 40; ++level) {
+        SAFEARRAY* const outer = SafeArrayCreateVector(VT_VARIANT, 0, 1);
+        static_cast<VARIANT*>(outer->pvData)[0] = nested.release();
+        nested = made(VT_ARRAY | VT_VARIANT, [&](auto& v) { v.parray = outer; });
+    }
+    Variant large = variantOf(Array(1U << 19U));
+    Variant manyTimes = variantOf(Array(4)); // each element stands for the large one
+    for (int i = 0; i < 4; ++i) {
+        static_cast<VARIANT*>(manyTimes.parray->pvData)[i] = Variant::reference(large).release();
+    }
+    SAFEARRAYBOUND many[] = {{0x7FFFFFFF, 0}, {0, 0}};
+    const struct {
+        Variant variant;
+        int expected;
+    } cases[] = {
+        {made(VT_ERROR, [](auto& v) { v.scode = E_FAIL; }), 13},
+        {made(VT_RECORD, [](auto& v) { v.pvRecord = v.pRecInfo = nullptr; }), 13},
+        {made(VT_UNKNOWN, [](auto& v) { CreateErrorInfo(reinterpret_cast<ICreateErrorInfo**>(&v.punkVal)); }), 13},
+        {made(VT_BYREF | VT_I4, [](auto& v) { v.plVal = nullptr; }), 5},
+        {made(VT_BYREF | VT_VARIANT, [](auto& v) { v.pvarVal = nullptr; }), 5},
+        {made(VT_BYREF | VT_BSTR, [](auto& v) { v.pbstrVal = nullptr; }), 5},
+        {made(VT_ARRAY | VT_UI1, [](auto& v) { v.parray = SafeArrayCreateVector(VT_UI1, 0, 3U << 20U); }), 7},
+        {made(VT_ARRAY | VT_I4, [&](auto& v) { v.parray = SafeArrayCreate(VT_I4, 2, many); }), 7},
+        {made(VT_ARRAY | VT_I2, [](auto& v) { v.parray = SafeArrayCreateVector(VT_I4, 0, 3); }), 13},
+        {std::move(nested), 7},
+        {std::move(manyTimes), 7},
+        {Variant::reference(self), 7},
+    };
+    for (const auto& [variant, expected] : cases) {
+        EXPECT_EQ(numberRaisedBy([&] { static_cast<void>(read(variant)); }), expected) << "type " << variant.vt;
+    }
+}
+
+/// VARIANTs of any type and content, as a careless client might pass them. What they point to is kept here.
+class AnyVariant {
+public:
+    explicit AnyVariant(tests::Chance& chance) : chance_(chance) {}
+
+    /// Any type with any bits, its pointers null or to something of that type; one level of many is another VARIANT.
+    const VARIANT& pick(int depth = 0) {
+        static constexpr auto types = std::to_array<VARTYPE>(
+            {VT_EMPTY, VT_NULL,     VT_I2,     VT_I4,        VT_R4,      VT_R8,         VT_CY,     VT_DATE,
+             VT_BSTR,  VT_DISPATCH, VT_ERROR,  VT_BOOL,      VT_I1,      VT_UI1,        VT_UI2,    VT_UI4,
+             VT_I8,    VT_UI8,      VT_INT,    VT_UINT,      VT_DECIMAL, VT_UNKNOWN,    VT_RECORD, VT_VARIANT,
+             VT_VOID,  VT_LPSTR,    VT_LPWSTR, VT_SAFEARRAY, VT_CARRAY,  VT_USERDEFINED});
+        Variant& variant = *kept_.emplace_back(std::make_unique<Variant>());
+        VARTYPE type = static_cast<VARTYPE>(chance_.oneIn(20) ? chance_.bits() & VT_TYPEMASK : chance_.of(types));
+        const std::uint64_t bits = chance_.oneIn(3) ? chance_.below(4) : chance_.bits();
+        std::memcpy(&variant.llVal, &bits, sizeof bits);
+        if (type == VT_DECIMAL) {
+            std::memcpy(&variant.decVal.Hi32, &bits, sizeof variant.decVal.Hi32);
+            variant.decVal.scale = static_cast<BYTE>(bits >> 8U);
+            variant.decVal.sign = static_cast<BYTE>(bits);
+        }
+        if (type == VT_BSTR) {
+            variant.bstrVal = chance_.oneIn(3) ? nullptr : Bstr(text()).release();
+        } else if (type == VT_DISPATCH || type == VT_UNKNOWN || type == VT_RECORD) {
+            variant.llVal = 0;
+        }
+        variant.vt = VT_EMPTY; // what it points to is freed by nobody but here
+        VARIANT& shown = views_.emplace_back();
+        std::memcpy(&shown, &variant, sizeof shown);
+        if (type == VT_BSTR) {
+            variant.vt = VT_BSTR;
+        }
+        if (chance_.oneIn(4)) {
+            type = static_cast<VARTYPE>(type | VT_ARRAY);
+            shown.parray = chance_.oneIn(6) ? nullptr : array(static_cast<VARTYPE>(type & VT_TYPEMASK));
+        }
+        shown.vt = type;
+        if (chance_.oneIn(3) && depth < 20) {
+            return reference(shown, depth);
+        }
+        return shown;
+    }
+
+    /// Forgets what has been picked so far.
+    void forget() {
+        views_.clear();
+        kept_.clear();
+        for (SAFEARRAY* const each : std::exchange(arrays_, {})) {
+            SafeArrayDestroyDescriptor(each);
+        }
+        storage_.clear();
+    }
+
+    ~AnyVariant() { forget(); }
+    AnyVariant(const AnyVariant&) = delete;
+    AnyVariant& operator=(const AnyVariant&) = delete;
+    AnyVariant(AnyVariant&&) = delete;
+    AnyVariant& operator=(AnyVariant&&) = delete;
+
+private:
+    std::u16string text() {
+        static const std::vector<std::u16string> texts{u"",
+                                                       u"12",
+                                                       u"-1e309",
+                                                       u"vrai",
+                                                       std::u16string(3, u'\0'),
+                                                       std::u16string(1, u'\xD800'),
+                                                       std::u16string(3000, u'9')};
+        return chance_.of(texts);
+    }
+
+    /// A reference to what a VARIANT holds, or to it; now and then to nothing, or to itself.
+    const VARIANT& reference(VARIANT& content, int depth) {
+        VARIANT& result = views_.emplace_back();
+        VariantInit(&result);
+        if (chance_.oneIn(2) || content.vt == VT_VARIANT) {
+            result.vt = VT_BYREF | VT_VARIANT;
+            result.pvarVal = chance_.oneIn(20)   ? nullptr
+                             : chance_.oneIn(20) ? &result
+                             : chance_.oneIn(2)  ? &const_cast<VARIANT&>(pick(depth + 1))
+                                                 : &content;
+        } else {
+            result.vt = static_cast<VARTYPE>(content.vt | VT_BYREF);
+            result.byref = chance_.oneIn(10)          ? nullptr
+                           : content.vt == VT_DECIMAL ? static_cast<void*>(&content.decVal)
+                                                      : static_cast<void*>(&content.llVal);
+        }
+        return result;
+    }
+
+    /// An array with up to three dimensions, whose bounds promise more than any memory holds, now and then; it holds
+    /// nothing then, or what it promises.
+    SAFEARRAY* array(VARTYPE type) {
+        const std::size_t dimensions = chance_.between(1, 3);
+        SAFEARRAY* made = nullptr;
+        if (FAILED(SafeArrayAllocDescriptor(static_cast<UINT>(dimensions), &made))) {
+            return nullptr;
+        }
+        arrays_.push_back(made);
+        const bool isHuge = chance_.oneIn(4);
+        std::size_t elements = 1;
+        for (std::size_t i = 0; i < dimensions; ++i) {
+            SAFEARRAYBOUND& bound = made->rgsabound[i];
+            bound.cElements = static_cast<ULONG>(isHuge ? chance_.bits() : chance_.below(4));
+            bound.lLbound = static_cast<LONG>(chance_.oneIn(3) ? chance_.bits() : chance_.below(3));
+            elements *= isHuge ? 0 : bound.cElements;
+        }
+        const std::size_t size = type == VT_VARIANT ? sizeof(VARIANT) : sizeOf(type);
+        made->cbElements = static_cast<ULONG>(chance_.oneIn(10) ? chance_.below(40) : size);
+        // Zeroes: null pointers, empty VARIANTs.
+        made->pvData =
+            isHuge || chance_.oneIn(10)
+                ? nullptr
+                : storage_.emplace_back((elements + 1) * std::max<std::size_t>({size, made->cbElements, 1})).data();
+        return made;
+    }
+
+    tests::Chance& chance_;
+    std::vector<std::unique_ptr<Variant>> kept_;
+    std::deque<VARIANT> views_;
+    std::vector<SAFEARRAY*> arrays_;
+    std::deque<std::vector<std::byte>> storage_;
+};
+
+/// True where an operation raises what the bridge says that it raises.
+bool isRefused(const std::function<void()>& operation) {
+    const std::int32_t number = numberRaisedBy(operation);
+    constexpr std::array known{0, 5, 6, 7, 13, 424, 91};
+    EXPECT_NE(std::find(known.begin(), known.end(), number), known.end()) << number;
+    return number != 0;
+}
+
+TEST(Variant, WithstandsWhatACarelessClientPasses) {
+    tests::Chance chance;
+    AnyVariant any(chance);
+    std::size_t readings = 0;
+    std::size_t refusals = 0;
+    std::size_t assignments = 0;
+    for (int round = 0; round < 20000; ++round) {
+        const VARIANT& variant = any.pick();
+        SCOPED_TRACE(variant.vt);
+        std::optional<Value> value;
+        ++(isRefused([&] { value = read(variant); }) ? refusals : readings);
+        if (value) {
+            const Variant back = variantOf(*value);
+            EXPECT_EQ(read(back).display(), value->display());
+        }
+        VARIANT variable;
+        VariantInit(&variable);
+        VARIANT target = variant; // a pointer that the client owns, or none
+        if (isReference(target) && target.vt != (VT_BYREF | VT_VARIANT)) {
+            const auto type = static_cast<VARTYPE>(target.vt & ~VT_BYREF);
+            target.byref = target.byref == nullptr ? nullptr
+                           : type == VT_DECIMAL    ? static_cast<void*>(&variable.decVal)
+                                                   : static_cast<void*>(&variable.llVal);
+            if (!isRefused([&] { assign(target, value.value_or(Empty())); })) {
+                ++assignments;
+                variable.vt = type;
+            }
+        } else {
+            target = Variant::reference(variable).release();
+            assignments += isRefused([&] { assign(target, value.value_or(Empty())); }) ? 0U : 1U;
+        }
+        VariantClear(&variable);
+        any.forget();
+    }
+    EXPECT_GT(readings, 5000U);
+    EXPECT_GT(refusals, 1000U);
+    EXPECT_GT(assignments, 5000U);
+}
+
+TEST(Variant, WritesToVariablesOfEveryType) {
+    const auto sample = std::make_shared<tests::Sample>();
+    const struct {
+        int type;
+        Value given;
+        Value found;
+        int refused = 0;
+    } cases[] = {
+        {VT_I1, -5.0, std::int16_t{-5}},
+        {VT_I1, 200, Empty(), 6},
+        {VT_UI1, 200, std::int16_t{200}},
+        {VT_I2, 2.5, std::int16_t{2}},
+        {VT_I2, 40000, Empty(), 6},
+        {VT_UI2, 40000, 40000},
+        {VT_I4, u"12", 12},
+        {VT_I4, u"douze", Empty(), 13},
+        {VT_INT, true, -1},
+        {VT_UI4, 4294967295.0, 4294967295.0},
+        {VT_UINT, -1, Empty(), 6},
+        {VT_I8, beyond, beyond},
+        {VT_UI8, 7, 7},
+        {VT_R4, 0.5, 0.5F},
+        {VT_R8, u"0.5", 0.5},
+        {VT_CY, 1.25, 1.25},
+        {VT_DATE, 2.5, 2.5},
+        {VT_DECIMAL, -12.5, -12.5},
+        {VT_BOOL, 2, true},
+        {VT_BSTR, 12, u"12"},
+        {VT_DISPATCH, sample, sample},
+        {VT_DISPATCH, nullptr, nullptr},
+        {VT_DISPATCH, 1, Empty(), 424},
+        {VT_UNKNOWN, sample, sample},
+        {VT_ARRAY | VT_VARIANT, Array{1, u"2"}, Array{1, u"2"}},
+        {VT_ARRAY | VT_VARIANT, 1, Empty(), 13},
+        {VT_ARRAY | VT_I4, Array{1}, Empty(), 13},
+        {VT_VARIANT, u"texte", u"texte"},
+        {VT_VARIANT, Missing(), Missing()},
+        {VT_RECORD, 1, Empty(), 13},
+    };
+    for (const auto& [type, given, found, refused] : cases) {
+        // The variable is a VARIANT's content, so that it is cleared at the end as its type demands.
+        Variant variable;
+        variable.vt = static_cast<VARTYPE>(type == VT_VARIANT || type == VT_RECORD ? int{VT_EMPTY} : type);
+        VARIANT reference;
+        VariantInit(&reference);
+        reference.vt = static_cast<VARTYPE>(VT_BYREF | type);
+        reference.byref = type == VT_VARIANT   ? static_cast<void*>(&variable)
+                          : type == VT_DECIMAL ? static_cast<void*>(&variable.decVal)
+                                               : static_cast<void*>(&variable.llVal);
+        EXPECT_EQ(numberRaisedBy([&] { assign(reference, given); }), refused) << "type " << type;
+        if (refused == 0) {
+            variable.vt = type == VT_VARIANT ? variable.vt : static_cast<VARTYPE>(type);
+            EXPECT_EQ(read(variable), found) << "type " << type;
+            assign(reference, given); // what was there is released
+        }
+        // A variable that refers to this one passes on what is written to it.
+        if (refused == 0 && type != VT_VARIANT) {
+            Variant passedOn;
+            static_cast<VARIANT&>(passedOn) = reference;
+            Variant outer = Variant::reference(passedOn);
+            assign(Variant::reference(outer), given);
+            EXPECT_EQ(passedOn.vt, reference.vt) << "type " << type;
+            variable.vt = static_cast<VARTYPE>(type); // a decimal lies over it
+            EXPECT_EQ(read(variable), found) << "through others, type " << type;
+        }
+        reference.byref = nullptr;
+        EXPECT_NE(numberRaisedBy([&] { assign(reference, given); }), 0) << "null reference to type " << type;
+    }
+    Variant circle;
+    static_cast<VARIANT&>(circle) = Variant::reference(circle);
+    EXPECT_EQ(numberRaisedBy([&] { assign(circle, 1); }), 7);
+    EXPECT_EQ(numberRaisedBy([&] { read(circle); }), 7);
+}
+
+} // namespace

@@ -1,0 +1,55 @@
+#include "automation/observe/CallCounter.h"
+#include "tests/exercises/QuestionBench.h"
+#include "tests/support/TraceLog.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Question0304, SearchesTheOutlineAmongHiddenAndSystemFiles) {
+    const std::u16string folder(tests::QuestionBench::folder);
+    constexpr std::uint32_t readOnly = 1;
+    constexpr std::uint32_t hidden = 2;
+    constexpr std::uint32_t system = 4;
+    struct Case {
+        std::u16string file;
+        std::uint32_t attributes;
+        std::u16string letter;
+        std::vector<std::string> searches;
+    };
+    const std::vector<Case> cases = {
+        {u"", 0, u"A", {"Plan exo 3.*", "Plan exo 3"}},
+        {u"Plan exo 3", hidden | system, u"B", {"Plan exo 3.*", "Plan exo 3.rtf"}},
+        {u"Plan exo 3.rtf", system, u"", {"Plan exo 3.*", "Plan exo 3.rtf"}},
+        {u"Plan exo 3.rtf", readOnly | hidden | system, u"", {"Plan exo 3.*", "Plan exo 3.rtf"}},
+    };
+    for (const Case& outline : cases) {
+        tests::TraceLog log(tests::TraceLog::Repetition::Shown);
+        tests::QuestionBench bench(304);
+        bench.prepare(log.observer());
+        static_cast<void>(log.take());
+        if (!outline.file.empty()) {
+            bench.machine.createFile(folder + outline.file);
+            bench.machine.setAttributes(folder + outline.file, outline.attributes);
+        }
+        EXPECT_EQ(bench.testePoint().causeErreur, outline.letter);
+        const std::string trace = log.take();
+        EXPECT_EQ(std::count(trace.begin(), trace.end(), '\n'), outline.searches.size()) << trace;
+        std::size_t at = 0;
+        for (const std::string& pattern : outline.searches) {
+            at = trace.find(R"(Files.find("C:\Formation\)" + pattern + R"(", 6))", at);
+            EXPECT_NE(at, std::string::npos) << pattern << " in\n" << trace;
+        }
+    }
+}
+
+TEST(Question0304, FindsNothingInAFolderThatIsGone) {
+    tests::QuestionBench bench(304);
+    bench.prepare(std::make_shared<automation::CallCounter>());
+    bench.work();
+    std::filesystem::remove_all(bench.machine.realPath(tests::QuestionBench::folder));
+    EXPECT_EQ(bench.testePoint().causeErreur, u"A");
+    EXPECT_FALSE(bench.testePoint().error);
+}
+
+} // namespace

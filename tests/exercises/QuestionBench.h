@@ -1,0 +1,120 @@
+#pragma once
+
+#include "automation/Text.h"
+#include "exercises/Catalogue.h"
+#include "host/language/Interpreter.h"
+#include "host/language/Parser.h"
+#include "host/world/TemporaryFolder.h"
+#include "platform/observed/ObservedServices.h"
+#include "simulator/Machine.h"
+#include "tests/support/Script.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace tests {
+
+/// One question without the module around it, on a computer where the presentation of its scenario file lies ready, and
+/// the moves of the file's first scenario, by which a learner passes.
+class QuestionBench final : public host::language::Stage {
+public:
+    static constexpr std::u16string_view folder = u"C:\\Formation\\";
+
+    explicit QuestionBench(std::int32_t number)
+        : className_(u"Question0" + automation::decimal(number)),
+          file_(host::language::parse("first scenario", read("/0" + std::to_string(number) + ".scn"))) {
+        machine.startPowerPoint();
+        application_ = automation::LateBound(machine.application());
+        createFile(u"Cours.txt");
+        for (const host::language::Statement& statement : file_.course) {
+            interpreter_.execute(statement);
+        }
+        interpreter_.forget();
+        say(ask(application_, u"ActivePresentation"), u"SaveAs", std::u16string(folder) + u"Méthodologie.ppt");
+        closePresentation();
+    }
+
+    [[nodiscard]] const std::u16string& className() const noexcept { return className_; }
+
+    /// Makes the question and has it prepared; its calls pass through the observer.
+    void prepare(const automation::ObserverPtr& observer) {
+        services_ = std::make_unique<platform::ObservedServices>(machine.services(), observer);
+        question = exercises::createQuestion(className_, {api, services_->services()});
+        automation::ObjectPtr observed = automation::observed(machine.application(), observer);
+        question->Prepare(observed, std::u16string(folder), u"");
+    }
+
+    /// What the learner does before the first check of the scenario.
+    void work() {
+        std::for_each(moves().begin(), firstCheck(), [&](const auto& move) { interpreter_.execute(move); });
+        interpreter_.forget();
+    }
+
+    /// The first check of the scenario, with what it expects.
+    void check() { interpreter_.execute(*firstCheck()); }
+
+    [[nodiscard]] std::int32_t presentations() const { return number(ask(application_, u"Presentations"), u"Count"); }
+    void closePresentation() { say(ask(application_, u"ActivePresentation"), u"Close"); }
+
+    automation::ObjectPtr application() override { return machine.application(); }
+    automation::ObjectPtr object(std::u16string_view name) override {
+        return name == u"Host" || name == u"Files" ? std::make_shared<Desk>(*this) : nullptr;
+    }
+    host::Reading testePoint() override {
+        host::Reading reading;
+        try {
+            question->TestePoint();
+        } catch (const automation::Error& error) {
+            reading.error = error;
+        }
+        reading.causeErreur = question->CauseErreur();
+        reading.bravoNuance = question->BravoNuance() != 0;
+        return reading;
+    }
+
+    host::TemporaryFolder root;
+    simulator::Machine machine{root.path()};
+    exercises::API api;
+    exercises::QuestionPtr question;
+
+private:
+    /// `Host.Folder` and `Files.Create`, as far as the moves before a first check go.
+    class Desk final : public automation::Object {
+    public:
+        explicit Desk(QuestionBench& bench) : bench_(bench) {}
+        automation::Value invoke(const automation::Name& name, automation::Access /*access*/,
+                                 std::span<automation::Value> arguments) override {
+            if (name.matches(u"Folder")) {
+                return folder;
+            }
+            bench_.createFile(arguments.front().to<std::u16string>());
+            return {};
+        }
+
+    private:
+        QuestionBench& bench_;
+    };
+
+    static std::string read(const std::string& name) {
+        std::ifstream file(SCENARIOS "/questions" + name);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    void createFile(const std::u16string& name) { machine.createFile(std::u16string(folder) + name); }
+
+    [[nodiscard]] const std::vector<host::language::Statement>& moves() const { return file_.scenarios[0].statements; }
+    [[nodiscard]] std::vector<host::language::Statement>::const_iterator firstCheck() const {
+        return std::find_if(moves().begin(), moves().end(), [](const host::language::Statement& move) {
+            return std::holds_alternative<host::language::Check>(move.node);
+        });
+    }
+
+    std::u16string className_;
+    host::language::ScenarioFile file_;
+    host::language::Interpreter interpreter_{*this};
+    automation::LateBound application_;
+    std::unique_ptr<platform::ObservedServices> services_;
+};
+
+} // namespace tests

@@ -1,0 +1,106 @@
+#include "automation/observe/FaultInjector.h"
+#include "tests/exercises/QuestionBench.h"
+#include "tests/support/Errors.h"
+
+namespace {
+
+using automation::Error;
+using automation::FaultInjector;
+using automation::Object;
+
+const Error fault(static_cast<std::int32_t>(0x800706BEU), u"Microsoft PowerPoint", u"L'appel a échoué.");
+
+/// Lets an injector be replaced under objects that are observed already.
+class Line final : public automation::Observer {
+public:
+    automation::Value around(const automation::Crossing& crossing, const Next& next) override {
+        return injector->around(crossing, next);
+    }
+
+    std::shared_ptr<FaultInjector> injector;
+};
+
+/// Fails call after call of an operation until it makes no more; `judge` sees the error of each, and whether PowerPoint
+/// was called. Returns the number of calls.
+template <typename Operation, typename Judge>
+std::size_t failEachCall(Line& line, const Operation& operation, const Judge& judge) {
+    for (std::size_t n = 1;; ++n) {
+        line.injector = std::make_shared<FaultInjector>(n, FaultInjector::Lasting::Once, fault);
+        const std::optional<Error> error = errorOf(operation);
+        if (line.injector->calls() < n) {
+            line.injector = std::make_shared<FaultInjector>(0, FaultInjector::Lasting::Once, fault);
+            return n - 1;
+        }
+        SCOPED_TRACE(n);
+        judge(error);
+    }
+}
+
+class EachQuestion : public testing::TestWithParam<int> {
+protected:
+    void expectReport(const std::optional<Error>& error, std::u16string_view service) {
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->number(), fault.number());
+        EXPECT_EQ(error->description(), fault.description());
+        EXPECT_EQ(error->source(), u"DLL K61027 - CLASSE " + bench.className() + u"\n\r - SERVICE " +
+                                       std::u16string(service) + u" - OBJET Microsoft PowerPoint");
+    }
+
+    tests::QuestionBench bench{GetParam()};
+    std::shared_ptr<Line> line = std::make_shared<Line>();
+};
+INSTANTIATE_TEST_SUITE_P(All, EachQuestion, testing::Range(301, 324),
+                         [](const auto& question) { return std::to_string(question.param); });
+
+TEST_P(EachQuestion, ReportsAFailureAnywhereInPrepare) {
+    // The last two calls of question 318 ask for the user's measurement system, where no answer is no number.
+    std::size_t typeMismatches = 0;
+    const std::size_t alive = Object::alive();
+    const std::size_t calls = failEachCall(
+        *line,
+        [&] {
+            if (bench.presentations() != 0) {
+                bench.closePresentation();
+            }
+            bench.prepare(line);
+        },
+        [&](const std::optional<Error>& error) {
+            if (error && error->number() == static_cast<std::int32_t>(automation::RunTimeError::TypeMismatch)) {
+                ++typeMismatches;
+            } else {
+                expectReport(error, u"Prepare");
+            }
+            EXPECT_EQ(bench.question->PathDossierParDefaut(), tests::QuestionBench::folder);
+            bench.question = nullptr;
+            EXPECT_EQ(Object::alive(), alive);
+        });
+    EXPECT_GT(calls, 10U);
+    EXPECT_EQ(typeMismatches, GetParam() == 318 ? 2U : 0U);
+}
+
+TEST_P(EachQuestion, ReportsAFailureAnywhereInTestePoint) {
+    line->injector = std::make_shared<FaultInjector>(0, FaultInjector::Lasting::Once, fault);
+    bench.prepare(line);
+    static_cast<void>(bench.testePoint());
+    const std::u16string letter = bench.question->CauseErreur();
+    EXPECT_EQ(letter.empty(), GetParam() <= 303);
+    bench.work();
+    std::u16string found;
+    const std::size_t alive = Object::alive();
+    const std::size_t calls = failEachCall(
+        *line, [&] { bench.question->TestePoint(); },
+        [&](const std::optional<Error>& error) {
+            if (GetParam() == 304) {
+                EXPECT_FALSE(error) << "a search for files that fails finds nothing";
+                found += bench.question->CauseErreur();
+                return;
+            }
+            expectReport(error, u"TestePoint");
+            EXPECT_EQ(bench.question->CauseErreur(), letter);
+            EXPECT_EQ(Object::alive(), alive);
+        });
+    EXPECT_EQ(calls == 0, GetParam() <= 303);
+    EXPECT_EQ(found, GetParam() == 304 ? u"AB" : u"");
+}
+
+} // namespace

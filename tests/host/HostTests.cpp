@@ -1,0 +1,290 @@
+#include "automation/LateBound.h"
+#include "automation/Text.h"
+#include "host/language/Parser.h"
+#include "host/run/Guard.h"
+#include "host/run/Runner.h"
+#include "host/world/TemporaryFolder.h"
+#include "tests/support/Program.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace {
+
+using automation::LateBound;
+using automation::ObjectPtr;
+using host::ExitCode;
+using host::HostCall;
+
+constexpr const char* course = "question 306\n"
+                               "course\n"
+                               "Presentations.Add\n"
+                               "ActivePresentation.Slides.Add 1, ppLayoutTitle\n"
+                               "ActivePresentation.Slides(1).Shapes(1).TextFrame.TextRange.Text = \"faire\"\n";
+constexpr const char* success = "scenario \"four times\"\n"
+                                "ActivePresentation.Slides(1).Shapes(1).TextFrame.TextRange.Text = "
+                                "\"créer créer créer créer\"\n"
+                                "check remark \"F\"\n";
+
+/// A library that holds one file for question 306.
+class HostTest : public testing::Test {
+protected:
+    void write(const std::string& text) { std::ofstream(folder_.path() / "0306.scn") << text; }
+    [[nodiscard]] std::string file() const { return (folder_.path() / "0306.scn").string(); }
+
+    [[nodiscard]] std::string said(const std::vector<std::string>& arguments, ExitCode expected) const {
+        return printedBy(arguments, folder_.path(), expected);
+    }
+
+private:
+    host::TemporaryFolder folder_;
+};
+
+TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
+    write(std::string(course) + success +
+          "scenario \"a wrong letter\"\n check \"B\"\n"
+          "scenario \"a move that raises\"\n  ActivePresentation.Slides(9).Delete\n"
+          "scenario \"a working file left\"\nHost.Fermer\nFiles.Create \"Méthodologie.ppt\"\n"
+          "scenario \"a folder changed\"\nHost.Fermer\nRegistry.RecentFolder(\"Default\") = \"D:\\\"\n"
+          "scenario \"PowerPoint gone\"\nPowerPoint.Close\nPresentations.Add\n");
+    const std::string out = said({"verify"}, ExitCode::FellShort);
+    EXPECT_NE(
+        out.find(file() + ":10:2: expected the letter \"B\", the host reads the letter \"A\" (\"a wrong letter\")"),
+        std::string::npos);
+    EXPECT_NE(out.find(file() + ":12:22: error "), std::string::npos);
+    EXPECT_NE(out.find(file() + ":13:1: the working file Méthodologie.ppt is left"), std::string::npos);
+    EXPECT_NE(out.find(file() + ":16:1: the learner's folder Default was \""), std::string::npos);
+    EXPECT_NE(out.find(file() + ":21:1: error 429 PowerPoint does not run"), std::string::npos);
+    EXPECT_TRUE(out.ends_with("\n1 passed, 5 failed\n")) << out;
+}
+
+/// The bytes of a file in a world, as a file of the real disk.
+void copyOut(host::World& world, const std::u16string& path, const std::filesystem::path& to) {
+    const host::Bytes bytes = world.readFile(path);
+    std::ofstream file(to, std::ios::binary);
+    std::copy(bytes.begin(), bytes.end(), std::ostreambuf_iterator<char>(file));
+}
+
+TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) {
+    write(std::string(course) + success);
+    const std::filesystem::path folder = std::filesystem::path(file()).parent_path();
+    const auto scenarios = host::load(file());
+    const host::Course built(scenarios, host::makeEmbeddedWorld);
+    const host::WorldPtr world = host::makeEmbeddedWorld(nullptr);
+    host::Witness nobody;
+    host::TrainingHost training(*world, built, 306, nobody);
+    copyOut(*world, world->hostFolder() + u"07305306.ppt", folder / "07305306.ppt");
+    training.initQuestion(306, world->hostFolder());
+    const LateBound application(world->application());
+    const LateBound working(application.get(u"ActivePresentation").to<ObjectPtr>());
+    const std::u16string copy = world->hostFolder() + u"copie";
+    const std::vector<std::string> recheck = {"recheck", (folder / "eleve.ppt").string(), "--question", "306"};
+    const std::vector<std::string> ofTheCourse = {"--course", folder.string()};
+    const auto judged = [&](const std::vector<std::string>& arguments, ExitCode expected) {
+        working.call(u"SaveCopyAs", copy);
+        copyOut(*world, copy + u".ppt", folder / "eleve.ppt");
+        return said(arguments, expected);
+    };
+    EXPECT_TRUE(judged(recheck, ExitCode::FellShort).starts_with("Question 306: the letter \"A\"\n"));
+    LateBound shape(working.get(u"Slides").to<ObjectPtr>());
+    shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
+    shape = LateBound(shape.get(u"Shapes").to<ObjectPtr>());
+    shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
+    const LateBound frame(shape.get(u"TextFrame").to<ObjectPtr>());
+    LateBound(frame.get(u"TextRange").to<ObjectPtr>()).put(u"Text", std::u16string(u"créer créer créer créer"));
+    std::vector<std::string> both = recheck;
+    both.insert(both.end(), ofTheCourse.begin(), ofTheCourse.end());
+    EXPECT_TRUE(judged(both, ExitCode::Good).starts_with("Question 306: a success with the remark \"F\"\n"));
+
+    std::ofstream(folder / "eleve.ppt") << "no presentation";
+    EXPECT_NE(said(recheck, ExitCode::WrongUsage).find("eleve.ppt"), std::string::npos);
+
+    const auto staged = [&](const char* command) {
+        return std::vector<std::string>{command, "306", "--course", folder.string()};
+    };
+    EXPECT_NE(said(staged("run"), ExitCode::Good).find("CauseErreur: F"), std::string::npos);
+    EXPECT_NE(said(staged("try"), ExitCode::Good).find("shape 1"), std::string::npos);
+    std::filesystem::remove(folder / "07305306.ppt");
+    for (const char* const command : {"run", "try"}) {
+        EXPECT_NE(said(staged(command), ExitCode::WrongUsage).find("there is no 07305306.ppt"), std::string::npos);
+    }
+}
+
+TEST_F(HostTest, NoReportOfEarlierWorkIsLeftWhileScenariosRun) {
+    write(std::string(course) + success);
+    const std::vector<std::string> formats = {"--report", "--junit", "--json"};
+    std::vector<std::string> arguments = {"verify"};
+    std::vector<std::filesystem::path> reports;
+    for (const std::string& format : formats) {
+        reports.push_back(std::filesystem::path(file()).replace_extension(format));
+        std::ofstream(reports.back()) << "all is well";
+        arguments.insert(arguments.end(), {format, reports.back().string()});
+    }
+    std::size_t looked = 0;
+    const auto lookFirst = [&](const auto& observer) {
+        ++looked;
+        for (const std::filesystem::path& report : reports) {
+            EXPECT_FALSE(std::filesystem::exists(report)) << report;
+        }
+        return host::makeEmbeddedWorld(observer);
+    };
+    std::ostringstream out;
+    EXPECT_EQ(host::runCommandLine(host::exerciseHost(), arguments, std::filesystem::path(file()).parent_path(),
+                                   "1.2.3", lookFirst, {out, out}, nullptr),
+              ExitCode::Good)
+        << out.str();
+    EXPECT_NE(looked, 0U);
+    for (const std::filesystem::path& report : reports) {
+        EXPECT_GT(std::filesystem::file_size(report), 100U) << report;
+    }
+}
+
+TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
+    write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\n");
+    const std::string out = said({"verify"}, ExitCode::FellShort);
+    EXPECT_TRUE(out.starts_with(file() + ":3:15: error 438")) << out;
+    EXPECT_TRUE(out.ends_with("\n0 passed, 2 failed\n")) << out;
+    EXPECT_NE(said({"run"}, ExitCode::FellShort).find(":3:15: error 438"), std::string::npos);
+}
+
+TEST_F(HostTest, RunTellsTheRoadAndEndsWithTheFourValues) {
+    write(std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n" + success);
+    const std::string out = said({"run"}, ExitCode::Good);
+    for (const char* const told :
+         {"07305306.ppt", "The host calls InitQuestion", "PowerPoint has started",
+          "Méthodologie.ppt stands in the place of 07305306.ppt", "1 slide, marked ZOR1",
+          "PowerPoint's folder Default is C:\\Formation\\ instead of ", "PowerPoint's folders are the learner's again",
+          "      9  ActivePresentation", "The host reads a success with the remark \"F\"", "The host calls Fermer",
+          "Méthodologie.ppt is closed", "Removed from the folder: Méthodologie.ppt", "The host calls Quitter",
+          "PowerPoint has ended"}) {
+        EXPECT_NE(out.find(told), std::string::npos) << told << " is not told in\n" << out;
+    }
+    EXPECT_TRUE(out.ends_with("\nErreurGenerale: False\nCauseErreur: F\nBravoNuance: True\nComplement: \n")) << out;
+}
+
+TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
+    write(std::string(course) + success +
+          "scenario \"three\"\nActivePresentation.Slides(1).Shapes(1).TextFrame."
+          "TextRange.Text = \"créer créer créer\"\ncheck \"C\" complement \" 3\"\n");
+    const auto object =
+        nlohmann::json::parse(said({"run", "306", "--scenario", "three", "--json", "--trace"}, ExitCode::Good));
+    EXPECT_EQ(object["CauseErreur"], "C");
+    EXPECT_EQ(object["ErreurGenerale"], false);
+    EXPECT_EQ(object["BravoNuance"], false);
+    EXPECT_EQ(object["Complement"], nlohmann::json({" 3"}));
+    EXPECT_EQ(object["passed"], true);
+    const std::string story = object["story"].dump();
+    for (const char* const call : {"Presentations.Open(", "Files.rename(", "Registry.set(", "Windows.findWindow("}) {
+        EXPECT_NE(story.find(call), std::string::npos) << call;
+    }
+}
+
+TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
+    struct Case {
+        std::vector<std::string> arguments;
+        ExitCode expected;
+        const char* printed;
+    };
+    const std::string good = std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n";
+    const std::vector<Case> cases = {
+        {{"--help"}, ExitCode::Good, "Exit codes: 0 good"},
+        {{"--version"}, ExitCode::Good, "1.2.3"},
+        {{}, ExitCode::WrongUsage, "which command?"},
+        {{"walk"}, ExitCode::WrongUsage, "not expected: walk"},
+        {{"run", "324"}, ExitCode::WrongUsage, "the course has 301 to 323"},
+        {{"run", "many"}, ExitCode::WrongUsage, "many"},
+        {{"run", "307"}, ExitCode::WrongUsage, "no scenario file: "},
+        {{"run"}, ExitCode::WrongUsage, "has no scenario that ends in a success"},
+        {{"run", "--scenario", "something"}, ExitCode::WrongUsage, "has no scenario \"something\""},
+        {{"run", "306", "--scenario", "nothing"}, ExitCode::Good, "CauseErreur: A\n"},
+        {{"verify"}, ExitCode::Good, "1 passed, 0 failed\n"},
+        {{"verify", "306", "--file", file()}, ExitCode::Good, "2 passed, 0 failed\n"},
+        {{"verify", "--scenarios", "nowhere"}, ExitCode::WrongUsage, "no folder of scenarios: nowhere"},
+        {{"list"}, ExitCode::Good, "0306.scn: question 306\n    nothing\n"},
+    };
+    write(good);
+    for (const Case& asked : cases) {
+        const std::string printed = said(asked.arguments, asked.expected);
+        EXPECT_NE(printed.find(asked.printed), std::string::npos) << printed;
+    }
+    write(good + "check A\n\ncheck remark\n");
+    EXPECT_EQ(said({"verify"}, ExitCode::WrongUsage),
+              file() + ":8:7: expected a letter in quotes, success, remark, general or error, found 'A'\n" + file() +
+                  ":10:13: expected the letter of the remark, in quotes, found the end of the line\n");
+}
+
+TEST_F(HostTest, AnObjectLeftAliveIsNoticed) {
+    struct Keeper final : host::Witness {
+        Keeper(host::World& keptWorld, ObjectPtr& keptObject) : world(keptWorld), kept(keptObject) {}
+        void judged(const host::Reading& /*reading*/) override {
+            kept = LateBound(world.application()).get(u"Presentations").to<ObjectPtr>();
+        }
+        host::World& world;
+        ObjectPtr& kept;
+    };
+    ObjectPtr kept;
+    const host::language::ScenarioFile file = host::language::parse("f", std::string(course) + success);
+    const host::Runner runner(file, host::makeEmbeddedWorld);
+    const auto outcome =
+        runner.run(file.scenarios[0], [&](host::World& world) { return std::make_unique<Keeper>(world, kept); });
+    ASSERT_EQ(outcome.failures.size(), 1U);
+    EXPECT_EQ(outcome.failures[0].message, "1 automation objects left alive");
+}
+
+TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
+    using host::Progress;
+    Progress::Clock::time_point now;
+    const auto clock = [&] { return now; };
+    std::ostringstream plain;
+    std::ostringstream terminal;
+    const std::string dashes(68, '-');
+    {
+        Progress plainly(plain, false, clock);
+        Progress rewriting(terminal, true, clock);
+        const auto at = [&](std::chrono::milliseconds passed, const std::string& place, std::size_t step) {
+            now += passed;
+            plainly.at(place, step, 30);
+            rewriting.at(place, step, 30);
+        };
+        at(std::chrono::milliseconds(99), "too early", 1);
+        at(std::chrono::milliseconds(1), dashes + "é😀 goes on", 2);
+        at(std::chrono::milliseconds(100), "é", 3);
+        at(std::chrono::milliseconds(20), "too early", 4);
+        at(std::chrono::seconds(30), "half a minute", 5);
+    }
+    EXPECT_EQ(plain.str(), "5 of 30: half a minute\n");
+    EXPECT_EQ(terminal.str(), "\r2 of 30: " + dashes + "é\r3 of 30: é" + std::string(68, ' ') +
+                                  "\r5 of 30: half a minute\r" + std::string(22, ' ') + "\r");
+}
+
+TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
+    const host::WorldPtr world = host::makeEmbeddedWorld();
+    world->startPowerPoint();
+    const auto presentations = [&] {
+        return LateBound(LateBound(world->application()).get(u"Presentations").to<ObjectPtr>());
+    };
+    const auto findingsOf = [&](const auto& meddle) {
+        host::Guard guard(*world);
+        guard.calling(HostCall::TestePoint);
+        meddle(LateBound(presentations().call(u"Item", std::int32_t{1}).to<ObjectPtr>()));
+        guard.called(HostCall::TestePoint, nullptr);
+        return guard.findings();
+    };
+    presentations().call(u"Add");
+    EXPECT_EQ(findingsOf([](const LateBound&) {}), std::vector<std::string>());
+    const std::vector<std::string> changed = findingsOf([](const LateBound& presentation) {
+        LateBound(presentation.get(u"Slides").to<ObjectPtr>()).call(u"Add", std::int32_t{1}, std::int32_t{12});
+    });
+    ASSERT_EQ(changed.size(), 1U);
+    EXPECT_TRUE(changed[0].starts_with("TestePoint changed the learner's presentation ")) << changed[0];
+    const std::vector<std::string> closed =
+        findingsOf([](const LateBound& presentation) { presentation.call(u"Close"); });
+    ASSERT_EQ(closed.size(), 1U);
+    EXPECT_TRUE(closed[0].starts_with("TestePoint closed the learner's presentation ")) << closed[0];
+}
+
+} // namespace

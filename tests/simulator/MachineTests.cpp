@@ -1,0 +1,226 @@
+#include "simulator/Machine.h"
+
+#include "host/world/TemporaryFolder.h"
+#include "tests/support/Errors.h"
+#include "tests/support/Script.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using automation::LateBound;
+using automation::ObjectPtr;
+using automation::RunTimeError;
+using simulator::Machine;
+using tests::ask;
+using tests::number;
+using tests::say;
+using tests::text;
+namespace remote = automation::remote;
+
+constexpr std::u16string_view programmaticId = u"PowerPoint.application.11";
+constexpr auto cannotCreate = static_cast<std::int32_t>(RunTimeError::CannotCreateObject);
+constexpr std::int32_t msoTrue = -1;
+
+class MachineTest : public testing::Test {
+public:
+    ~MachineTest() override { EXPECT_EQ(machine.openRegistryKeys(), 0U); }
+
+    [[nodiscard]] LateBound powerPoint() { return LateBound(machine.application()); }
+    [[nodiscard]] LateBound bar(std::u16string_view name) {
+        return ask(ask(powerPoint(), u"CommandBars"), u"Item", name);
+    }
+
+    host::TemporaryFolder folder;
+    Machine machine{folder.path()};
+    platform::Services services = machine.services();
+};
+
+TEST_F(MachineTest, StartsOnePowerPointForWhoeverAsks) {
+    EXPECT_EQ(errorNumber([&] { services.servers.attach(programmaticId); }), cannotCreate);
+    EXPECT_EQ(errorNumber([&] { services.servers.create(u"Word.Application.11"); }), cannotCreate);
+    EXPECT_FALSE(machine.isPowerPointRunning());
+    EXPECT_EQ(machine.application(), nullptr);
+
+    const LateBound created(services.servers.create(programmaticId));
+    const platform::WindowHandle window = services.windows.findWindow(u"PP11FrameClass");
+    EXPECT_EQ(window, machine.mainWindow());
+    EXPECT_FALSE(services.windows.isVisible(window));
+    EXPECT_TRUE(isSame(services.servers.attach(u"powerpoint.APPLICATION.11"), created.object()));
+    EXPECT_TRUE(isSame(services.servers.create(programmaticId), created.object()));
+    EXPECT_EQ(services.windows.findWindow(u"PP11FrameClass"), window);
+
+    created.put(u"Visible", msoTrue);
+    EXPECT_TRUE(services.windows.isVisible(window));
+    EXPECT_EQ(number(created, u"HWND"), window);
+    EXPECT_EQ(text(created, u"Name"), u"Microsoft PowerPoint");
+    EXPECT_EQ(text(created, u"Version"), u"11.0");
+
+    machine.uninstallPowerPoint();
+    EXPECT_TRUE(isSame(services.servers.attach(programmaticId), created.object()));
+    machine.endPowerPoint();
+    EXPECT_EQ(errorNumber([&] { services.servers.create(programmaticId); }), cannotCreate);
+}
+
+TEST_F(MachineTest, RefusesCallsWhileBusyAndOnceEnded) {
+    struct Ending {
+        std::string_view name;
+        void (*end)(MachineTest&);
+    };
+    for (const auto& [name, end] : std::initializer_list<Ending>{
+             {"Quit", [](MachineTest& test) { say(test.powerPoint(), u"Quit"); }},
+             {"the user", [](MachineTest& test) { test.machine.endPowerPoint(); }},
+             {"WM_CLOSE",
+              [](MachineTest& test) {
+                  test.services.windows.send(test.machine.mainWindow(), platform::WindowSystem::closeMessage);
+              }},
+         }) {
+        SCOPED_TRACE(name);
+        machine.startPowerPoint();
+        const LateBound application = powerPoint();
+        const LateBound presentation = ask(ask(application, u"Presentations"), u"Add");
+        const auto expectBoth = [&](std::int32_t error) {
+            EXPECT_EQ(errorNumber([&] { say(application, u"WindowState"); }), error);
+            EXPECT_EQ(errorNumber([&] { say(presentation, u"Name"); }), error);
+        };
+        machine.setBusy(true);
+        expectBoth(remote::callRejected);
+        machine.setBusy(false);
+        expectBoth(noError);
+        EXPECT_EQ(text(presentation, u"Name"), u"Présentation1");
+
+        machine.openDialog(u"Ouvrir");
+        end(*this);
+        EXPECT_FALSE(machine.isPowerPointRunning());
+        expectBoth(remote::serverUnavailable);
+        EXPECT_EQ(services.windows.findWindow(u"PP11FrameClass"), 0);
+        EXPECT_EQ(services.windows.findWindow(u"#32770"), 0);
+        EXPECT_EQ(machine.mainWindow(), 0);
+        EXPECT_EQ(machine.dialogs(), 0U);
+    }
+}
+
+TEST_F(MachineTest, HasNoActivePresentationWhileInvisible) {
+    const LateBound application(services.servers.create(programmaticId));
+    const auto active = [&](std::u16string_view member) { return errorNumber([&] { say(application, member); }); };
+    EXPECT_EQ(number(application, u"WindowState"), 1);
+    EXPECT_NE(errorNumber([&] { ask(ask(application, u"Presentations"), u"Add"); }), noError);
+    ask(ask(application, u"Presentations"), u"Add", 0);
+    EXPECT_EQ(number(ask(application, u"Presentations"), u"Count"), 1);
+
+    application.put(u"Visible", msoTrue);
+    EXPECT_NE(active(u"ActivePresentation"), noError);
+    const LateBound shown = ask(ask(application, u"Presentations"), u"Add");
+    EXPECT_TRUE(isSame(ask(application, u"ActivePresentation").object(), shown.object()));
+    EXPECT_EQ(active(u"ActiveWindow"), noError);
+    EXPECT_NE(errorNumber([&] { application.put(u"Visible", 0); }), noError);
+
+    machine.hidePowerPoint();
+    EXPECT_EQ(number(application, u"Visible"), 0);
+    EXPECT_NE(active(u"ActiveWindow"), noError);
+    EXPECT_NE(active(u"ActivePresentation"), noError);
+    EXPECT_EQ(active(u"WindowState"), noError);
+}
+
+TEST_F(MachineTest, MovesTheMainWindowAsTheSystemSeesIt) {
+    machine.startPowerPoint();
+    const LateBound application = powerPoint();
+    const platform::WindowHandle other = machine.openWindow(u"Bureau", u"Cours");
+    EXPECT_EQ(machine.foregroundWindow(), other);
+    EXPECT_EQ(number(application, u"Active"), 0);
+    machine.minimizePowerPoint();
+    EXPECT_TRUE(services.windows.isIconic(machine.mainWindow()));
+    EXPECT_EQ(number(application, u"WindowState"), 2);
+    application.put(u"WindowState", 3);
+    EXPECT_FALSE(services.windows.isIconic(machine.mainWindow()));
+    EXPECT_NE(errorNumber([&] { application.put(u"WindowState", 4); }), noError);
+    say(application, u"Activate");
+    EXPECT_EQ(machine.foregroundWindow(), machine.mainWindow());
+    machine.openDialog(u"Ouvrir");
+    services.keyboard.send(u"{ESC}");
+    EXPECT_EQ(machine.dialogs(), 0U);
+    EXPECT_EQ(machine.keysSent(), u"{ESC}");
+    EXPECT_EQ(services.windows.title(machine.mainWindow()), u"Microsoft PowerPoint");
+    ask(ask(application, u"Presentations"), u"Add");
+    EXPECT_EQ(services.windows.title(machine.mainWindow()), u"Microsoft PowerPoint - [Présentation1]");
+}
+
+TEST_F(MachineTest, KeepsSettingsFromOneRunToTheNext) {
+    machine.startPowerPoint();
+    EXPECT_EQ(number(powerPoint(), u"ShowStartupDialog"), msoTrue);
+    powerPoint().put(u"ShowStartupDialog", 0);
+    ask(powerPoint(), u"CommandBars").put(u"DisplayTooltips", false);
+    bar(u"Task Pane").put(u"Visible", false);
+    bar(u"drawing").put(u"Position", 1);
+    machine.endPowerPoint();
+    machine.startPowerPoint();
+    EXPECT_EQ(number(powerPoint(), u"ShowStartupDialog"), 0);
+    EXPECT_EQ(say(ask(powerPoint(), u"CommandBars"), u"DisplayTooltips"), automation::Value(false));
+    EXPECT_EQ(say(bar(u"Task Pane"), u"Visible"), automation::Value(false));
+    EXPECT_EQ(number(bar(u"Drawing"), u"Position"), 1);
+}
+
+TEST_F(MachineTest, ShowsTheCommandBarsOfAFreshInstallation) {
+    machine.startPowerPoint();
+    struct Case {
+        std::u16string_view name;
+        bool visible;
+        std::int32_t position;
+    };
+    for (const auto& [name, visible, position] : std::initializer_list<Case>{{u"menu bar", true, 1},
+                                                                             {u"STANDARD", true, 1},
+                                                                             {u"formatting", true, 1},
+                                                                             {u"Drawing", true, 3},
+                                                                             {u"Task Pane", true, 2},
+                                                                             {u"Reviewing", false, 1},
+                                                                             {u"Curve", false, 5}}) {
+        EXPECT_EQ(say(bar(name), u"Visible"), automation::Value(visible));
+        EXPECT_EQ(number(bar(name), u"Position"), position);
+        EXPECT_EQ(say(bar(name), u"Enabled"), automation::Value(true));
+    }
+    const LateBound bars = ask(powerPoint(), u"CommandBars");
+    EXPECT_EQ(text(ask(bars, u"Item", 2), u"Name"), u"Standard");
+    EXPECT_EQ(number(bar(u"Curve"), u"Index"), number(bars, u"Count") - 4);
+    const auto refuses = [](const auto& action) { return errorNumber(action) != noError; };
+    EXPECT_TRUE(refuses([&] { ask(bars, u"Item", u"Courbe"); }));
+    EXPECT_TRUE(refuses([&] { ask(bars, u"Item", 0); }));
+    EXPECT_TRUE(refuses([&] { bar(u"Standard").put(u"Position", 5); }));
+    EXPECT_TRUE(refuses([&] { bar(u"Curve").put(u"Visible", true); }));
+    bar(u"Standard").put(u"Enabled", false);
+    EXPECT_EQ(say(bar(u"Standard"), u"Visible"), automation::Value(false));
+    EXPECT_TRUE(refuses([&] { bar(u"Standard").put(u"Visible", true); }));
+}
+
+TEST_F(MachineTest, HoldsTheLearnersSettings) {
+    constexpr std::u16string_view general = u"SOFTWARE\\Microsoft\\Office\\11.0\\Common\\General";
+    EXPECT_EQ(machine.registryText(general, u"templates"), u"Modèles");
+    EXPECT_EQ(machine.registryText(general, u"UserTemplates"), u"");
+    EXPECT_EQ(
+        machine.registryText(u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders", u"AppData"),
+        u"C:\\Documents and Settings\\Eleve\\Application Data");
+    for (const std::u16string_view name : {u"Default", u"MultimediaDir", u"PictureDir", u"TemplateDir"}) {
+        EXPECT_NE(machine.registryText(u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList", name), u"");
+    }
+    machine.denyRegistryKey(general);
+    EXPECT_FALSE(platform::OpenKey(services.registry, general, platform::Registry::read).isOpen());
+    machine.denyRegistryKey(general, false);
+    EXPECT_TRUE(platform::OpenKey(services.registry, general, platform::Registry::read).isOpen());
+    EXPECT_EQ(platform::queryLocale(services.locale, 0x400, platform::Locale::measurementSystem), u"0");
+}
+
+TEST_F(MachineTest, LeavesNoObjectBehind) {
+    const std::size_t before = automation::Object::alive();
+    {
+        machine.startPowerPoint();
+        const LateBound presentation = ask(ask(powerPoint(), u"Presentations"), u"Add");
+        const LateBound window = ask(powerPoint(), u"ActiveWindow");
+        const LateBound selection = ask(window, u"Selection");
+        const LateBound curve = ask(ask(bar(u"Curve"), u"Controls"), u"Item", 7);
+        machine.endPowerPoint();
+        EXPECT_EQ(errorNumber([&] { say(selection, u"Type"); }), remote::serverUnavailable);
+        EXPECT_GT(automation::Object::alive(), before);
+    }
+    EXPECT_EQ(automation::Object::alive(), before);
+}
+
+} // namespace

@@ -1,0 +1,39 @@
+#include "tests/trials/command/Trials.h"
+
+#include "tests/trials/command/Commands.h"
+
+#include <array>
+
+namespace trials {
+
+namespace {
+
+using host::Command;
+
+constexpr const char* purpose = "Tries the module harder than scenarios do: with every call failing, with learners at "
+                                "random, and by what it costs.";
+
+constexpr const char* examples = R"(Examples:
+  trials torture 306           every call of question 306 made to fail in every way
+  trials learners 306          random learners, judged by the module and by a second judge
+  trials cost                  what the questions cost in calls and time
+
+Exit codes: 0 good, 1 something fell short, 2 wrong usage or a wrong line in a scenario file, 3 a question
+hung.)";
+
+constexpr std::array commands{
+    Command{"torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong",
+            addTorture, true},
+    Command{"learners", "Let learners work at random, and judge them a second time", addLearners, false},
+    Command{"cost", "Measure calls, time and memory", addCost, true},
+};
+
+constexpr host::Program trials{"trials", purpose, examples, commands};
+
+} // namespace
+
+const host::Program& program() noexcept {
+    return trials;
+}
+
+} // namespace trials

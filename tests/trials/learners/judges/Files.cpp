@@ -1,0 +1,38 @@
+#include "automation/Text.h"
+#include "tests/trials/learners/judges/Judges.h"
+
+namespace trials::learners {
+
+namespace {
+
+class FileJudge final : public Judge {
+public:
+    Verdict verdict(const Scene& scene) const override {
+        bool isNamed = false;
+        bool isRichText = false;
+        for (const std::u16string& each : scene.files()) {
+            const std::u16string file = automation::lowerCase(each);
+            isNamed = isNamed || file == u"plan exo 3" || file.starts_with(u"plan exo 3.");
+            isRichText = isRichText || file == u"plan exo 3.rtf";
+        }
+        return Verdict::of(isRichText ? u"" : isNamed ? u"B" : u"A");
+    }
+};
+
+/// Finds nothing wrong.
+class ContentJudge final : public Judge {
+public:
+    Verdict verdict(const Scene& /*scene*/) const override { return {}; }
+};
+
+} // namespace
+
+JudgePtr makeFileJudge() {
+    return std::make_unique<FileJudge>();
+}
+
+JudgePtr makeContentJudge() {
+    return std::make_unique<ContentJudge>();
+}
+
+} // namespace trials::learners

@@ -1,0 +1,44 @@
+#include "tests/trials/torture/Belongings.h"
+
+#include "automation/LateBound.h"
+
+namespace trials::torture {
+
+namespace {
+
+using automation::LateBound;
+using automation::ObjectPtr;
+
+std::vector<std::u16string> barsOf(const LateBound& application) {
+    const LateBound bars(application.get(u"CommandBars").to<ObjectPtr>());
+    std::vector<std::u16string> all;
+    const auto count = bars.get(u"Count").to<std::int32_t>();
+    for (std::int32_t i = 1; i <= count; ++i) {
+        const LateBound bar(bars.get(u"Item", i).to<ObjectPtr>());
+        std::u16string text = bar.get(u"Name").to<std::u16string>();
+        for (const std::u16string_view member : {u"Visible", u"Enabled", u"Position"}) {
+            text.append(u" ").append(bar.get(member).display());
+        }
+        all.push_back(std::move(text));
+    }
+    all.push_back(u"tooltips " + bars.get(u"DisplayTooltips").display());
+    return all;
+}
+
+} // namespace
+
+Belongings::Belongings(World& world) : folders(foldersOf(world)) {
+    if (const ObjectPtr application = world.application()) {
+        bars = barsOf(LateBound(application));
+        presentations = Snapshot(world).presentations.value_or(std::vector<OpenPresentation>());
+    }
+}
+
+std::array<std::u16string, 4> foldersOf(World& world) {
+    std::array<std::u16string, 4> folders;
+    std::transform(folderSettings::names.begin(), folderSettings::names.end(), folders.begin(),
+                   [&](std::u16string_view name) { return world.registryText(folderSettings::key, name); });
+    return folders;
+}
+
+} // namespace trials::torture

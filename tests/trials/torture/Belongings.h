@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/run/Snapshot.h"
+#include "tests/trials/Host.h"
+
+namespace trials::torture {
+
+/// What is the learner's own: PowerPoint's four folders, its command bars and the presentations open in it.
+struct Belongings {
+    /// As a world has them at the moment; PowerPoint must run for its bars and presentations.
+    explicit Belongings(World& world);
+
+    std::array<std::u16string, 4> folders;
+    std::vector<std::u16string> bars; ///< each in words, and the tooltips last
+    std::vector<OpenPresentation> presentations;
+};
+
+/// PowerPoint's four folders, as the registry has them.
+[[nodiscard]] std::array<std::u16string, 4> foldersOf(World& world);
+
+} // namespace trials::torture

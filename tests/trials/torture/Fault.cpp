@@ -1,0 +1,154 @@
+#include "tests/trials/torture/Fault.h"
+
+#include "automation/LateBound.h"
+
+namespace trials::torture {
+
+namespace {
+
+using automation::Border;
+using automation::Error;
+using automation::RunTimeError;
+using Kind = Fault::Kind;
+
+constexpr auto outOfMemory = static_cast<std::int32_t>(0x8007000EU);
+constexpr auto invalidRequest = static_cast<std::int32_t>(0x80048240U);
+
+/// Milliseconds by which a late answer comes: longer than a refused call is made again.
+constexpr std::int32_t late = 2500;
+constexpr std::int32_t never = 0;
+constexpr std::int32_t withoutEnd = 0;
+
+/// Ends PowerPoint's process just before the call at a position; the calls themselves pass.
+class Killer final : public automation::Observer {
+public:
+    Killer(std::size_t position, World& world) : left_(position), world_(world) {}
+
+    automation::Value around(const automation::Crossing& /*crossing*/, const Next& next) override {
+        if (left_ != 0 && --left_ == 0) {
+            world_.killPowerPoint();
+        }
+        return next();
+    }
+
+    [[nodiscard]] bool hasStruck() const noexcept { return left_ == 0; }
+
+private:
+    std::size_t left_;
+    World& world_;
+};
+
+std::string_view nameOf(Kind kind) noexcept {
+    switch (kind) {
+    case Kind::Exception: return "automation exception";
+    case Kind::Busy: return "server busy";
+    case Kind::Dead: return "server dead";
+    case Kind::OutOfMemory: return "out of memory";
+    case Kind::AccessDenied: return "access denied";
+    case Kind::Killed: return "PowerPoint killed";
+    case Kind::Dies: return "PowerPoint dies";
+    case Kind::Refuses: return "PowerPoint refuses";
+    case Kind::Late: return "PowerPoint answers late";
+    }
+    return "";
+}
+
+} // namespace
+
+bool Fault::fits(Border border) const noexcept {
+    switch (kind) {
+    case Kind::Exception:
+    case Kind::Busy:
+    case Kind::Dies:
+    case Kind::Refuses:
+    case Kind::Late:
+    case Kind::Dead: return border == Border::Automation;
+    case Kind::OutOfMemory: return border == Border::Automation || border == Border::File;
+    case Kind::AccessDenied: return border != Border::Automation;
+    case Kind::Killed: return true;
+    }
+    return false;
+}
+
+const Error& Fault::error() const {
+    static const Error exception(invalidRequest, u"Microsoft PowerPoint", u"Requête non valide.");
+    static const Error busy(automation::remote::callRejected, u"Appel", u"L'appel a été rejeté par l'appelé.");
+    static const Error refused(automation::remote::callRejected, u"", u"");
+    static const Error dead(automation::remote::serverUnavailable, u"Serveur", u"Le serveur RPC n'est pas disponible.");
+    static const Error memory(outOfMemory, u"Système", u"Mémoire insuffisante.");
+    static const Error denied(RunTimeError::PathAccess);
+    switch (kind) {
+    case Kind::Exception: return exception;
+    case Kind::Busy: return busy;
+    case Kind::Dead:
+    case Kind::Dies:
+    case Kind::Killed: return dead;
+    case Kind::Refuses:
+    case Kind::Late: return refused;
+    case Kind::OutOfMemory: return memory;
+    case Kind::AccessDenied: break;
+    }
+    return denied;
+}
+
+std::string Fault::display() const {
+    const bool lasts = lasting == Lasting::FromThereOn && !isDeath();
+    return std::string(nameOf(kind)) + (lasts ? " from there on" : "");
+}
+
+Strike Fault::at(std::size_t position, World& world) const {
+    const auto strike = [](auto observer) { return Strike{observer, [observer] { return observer->hasStruck(); }}; };
+    if (kind == Kind::Killed) {
+        return strike(std::make_shared<Killer>(position, world));
+    }
+    return strike(std::make_shared<automation::FaultInjector>(
+        position, lasting, error(), [fault = *this](Border border) { return !fault.fits(border); }));
+}
+
+void Fault::arm(std::size_t position, World& world) const {
+    const auto call = static_cast<std::int32_t>(position);
+    const automation::LateBound standIn(world.standIn());
+    switch (kind) {
+    case Kind::Dies: standIn.call(u"DieAtCall", call); break;
+    case Kind::Refuses: standIn.call(u"RefuseAtCall", call, lasting == Lasting::Once ? 1 : withoutEnd); break;
+    case Kind::Late: standIn.call(u"DelayCall", call, late); break;
+    default: automation::raise(RunTimeError::InvalidProcedureCall);
+    }
+}
+
+void Fault::disarm(World& world) {
+    const automation::LateBound standIn(world.standIn());
+    standIn.put(u"Busy", false);
+    standIn.call(u"DieAtCall", never);
+}
+
+bool Fault::hasStruck(World& world) const {
+    if (isDeath()) {
+        return world.mainWindow() == 0;
+    }
+    const automation::LateBound standIn(world.standIn());
+    return standIn.get(kind == Kind::Late ? u"Delayed" : u"Refused").to<std::int32_t>() != 0;
+}
+
+const std::vector<Fault>& Fault::all() {
+    static const std::vector<Fault> faults = [] {
+        std::vector<Fault> every;
+        for (const Kind each : {Kind::Exception, Kind::Busy, Kind::Dead, Kind::OutOfMemory, Kind::AccessDenied}) {
+            every.push_back({each, Lasting::Once});
+            every.push_back({each, Lasting::FromThereOn});
+        }
+        every.push_back({Kind::Killed, Lasting::FromThereOn});
+        return every;
+    }();
+    return faults;
+}
+
+const std::vector<Fault>& Fault::remote() {
+    static const std::vector<Fault> faults{{Kind::Dies, Lasting::FromThereOn},
+                                           {Kind::Refuses, Lasting::Once},
+                                           {Kind::Refuses, Lasting::FromThereOn},
+                                           {Kind::Late, Lasting::Once}};
+    return faults;
+}
+
+} // namespace trials::torture

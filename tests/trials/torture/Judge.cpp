@@ -1,0 +1,84 @@
+#include "tests/trials/torture/Judge.h"
+
+#include "automation/Text.h"
+
+namespace trials::torture {
+
+namespace {
+
+using automation::Error;
+using Kind = Fault::Kind;
+using Lasting = Fault::Lasting;
+
+bool isSameError(const std::optional<Error>& left, const std::optional<Error>& right) {
+    return left.has_value() == right.has_value() &&
+           (!left || (left->number() == right->number() && left->source() == right->source()));
+}
+
+bool isSameVerdict(const Reading& left, const Reading& right) {
+    return isSameError(left.error, right.error) && left.erreurGenerale == right.erreurGenerale &&
+           left.causeErreur == right.causeErreur && left.bravoNuance == right.bravoNuance &&
+           left.complement == right.complement;
+}
+
+} // namespace
+
+Judgement Judge::judge(const Aftermath& aftermath, std::size_t position, const Fault& fault) const {
+    const Prescription prescription = prescriptionFor(question_, operation_, route_, position, fault);
+    Judgement judgement{Answer::Wrong, aftermath.findings};
+    std::vector<std::string>& findings = judgement.findings;
+    if (!aftermath.isStruck) {
+        findings.emplace_back("the fault has not struck");
+    }
+    // The bar that could not be read before it was arranged cannot be put back, nor can those of a process that has
+    // died.
+    const bool isUnread =
+        route_[position].stage == Stage::Layout && fault.lasting == Lasting::Once && aftermath.bars.size() <= 1;
+    if (!isUnread && fault.kind != Kind::Dies) {
+        findings.insert(findings.end(), aftermath.bars.begin(), aftermath.bars.end());
+    }
+    if (isAnsweredBy(prescription, aftermath)) {
+        judgement.answer = prescription.answer;
+    } else {
+        findings.push_back("the host gets" + (aftermath.error ? " " + inWords(*aftermath.error) : " no error") +
+                           (aftermath.reading ? ", " + aftermath.reading->display() : "") +
+                           ", and not: " + prescription.display());
+    }
+    if (aftermath.powerPointEnded && !mayEndPowerPoint(position, fault)) {
+        findings.emplace_back("the learner's PowerPoint has been ended");
+    }
+    return judgement;
+}
+
+bool Judge::isAnsweredBy(const Prescription& prescription, const Aftermath& aftermath) const {
+    const std::optional<Error>& error = aftermath.error;
+    const std::optional<Reading>& reading = aftermath.reading;
+    switch (prescription.answer) {
+    case Answer::Reported:
+    case Answer::Registry:
+    case Answer::Straight: return error && prescription.admits(*error);
+    case Answer::Code: return !error && reading && reading->erreurGenerale && reading->causeErreur == prescription.code;
+    case Answer::Letter:
+        return !error && reading && !reading->erreurGenerale && reading->causeErreur == prescription.code;
+    case Answer::Silence:
+        return isSameError(error, flawless_.error) && (!reading || isSameVerdict(*reading, *flawless_.reading));
+    case Answer::Wrong: break;
+    }
+    return false;
+}
+
+bool Judge::mayEndPowerPoint(std::size_t position, const Fault& fault) const {
+    if (fault.isDeath()) {
+        return true;
+    }
+    // A PowerPoint whose window is not visible is quit, and one whose window is no more is taken for one that the
+    // module has started; where that cannot be asked it looks the same.
+    const bool isLast = operation_.call == HostCall::Quitter;
+    const auto isLook = [](const Call& call) { return call.member == u"isVisible" || call.member == u"className"; };
+    const auto later = route_.subspan(position);
+    return fault.kind == Kind::AccessDenied &&
+           (isLook(later.front()) ||
+            (fault.lasting == Lasting::FromThereOn && (!isLast || std::any_of(later.begin(), later.end(), isLook))));
+}
+
+} // namespace trials::torture

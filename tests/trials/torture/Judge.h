@@ -1,0 +1,34 @@
+#pragma once
+
+#include "tests/trials/torture/Ordeal.h"
+#include "tests/trials/torture/Prescription.h"
+
+namespace trials::torture {
+
+/// What came of a failed call.
+struct Judgement {
+    Answer answer = Answer::Wrong;
+    std::vector<std::string> findings; ///< what is wrong; empty where all is as it must be
+};
+
+/// Judges how an operation went in which a call had failed.
+class Judge {
+public:
+    /// `flawless` is how the operation goes when nothing fails, along its route; both must outlive this object.
+    Judge(std::int32_t question, Operation operation, const Aftermath& flawless, std::span<const Call> route)
+        : question_(question), operation_(operation), flawless_(flawless), route_(route) {}
+
+    /// `position` is that of the call that failed, from 0.
+    [[nodiscard]] Judgement judge(const Aftermath& aftermath, std::size_t position, const Fault& fault) const;
+
+private:
+    [[nodiscard]] bool isAnsweredBy(const Prescription& prescription, const Aftermath& aftermath) const;
+    [[nodiscard]] bool mayEndPowerPoint(std::size_t position, const Fault& fault) const;
+
+    std::int32_t question_;
+    Operation operation_;
+    const Aftermath& flawless_;
+    std::span<const Call> route_;
+};
+
+} // namespace trials::torture

@@ -1,0 +1,127 @@
+#include "tests/trials/torture/Torture.h"
+
+#include "automation/Text.h"
+
+#include <numeric>
+
+namespace trials::torture {
+
+namespace {
+
+using automation::Border;
+using automation::toUtf8;
+using Arrival = Operation::Arrival;
+
+constexpr std::array operations{
+    Operation{HostCall::InitQuestion, Arrival::Brought},
+    Operation{HostCall::InitQuestion, Arrival::Started},
+    Operation{HostCall::TestePoint, Arrival::Brought},
+    Operation{HostCall::Fermer, Arrival::Brought},
+    Operation{HostCall::Quitter, Arrival::Brought},
+    Operation{HostCall::Quitter, Arrival::Started},
+    Operation{HostCall::InitQuestion, Arrival::Brought, true},
+};
+
+/// An operation with the calls that leave the module in it.
+struct Rehearsal {
+    Aftermath aftermath;
+    std::vector<Call> route;
+};
+
+Rehearsal rehearse(const Ordeal& ordeal, Operation operation) {
+    const auto recorder = std::make_shared<RouteRecorder>();
+    ObservedCalls observed([&](World&) { return Strike{recorder, nullptr}; });
+    Rehearsal rehearsal{ordeal.run(operation, observed, true), {}};
+    rehearsal.route = recorder->route(operation.call, rehearsal.aftermath.calls);
+    return rehearsal;
+}
+
+/// The folders can be written in spite of a fault that leaves the registry alone, or that strikes once.
+bool leavesFoldersWritable(const Fault& fault) {
+    return fault.lasting == Fault::Lasting::Once || !fault.fits(Border::Registry) || fault.isDeath();
+}
+
+} // namespace
+
+Torture::Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every,
+                 std::mt19937& random)
+    : file_(file), course_(file, makeWorld), ordeal_(file, course_, makeWorld), every_(every), random_(random) {}
+
+void Torture::run(Totals& totals, const Report& report, const Progress& progress) const {
+    for (const Operation& operation : operations) {
+        const Rehearsal rehearsal = rehearse(ordeal_, operation);
+        std::vector<std::size_t> positions(rehearsal.route.size());
+        std::iota(positions.begin(), positions.end(), std::size_t{0});
+        const Struck struck = [&](const Fault& fault, std::size_t n) {
+            ObservedCalls observed([&](World& world) { return fault.at(n, world); });
+            return ordeal_.run(operation, observed, leavesFoldersWritable(fault));
+        };
+        run({operation, rehearsal.aftermath, rehearsal.route, positions}, Fault::all(), struck,
+            {totals, report, progress});
+    }
+}
+
+void Torture::runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const Report& report,
+                        const Progress& progress) const {
+    const Ordeal remote(file_, course_, makeRemoteWorld);
+    for (const Operation& operation : operations) {
+        if (operation.arrival == Arrival::Started || operation.call == HostCall::Quitter || operation.isHeld) {
+            continue;
+        }
+        const std::vector<Call> route = rehearse(ordeal_, operation).route;
+        std::vector<std::size_t> positions;
+        for (std::size_t i = 0; i < route.size(); ++i) {
+            if (route[i].border == Border::Automation) {
+                positions.push_back(i);
+            }
+        }
+        RemoteCalls untroubled;
+        Aftermath flawless = remote.run(operation, untroubled, true);
+        if (flawless.calls != positions.size()) {
+            flawless.findings.push_back(std::to_string(flawless.calls) + " calls reach PowerPoint, and not " +
+                                        std::to_string(positions.size()));
+        }
+        const Struck struck = [&](const Fault& fault, std::size_t n) {
+            RemoteCalls troubled(fault, n);
+            return remote.run(operation, troubled, leavesFoldersWritable(fault));
+        };
+        run({operation, flawless, route, positions}, Fault::remote(), struck, {totals, report, progress});
+    }
+}
+
+void Torture::run(const Ground& ground, std::span<const Fault> faults, const Struck& struck,
+                  const Audience& audience) const {
+    const auto& [totals, report, progress] = audience;
+    const auto& [operation, flawless, route, positions] = ground;
+    const std::string place = "question " + std::to_string(file_.question) + ", " + operation.display();
+    for (const auto& findings : {flawless.findings, flawless.bars}) {
+        for (const std::string& finding : findings) {
+            ++totals.findings;
+            report(place + ", nothing failed: " + finding);
+        }
+    }
+    const Judge judge(file_.question, operation, flawless, route);
+    for (std::size_t n = firstPosition(); n <= positions.size(); n += every_) {
+        const Call& call = route[positions[n - 1]];
+        for (const Fault& fault : faults) {
+            if (!fault.fits(call.border)) {
+                continue;
+            }
+            progress(operation, n, positions.size());
+            const Judgement judgement = judge.judge(struck(fault, n), positions[n - 1], fault);
+            ++totals.failed;
+            ++totals.outcomes.at(static_cast<std::size_t>(judgement.answer));
+            for (const std::string& finding : judgement.findings) {
+                ++totals.findings;
+                report(place + ", call " + std::to_string(n) + " " + toUtf8(call.text) + ", " + fault.display() + ": " +
+                       finding);
+            }
+        }
+    }
+}
+
+std::size_t Torture::firstPosition() const {
+    return 1 + random_() % every_;
+}
+
+} // namespace trials::torture

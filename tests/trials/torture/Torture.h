@@ -1,0 +1,63 @@
+#pragma once
+
+#include "tests/trials/torture/Judge.h"
+
+#include <random>
+
+namespace trials::torture {
+
+/// What came of all the calls that were made to fail.
+struct Totals {
+    std::size_t failed = 0; ///< calls made to fail, each once for every fault
+    std::array<std::size_t, answers> outcomes{};
+    std::size_t findings = 0;
+};
+
+/// Makes every call of every operation of one question fail in every way that fits it.
+class Torture {
+public:
+    /// Told of what is wrong, in words.
+    using Report = std::function<void(const std::string&)>;
+    /// Told where the torture has come to: the operation, the call's number, and how many there are.
+    using Progress = std::function<void(const Operation&, std::size_t, std::size_t)>;
+
+    /// Of the calls of an operation one in `every` is made to fail, beginning with one that `random` picks. All must
+    /// outlive this object.
+    Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every, std::mt19937& random);
+
+    /// Adds to the totals. Raises language::Failure where the scenario itself falls short.
+    void run(Totals& totals, const Report& report, const Progress& progress) const;
+    /// The same with worlds whose PowerPoint is in a process of its own: it misbehaves at the calls that reach it,
+    /// which must be those that the module makes in this process. The host brings PowerPoint.
+    void runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const Report& report,
+                   const Progress& progress) const;
+
+private:
+    /// An operation in which a fault strikes the n-th call.
+    using Struck = std::function<Aftermath(const Fault&, std::size_t)>;
+    /// Whoever is told how it goes.
+    struct Audience {
+        Totals& totals;
+        const Report& report;
+        const Progress& progress;
+    };
+
+    /// An operation as it goes when nothing fails, and the calls on its route that can be made to fail.
+    struct Ground {
+        Operation operation;
+        const Aftermath& flawless;
+        std::span<const Call> route;
+        std::span<const std::size_t> positions;
+    };
+
+    void run(const Ground& ground, std::span<const Fault> faults, const Struck& struck, const Audience& audience) const;
+    [[nodiscard]] std::size_t firstPosition() const;
+
+    const language::ScenarioFile& file_;
+    Course course_;
+    Ordeal ordeal_;
+    std::size_t every_;
+    std::mt19937& random_;
+};
+
+} // namespace trials::torture
