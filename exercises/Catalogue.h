@@ -2,36 +2,30 @@
 
 #include "exercises/Question.h"
 
+#include <array>
+
 namespace exercises {
 
-using QuestionPtr = std::shared_ptr<Question>;
+/// A new question of a class, which knows its number. Each question's source instantiates it for its own class.
+template <typename Class> [[nodiscard]] QuestionPtr make(std::int32_t number, const Environment& environment);
 
-/// The question of a class, by the class's name ("Question0301"). Raises CannotCreateObject (429) where there is no
-/// such class.
-[[nodiscard]] QuestionPtr createQuestion(std::u16string_view className, const Environment& environment);
+/// Number of the course's first question.
+inline constexpr std::int32_t firstQuestion = 301;
 
-[[nodiscard]] QuestionPtr makeQuestion0301(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0302(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0303(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0304(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0305(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0306(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0307(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0308(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0309(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0310(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0311(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0312(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0313(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0314(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0315(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0316(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0317(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0318(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0319(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0320(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0321(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0322(const Environment& environment);
-[[nodiscard]] QuestionPtr makeQuestion0323(const Environment& environment);
+/// The classes of the course's questions, in the order of their numbers.
+inline constexpr auto questionClasses = std::to_array<QuestionPtr (*)(std::int32_t, const Environment&)>({
+    &make<class Question0301>, &make<class Question0302>, &make<class Question0303>, &make<class Question0304>,
+    &make<class Question0305>, &make<class Question0306>, &make<class Question0307>, &make<class Question0308>,
+    &make<class Question0309>, &make<class Question0310>, &make<class Question0311>, &make<class Question0312>,
+    &make<class Question0313>, &make<class Question0314>, &make<class Question0315>, &make<class Question0316>,
+    &make<class Question0317>, &make<class Question0318>, &make<class Question0319>, &make<class Question0320>,
+    &make<class Question0321>, &make<class Question0322>, &make<class Question0323>,
+});
+
+/// Number of the course's last question.
+inline constexpr std::int32_t lastQuestion = firstQuestion + static_cast<std::int32_t>(questionClasses.size()) - 1;
+
+/// The question of a number; nothing where the course has no such question.
+[[nodiscard]] QuestionPtr createQuestion(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,5 +1,6 @@
 #include "exercises/Question.h"
 
+#include "automation/Text.h"
 #include "platform/ErrorReport.h"
 
 namespace exercises {
@@ -7,10 +8,17 @@ namespace exercises {
 using platform::ReportedObject;
 using platform::reporting;
 
-Question::Question(std::u16string_view className, std::initializer_list<collections::WorkingFile> files,
-                   const Environment& environment)
-    : className_(className), environment_(environment) {
-    for (const collections::WorkingFile& file : files) {
+namespace {
+
+constexpr std::u16string_view presentation = u"Méthodologie.ppt";
+
+} // namespace
+
+Question::Question(std::int32_t number, const Environment& environment,
+                   std::initializer_list<collections::WorkingFile> furtherFiles)
+    : className_(u"Question0" + automation::decimal(number)), environment_(environment) {
+    createdFiles()->add(u"07305" + automation::decimal(number) + u".ppt", std::u16string(presentation), false);
+    for (const collections::WorkingFile& file : furtherFiles) {
         createdFiles()->add(file.NomSource, file.NomDest, file.Modele);
     }
 }
@@ -31,7 +39,7 @@ void Question::Prepare(automation::ObjectPtr& application, const std::u16string&
         }
         CopieChemin();
         application_ = ppt::Application(application);
-        application_.Presentations().Open(cheminTravail_ + u"Méthodologie.ppt", ppt::msoFalse, ppt::msoFalse,
+        application_.Presentations().Open(cheminTravail_ + std::u16string(presentation), ppt::msoFalse, ppt::msoFalse,
                                           ppt::msoTrue);
         prepare();
     });

@@ -31,6 +31,10 @@ struct Place {
 /// and how preparation and check run. A question adds its working files, its variant of the preparation and its checks.
 class Question : public automation::Published {
 public:
+    /// The working presentation is delivered under the question's number; what a question works on beside it follows.
+    Question(std::int32_t number, const Environment& environment,
+             std::initializer_list<collections::WorkingFile> furtherFiles = {});
+
     /// The working files; created empty first where there are none.
     [[nodiscard]] automation::ObjectPtr FichiersDeTravail() { return createdFiles(); }
     /// Folder that PowerPoint is to propose to the learner; empty until `Prepare` has run.
@@ -54,10 +58,6 @@ public:
     [[nodiscard]] const automation::MemberTable& members() const final;
 
 protected:
-    /// `className` is the class's own name; the rows are added in order.
-    Question(std::u16string_view className, std::initializer_list<collections::WorkingFile> files,
-             const Environment& environment);
-
     /// The question's preparation once the working presentation is open: one of the variants below, and what it adds.
     virtual void prepare() = 0;
     /// The question's checks, in order.
@@ -95,7 +95,7 @@ private:
     const std::shared_ptr<collections::FichiersDeTravail>& createdFiles();
     void CopieChemin() { pathDossierParDefaut_ = cheminTravail_; }
 
-    std::u16string_view className_;
+    std::u16string className_;
     Environment environment_;
 
     ppt::Application application_;
@@ -107,5 +107,7 @@ private:
     std::u16string pathDossierParDefaut_;
     std::shared_ptr<collections::ComplementInfo> complementInfo_;
 };
+
+using QuestionPtr = std::shared_ptr<Question>;
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0301 final : public Question {
 public:
-    explicit Question0301(const Environment& environment)
-        : Question(u"Question0301", {{u"07305301.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlides(); }
@@ -15,10 +12,6 @@ private:
     void check() override {}
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0301(const Environment& environment) {
-    return std::make_shared<Question0301>(environment);
-}
+template QuestionPtr make<Question0301>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0302 final : public Question {
 public:
-    explicit Question0302(const Environment& environment)
-        : Question(u"Question0302", {{u"07305302.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlides(); }
@@ -15,10 +12,6 @@ private:
     void check() override {}
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0302(const Environment& environment) {
-    return std::make_shared<Question0302>(environment);
-}
+template QuestionPtr make<Question0302>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0303 final : public Question {
 public:
-    explicit Question0303(const Environment& environment)
-        : Question(u"Question0303", {{u"07305303.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlides(); }
@@ -15,10 +12,6 @@ private:
     void check() override {}
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0303(const Environment& environment) {
-    return std::make_shared<Question0303>(environment);
-}
+template QuestionPtr make<Question0303>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

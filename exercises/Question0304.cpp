@@ -1,17 +1,11 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0304 final : public Question {
 public:
-    explicit Question0304(const Environment& environment)
-        : Question(u"Question0304",
-                   {{u"07305304.ppt", u"Méthodologie.ppt", false},
-                    {u"", u"Plan exo 3.rtf", false},
-                    {u"", u"Plan exo 3.ppt", false}},
-                   environment) {}
+    Question0304(std::int32_t number, const Environment& environment)
+        : Question(number, environment, {{u"", u"Plan exo 3.rtf", false}, {u"", u"Plan exo 3.ppt", false}}) {}
 
 private:
     void prepare() override { prepareSlides(); }
@@ -31,10 +25,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0304(const Environment& environment) {
-    return std::make_shared<Question0304>(environment);
-}
+template QuestionPtr make<Question0304>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,17 +1,13 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 #include "automation/Text.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0305 final : public Question {
 public:
-    explicit Question0305(const Environment& environment)
-        : Question(u"Question0305",
-                   {{u"07305305.ppt", u"Méthodologie.ppt", false}, {u"17305305.doc", u"Conseils.doc", false}},
-                   environment) {}
+    Question0305(std::int32_t number, const Environment& environment)
+        : Question(number, environment, {{u"17305305.doc", u"Conseils.doc", false}}) {}
 
 private:
     void prepare() override { prepareSlides(); }
@@ -51,10 +47,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0305(const Environment& environment) {
-    return std::make_shared<Question0305>(environment);
-}
+template QuestionPtr make<Question0305>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

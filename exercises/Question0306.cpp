@@ -1,4 +1,4 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 #include "automation/Integer.h"
 #include "automation/Text.h"
@@ -10,10 +10,11 @@ namespace {
 
 using automation::increase;
 
+} // namespace
+
 class Question0306 final : public Question {
 public:
-    explicit Question0306(const Environment& environment)
-        : Question(u"Question0306", {{u"07305306.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlides(); }
@@ -39,10 +40,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0306(const Environment& environment) {
-    return std::make_shared<Question0306>(environment);
-}
+template QuestionPtr make<Question0306>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,4 +1,4 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 #include "automation/Integer.h"
 #include "exercises/TextWalk.h"
@@ -9,10 +9,11 @@ namespace {
 
 using automation::increase;
 
+} // namespace
+
 class Question0307 final : public Question {
 public:
-    explicit Question0307(const Environment& environment)
-        : Question(u"Question0307", {{u"07305307.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlides(); }
@@ -35,10 +36,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0307(const Environment& environment) {
-    return std::make_shared<Question0307>(environment);
-}
+template QuestionPtr make<Question0307>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,4 +1,4 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 #include "automation/Integer.h"
 
@@ -16,10 +16,11 @@ std::u16string_view trim(std::u16string_view text) {
     return first == std::u16string_view::npos ? u"" : text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
+} // namespace
+
 class Question0308 final : public Question {
 public:
-    explicit Question0308(const Environment& environment)
-        : Question(u"Question0308", {{u"07305308.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override {
@@ -113,10 +114,6 @@ private:
     automation::Value referenceColour_;
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0308(const Environment& environment) {
-    return std::make_shared<Question0308>(environment);
-}
+template QuestionPtr make<Question0308>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

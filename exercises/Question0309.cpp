@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0309 final : public Question {
 public:
-    explicit Question0309(const Environment& environment)
-        : Question(u"Question0309", {{u"07305309.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override {
@@ -57,10 +54,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0309(const Environment& environment) {
-    return std::make_shared<Question0309>(environment);
-}
+template QuestionPtr make<Question0309>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0310 final : public Question {
 public:
-    explicit Question0310(const Environment& environment)
-        : Question(u"Question0310", {{u"07305310.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override {
@@ -36,10 +33,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0310(const Environment& environment) {
-    return std::make_shared<Question0310>(environment);
-}
+template QuestionPtr make<Question0310>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

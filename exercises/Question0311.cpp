@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0311 final : public Question {
 public:
-    explicit Question0311(const Environment& environment)
-        : Question(u"Question0311", {{u"07305311.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override {
@@ -53,10 +50,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0311(const Environment& environment) {
-    return std::make_shared<Question0311>(environment);
-}
+template QuestionPtr make<Question0311>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

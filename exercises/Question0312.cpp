@@ -1,15 +1,12 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 #include "automation/Integer.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0312 final : public Question {
 public:
-    explicit Question0312(const Environment& environment)
-        : Question(u"Question0312", {{u"07305312.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -46,10 +43,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0312(const Environment& environment) {
-    return std::make_shared<Question0312>(environment);
-}
+template QuestionPtr make<Question0312>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0313 final : public Question {
 public:
-    explicit Question0313(const Environment& environment)
-        : Question(u"Question0313", {{u"07305313.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -28,10 +25,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0313(const Environment& environment) {
-    return std::make_shared<Question0313>(environment);
-}
+template QuestionPtr make<Question0313>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

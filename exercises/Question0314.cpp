@@ -1,4 +1,4 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 #include "automation/Integer.h"
 
@@ -10,10 +10,11 @@ namespace {
 constexpr std::int32_t firstBasicShape = 1;
 constexpr std::int32_t lastBasicShape = 32;
 
+} // namespace
+
 class Question0314 final : public Question {
 public:
-    explicit Question0314(const Environment& environment)
-        : Question(u"Question0314", {{u"07305314.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -55,10 +56,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0314(const Environment& environment) {
-    return std::make_shared<Question0314>(environment);
-}
+template QuestionPtr make<Question0314>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0315 final : public Question {
 public:
-    explicit Question0315(const Environment& environment)
-        : Question(u"Question0315", {{u"07305315.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -41,10 +38,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0315(const Environment& environment) {
-    return std::make_shared<Question0315>(environment);
-}
+template QuestionPtr make<Question0315>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,4 +1,4 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
@@ -6,10 +6,11 @@ namespace {
 
 constexpr std::int32_t midGrey = 0x808080;
 
+} // namespace
+
 class Question0316 final : public Question {
 public:
-    explicit Question0316(const Environment& environment)
-        : Question(u"Question0316", {{u"07305316.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -40,10 +41,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0316(const Environment& environment) {
-    return std::make_shared<Question0316>(environment);
-}
+template QuestionPtr make<Question0316>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,4 +1,4 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
@@ -11,10 +11,11 @@ bool looksLikeRectangle(std::int32_t autoShapeType) {
            autoShapeType == ppt::msoShapeFlowchartInternalStorage;
 }
 
+} // namespace
+
 class Question0317 final : public Question {
 public:
-    explicit Question0317(const Environment& environment)
-        : Question(u"Question0317", {{u"07305317.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -62,10 +63,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0317(const Environment& environment) {
-    return std::make_shared<Question0317>(environment);
-}
+template QuestionPtr make<Question0317>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

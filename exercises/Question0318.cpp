@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0318 final : public Question {
 public:
-    explicit Question0318(const Environment& environment)
-        : Question(u"Question0318", {{u"07305318.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override {
@@ -38,10 +35,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0318(const Environment& environment) {
-    return std::make_shared<Question0318>(environment);
-}
+template QuestionPtr make<Question0318>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

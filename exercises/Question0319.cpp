@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0319 final : public Question {
 public:
-    explicit Question0319(const Environment& environment)
-        : Question(u"Question0319", {{u"07305319.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -48,10 +45,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0319(const Environment& environment) {
-    return std::make_shared<Question0319>(environment);
-}
+template QuestionPtr make<Question0319>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

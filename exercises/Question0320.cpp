@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0320 final : public Question {
 public:
-    explicit Question0320(const Environment& environment)
-        : Question(u"Question0320", {{u"07305320.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override {
@@ -22,10 +19,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0320(const Environment& environment) {
-    return std::make_shared<Question0320>(environment);
-}
+template QuestionPtr make<Question0320>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

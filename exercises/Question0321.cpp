@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0321 final : public Question {
 public:
-    explicit Question0321(const Environment& environment)
-        : Question(u"Question0321", {{u"07305321.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(1); }
@@ -35,10 +32,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0321(const Environment& environment) {
-    return std::make_shared<Question0321>(environment);
-}
+template QuestionPtr make<Question0321>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0322 final : public Question {
 public:
-    explicit Question0322(const Environment& environment)
-        : Question(u"Question0322", {{u"07305322.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override {
@@ -65,10 +62,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0322(const Environment& environment) {
-    return std::make_shared<Question0322>(environment);
-}
+template QuestionPtr make<Question0322>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

@@ -1,13 +1,10 @@
-#include "exercises/Catalogue.h"
+#include "exercises/Make.h"
 
 namespace exercises {
 
-namespace {
-
 class Question0323 final : public Question {
 public:
-    explicit Question0323(const Environment& environment)
-        : Question(u"Question0323", {{u"07305323.ppt", u"Méthodologie.ppt", false}}, environment) {}
+    using Question::Question;
 
 private:
     void prepare() override { prepareSlideWithShapes(5); }
@@ -61,10 +58,6 @@ private:
     }
 };
 
-} // namespace
-
-QuestionPtr makeQuestion0323(const Environment& environment) {
-    return std::make_shared<Question0323>(environment);
-}
+template QuestionPtr make<Question0323>(std::int32_t number, const Environment& environment);
 
 } // namespace exercises

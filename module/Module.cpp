@@ -1,7 +1,6 @@
 #include "module/Module.h"
 
 #include "automation/FirstError.h"
-#include "automation/Text.h"
 #include "exercises/Catalogue.h"
 #include "module/QuestionMembers.h"
 #include "module/TemplatesFolder.h"
@@ -18,8 +17,6 @@ using platform::ignoringErrors;
 namespace {
 
 constexpr std::int32_t unknownWindow = -1;
-constexpr std::int32_t firstQuestion = 301;
-constexpr std::int32_t lastQuestion = 323;
 
 } // namespace
 
@@ -76,10 +73,7 @@ void Module::startPowerPoint(ObjectPtr& application, std::int32_t& window) {
 
 void Module::createQuestion(std::int32_t questionNumber, const std::u16string& folder) {
     questionNumber_ = questionNumber;
-    if (questionNumber >= firstQuestion && questionNumber <= lastQuestion) {
-        question_ =
-            LateBound(exercises::createQuestion(u"Question0" + automation::decimal(questionNumber), {api_, services_}));
-    }
+    question_ = LateBound(exercises::createQuestion(questionNumber, {api_, services_}));
     staging_.hostFolder = folder;
     staging_.templatesFolder = templatesFolder(services_.registry);
     services_.files.makeDirectories(staging_.templatesFolder);

@@ -20,7 +20,7 @@ public:
     Module(Module&&) = delete;
     Module& operator=(Module&&) = delete;
 
-    /// Stages and prepares a question (301 to 323) in the host's folder, which ends with a backslash. The host's
+    /// Stages and prepares a question of the course in the host's folder, which ends with a backslash. The host's
     /// PowerPoint and window handle (-1 unknown) are replaced by those in use. The last argument is not used.
     void InitQuestion(std::int32_t questionNumber, const std::u16string& folder, automation::ObjectPtr& application,
                       std::int32_t& window, const std::u16string& unused);

@@ -1,5 +1,6 @@
 #include "host/command/Library.h"
 
+#include "exercises/Catalogue.h"
 #include "host/language/Parser.h"
 
 #include <algorithm>
@@ -10,11 +11,11 @@
 namespace host {
 
 namespace fs = std::filesystem;
+using exercises::firstQuestion;
+using exercises::lastQuestion;
 
 namespace {
 constexpr const char* extension = ".scn";
-constexpr std::int32_t firstQuestion = 301;
-constexpr std::int32_t lastQuestion = 323;
 } // namespace
 
 std::vector<fs::path> Library::files() const {

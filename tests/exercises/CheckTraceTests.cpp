@@ -29,7 +29,7 @@ std::string shortened(std::string trace) {
 }
 
 TEST(Check, ReadsWhatItsQuestionReadsInOrderAndAsOften) {
-    for (int question = 301; question <= 323; ++question) {
+    for (int question = exercises::firstQuestion; question <= exercises::lastQuestion; ++question) {
         SCOPED_TRACE(question);
         tests::TraceLog log(tests::TraceLog::Repetition::Shown);
         tests::QuestionBench bench(question);

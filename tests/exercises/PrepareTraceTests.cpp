@@ -111,11 +111,10 @@ TEST(Prepare, MakesTheCallsOfItsQuestionInOrder) {
     buildPresentation(machine);
     tests::TraceLog log(tests::TraceLog::Repetition::Shown);
     const platform::ObservedServices services(machine.services(), log.observer());
-    for (int number = 301; number <= 323; ++number) {
+    for (int number = exercises::firstQuestion; number <= exercises::lastQuestion; ++number) {
         SCOPED_TRACE(number);
         exercises::API api;
-        const auto question =
-            exercises::createQuestion(u"Question0" + automation::decimal(number), {api, services.services()});
+        const auto question = exercises::createQuestion(number, {api, services.services()});
         automation::ObjectPtr application = automation::observed(machine.application(), log.observer());
         question->Prepare(application, std::u16string(folder), u"templates");
         EXPECT_EQ(log.take(), "Application.Presentations.Open(\"C:\\Formation\\Méthodologie.ppt\", 0, 0, -1)\n" +

@@ -22,7 +22,7 @@ public:
     static constexpr std::u16string_view folder = u"C:\\Formation\\";
 
     explicit QuestionBench(std::int32_t number)
-        : className_(u"Question0" + automation::decimal(number)),
+        : number_(number),
           file_(host::language::parse("first scenario", read("/0" + std::to_string(number) + ".scn"))) {
         machine.startPowerPoint();
         application_ = automation::LateBound(machine.application());
@@ -35,12 +35,12 @@ public:
         closePresentation();
     }
 
-    [[nodiscard]] const std::u16string& className() const noexcept { return className_; }
+    [[nodiscard]] std::u16string className() const { return u"Question0" + automation::decimal(number_); }
 
     /// Makes the question and has it prepared; its calls pass through the observer.
     void prepare(const automation::ObserverPtr& observer) {
         services_ = std::make_unique<platform::ObservedServices>(machine.services(), observer);
-        question = exercises::createQuestion(className_, {api, services_->services()});
+        question = exercises::createQuestion(number_, {api, services_->services()});
         automation::ObjectPtr observed = automation::observed(machine.application(), observer);
         question->Prepare(observed, std::u16string(folder), u"");
     }
@@ -110,7 +110,7 @@ private:
         });
     }
 
-    std::u16string className_;
+    std::int32_t number_;
     host::language::ScenarioFile file_;
     host::language::Interpreter interpreter_{*this};
     automation::LateBound application_;

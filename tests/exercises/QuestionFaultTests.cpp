@@ -49,7 +49,7 @@ protected:
     tests::QuestionBench bench{GetParam()};
     std::shared_ptr<Line> line = std::make_shared<Line>();
 };
-INSTANTIATE_TEST_SUITE_P(All, EachQuestion, testing::Range(301, 324),
+INSTANTIATE_TEST_SUITE_P(All, EachQuestion, testing::Range(exercises::firstQuestion, exercises::lastQuestion + 1),
                          [](const auto& question) { return std::to_string(question.param); });
 
 TEST_P(EachQuestion, ReportsAFailureAnywhereInPrepare) {
