@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "automation/Object.h"
+#include "automation/Unmoved.h"
 
 #include <initializer_list>
 #include <optional>
@@ -120,17 +121,13 @@ private:
 };
 
 /// Writes by-reference parameters back when the call ends, also where it raises: what the function has written stays.
-template <typename... Parameters> struct Finisher {
+template <typename... Parameters> struct Finisher : automation::Unmoved {
     std::tuple<Parameter<Parameters>...>& parameters;
 
     explicit Finisher(std::tuple<Parameter<Parameters>...>& all) : parameters(all) {}
     ~Finisher() {
         std::apply([](auto&... each) { (each.finish(), ...); }, parameters);
     }
-    Finisher(const Finisher&) = delete;
-    Finisher& operator=(const Finisher&) = delete;
-    Finisher(Finisher&&) = delete;
-    Finisher& operator=(Finisher&&) = delete;
 };
 
 template <typename Class, typename Result, typename... Parameters> struct Signature {

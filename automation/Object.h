@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/Name.h"
+#include "automation/Unmoved.h"
 #include "automation/Value.h"
 
 #include <cstddef>
@@ -17,14 +18,10 @@ enum class Access : std::uint8_t {
 };
 
 /// One reference-counted, late-bound automation object; it may live in another process.
-class Object {
+class Object : Unmoved {
 public:
     Object() noexcept;
     virtual ~Object();
-    Object(const Object&) = delete;
-    Object& operator=(const Object&) = delete;
-    Object(Object&&) = delete;
-    Object& operator=(Object&&) = delete;
 
     /// Reaches a member with its arguments in order; `Missing` stands for an optional one left out. Arguments passed by
     /// reference may be written back. Raises MemberNotFound (438) for a name that the object does not publish, and

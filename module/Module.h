@@ -15,10 +15,6 @@ public:
     Module(exercises::API& api, const platform::Services& services);
     /// Folders that no close could restore are tried once more.
     ~Module() override;
-    Module(const Module&) = delete;
-    Module& operator=(const Module&) = delete;
-    Module(Module&&) = delete;
-    Module& operator=(Module&&) = delete;
 
     /// Stages and prepares a question of the course in the host's folder, which ends with a backslash. The host's
     /// PowerPoint and window handle (-1 unknown) are replaced by those in use. The last argument is not used.

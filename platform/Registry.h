@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -40,7 +42,7 @@ public:
 };
 
 /// A registry key for the length of a scope.
-class OpenKey {
+class OpenKey : automation::Unmoved {
 public:
     OpenKey(Registry& registry, std::u16string_view path, std::uint32_t access)
         : registry_(registry), status_(registry.open(path, access, key_)) {}
@@ -49,10 +51,6 @@ public:
             registry_.close(key_);
         }
     }
-    OpenKey(const OpenKey&) = delete;
-    OpenKey& operator=(const OpenKey&) = delete;
-    OpenKey(OpenKey&&) = delete;
-    OpenKey& operator=(OpenKey&&) = delete;
 
     [[nodiscard]] bool isOpen() const noexcept { return status_ == Registry::success; }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/Object.h"
+#include "automation/Unmoved.h"
 #include "platform/Services.h"
 
 #include <filesystem>
@@ -14,15 +15,11 @@ class Session;
 /// A computer of its own, in memory, with PowerPoint 2003 installed for one user: what the module needs of Windows, and
 /// what happens to PowerPoint beside the object model. Its files are real files: `C:\Dossier\x.ppt` is the file
 /// `C/Dossier/x.ppt` below the root.
-class Machine {
+class Machine : automation::Unmoved {
 public:
     /// `root` is created where it is missing.
     explicit Machine(const std::filesystem::path& root);
     ~Machine();
-    Machine(const Machine&) = delete;
-    Machine& operator=(const Machine&) = delete;
-    Machine(Machine&&) = delete;
-    Machine& operator=(Machine&&) = delete;
 
     [[nodiscard]] const platform::Services& services() noexcept;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/Error.h"
+#include "automation/Unmoved.h"
 
 #include "automation/com/Ole.h"
 
@@ -9,14 +10,10 @@
 namespace automation::com {
 
 /// An EXCEPINFO that owns its texts.
-class ExceptionInfo : public EXCEPINFO {
+class ExceptionInfo : public EXCEPINFO, Unmoved {
 public:
     ExceptionInfo() noexcept : EXCEPINFO() {}
     ~ExceptionInfo() { clear(); }
-    ExceptionInfo(const ExceptionInfo&) = delete;
-    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
-    ExceptionInfo(ExceptionInfo&&) = delete;
-    ExceptionInfo& operator=(ExceptionInfo&&) = delete;
 
     void clear() noexcept;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "automation/com/ComPtr.h"
 
 #include <atomic>
@@ -27,27 +28,18 @@ private:
 };
 
 /// Counts the COM objects of this library that are alive.
-class CountedAlive {
+class CountedAlive : Unmoved {
 public:
     CountedAlive() noexcept { count.fetch_add(1, std::memory_order_relaxed); }
     ~CountedAlive() { count.fetch_sub(1, std::memory_order_relaxed); }
-    CountedAlive(const CountedAlive&) = delete;
-    CountedAlive& operator=(const CountedAlive&) = delete;
-    CountedAlive(CountedAlive&&) = delete;
-    CountedAlive& operator=(CountedAlive&&) = delete;
 
     inline static std::atomic<std::size_t> count = 0;
 };
 
 /// What every COM object has: identity, interfaces, reference count. The first interface gives the identity.
-template <typename First, typename... Others> class ComObject : public First, public Others... {
+template <typename First, typename... Others> class ComObject : public First, public Others..., Unmoved {
 public:
-    ComObject() = default;
     virtual ~ComObject() = default;
-    ComObject(const ComObject&) = delete;
-    ComObject& operator=(const ComObject&) = delete;
-    ComObject(ComObject&&) = delete;
-    ComObject& operator=(ComObject&&) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** result) noexcept override {
         if (result == nullptr) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/MemberTable.h"
+#include "automation/Unmoved.h"
 #include "automation/com/ComObject.h"
 #include "automation/com/ServerSession.h"
 
@@ -22,15 +23,11 @@ void makeDispatchBy(DispatchMaker maker) noexcept;
 
 /// For the lifetime of a COM object, makes known that it stands for an object of this library, so that the one is found
 /// again from the other.
-class Standing {
+class Standing : Unmoved {
 public:
     /// The references are not counted: this belongs to the COM object itself.
     Standing(ObjectPtr object, IDispatch* dispatch, IUnknown* identity, ReferenceCount& count);
     ~Standing();
-    Standing(const Standing&) = delete;
-    Standing& operator=(const Standing&) = delete;
-    Standing(Standing&&) = delete;
-    Standing& operator=(Standing&&) = delete;
 
     [[nodiscard]] const ObjectPtr& object() const noexcept { return object_; }
     /// The COM object with a reference counted; null where its last one has been dropped.

@@ -1,6 +1,7 @@
 #include "automation/com/VariantReader.h"
 
 #include "automation/Error.h"
+#include "automation/Unmoved.h"
 #include "automation/com/ComError.h"
 #include "automation/com/Objects.h"
 #include "automation/com/Variant.h"
@@ -24,7 +25,7 @@ template <typename Integer> Value whole(Integer number) {
 }
 
 /// One more level of nesting, for the length of a scope.
-class Level {
+class Level : Unmoved {
 public:
     Level(int& depth, int deepest) : depth_(depth) {
         if (depth_ >= deepest) {
@@ -33,10 +34,6 @@ public:
         ++depth_;
     }
     ~Level() { --depth_; }
-    Level(const Level&) = delete;
-    Level& operator=(const Level&) = delete;
-    Level(Level&&) = delete;
-    Level& operator=(Level&&) = delete;
 
 private:
     int& depth_;

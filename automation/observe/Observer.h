@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/Object.h"
+#include "automation/Unmoved.h"
 
 #include <functional>
 #include <memory>
@@ -27,16 +28,11 @@ struct Crossing {
 
 /// Stands around calls that cross a border: lists them, counts them, makes them fail. A chain of observers is made by
 /// giving one observed object to the next.
-class Observer {
+class Observer : Unmoved {
 public:
     using Next = std::function<Value()>;
 
-    Observer() = default;
     virtual ~Observer() = default;
-    Observer(const Observer&) = delete;
-    Observer& operator=(const Observer&) = delete;
-    Observer(Observer&&) = delete;
-    Observer& operator=(Observer&&) = delete;
 
     /// Performs the call by `next`, or raises in its stead. An automation call answers with its result, a call of the
     /// system with what it read, or with how it went.

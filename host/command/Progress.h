@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <chrono>
 #include <functional>
 #include <iosfwd>
@@ -9,7 +11,7 @@ namespace host {
 
 /// Tells someone who waits how far long work has come: on a terminal by a line that is written over and over, elsewhere
 /// by a plain line every half minute.
-class Progress {
+class Progress : automation::Unmoved {
 public:
     using Clock = std::chrono::steady_clock;
 
@@ -18,10 +20,6 @@ public:
     /// `out` must outlive this object.
     Progress(std::ostream& out, bool isTerminal, std::function<Clock::time_point()> now = Clock::now);
     ~Progress();
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-    Progress(Progress&&) = delete;
-    Progress& operator=(Progress&&) = delete;
 
     /// The work is at this place, the `step`-th of `steps`.
     void at(const std::string& place, std::size_t step, std::size_t steps);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "automation/observe/CallTrace.h"
 
 #include <iosfwd>
@@ -8,14 +9,9 @@
 namespace host {
 
 /// Where the telling of an exercise goes, piece by piece, in UTF-8.
-class Story {
+class Story : automation::Unmoved {
 public:
-    Story() = default;
     virtual ~Story() = default;
-    Story(const Story&) = delete;
-    Story& operator=(const Story&) = delete;
-    Story(Story&&) = delete;
-    Story& operator=(Story&&) = delete;
 
     /// Something begins: a call of the host, the learner's moves.
     virtual void chapter(std::string_view title) = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <chrono>
 #include <condition_variable>
 #include <iosfwd>
@@ -11,7 +13,7 @@ namespace host {
 
 /// Ends the program with ExitCode::Hung when something takes too long, and says what: nobody waits for a scenario that
 /// hangs.
-class Watch {
+class Watch : automation::Unmoved {
 public:
     /// Far more than a scenario takes on a machine that has a lot to do.
     static constexpr std::chrono::seconds patience{180};
@@ -19,10 +21,6 @@ public:
     /// `out` must outlive this object.
     Watch(std::chrono::seconds limit, std::ostream& out);
     ~Watch();
-    Watch(const Watch&) = delete;
-    Watch& operator=(const Watch&) = delete;
-    Watch(Watch&&) = delete;
-    Watch& operator=(Watch&&) = delete;
 
     /// From now on this is what takes its time; the one before has come to its end.
     void next(std::string name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/Object.h"
+#include "automation/Unmoved.h"
 #include "host/language/Ast.h"
 
 #include <map>
@@ -8,14 +9,9 @@
 namespace host::language {
 
 /// What statements act on.
-class Stage {
+class Stage : automation::Unmoved {
 public:
-    Stage() = default;
     virtual ~Stage() = default;
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-    Stage(Stage&&) = delete;
-    Stage& operator=(Stage&&) = delete;
 
     /// PowerPoint's application, whose members are named without more. Raises CannotCreateObject (429) where it does
     /// not run.

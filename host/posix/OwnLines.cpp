@@ -66,10 +66,6 @@ class EditedLines final : public LineReader {
 public:
     EditedLines();
     ~EditedLines() override;
-    EditedLines(const EditedLines&) = delete;
-    EditedLines& operator=(const EditedLines&) = delete;
-    EditedLines(EditedLines&&) = delete;
-    EditedLines& operator=(EditedLines&&) = delete;
 
     [[nodiscard]] std::optional<std::string> read(const std::string& prompt) override;
     void completeBy(const Completer& by) override { completer() = by; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/Error.h"
+#include "automation/Unmoved.h"
 #include "host/language/Ast.h"
 
 namespace host {
@@ -20,14 +21,9 @@ enum class HostCall : std::uint8_t { InitQuestion, TestePoint, Fermer, Quitter }
 }
 
 /// Sees what happens in an exercise, as it happens.
-class Witness {
+class Witness : automation::Unmoved {
 public:
-    Witness() = default;
     virtual ~Witness() = default;
-    Witness(const Witness&) = delete;
-    Witness& operator=(const Witness&) = delete;
-    Witness(Witness&&) = delete;
-    Witness& operator=(Witness&&) = delete;
 
     /// The host has put the course's files into its folder.
     virtual void delivered(const std::vector<std::u16string>& /*names*/) {}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -9,17 +11,12 @@
 namespace host {
 
 /// Where the lines of a conversation come from.
-class LineReader {
+class LineReader : automation::Unmoved {
 public:
     /// The words that could stand in the place of the last, unfinished one of a line; asked while a line is typed.
     using Completer = std::function<std::vector<std::string>(const std::string& line)>;
 
-    LineReader() = default;
     virtual ~LineReader() = default;
-    LineReader(const LineReader&) = delete;
-    LineReader& operator=(const LineReader&) = delete;
-    LineReader(LineReader&&) = delete;
-    LineReader& operator=(LineReader&&) = delete;
 
     /// The next line in UTF-8, without its end; nothing at the end of the input, or where the user interrupts it.
     [[nodiscard]] virtual std::optional<std::string> read(const std::string& prompt) = 0;

@@ -60,10 +60,6 @@ public:
         powerPoint_.dismiss();
         desktop_->journal().giveBack();
     }
-    ComWorld(const ComWorld&) = delete;
-    ComWorld& operator=(const ComWorld&) = delete;
-    ComWorld(ComWorld&&) = delete;
-    ComWorld& operator=(ComWorld&&) = delete;
 
     ModuleClient& module() override {
         if (!module_) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "host/win32/DesktopPowerPoint.h"
 #include "host/win32/Journal.h"
 #include "host/win32/Standby.h"
@@ -24,13 +25,9 @@ public:
 
 private:
     /// COM for the thread.
-    struct Apartment {
+    struct Apartment : automation::Unmoved {
         Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
         ~Apartment() { CoUninitialize(); }
-        Apartment(const Apartment&) = delete;
-        Apartment& operator=(const Apartment&) = delete;
-        Apartment(Apartment&&) = delete;
-        Apartment& operator=(Apartment&&) = delete;
     };
 
     Apartment apartment_;

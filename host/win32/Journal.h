@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "host/win32/Handle.h"
 #include "host/win32/Loan.h"
 
@@ -7,16 +8,12 @@ namespace host {
 
 /// What is borrowed of this machine, noted in a file before it is changed: where a run is ended before it could give
 /// everything back, the next one does, and then removes no file.
-class Journal {
+class Journal : automation::Unmoved {
 public:
     /// Opens the journal of the current user, with what an earlier run has left in it. Raises where another run has it.
     Journal();
     /// Gives everything back.
     ~Journal();
-    Journal(const Journal&) = delete;
-    Journal& operator=(const Journal&) = delete;
-    Journal(Journal&&) = delete;
-    Journal& operator=(Journal&&) = delete;
 
     /// To be called before the change. Raises the system's error where the file cannot be written.
     void note(Loan loan);

@@ -55,10 +55,6 @@ public:
         SetConsoleOutputCP(codePage_);
         SetEvent(state().done.get());
     }
-    ConsoleLines(const ConsoleLines&) = delete;
-    ConsoleLines& operator=(const ConsoleLines&) = delete;
-    ConsoleLines(ConsoleLines&&) = delete;
-    ConsoleLines& operator=(ConsoleLines&&) = delete;
 
     [[nodiscard]] std::optional<std::string> read(const std::string& prompt) override {
         std::cout << prompt << std::flush;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "host/win32/Handle.h"
 
 #include <string>
@@ -9,13 +10,9 @@ namespace host {
 
 /// Keeps a process of the stand-in waiting, so that creating PowerPoint takes no time. Does nothing where a real
 /// PowerPoint is registered.
-class Standby {
+class Standby : automation::Unmoved {
 public:
     Standby();
-    Standby(const Standby&) = delete;
-    Standby& operator=(const Standby&) = delete;
-    Standby(Standby&&) = delete;
-    Standby& operator=(Standby&&) = delete;
     ~Standby();
 
     /// Sees to it that one waits, and that another is on its way.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/Object.h"
+#include "automation/Unmoved.h"
 
 #include <string>
 #include <vector>
@@ -9,14 +10,9 @@ namespace host {
 
 /// The module as a training host holds it: the eight operations of `AbstractModule`. Every one raises what the module
 /// raises.
-class ModuleClient {
+class ModuleClient : automation::Unmoved {
 public:
-    ModuleClient() = default;
     virtual ~ModuleClient() = default;
-    ModuleClient(const ModuleClient&) = delete;
-    ModuleClient& operator=(const ModuleClient&) = delete;
-    ModuleClient(ModuleClient&&) = delete;
-    ModuleClient& operator=(ModuleClient&&) = delete;
 
     /// Application and window are written back, also where the operation raises.
     virtual void initQuestion(std::int32_t number, const std::u16string& folder, automation::ObjectPtr& application,

@@ -1,18 +1,16 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <filesystem>
 
 namespace host {
 
 /// A new folder among the system's temporary files, removed with all its content at the end of the scope.
-class TemporaryFolder {
+class TemporaryFolder : automation::Unmoved {
 public:
     TemporaryFolder();
     ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    TemporaryFolder(TemporaryFolder&&) = delete;
-    TemporaryFolder& operator=(TemporaryFolder&&) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const noexcept { return path_; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "automation/observe/Observer.h"
 #include "host/world/ModuleClient.h"
 
@@ -19,14 +20,9 @@ using Bytes = std::vector<unsigned char>;
 ///
 /// Paths are full Windows paths; registry keys are named by their path below HKEY_CURRENT_USER. Operations that a world
 /// cannot do raise automation::Error.
-class World {
+class World : automation::Unmoved {
 public:
-    World() = default;
     virtual ~World() = default;
-    World(const World&) = delete;
-    World& operator=(const World&) = delete;
-    World(World&&) = delete;
-    World& operator=(World&&) = delete;
 
     /// The module, created at the first use.
     [[nodiscard]] virtual ModuleClient& module() = 0;

@@ -1,5 +1,6 @@
 #include "library/classes/ModuleDispatch.h"
 
+#include "automation/Unmoved.h"
 #include "automation/com/Variant.h"
 
 namespace library {
@@ -11,7 +12,7 @@ using automation::com::Bstr;
 
 /// The host's PowerPoint and window handle as the module takes them, for the length of one operation. What it leaves
 /// there goes back to the host however it ends.
-class HostReferences {
+class HostReferences : automation::Unmoved {
 public:
     HostReferences(IDispatch*& hostsApplication, LONG& hostsWindow)
         : hostsApplication_(hostsApplication), hostsWindow_(hostsWindow),
@@ -22,10 +23,6 @@ public:
             giveBackApplication();
         }
     }
-    HostReferences(const HostReferences&) = delete;
-    HostReferences& operator=(const HostReferences&) = delete;
-    HostReferences(HostReferences&&) = delete;
-    HostReferences& operator=(HostReferences&&) = delete;
 
     [[nodiscard]] ObjectPtr& application() noexcept { return application_; }
     [[nodiscard]] std::int32_t& window() noexcept { return window_; }

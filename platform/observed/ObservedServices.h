@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "automation/observe/Observer.h"
 #include "platform/Services.h"
 
@@ -9,15 +10,11 @@ namespace platform {
 
 /// Services with an observer around every call, and around every automation object that they hand out. Where the
 /// observer raises, the call fails as the system's own would: with its error, or with the result that says so.
-class ObservedServices {
+class ObservedServices : automation::Unmoved {
 public:
     /// `inner` must outlive this object.
     ObservedServices(const Services& inner, const automation::ObserverPtr& observer);
     ~ObservedServices();
-    ObservedServices(const ObservedServices&) = delete;
-    ObservedServices& operator=(const ObservedServices&) = delete;
-    ObservedServices(ObservedServices&&) = delete;
-    ObservedServices& operator=(ObservedServices&&) = delete;
 
     [[nodiscard]] const Services& services() const noexcept;
 

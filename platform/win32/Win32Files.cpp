@@ -1,6 +1,7 @@
 #include "platform/win32/Win32Files.h"
 
 #include "automation/Error.h"
+#include "automation/Unmoved.h"
 #include "automation/com/WideText.h"
 
 #include <cstddef>
@@ -34,7 +35,7 @@ void require(BOOL succeeded) {
 }
 
 /// A directory search for the length of a scope.
-class Search {
+class Search : automation::Unmoved {
 public:
     explicit Search(std::u16string_view pattern) : handle_(FindFirstFileW(WideText(pattern).get(), &found_)) {}
     ~Search() {
@@ -42,10 +43,6 @@ public:
             FindClose(handle_);
         }
     }
-    Search(const Search&) = delete;
-    Search& operator=(const Search&) = delete;
-    Search(Search&&) = delete;
-    Search& operator=(Search&&) = delete;
 
     [[nodiscard]] bool isOpen() const noexcept { return handle_ != INVALID_HANDLE_VALUE; }
     [[nodiscard]] const WIN32_FIND_DATAW& found() const noexcept { return found_; }

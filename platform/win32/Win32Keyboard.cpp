@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "automation/Text.h"
+#include "automation/Unmoved.h"
 
 #include <windows.h>
 
@@ -36,7 +37,7 @@ void press(WORD key) {
 }
 
 /// The thread that has the keyboard, with its state of the keys shared for the length of a scope.
-class ActiveThread {
+class ActiveThread : automation::Unmoved {
 public:
     ActiveThread() : window_(GetForegroundWindow()), thread_(GetWindowThreadProcessId(window_, nullptr)) {
         isShared_ = !isOwn() && AttachThreadInput(GetCurrentThreadId(), thread_, TRUE) != FALSE;
@@ -46,10 +47,6 @@ public:
             AttachThreadInput(GetCurrentThreadId(), thread_, FALSE);
         }
     }
-    ActiveThread(const ActiveThread&) = delete;
-    ActiveThread& operator=(const ActiveThread&) = delete;
-    ActiveThread(ActiveThread&&) = delete;
-    ActiveThread& operator=(ActiveThread&&) = delete;
 
     /// Presses a key and waits until the thread has taken it from its queue: then the key has changed its state.
     void take(WORD key) const {

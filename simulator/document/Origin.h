@@ -1,19 +1,16 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <memory>
 
 namespace simulator {
 
 /// What the file that something was read from says of it. Only the file's format knows what that is; it keeps here what
 /// it does not understand, so that saving gives it back.
-class Origin {
+class Origin : automation::Unmoved {
 public:
-    Origin() = default;
     virtual ~Origin() = default;
-    Origin(const Origin&) = delete;
-    Origin& operator=(const Origin&) = delete;
-    Origin(Origin&&) = delete;
-    Origin& operator=(Origin&&) = delete;
 };
 
 /// Nothing for what comes from no file. Copies share the origin.

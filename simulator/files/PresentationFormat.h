@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "simulator/document/Presentation.h"
 
 #include <stdexcept>
@@ -15,14 +16,9 @@ public:
 };
 
 /// How a presentation is written to a file: the whole document, without its path, its name and whether it was saved.
-class PresentationFormat {
+class PresentationFormat : automation::Unmoved {
 public:
-    PresentationFormat() = default;
     virtual ~PresentationFormat() = default;
-    PresentationFormat(const PresentationFormat&) = delete;
-    PresentationFormat& operator=(const PresentationFormat&) = delete;
-    PresentationFormat(PresentationFormat&&) = delete;
-    PresentationFormat& operator=(PresentationFormat&&) = delete;
 
     /// The presentation that the bytes of a file hold. Raises DamagedPresentation.
     [[nodiscard]] virtual PresentationPtr load(std::string_view bytes) const = 0;

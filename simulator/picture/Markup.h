@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <string>
 #include <string_view>
 #include <utility>
@@ -15,14 +17,10 @@ public:
     using Attributes = std::vector<std::pair<std::string_view, std::string>>;
 
     /// An element that is open until the end of the scope.
-    class Element {
+    class Element : automation::Unmoved {
     public:
         Element(Markup& markup, std::string_view name) noexcept : markup_(markup), name_(name) {}
         ~Element();
-        Element(const Element&) = delete;
-        Element& operator=(const Element&) = delete;
-        Element(Element&&) = delete;
-        Element& operator=(Element&&) = delete;
 
     private:
         Markup& markup_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "platform/WindowSystem.h"
 #include "simulator/document/Constants.h"
 
@@ -7,7 +8,7 @@ namespace simulator {
 
 /// PowerPoint's main window (class "PP11FrameClass") and the dialogs above it, as the system shows them. The embedded
 /// one stands in a list in memory; a real one belongs to the stand-in server.
-class MainWindow {
+class MainWindow : automation::Unmoved {
 public:
     virtual ~MainWindow() = default;
 

@@ -14,10 +14,6 @@ public:
     /// Makes the window, invisible. `onClose` is what WM_CLOSE does. `windows` must outlive this object.
     EmbeddedMainWindow(EmbeddedWindows& windows, std::function<void()> onClose);
     ~EmbeddedMainWindow() override;
-    EmbeddedMainWindow(const EmbeddedMainWindow&) = delete;
-    EmbeddedMainWindow& operator=(const EmbeddedMainWindow&) = delete;
-    EmbeddedMainWindow(EmbeddedMainWindow&&) = delete;
-    EmbeddedMainWindow& operator=(EmbeddedMainWindow&&) = delete;
 
     [[nodiscard]] platform::WindowHandle handle() const override { return handle_; }
     [[nodiscard]] bool isVisible() const override { return windows_.isVisible(handle_); }

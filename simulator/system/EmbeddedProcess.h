@@ -1,22 +1,19 @@
 #pragma once
 
 #include "automation/Object.h"
+#include "automation/Unmoved.h"
 #include "simulator/process/Session.h"
 #include "simulator/system/EmbeddedMainWindow.h"
 
 namespace simulator {
 
 /// PowerPoint as a program of the computer: installed or not, running at most once.
-class EmbeddedProcess {
+class EmbeddedProcess : automation::Unmoved {
 public:
     /// All must outlive this object.
     EmbeddedProcess(EmbeddedWindows& windows, PresentationStore& store, Settings& settings) noexcept
         : windows_(windows), store_(store), settings_(settings) {}
     ~EmbeddedProcess() { end(); }
-    EmbeddedProcess(const EmbeddedProcess&) = delete;
-    EmbeddedProcess& operator=(const EmbeddedProcess&) = delete;
-    EmbeddedProcess(EmbeddedProcess&&) = delete;
-    EmbeddedProcess& operator=(EmbeddedProcess&&) = delete;
 
     /// Starts PowerPoint, invisible; nothing happens where it runs already. Raises CannotCreateObject (429) where it is
     /// not installed.

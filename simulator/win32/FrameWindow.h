@@ -13,10 +13,6 @@ public:
     /// Makes the window, invisible. `onClose` is what WM_CLOSE does.
     explicit FrameWindow(std::function<void()> onClose);
     ~FrameWindow() override;
-    FrameWindow(const FrameWindow&) = delete;
-    FrameWindow& operator=(const FrameWindow&) = delete;
-    FrameWindow(FrameWindow&&) = delete;
-    FrameWindow& operator=(FrameWindow&&) = delete;
 
     [[nodiscard]] platform::WindowHandle handle() const override;
     [[nodiscard]] bool isVisible() const override { return IsWindowVisible(handle_) != FALSE; }

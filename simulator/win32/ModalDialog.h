@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <windows.h>
 
 #include <functional>
@@ -9,15 +11,11 @@ namespace simulator::standin {
 
 /// An empty modal dialog above a window, which cannot be used until the dialog is closed: by Escape, by WM_CLOSE, or
 /// with this object.
-class ModalDialog {
+class ModalDialog : automation::Unmoved {
 public:
     /// `onClose` is called when the dialog is to be closed; it may destroy this object.
     ModalDialog(HWND owner, const std::wstring& title, std::function<void(HWND)> onClose);
     ~ModalDialog();
-    ModalDialog(const ModalDialog&) = delete;
-    ModalDialog& operator=(const ModalDialog&) = delete;
-    ModalDialog(ModalDialog&&) = delete;
-    ModalDialog& operator=(ModalDialog&&) = delete;
 
     [[nodiscard]] HWND handle() const noexcept { return handle_; }
 

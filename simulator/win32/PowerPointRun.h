@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "simulator/files/FilePresentationStore.h"
 #include "simulator/win32/ControlObject.h"
 #include "simulator/win32/Options.h"
@@ -8,15 +9,11 @@ namespace simulator::standin {
 
 /// PowerPoint running in this process, seen by others: its main window, its application object and controls in the
 /// running-object table. Needs a thread that has entered COM as a single-threaded apartment.
-class PowerPointRun {
+class PowerPointRun : automation::Unmoved {
 public:
     /// Starts it, invisible. `onEnd` is called when it has ended.
     PowerPointRun(const Options& options, std::function<void()> onEnd);
     ~PowerPointRun();
-    PowerPointRun(const PowerPointRun&) = delete;
-    PowerPointRun& operator=(const PowerPointRun&) = delete;
-    PowerPointRun(PowerPointRun&&) = delete;
-    PowerPointRun& operator=(PowerPointRun&&) = delete;
 
     [[nodiscard]] const automation::com::ComPtr<IDispatch>& application() const noexcept { return application_; }
     /// Shows the window as a user's start does.

@@ -1,5 +1,6 @@
 #include "tests/library/ClassesKey.h"
 
+#include "automation/Unmoved.h"
 #include "library/registration/Entries.h"
 
 namespace tests {
@@ -7,16 +8,12 @@ namespace tests {
 namespace {
 
 /// A key that is open, or none.
-class Key {
+class Key : automation::Unmoved {
 public:
     Key(HKEY root, const std::wstring& path, REGSAM view) {
         RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | view, &key_);
     }
     ~Key() { RegCloseKey(key_); }
-    Key(const Key&) = delete;
-    Key& operator=(const Key&) = delete;
-    Key(Key&&) = delete;
-    Key& operator=(Key&&) = delete;
 
     [[nodiscard]] std::wstring counts() const {
         DWORD keys = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "automation/com/ComPtr.h"
 
 #include <string>
@@ -7,14 +8,10 @@
 namespace tests {
 
 /// The library under test, loaded from where it was built for the length of a scope.
-class Library {
+class Library : automation::Unmoved {
 public:
     Library();
     ~Library();
-    Library(const Library&) = delete;
-    Library& operator=(const Library&) = delete;
-    Library(Library&&) = delete;
-    Library& operator=(Library&&) = delete;
 
     /// Full path of its file.
     [[nodiscard]] static std::wstring path();

@@ -1,3 +1,4 @@
+#include "automation/Unmoved.h"
 #include "automation/com/ComPtr.h"
 #include "host/win32/KeyRights.h"
 #include "library/registration/Entries.h"
@@ -21,7 +22,7 @@ constexpr REGSAM otherBitness = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64
 const std::wstring classes = L"Software\\Classes\\";
 
 /// The library of the other bitness, out of the registry for the length of a scope.
-class OtherBitnessAside {
+class OtherBitnessAside : automation::Unmoved {
 public:
     OtherBitnessAside() {
         for (const auto& row : library::table::classes) {
@@ -34,10 +35,6 @@ public:
         }
         RegDeleteKeyW(HKEY_CURRENT_USER, aside);
     }
-    OtherBitnessAside(const OtherBitnessAside&) = delete;
-    OtherBitnessAside& operator=(const OtherBitnessAside&) = delete;
-    OtherBitnessAside(OtherBitnessAside&&) = delete;
-    OtherBitnessAside& operator=(OtherBitnessAside&&) = delete;
 
 private:
     static constexpr const wchar_t* aside = L"Software\\K73053 put aside";
@@ -65,16 +62,12 @@ private:
 };
 
 /// A key that nobody may open, for the length of a scope.
-class NoRights {
+class NoRights : automation::Unmoved {
 public:
     NoRights(HKEY root, const std::wstring& path) : key_(RegistryKey::open(root, path, READ_CONTROL | WRITE_DAC)) {
         host::denyAll(key_.get());
     }
     ~NoRights() { host::setRights(key_.get(), former_); }
-    NoRights(const NoRights&) = delete;
-    NoRights& operator=(const NoRights&) = delete;
-    NoRights(NoRights&&) = delete;
-    NoRights& operator=(NoRights&&) = delete;
 
 private:
     RegistryKey key_;

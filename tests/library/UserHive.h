@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <windows.h>
 
 #include <string>
@@ -9,14 +11,10 @@ namespace tests {
 
 /// For the length of a scope, this process sees a registry of the current user that is empty but for what is put there.
 /// The real one is not touched.
-class UserHive {
+class UserHive : automation::Unmoved {
 public:
     UserHive();
     ~UserHive();
-    UserHive(const UserHive&) = delete;
-    UserHive& operator=(const UserHive&) = delete;
-    UserHive(UserHive&&) = delete;
-    UserHive& operator=(UserHive&&) = delete;
 
     /// Data of a value, byte by byte.
     struct Stored {

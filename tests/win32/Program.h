@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <windows.h>
 
 #include <filesystem>
@@ -8,16 +10,12 @@
 namespace tests {
 
 /// A program that was built, run as its user runs it, with what it prints.
-class Program {
+class Program : automation::Unmoved {
 public:
     /// Starts a program of the build, named by its path there; `arguments` as a command line has them.
     Program(const std::wstring& name, const std::wstring& arguments);
     /// Ends it where it still runs.
     ~Program();
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-    Program(Program&&) = delete;
-    Program& operator=(Program&&) = delete;
 
     /// Ends it at once, whatever it does.
     void kill() const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <windows.h>
 
 #include <atomic>
@@ -10,7 +12,7 @@
 namespace tests {
 
 /// A window with a thread of its own that answers for it, for the length of a scope.
-class TestWindow {
+class TestWindow : automation::Unmoved {
 public:
     struct Look {
         std::wstring title = L"Une fenêtre";
@@ -22,10 +24,6 @@ public:
 
     explicit TestWindow(Look look);
     ~TestWindow();
-    TestWindow(const TestWindow&) = delete;
-    TestWindow& operator=(const TestWindow&) = delete;
-    TestWindow(TestWindow&&) = delete;
-    TestWindow& operator=(TestWindow&&) = delete;
 
     static constexpr const wchar_t* className = L"K73053 test window";
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "automation/Unmoved.h"
+
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -11,16 +13,12 @@
 namespace tests {
 
 /// Ends the program with `exitCode` and names the test when one test takes longer than it may.
-class Watchdog final : public testing::EmptyTestEventListener {
+class Watchdog final : public testing::EmptyTestEventListener, automation::Unmoved {
 public:
     static constexpr int exitCode = 97;
 
     explicit Watchdog(std::chrono::seconds limit);
     ~Watchdog() override;
-    Watchdog(const Watchdog&) = delete;
-    Watchdog& operator=(const Watchdog&) = delete;
-    Watchdog(Watchdog&&) = delete;
-    Watchdog& operator=(Watchdog&&) = delete;
 
     void OnTestStart(const testing::TestInfo& test) override;
     void OnTestEnd(const testing::TestInfo& test) override;

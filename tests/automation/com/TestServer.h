@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "automation/com/Ole.h"
 
 #include <cstdint>
@@ -20,14 +21,10 @@ inline constexpr GUID serverClass{0x5d1a44f2, 0x07c2, 0x4d52, {0x9f, 0x0e, 0x3b,
 void refuseCallsFor(std::int32_t milliseconds);
 
 /// The server, started for the length of a scope, with its object in the running-object table.
-class ServerProcess {
+class ServerProcess : automation::Unmoved {
 public:
     ServerProcess();
     ~ServerProcess();
-    ServerProcess(const ServerProcess&) = delete;
-    ServerProcess& operator=(const ServerProcess&) = delete;
-    ServerProcess(ServerProcess&&) = delete;
-    ServerProcess& operator=(ServerProcess&&) = delete;
 
     void end();
 

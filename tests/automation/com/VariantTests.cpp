@@ -1,5 +1,6 @@
 #include "automation/Error.h"
 #include "automation/Text.h"
+#include "automation/Unmoved.h"
 #include "automation/com/ComError.h"
 #include "automation/com/Objects.h"
 #include "automation/com/Variant.h"
@@ -183,7 +184,7 @@ TEST(Variant, RefusesWhatCannotBeRead) {
 }
 
 /// VARIANTs of any type and content, as a careless client might pass them. What they point to is kept here.
-class AnyVariant {
+class AnyVariant : automation::Unmoved {
 public:
     explicit AnyVariant(tests::Chance& chance) : chance_(chance) {}
 
@@ -236,10 +237,6 @@ public:
     }
 
     ~AnyVariant() { forget(); }
-    AnyVariant(const AnyVariant&) = delete;
-    AnyVariant& operator=(const AnyVariant&) = delete;
-    AnyVariant(AnyVariant&&) = delete;
-    AnyVariant& operator=(AnyVariant&&) = delete;
 
 private:
     std::u16string text() {

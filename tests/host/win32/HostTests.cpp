@@ -1,3 +1,4 @@
+#include "automation/Unmoved.h"
 #include "host/win32/Loan.h"
 #include "simulator/win32/Registration.h"
 #include "tests/library/UserHive.h"
@@ -25,7 +26,7 @@ const std::wstring recentFolders = L"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoi
 const fs::path folder = L"C:\\Formation";
 
 /// The class that a name stands for, taken away for the length of a scope.
-class NameAside {
+class NameAside : automation::Unmoved {
 public:
     explicit NameAside(const std::wstring& name) : key_(L"Software\\Classes\\" + name + L"\\CLSID") {
         EXPECT_EQ(RegGetValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text_, &size_),
@@ -35,10 +36,6 @@ public:
     ~NameAside() {
         EXPECT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key_.c_str(), nullptr, REG_SZ, text_, size_), ERROR_SUCCESS);
     }
-    NameAside(const NameAside&) = delete;
-    NameAside& operator=(const NameAside&) = delete;
-    NameAside(NameAside&&) = delete;
-    NameAside& operator=(NameAside&&) = delete;
 
 private:
     std::wstring key_;

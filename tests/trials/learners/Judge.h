@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "tests/trials/learners/Work.h"
 
 #include <optional>
@@ -20,14 +21,9 @@ struct Verdict {
 };
 
 /// Judges a learner's work on one question by the state in which it is left: by itself, without the module.
-class Judge {
+class Judge : automation::Unmoved {
 public:
-    Judge() = default;
     virtual ~Judge() = default;
-    Judge(const Judge&) = delete;
-    Judge& operator=(const Judge&) = delete;
-    Judge(Judge&&) = delete;
-    Judge& operator=(Judge&&) = delete;
 
     /// The question has been prepared, and the learner is about to begin.
     virtual void prepared(const Scene& /*scene*/) {}

@@ -1,18 +1,14 @@
 #pragma once
 
+#include "automation/Unmoved.h"
 #include "tests/trials/torture/Fault.h"
 
 namespace trials::torture {
 
 /// What is done to the calls that leave the module in one operation, and after it until the module is left.
-class Tampering {
+class Tampering : automation::Unmoved {
 public:
-    Tampering() = default;
     virtual ~Tampering() = default;
-    Tampering(const Tampering&) = delete;
-    Tampering& operator=(const Tampering&) = delete;
-    Tampering(Tampering&&) = delete;
-    Tampering& operator=(Tampering&&) = delete;
 
     /// What the world's calls are to pass through; null where they need not.
     [[nodiscard]] virtual automation::ObserverPtr observer() { return nullptr; }
