@@ -20,7 +20,7 @@ void selectWhatIsLookedFor(World& /*world*/, const ObjectPtr& presentation) {
 }
 
 void putOutlineBeside(World& world, const ObjectPtr& /*presentation*/) {
-    world.writeFile(world.hostFolder() + u"Plan exo 3.rtf", {});
+    world.files().write(world.hostFolder() + u"Plan exo 3.rtf", {});
 }
 
 } // namespace

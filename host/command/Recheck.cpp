@@ -20,11 +20,11 @@ using automation::toUtf8;
 /// Opens the learner's file as the working presentation. The one that the module has opened moves aside and stays open:
 /// what the question has kept of it lives on.
 void exchange(World& world, const Bytes& file, std::int32_t question) {
-    const LateBound application(world.application());
+    const LateBound application(world.powerPoint().application());
     const LateBound prepared = memberOf(application, u"ActivePresentation");
     const auto path = prepared.get(u"FullName").to<std::u16string>();
     prepared.call(u"SaveAs", world.hostFolder() + u"delivered.ppt");
-    world.writeFile(path, file);
+    world.files().write(path, file);
     const auto saved = memberOf(application, u"Presentations").call(u"Open", path).to<ObjectPtr>();
     for (const LiveCheck& check : liveChecks()) {
         if (check.concerns(question) && check.assume != nullptr) {

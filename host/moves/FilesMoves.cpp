@@ -7,27 +7,27 @@ std::u16string FilesMoves::path(const std::u16string& name) const {
 }
 
 void FilesMoves::create(const std::u16string& name) {
-    world_.writeFile(path(name), {});
+    world_.files().write(path(name), {});
 }
 
 void FilesMoves::copy(const std::u16string& from, const std::u16string& to) {
-    world_.writeFile(path(to), world_.readFile(path(from)));
+    world_.files().write(path(to), world_.files().read(path(from)));
 }
 
 void FilesMoves::remove(const std::u16string& name) {
-    world_.deleteFile(path(name));
+    world_.files().remove(path(name));
 }
 
 void FilesMoves::makeReadOnly(const std::u16string& name) {
-    world_.setFileAttributes(path(name), attributes::readOnly);
+    world_.files().setAttributes(path(name), attributes::readOnly);
 }
 
 void FilesMoves::makeHidden(const std::u16string& name) {
-    world_.setFileAttributes(path(name), attributes::hidden);
+    world_.files().setAttributes(path(name), attributes::hidden);
 }
 
 bool FilesMoves::exists(const std::u16string& name) {
-    return world_.fileExists(path(name));
+    return world_.files().exists(path(name));
 }
 
 const automation::MemberTable& FilesMoves::members() const {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/MemberTable.h"
-#include "host/world/World.h"
+#include "host/world/PowerPoint.h"
 
 namespace host {
 
@@ -22,28 +22,28 @@ namespace host {
 ///     expect PowerPoint.Window = 0       handle of its main window, 0 where it does not run
 class PowerPointMoves final : public automation::Published {
 public:
-    /// `world` must outlive this object.
-    explicit PowerPointMoves(World& world) noexcept : world_(world) {}
+    /// `powerPoint` must outlive this object.
+    explicit PowerPointMoves(PowerPoint& powerPoint) noexcept : powerPoint_(powerPoint) {}
 
-    void start() { world_.startPowerPoint(); }
-    void close() { world_.closePowerPoint(); }
-    void kill() { world_.killPowerPoint(); }
-    void killAtCall(std::int32_t n) { world_.killPowerPointAtCall(n); }
-    void hide() { world_.hidePowerPoint(); }
-    void minimize() { world_.minimizePowerPoint(); }
-    void stopAnswering() { world_.setBusy(true); }
-    void answerAgain() { world_.setBusy(false); }
-    void openDialog(const std::u16string& title) { world_.openDialog(title); }
-    void uninstall() { world_.uninstallPowerPoint(); }
-    [[nodiscard]] bool isRunning() { return world_.application() != nullptr; }
-    [[nodiscard]] std::int32_t dialogs() { return static_cast<std::int32_t>(world_.dialogs()); }
-    [[nodiscard]] std::int32_t window() { return world_.mainWindow(); }
+    void start() { powerPoint_.start(); }
+    void close() { powerPoint_.close(); }
+    void kill() { powerPoint_.kill(); }
+    void killAtCall(std::int32_t n) { powerPoint_.killAtCall(n); }
+    void hide() { powerPoint_.hide(); }
+    void minimize() { powerPoint_.minimize(); }
+    void stopAnswering() { powerPoint_.setBusy(true); }
+    void answerAgain() { powerPoint_.setBusy(false); }
+    void openDialog(const std::u16string& title) { powerPoint_.openDialog(title); }
+    void uninstall() { powerPoint_.uninstall(); }
+    [[nodiscard]] bool isRunning() { return powerPoint_.application() != nullptr; }
+    [[nodiscard]] std::int32_t dialogs() { return static_cast<std::int32_t>(powerPoint_.dialogs()); }
+    [[nodiscard]] std::int32_t window() { return powerPoint_.window(); }
 
     [[nodiscard]] std::u16string className() const override { return u"PowerPoint"; }
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:
-    World& world_;
+    PowerPoint& powerPoint_;
 };
 
 } // namespace host

@@ -3,23 +3,23 @@
 namespace host {
 
 std::u16string RegistryMoves::text(const std::u16string& key, const std::u16string& name) {
-    return world_.registryText(key, name);
+    return registry_.text(key, name);
 }
 
 void RegistryMoves::setText(const std::u16string& key, const std::u16string& name, const std::u16string& text) {
-    world_.setRegistryText(key, name, text);
+    registry_.setText(key, name, text);
 }
 
 void RegistryMoves::remove(const std::u16string& key, const std::u16string& name) {
-    world_.deleteRegistryValue(key, name);
+    registry_.remove(key, name);
 }
 
 std::u16string RegistryMoves::recentFolder(const std::u16string& name) {
-    return world_.registryText(folderSettings::key, name);
+    return registry_.text(folderSettings::key, name);
 }
 
 void RegistryMoves::setRecentFolder(const std::u16string& name, const std::u16string& folder) {
-    world_.setRegistryText(folderSettings::key, name, folder);
+    registry_.setText(folderSettings::key, name, folder);
 }
 
 const automation::MemberTable& RegistryMoves::members() const {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/MemberTable.h"
-#include "host/world/World.h"
+#include "host/world/Registry.h"
 
 namespace host {
 
@@ -16,23 +16,23 @@ namespace host {
 ///     Registry.SetMeasurementSystem "1"                                 "0" metric, "1" U.S., "" not readable
 class RegistryMoves final : public automation::Published {
 public:
-    /// `world` must outlive this object.
-    explicit RegistryMoves(World& world) noexcept : world_(world) {}
+    /// `registry` must outlive this object.
+    explicit RegistryMoves(Registry& registry) noexcept : registry_(registry) {}
 
-    void deny(const std::u16string& key) { world_.denyRegistryKey(key, true); }
-    void allow(const std::u16string& key) { world_.denyRegistryKey(key, false); }
+    void deny(const std::u16string& key) { registry_.deny(key, true); }
+    void allow(const std::u16string& key) { registry_.deny(key, false); }
     [[nodiscard]] std::u16string text(const std::u16string& key, const std::u16string& name);
     void setText(const std::u16string& key, const std::u16string& name, const std::u16string& text);
     void remove(const std::u16string& key, const std::u16string& name);
     [[nodiscard]] std::u16string recentFolder(const std::u16string& name);
     void setRecentFolder(const std::u16string& name, const std::u16string& folder);
-    void setMeasurementSystem(const std::u16string& system) { world_.setMeasurementSystem(system); }
+    void setMeasurementSystem(const std::u16string& system) { registry_.setMeasurementSystem(system); }
 
     [[nodiscard]] std::u16string className() const override { return u"Registry"; }
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:
-    World& world_;
+    Registry& registry_;
 };
 
 } // namespace host

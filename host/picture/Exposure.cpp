@@ -33,8 +33,8 @@ std::optional<Picture> exported(World& world, const LateBound& slide, const std:
     const std::u16string file = world.hostFolder() + u"exercise-host-picture." + format;
     try {
         slide.call(u"Export", file, format);
-        const Bytes bytes = world.readFile(file);
-        world.deleteFile(file);
+        const Bytes bytes = world.files().read(file);
+        world.files().remove(file);
         return Picture{extension, std::string(bytes.begin(), bytes.end())};
     } catch (const automation::Error&) {
         return std::nullopt;
@@ -103,7 +103,7 @@ const Picture* Exposure::find(std::int32_t id) const noexcept {
 Exposure expose(World& world, const std::u16string& presentation) {
     Exposure exposure;
     try {
-        const ObjectPtr running = world.application();
+        const ObjectPtr running = world.powerPoint().application();
         if (!running) {
             return exposure;
         }

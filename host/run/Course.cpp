@@ -4,10 +4,9 @@
 #include "automation/Text.h"
 #include "host/language/Interpreter.h"
 #include "host/run/WorldStage.h"
+#include "host/world/RealFile.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 namespace host {
@@ -23,7 +22,7 @@ Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) 
     const WorldPtr world = makeWorld(nullptr);
     const std::u16string folder = world->hostFolder();
     const std::u16string built = folder + std::u16string(builtName);
-    world->startPowerPoint();
+    world->powerPoint().start();
     WorldStage stage(*world);
     language::Interpreter interpreter(stage);
     for (const language::Statement& statement : file.course) {
@@ -31,14 +30,14 @@ Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) 
     }
     interpreter.forget();
     {
-        const automation::LateBound application(world->application());
+        const automation::LateBound application(world->powerPoint().application());
         const automation::LateBound presentation(application.get(u"ActivePresentation").to<automation::ObjectPtr>());
         presentation.call(u"SaveAs", built);
         presentation.call(u"Close");
     }
-    world->closePowerPoint();
-    for (const std::u16string& name : world->filesIn(folder)) {
-        Bytes content = world->readFile(folder + name);
+    world->powerPoint().close();
+    for (const std::u16string& name : world->files().namesIn(folder)) {
+        Bytes content = world->files().read(folder + name);
         if (automation::equalIgnoringCase(name, builtName)) {
             presentation_ = std::move(content);
         } else {
@@ -57,8 +56,7 @@ Course::Course(const std::filesystem::path& folder, std::int32_t question) : isB
             continue;
         }
         const std::u16string name = entry.path().filename().u16string();
-        std::ifstream stream(entry.path(), std::ios::binary);
-        Bytes content{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+        Bytes content = contentsOf(entry.path());
         if (automation::equalIgnoringCase(name, wanted)) {
             presentation_ = std::move(content);
             isFound = true;
@@ -74,10 +72,10 @@ Course::Course(const std::filesystem::path& folder, std::int32_t question) : isB
 
 std::vector<std::u16string> Course::deliver(World& world, std::int32_t question) const {
     std::u16string name = std::u16string(courseNumber) + automation::decimal(question) + u".ppt";
-    world.writeFile(world.hostFolder() + name, presentation_);
+    world.files().write(world.hostFolder() + name, presentation_);
     std::vector<std::u16string> names{std::move(name)};
     for (const auto& [other, content] : others_) {
-        world.writeFile(world.hostFolder() + other, content);
+        world.files().write(world.hostFolder() + other, content);
         names.push_back(other);
     }
     return names;

@@ -39,7 +39,7 @@ OpenPresentation read(const LateBound& presentation, const Snapshot::WantsSlides
 std::optional<std::vector<OpenPresentation>> presentationsIn(World& world, const Snapshot::WantsSlides& wantsSlides) {
     try {
         std::vector<OpenPresentation> all;
-        forEachItem(memberOf(LateBound(world.application()), u"Presentations"),
+        forEachItem(memberOf(LateBound(world.powerPoint().application()), u"Presentations"),
                     [&](const LateBound& presentation) { all.push_back(read(presentation, wantsSlides)); });
         return all;
     } catch (const automation::Error&) {
@@ -50,11 +50,9 @@ std::optional<std::vector<OpenPresentation>> presentationsIn(World& world, const
 } // namespace
 
 Snapshot::Snapshot(World& world, const WantsSlides& wantsSlides)
-    : window(world.mainWindow()), dialogs(world.dialogs()), files(world.filesIn(world.hostFolder())),
-      presentations(presentationsIn(world, wantsSlides)) {
-    std::transform(folderSettings::names.begin(), folderSettings::names.end(), folders.begin(),
-                   [&](std::u16string_view name) { return world.registryText(folderSettings::key, name); });
-}
+    : window(world.powerPoint().window()), dialogs(world.powerPoint().dialogs()),
+      files(world.files().namesIn(world.hostFolder())), folders(folderSettings::in(world.registry())),
+      presentations(presentationsIn(world, wantsSlides)) {}
 
 const OpenPresentation* Snapshot::find(std::u16string_view fullName) const {
     if (!presentations) {

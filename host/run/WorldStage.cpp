@@ -5,14 +5,15 @@
 #include "host/moves/HostMoves.h"
 #include "host/moves/PowerPointMoves.h"
 #include "host/moves/RegistryMoves.h"
+#include "host/world/Refusal.h"
 
 namespace host {
 
 using automation::ObjectPtr;
 
 WorldStage::WorldStage(World& world, TrainingHost* host) : world_(world), host_(host) {
-    objects_ = {{u"PowerPoint", std::make_shared<PowerPointMoves>(world)},
-                {u"Registry", std::make_shared<RegistryMoves>(world)},
+    objects_ = {{u"PowerPoint", std::make_shared<PowerPointMoves>(world.powerPoint())},
+                {u"Registry", std::make_shared<RegistryMoves>(world.registry())},
                 {u"Files", std::make_shared<FilesMoves>(world)}};
     if (host != nullptr) {
         objects_.emplace_back(u"Host", std::make_shared<HostMoves>(*host));
@@ -20,10 +21,9 @@ WorldStage::WorldStage(World& world, TrainingHost* host) : world_(world), host_(
 }
 
 ObjectPtr WorldStage::application() {
-    ObjectPtr application = world_.application();
+    ObjectPtr application = world_.powerPoint().application();
     if (!application) {
-        throw automation::Error(static_cast<std::int32_t>(automation::RunTimeError::CannotCreateObject),
-                                u"exercise-host", u"PowerPoint does not run");
+        refuse(u"PowerPoint does not run");
     }
     return application;
 }

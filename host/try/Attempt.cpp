@@ -67,11 +67,11 @@ std::vector<Statement> Attempt::takeMoves() {
 
 Bytes Attempt::presentation() {
     const std::u16string copy = world_->hostFolder() + u"exercise-host copy.ppt";
-    const automation::LateBound application(world_->application());
+    const automation::LateBound application(world_->powerPoint().application());
     const automation::LateBound active(application.get(u"ActivePresentation").to<automation::ObjectPtr>());
     active.call(u"SaveCopyAs", copy);
-    Bytes content = world_->readFile(copy);
-    world_->deleteFile(copy);
+    Bytes content = world_->files().read(copy);
+    world_->files().remove(copy);
     return content;
 }
 

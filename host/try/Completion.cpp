@@ -42,8 +42,8 @@ bool isOfProperties(const Expression& expression, Attempt& attempt) {
         (reference->object && !isProperty(*reference->object))) {
         return false;
     }
-    const ObjectPtr owner =
-        reference->object ? attempt.evaluate(*reference->object).to<ObjectPtr>() : attempt.world().application();
+    const ObjectPtr owner = reference->object ? attempt.evaluate(*reference->object).to<ObjectPtr>()
+                                              : attempt.world().powerPoint().application();
     const auto* const published = dynamic_cast<const Published*>(owner.get());
     const automation::Member* const member = published != nullptr && !reference->name.empty()
                                                  ? published->members().find(std::u16string_view(reference->name))
@@ -77,7 +77,7 @@ std::vector<std::string> completionsOf(const std::string& line, Attempt& attempt
             const std::size_t chain = startOfChain(line, start - 1);
             addMembers(objectBefore(line.substr(chain, start - 1 - chain), attempt), names);
         } else if (start < line.size()) {
-            addMembers(attempt.world().application(), names);
+            addMembers(attempt.world().powerPoint().application(), names);
             names.insert(names.end(), {"Files", "Host", "PowerPoint", "Registry"});
         }
     } catch (const std::exception&) {

@@ -85,7 +85,7 @@ bool Conversation::run() {
     out_ << toUtf8(file_.heading.empty() ? u"Question " + automation::decimal(file_.question) : file_.heading) << '\n';
     try {
         begin();
-        printContents(attempt_->world().application(), out_);
+        printContents(attempt_->world().powerPoint().application(), out_);
     } catch (const automation::Error& error) {
         out_ << "The question cannot be prepared: " << inWords(error) << '\n';
         static_cast<void>(close());
@@ -219,7 +219,7 @@ void Conversation::again(const std::string& /*rest*/) {
 }
 
 void Conversation::show(const std::string& /*rest*/) {
-    printContents(attempt_->world().application(), out_);
+    printContents(attempt_->world().powerPoint().application(), out_);
 }
 
 void Conversation::members(const std::string& expression) {

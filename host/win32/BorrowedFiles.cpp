@@ -1,6 +1,6 @@
 #include "host/win32/BorrowedFiles.h"
 
-#include "automation/Error.h"
+#include "host/world/Refusal.h"
 
 #include <algorithm>
 
@@ -41,6 +41,19 @@ BorrowedFiles::BorrowedFiles(Journal& journal, const fs::path& folder) : journal
     fs::create_directories(folder);
 }
 
+void BorrowedFiles::setAttributes(std::u16string_view path, std::uint32_t attributes) {
+    const fs::path real = existing(path);
+    demandOwn(real);
+    SetFileAttributesW(real.c_str(), attributes == attributes::normal ? FILE_ATTRIBUTE_NORMAL : attributes);
+}
+
+void BorrowedFiles::prepareToWrite(std::u16string_view path) {
+    const fs::path real(path);
+    announce(real);
+    fs::create_directories(real.parent_path());
+    SetFileAttributesW(real.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
 void BorrowedFiles::announce(const fs::path& file) {
     if (isOwn(file)) {
         return;
@@ -58,8 +71,8 @@ void BorrowedFiles::announce(const fs::path& file) {
 
 void BorrowedFiles::demandOwn(const fs::path& file) const {
     if (!isOwn(file)) {
-        throw automation::Error(static_cast<std::int32_t>(automation::RunTimeError::PermissionDenied), u"exercise-host",
-                                file.u16string() + u" was there before the scenario, and stays as it is");
+        refuse(file.u16string() + u" was there before the scenario, and stays as it is",
+               automation::RunTimeError::PermissionDenied);
     }
 }
 

@@ -8,11 +8,10 @@ namespace host {
 /// its own, the current user's registry and the disk. What a world changes of the last two it puts back in the end, or
 /// the next run does.
 ///
-/// Opening dialogs, being busy and being uninstalled are asked of the stand-in alone. The calling thread enters COM for
-/// as long as the maker lives; a PowerPoint that runs already must be the stand-in, and is ended. Raises, in words for
-/// the user, where the desktop is not ready for this, and where the PowerPoint that is registered is not a stand-in of
-/// so many bits; 0 takes any. Worlds raise where they are to observe the calls of the library, which nobody outside
-/// can.
+/// The calling thread enters COM for as long as the maker lives; a PowerPoint that runs already must be the stand-in,
+/// and is ended. Raises, in words for the user, where the desktop is not ready for this, and where the PowerPoint that
+/// is registered is not a stand-in of so many bits; 0 takes any. Worlds raise where they are to observe the calls of
+/// the library, which nobody outside can.
 [[nodiscard]] WorldMaker makeComWorlds(std::int32_t powerPointBits);
 
 } // namespace host

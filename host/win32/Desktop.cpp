@@ -1,6 +1,8 @@
 #include "host/win32/Desktop.h"
 
 #include "automation/com/ComPtr.h"
+#include "host/win32/DesktopPowerPoint.h"
+#include "host/win32/StandIn.h"
 #include "simulator/win32/StandInIdentity.h"
 
 #include <chrono>
@@ -16,12 +18,12 @@ namespace standin = simulator::standin;
 
 using automation::com::ComPtr;
 
-void endLeftPowerPoint() {
-    DesktopPowerPoint powerPoint;
+void endLeftPowerPoint(Journal& journal) {
+    DesktopPowerPoint powerPoint(journal);
     if (powerPoint.window() == 0) {
         return;
     }
-    if (!DesktopPowerPoint::isStandIn()) {
+    if (!isStandInRunning()) {
         throw std::runtime_error("PowerPoint runs on this desktop: close it first");
     }
     powerPoint.dismiss();
@@ -45,11 +47,11 @@ void requireRegistered() {
 
 /// A stand-in that was killed with its run stays known to the system for a moment, and nobody creates PowerPoint until
 /// then.
-void awaitCreation() {
+void awaitCreation(Journal& journal) {
     using namespace std::chrono_literals;
     for (int attempt = 0; attempt < 50; ++attempt) {
         try {
-            DesktopPowerPoint powerPoint;
+            DesktopPowerPoint powerPoint(journal);
             powerPoint.start();
             powerPoint.dismiss();
             return;
@@ -60,11 +62,10 @@ void awaitCreation() {
 }
 
 /// Starts the PowerPoint that is registered, and asks it.
-void requireBits(std::int32_t demanded) {
-    DesktopPowerPoint powerPoint;
+void requireBits(std::int32_t demanded, Journal& journal) {
+    DesktopPowerPoint powerPoint(journal);
     powerPoint.start();
-    const auto bits =
-        DesktopPowerPoint::isStandIn() ? powerPoint.standIn().get(u"Bits").to<std::int32_t>() : std::int32_t{0};
+    const auto bits = isStandInRunning() ? standIn().get(u"Bits").to<std::int32_t>() : std::int32_t{0};
     powerPoint.dismiss();
     if (bits != demanded) {
         throw std::runtime_error("the PowerPoint that is registered is no stand-in of " + std::to_string(demanded) +
@@ -75,7 +76,7 @@ void requireBits(std::int32_t demanded) {
 } // namespace
 
 Desktop::Desktop(std::int32_t powerPointBits) {
-    endLeftPowerPoint();
+    endLeftPowerPoint(journal_);
     const std::size_t given = journal_.giveBack();
     if (given != 0) {
         std::fprintf(stderr, "exercise-host: gave back %zu files and settings that a run cut short had borrowed\n",
@@ -83,17 +84,17 @@ Desktop::Desktop(std::int32_t powerPointBits) {
     }
     requireRegistered();
     if (given != 0) {
-        awaitCreation();
+        awaitCreation(journal_);
     }
     standby_.emplace();
     if (powerPointBits != 0) {
         standby_->prepare();
-        requireBits(powerPointBits);
+        requireBits(powerPointBits, journal_);
     }
 }
 
 void Desktop::makeReady() {
-    endLeftPowerPoint();
+    endLeftPowerPoint(journal_);
     standby_->prepare();
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "automation/Unmoved.h"
-#include "host/win32/DesktopPowerPoint.h"
 #include "host/win32/Journal.h"
 #include "host/win32/Standby.h"
 

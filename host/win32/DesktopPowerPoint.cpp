@@ -1,8 +1,9 @@
 #include "host/win32/DesktopPowerPoint.h"
 
-#include "automation/com/ComError.h"
-#include "automation/com/Objects.h"
-#include "host/win32/Handle.h"
+#include "automation/LateBound.h"
+#include "host/win32/BorrowedRegistry.h"
+#include "host/win32/StandIn.h"
+#include "host/world/Refusal.h"
 #include "platform/win32/Win32Servers.h"
 #include "simulator/win32/Registration.h"
 #include "simulator/win32/StandInIdentity.h"
@@ -16,7 +17,6 @@ namespace {
 namespace standin = simulator::standin;
 
 using automation::ObjectPtr;
-using automation::com::ComPtr;
 
 constexpr std::u16string_view programmaticId = u"PowerPoint.Application.11";
 constexpr DWORD patience = 10000;
@@ -65,7 +65,7 @@ ObjectPtr DesktopPowerPoint::application() {
     return application_;
 }
 
-std::int32_t DesktopPowerPoint::window() const {
+std::int32_t DesktopPowerPoint::window() {
     return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(findFrame()));
 }
 
@@ -100,7 +100,7 @@ void DesktopPowerPoint::kill() {
 
 void DesktopPowerPoint::dismiss() {
     const HWND frame = findFrame();
-    const bool isReal = !isStandIn() && !standin::isRegistered();
+    const bool isReal = !isStandInRunning() && !standin::isRegistered();
     forget();
     SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
     if (findFrame() == nullptr) {
@@ -113,15 +113,15 @@ void DesktopPowerPoint::dismiss() {
     }
 }
 
-void DesktopPowerPoint::hide() const {
+void DesktopPowerPoint::hide() {
     ShowWindow(findFrame(), SW_HIDE);
 }
 
-void DesktopPowerPoint::minimize() const {
+void DesktopPowerPoint::minimize() {
     ShowWindow(findFrame(), SW_MINIMIZE);
 }
 
-std::size_t DesktopPowerPoint::dialogs() const {
+std::size_t DesktopPowerPoint::dialogs() {
     DialogCount dialogs{findFrame()};
     if (dialogs.frame != nullptr) {
         EnumWindows(&countDialog, reinterpret_cast<LPARAM>(&dialogs));
@@ -129,29 +129,29 @@ std::size_t DesktopPowerPoint::dialogs() const {
     return dialogs.count;
 }
 
-const automation::LateBound& DesktopPowerPoint::standIn() {
-    if (findFrame() != holder_) {
-        forget();
-    }
-    if (!standIn_) {
-        ComPtr<IUnknown> running;
-        if (FAILED(GetActiveObject(standin::controlClass, nullptr, running.receive()))) {
-            automation::raise(automation::RunTimeError::CannotCreateObject);
-        }
-        standIn_ = automation::LateBound(automation::com::objectOf(running.as<IDispatch>().get()));
-        holder_ = findFrame();
-    }
-    return standIn_;
+void DesktopPowerPoint::killAtCall(std::int32_t n) {
+    standIn().call(u"DieAtCall", n);
 }
 
-bool DesktopPowerPoint::isStandIn() {
-    ComPtr<IUnknown> running;
-    return SUCCEEDED(GetActiveObject(standin::controlClass, nullptr, running.receive()));
+void DesktopPowerPoint::setBusy(bool busy) {
+    standIn().put(u"Busy", busy);
+}
+
+void DesktopPowerPoint::openDialog(std::u16string_view title) {
+    standIn().call(u"OpenDialog", std::u16string(title));
+}
+
+void DesktopPowerPoint::uninstall() {
+    if (!standin::isRegistered()) {
+        refuse(u"only the stand-in is uninstalled for a scenario");
+    }
+    BorrowedRegistry(journal_).change(HKEY_LOCAL_MACHINE,
+                                      L"Software\\Classes\\" + std::wstring(standin::programmaticIds[0]) + L"\\CLSID",
+                                      L"", L"{00000000-0000-0000-0000-000000000000}");
 }
 
 void DesktopPowerPoint::forget() noexcept {
     application_ = nullptr;
-    standIn_ = automation::LateBound();
     holder_ = nullptr;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/world/World.h"
+#include "host/world/Files.h"
 
 /// Files of this computer itself, as its user names them. All raise std::runtime_error, in words for him.
 namespace host {

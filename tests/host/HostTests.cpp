@@ -64,7 +64,7 @@ TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
 
 /// The bytes of a file in a world, as a file of the real disk.
 void copyOut(host::World& world, const std::u16string& path, const std::filesystem::path& to) {
-    const host::Bytes bytes = world.readFile(path);
+    const host::Bytes bytes = world.files().read(path);
     std::ofstream file(to, std::ios::binary);
     std::copy(bytes.begin(), bytes.end(), std::ostreambuf_iterator<char>(file));
 }
@@ -79,7 +79,7 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     host::TrainingHost training(*world, built, 306, nobody);
     copyOut(*world, world->hostFolder() + u"07305306.ppt", folder / "07305306.ppt");
     training.initQuestion(306, world->hostFolder());
-    const LateBound application(world->application());
+    const LateBound application(world->powerPoint().application());
     const LateBound working(application.get(u"ActivePresentation").to<ObjectPtr>());
     const std::u16string copy = world->hostFolder() + u"copie";
     const std::vector<std::string> recheck = {"recheck", (folder / "eleve.ppt").string(), "--question", "306"};
@@ -221,7 +221,7 @@ TEST_F(HostTest, AnObjectLeftAliveIsNoticed) {
     struct Keeper final : host::Witness {
         Keeper(host::World& keptWorld, ObjectPtr& keptObject) : world(keptWorld), kept(keptObject) {}
         void judged(const host::Reading& /*reading*/) override {
-            kept = LateBound(world.application()).get(u"Presentations").to<ObjectPtr>();
+            kept = LateBound(world.powerPoint().application()).get(u"Presentations").to<ObjectPtr>();
         }
         host::World& world;
         ObjectPtr& kept;
@@ -263,9 +263,9 @@ TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
 
 TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
     const host::WorldPtr world = host::makeEmbeddedWorld();
-    world->startPowerPoint();
+    world->powerPoint().start();
     const auto presentations = [&] {
-        return LateBound(LateBound(world->application()).get(u"Presentations").to<ObjectPtr>());
+        return LateBound(LateBound(world->powerPoint().application()).get(u"Presentations").to<ObjectPtr>());
     };
     const auto findingsOf = [&](const auto& meddle) {
         host::Guard guard(*world);

@@ -43,13 +43,13 @@ public:
 
 private:
     void save() {
-        const LateBound application(world_.application());
+        const LateBound application(world_.powerPoint().application());
         const LateBound active(application.get(u"ActivePresentation").to<ObjectPtr>());
         if (active.get(u"FullName").to<std::u16string>() == world_.hostFolder() + u"Méthodologie.ppt") {
             const std::u16string copy = u"C:\\Copies\\copie.ppt";
-            world_.writeFile(copy, {}); // so that the folder is there
+            world_.files().write(copy, {}); // so that the folder is there
             active.call(u"SaveCopyAs", copy);
-            first_.saved = world_.readFile(copy);
+            first_.saved = world_.files().read(copy);
         }
     }
 

@@ -241,12 +241,12 @@ TEST(MutationTests, ObjectsAnswerAnyArgumentsWithAResultOrAnError) {
         const host::WorldPtr world = host::makeEmbeddedWorld();
         std::vector<ObjectPtr> pool;
         for (std::size_t i = 0; i < 20000; ++i) {
-            if (i % 500 == 0 || world->mainWindow() == 0) {
+            if (i % 500 == 0 || world->powerPoint().window() == 0) {
                 // A pool of its own now and then: objects on what has been deleted answer nothing more.
                 pool.clear();
-                world->closePowerPoint();
-                world->startPowerPoint();
-                const ObjectPtr application = world->application();
+                world->powerPoint().close();
+                world->powerPoint().start();
+                const ObjectPtr application = world->powerPoint().application();
                 pool = {application, automation::LateBound(application).get(u"Presentations").to<ObjectPtr>()};
                 pool.push_back(automation::LateBound(pool[1]).call(u"Add").to<ObjectPtr>());
                 pool.push_back(automation::LateBound(pool[2]).get(u"Slides").to<ObjectPtr>());

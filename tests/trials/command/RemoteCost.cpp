@@ -2,6 +2,8 @@
 
 #include "automation/LateBound.h"
 #include "automation/Text.h"
+#include "tests/trials/ScriptHost.h"
+#include "tests/trials/StandIn.h"
 
 #include <iomanip>
 #include <ostream>
@@ -35,11 +37,11 @@ template <typename Step> Milliseconds timeOf(const Step& step) {
 void printFirstAnswer(const language::ScenarioFile& file, const Worlds& worlds, std::ostream& out) {
     const Course course(file, worlds.embedded);
     const WorldPtr world = worlds.remote(nullptr);
-    world->startPowerPoint();
+    world->powerPoint().start();
     Witness nobody;
     TrainingHost host(*world, course, file.question, nobody);
-    host.application = world->application();
-    host.window = world->mainWindow();
+    host.application = world->powerPoint().application();
+    host.window = world->powerPoint().window();
     const Milliseconds load = timeOf([&] { static_cast<void>(world->module()); });
     const Milliseconds first = timeOf([&] { host.initQuestion(file.question, world->hostFolder()); });
     host.fermer();
@@ -73,13 +75,13 @@ bool printRemoteQuestions(const CostRequest& request, const CommandContext& at) 
     return isGood;
 }
 
-ScriptRun runCheck(World& world, const std::filesystem::path& script) {
-    const automation::LateBound standIn(world.standIn());
+ScriptRun runCheck(const std::filesystem::path& script) {
+    const automation::LateBound standIn = trials::standIn();
     const auto counted = [&](std::u16string_view name) {
         return static_cast<std::size_t>(standIn.get(name).to<std::int32_t>());
     };
     ScriptRun run{{}, 0, counted(u"Calls"), counted(u"LookUps")};
-    std::istringstream said(world.runScript(script, {u"faire", u"cr\u00E9er"}));
+    std::istringstream said(runScript(script, {u"faire", u"cr\u00E9er"}));
     said >> run.letter >> run.milliseconds;
     run.calls = counted(u"Calls") - run.calls;
     run.lookUps = counted(u"LookUps") - run.lookUps;
@@ -102,9 +104,9 @@ bool printBesideScript(const CostRequest& request, const CommandContext& at) {
     };
     ScriptRun script;
     const QuestionCost cost = cost::remoteCostOf(
-        file, Course(file, at.worlds.embedded), at.worlds.remote, [&](World& world, cost::Moment moment) {
+        file, Course(file, at.worlds.embedded), at.worlds.remote, [&](World& /*world*/, cost::Moment moment) {
             if (moment == cost::Moment::Checked) {
-                script = runCheck(world, at.library.folder() / "../tests/trials/cost/0306.vbs");
+                script = runCheck(at.library.folder() / "../tests/trials/cost/0306.vbs");
             }
         });
     print("library ", cost.testePoint.calls, cost.lookUps, cost.testePoint.time.count());

@@ -99,7 +99,7 @@ std::size_t automationCallsOfGeneralChecks(std::size_t slides) {
 } // namespace
 
 Surroundings::Surroundings(World& world, std::int32_t question) {
-    const LateBound application(world.application());
+    const LateBound application(world.powerPoint().application());
     bars = countOf(member(application, u"CommandBars"));
     const LateBound all = member(member(application, u"ActivePresentation"), u"Slides");
     slides = countOf(all);

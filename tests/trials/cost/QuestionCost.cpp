@@ -2,6 +2,7 @@
 
 #include "automation/LateBound.h"
 #include "host/run/FirstMoves.h"
+#include "tests/trials/StandIn.h"
 
 #include <ctime>
 
@@ -35,10 +36,10 @@ public:
         const Watching& watch = nullptr)
         : meter_(std::move(meter)) {
         Witness nobody;
-        world.startPowerPoint();
+        world.powerPoint().start();
         TrainingHost host(world, course, file.question, nobody);
-        host.application = world.application();
-        host.window = world.mainWindow();
+        host.application = world.powerPoint().application();
+        host.window = world.powerPoint().window();
         cost.initQuestion = measure([&] { host.initQuestion(file.question, world.hostFolder()); });
         const auto reach = [&](Moment moment) {
             if (watch) {
@@ -112,8 +113,8 @@ QuestionCost costOf(const language::ScenarioFile& file, const Course& course, co
 QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeRemoteWorld,
                           const Watching& watch) {
     const WorldPtr world = makeRemoteWorld(nullptr);
-    const Meter meter = [&] {
-        const automation::LateBound standIn(world->standIn());
+    const Meter meter = [] {
+        const automation::LateBound standIn = trials::standIn();
         const auto counted = [&](std::u16string_view name) {
             return static_cast<std::size_t>(standIn.get(name).to<std::int32_t>());
         };

@@ -5,7 +5,7 @@
 
 namespace trials::learners {
 
-Scene::Scene(EmbeddedWorld& world) : folder_(world.hostFolder()), files_(world.filesIn(folder_)) {
+Scene::Scene(EmbeddedWorld& world) : folder_(world.hostFolder()), files_(world.files().namesIn(folder_)) {
     const simulator::SessionPtr session = world.machine().session();
     if (!session) {
         return;

@@ -27,18 +27,11 @@ std::vector<std::u16string> barsOf(const LateBound& application) {
 
 } // namespace
 
-Belongings::Belongings(World& world) : folders(foldersOf(world)) {
-    if (const ObjectPtr application = world.application()) {
+Belongings::Belongings(World& world) : folders(folderSettings::in(world.registry())) {
+    if (const ObjectPtr application = world.powerPoint().application()) {
         bars = barsOf(LateBound(application));
         presentations = Snapshot(world).presentations.value_or(std::vector<OpenPresentation>());
     }
-}
-
-std::array<std::u16string, 4> foldersOf(World& world) {
-    std::array<std::u16string, 4> folders;
-    std::transform(folderSettings::names.begin(), folderSettings::names.end(), folders.begin(),
-                   [&](std::u16string_view name) { return world.registryText(folderSettings::key, name); });
-    return folders;
 }
 
 } // namespace trials::torture

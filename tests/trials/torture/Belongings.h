@@ -15,7 +15,4 @@ struct Belongings {
     std::vector<OpenPresentation> presentations;
 };
 
-/// PowerPoint's four folders, as the registry has them.
-[[nodiscard]] std::array<std::u16string, 4> foldersOf(World& world);
-
 } // namespace trials::torture

@@ -1,6 +1,7 @@
 #include "tests/trials/torture/Fault.h"
 
 #include "automation/LateBound.h"
+#include "tests/trials/StandIn.h"
 
 namespace trials::torture {
 
@@ -26,7 +27,7 @@ public:
 
     automation::Value around(const automation::Crossing& /*crossing*/, const Next& next) override {
         if (left_ != 0 && --left_ == 0) {
-            world_.killPowerPoint();
+            world_.powerPoint().kill();
         }
         return next();
     }
@@ -105,9 +106,9 @@ Strike Fault::at(std::size_t position, World& world) const {
         position, lasting, error(), [fault = *this](Border border) { return !fault.fits(border); }));
 }
 
-void Fault::arm(std::size_t position, World& world) const {
+void Fault::arm(std::size_t position) const {
     const auto call = static_cast<std::int32_t>(position);
-    const automation::LateBound standIn(world.standIn());
+    const automation::LateBound standIn = trials::standIn();
     switch (kind) {
     case Kind::Dies: standIn.call(u"DieAtCall", call); break;
     case Kind::Refuses: standIn.call(u"RefuseAtCall", call, lasting == Lasting::Once ? 1 : withoutEnd); break;
@@ -116,17 +117,17 @@ void Fault::arm(std::size_t position, World& world) const {
     }
 }
 
-void Fault::disarm(World& world) {
-    const automation::LateBound standIn(world.standIn());
+void Fault::disarm() {
+    const automation::LateBound standIn = trials::standIn();
     standIn.put(u"Busy", false);
     standIn.call(u"DieAtCall", never);
 }
 
 bool Fault::hasStruck(World& world) const {
     if (isDeath()) {
-        return world.mainWindow() == 0;
+        return world.powerPoint().window() == 0;
     }
-    const automation::LateBound standIn(world.standIn());
+    const automation::LateBound standIn = trials::standIn();
     return standIn.get(kind == Kind::Late ? u"Delayed" : u"Refused").to<std::int32_t>() != 0;
 }
 

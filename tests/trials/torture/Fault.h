@@ -40,9 +40,9 @@ struct Fault {
     [[nodiscard]] Strike at(std::size_t position, World& world) const;
 
     /// Makes the process of a world's PowerPoint misbehave at a call, counted from the next one that it takes (1).
-    void arm(std::size_t position, World& world) const;
+    void arm(std::size_t position) const;
     /// Has it behave again.
-    static void disarm(World& world);
+    static void disarm();
     /// True where the process has met the call at which it was to misbehave.
     [[nodiscard]] bool hasStruck(World& world) const;
 

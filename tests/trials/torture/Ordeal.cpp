@@ -15,8 +15,8 @@ using automation::toUtf8;
 
 /// PowerPoint as the learner has left it: a presentation not saved yet, bars arranged by hand.
 void settleIn(World& world) {
-    world.startPowerPoint();
-    const LateBound application(world.application());
+    world.powerPoint().start();
+    const LateBound application(world.powerPoint().application());
     const LateBound presentations(application.get(u"Presentations").to<ObjectPtr>());
     const LateBound presentation(presentations.call(u"Add").to<ObjectPtr>());
     const LateBound slides(presentation.get(u"Slides").to<ObjectPtr>());
@@ -70,14 +70,14 @@ Aftermath Ordeal::run(Operation operation, Tampering& tampering, bool foldersSta
 Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering, bool foldersStayWritable) const {
     settleIn(world);
     const Belongings before(world);
-    const std::int32_t windowBefore = world.mainWindow();
+    const std::int32_t windowBefore = world.powerPoint().window();
     Witness nobody;
     TrainingHost host(world, course_, file_.question, nobody);
     if (operation.arrival == Operation::Arrival::Brought) {
-        host.application = world.application();
+        host.application = world.powerPoint().application();
         host.window = windowBefore;
     } else {
-        world.closePowerPoint();
+        world.powerPoint().close();
     }
 
     Aftermath aftermath;
@@ -111,11 +111,11 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering,
     perform(HostCall::Quitter, [&] { host.quitter(); });
     tampering.end(world);
 
-    if (foldersStayWritable && foldersOf(world) != before.folders) {
+    if (foldersStayWritable && folderSettings::in(world.registry()) != before.folders) {
         aftermath.findings.emplace_back("the learner's folders are not restored when the module is left");
     }
     const bool brought = operation.arrival == Operation::Arrival::Brought;
-    aftermath.powerPointEnded = brought && world.mainWindow() != windowBefore;
+    aftermath.powerPointEnded = brought && world.powerPoint().window() != windowBefore;
     if (const auto error = errorOf([&] {
             begin();
             host.fermer();
@@ -123,7 +123,7 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering,
         })) {
         aftermath.findings.push_back("the fresh start raises " + inWords(*error));
     }
-    world.startPowerPoint();
+    world.powerPoint().start();
     const Belongings after(world);
     if (after.folders != before.folders) {
         aftermath.findings.emplace_back("the learner's folders are not restored after a fresh start");

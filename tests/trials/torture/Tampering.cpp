@@ -1,6 +1,7 @@
 #include "tests/trials/torture/Tampering.h"
 
 #include "automation/LateBound.h"
+#include "tests/trials/StandIn.h"
 
 #include <utility>
 
@@ -43,17 +44,16 @@ void ObservedCalls::end(World& /*world*/) {
     line_->observer = nullptr;
 }
 
-void RemoteCalls::begin(World& world) {
-    before_ = automation::LateBound(world.standIn()).get(u"Calls").to<std::int32_t>();
+void RemoteCalls::begin(World& /*world*/) {
+    before_ = standIn().get(u"Calls").to<std::int32_t>();
     if (fault_ != nullptr) {
-        fault_->arm(position_, world);
+        fault_->arm(position_);
     }
 }
 
-std::size_t RemoteCalls::calls(World& world) {
+std::size_t RemoteCalls::calls(World& /*world*/) {
     try {
-        const automation::LateBound standIn(world.standIn());
-        return static_cast<std::size_t>(standIn.get(u"Calls").to<std::int32_t>() - before_);
+        return static_cast<std::size_t>(standIn().get(u"Calls").to<std::int32_t>() - before_);
     } catch (const automation::Error&) {
         return 0;
     }
@@ -64,8 +64,8 @@ bool RemoteCalls::hasStruck(World& world) {
 }
 
 void RemoteCalls::end(World& world) {
-    if (fault_ != nullptr && world.mainWindow() != 0) {
-        Fault::disarm(world);
+    if (fault_ != nullptr && world.powerPoint().window() != 0) {
+        Fault::disarm();
     }
 }
 

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-namespace host {
+namespace trials {
 
 /// Runs a script in the Windows Script Host, in the one of this program's own width, and returns what it prints. Raises
 /// CannotCreateObject (429) where it cannot be started, does not end well, or not within an hour.
 [[nodiscard]] std::string runScript(const std::filesystem::path& script, const std::vector<std::u16string>& arguments);
 
-} // namespace host
+} // namespace trials

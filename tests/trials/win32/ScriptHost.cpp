@@ -1,4 +1,4 @@
-#include "host/win32/ScriptHost.h"
+#include "tests/trials/ScriptHost.h"
 
 #include "automation/Error.h"
 #include "host/win32/Handle.h"
@@ -7,7 +7,7 @@
 #include <fstream>
 #include <iterator>
 
-namespace host {
+namespace trials {
 
 namespace {
 
@@ -16,10 +16,10 @@ namespace fs = std::filesystem;
 constexpr DWORD patience = 3600 * 1000;
 
 /// A file that a process started from here can write to.
-Handle inheritable(const fs::path& file) {
+host::Handle inheritable(const fs::path& file) {
     SECURITY_ATTRIBUTES security{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
-    return Handle(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, &security, CREATE_ALWAYS,
-                              FILE_ATTRIBUTE_NORMAL, nullptr));
+    return host::Handle(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, &security,
+                                    CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
 std::wstring commandLine(const fs::path& script, const std::vector<std::u16string>& arguments) {
@@ -31,7 +31,7 @@ std::wstring commandLine(const fs::path& script, const std::vector<std::u16strin
 }
 
 /// Runs a command, what it prints into a file; true where it ends well.
-bool runInto(const Handle& output, std::wstring command) {
+bool runInto(const host::Handle& output, std::wstring command) {
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     startup.dwFlags = STARTF_USESTDHANDLES;
@@ -42,8 +42,8 @@ bool runInto(const Handle& output, std::wstring command) {
         FALSE) {
         return false;
     }
-    const Handle process(started.hProcess);
-    const Handle thread(started.hThread);
+    const host::Handle process(started.hProcess);
+    const host::Handle thread(started.hThread);
     if (!process.isSignalled(patience)) {
         TerminateProcess(process.get(), 1);
         return false;
@@ -56,7 +56,7 @@ bool runInto(const Handle& output, std::wstring command) {
 
 std::string runScript(const fs::path& script, const std::vector<std::u16string>& arguments) {
     // A file, since a server that the script starts would keep a pipe open.
-    const TemporaryFolder folder;
+    const host::TemporaryFolder folder;
     const fs::path said = folder.path() / "said.txt";
     if (!runInto(inheritable(said), commandLine(script, arguments))) {
         automation::raise(automation::RunTimeError::CannotCreateObject);
@@ -65,4 +65,4 @@ std::string runScript(const fs::path& script, const std::vector<std::u16string>&
     return {std::istreambuf_iterator<char>(text), {}};
 }
 
-} // namespace host
+} // namespace trials
