@@ -65,7 +65,8 @@ protected:
 
     /// Marks the slides, shows normal view with nothing selected.
     void prepareSlides();
-    /// Marks the slides, shows one slide in normal view and marks its shapes and the items of its groups.
+    /// Marks the slides, shows one slide in normal view and marks its shapes and the items of its groups. What is
+    /// selected stays selected, unlike in `prepareSlides`.
     void prepareSlideWithShapes(std::int16_t slide);
 
     [[nodiscard]] const ppt::Application& application() const noexcept { return application_; }

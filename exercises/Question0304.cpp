@@ -11,6 +11,8 @@ private:
     void prepare() override { prepareSlides(); }
 
     void check() override {
+        // The first pattern finds a name without extension as well where the file system reads it so; the second search
+        // does not rely on that.
         if (!exists(u"Plan exo 3.*") && !exists(u"Plan exo 3")) {
             return cause(u"A");
         }

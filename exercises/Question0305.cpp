@@ -27,6 +27,8 @@ private:
         if (text(2).Paragraphs().Count() != 4) {
             return cause(u"C");
         }
+        // The blank belongs to the title asked for. 173 is the length of the four lines with a mark between each two,
+        // so that nothing else may stand there.
         const bool title = text(1).Text() == u"Conseils ";
         const bool first = contains(1, u"5 à 6 mots par ligne");
         const bool second = contains(2, u"5 à 6 lignes par diapositive");

@@ -20,7 +20,7 @@ private:
     void prepare() override { prepareSlides(); }
 
     void check() override {
-        std::int32_t total = 0;
+        std::int32_t total = 0; // of both words: the second count begins where the first has found none
         walkTexts(application(),
                   [&](const ppt::TextRange& text) { increase<std::int32_t>(total, API::CompteMot(text, u"faire")); });
         if (total > 0) {

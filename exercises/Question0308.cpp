@@ -29,6 +29,7 @@ private:
         const std::int32_t words = text(2).Words().Count();
         for (std::int32_t i = 1; i <= words; ++i) {
             if (trim(text(2).Words(i).Text()) == u"parfaitement") {
+                // No stop at the first: the last one counts.
                 referenceColour_ = automation::Value(text(2).Words(i).Font().Color().object());
             }
         }
@@ -49,6 +50,8 @@ private:
                 return cause(u"G");
             }
         }
+        // What follows on the shapes asks again what has just been answered, and cannot fail on a slide that nobody
+        // changes meanwhile; its reads belong to the check.
         if (diapositive(5).Shapes().Count() == 0) {
             return cause(u"G");
         }

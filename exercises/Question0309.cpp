@@ -21,6 +21,7 @@ private:
         if (count >= 3) {
             return cause(u"C");
         }
+        // Index and flag in one: 0 where no such shape was met, the last one where there are two.
         std::int32_t textBox = 0;
         std::int32_t fixed = 0;
         for (std::int32_t i = 1; i <= count; ++i) {

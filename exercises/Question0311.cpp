@@ -40,6 +40,7 @@ private:
         if (top == 35.0F && left == 57.875F) {
             return cause(u"E");
         }
+        // Each bound is held against a reading of its own.
         const float firstTop = forme(1, moving).Top();
         const float secondTop = forme(1, moving).Top();
         const float firstLeft = forme(1, moving).Left();

@@ -32,6 +32,7 @@ private:
                 return cause(u"Z");
             }
             if (forme(1, k).Type() == ppt::msoAutoShape) {
+                // Each bound is held against a reading of its own.
                 const std::int32_t first = forme(1, k).AutoShapeType();
                 const std::int32_t second = forme(1, k).AutoShapeType();
                 if (first >= firstBasicShape && second <= lastBasicShape) {

@@ -21,6 +21,7 @@ private:
         if (api().FormeNonTrouvee != 0) {
             return cause(u"B");
         }
+        // Cannot be: a search that stays out of groups finds at level 0.
         if (api().NiveauForme > 0) {
             return cause(u"Z");
         }
@@ -32,6 +33,7 @@ private:
         if (left != 138.875F || top != 156.625F) {
             return cause(u"D");
         }
+        // From back to front; the two are never equal, since each carries a mark of its own.
         if (second < third) {
             return cause(u"E");
         }

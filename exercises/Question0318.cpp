@@ -22,6 +22,7 @@ private:
         if (api().NiveauForme >= 1) {
             return cause(u"Z");
         }
+        // Each bound is held against a reading of its own.
         const float firstWidth = forme(1, shape).Width();
         const float secondWidth = forme(1, shape).Width();
         if (!(firstWidth >= 56.5F && secondWidth <= 56.75F)) {

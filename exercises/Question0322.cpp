@@ -7,6 +7,7 @@ public:
     using Question::Question;
 
 private:
+    // The usual preparation of a slide, but for the view, which stays where it opens.
     void prepare() override {
         api().MarqueDiapositives(application());
         application().ActiveWindow().ViewType(ppt::ppViewNormal);

@@ -12,7 +12,6 @@ using automation::FirstError;
 using automation::LateBound;
 using automation::ObjectPtr;
 using automation::Value;
-using platform::ignoringErrors;
 
 namespace {
 
@@ -30,34 +29,52 @@ Module::~Module() {
 void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& folder, ObjectPtr& application,
                           std::int32_t& window, const std::u16string& /*unused*/) {
     settings_.createKey();
+    forgetClosedPowerPoint(application, window);
     obtainPowerPoint(application, window);
-    settings_.SauveParamUser(session_.application);
-    session_.FermeDialogues(session_.window);
+    settings_.SauveParamUser(session_.application());
+    session_.FermeDialogues(session_.window());
     if (question_) {
         FermeQuestion();
     }
-    platform::reporting(u"Module", u"InitQuestion", platform::ReportedObject::Description,
-                        [&] { createQuestion(questionNumber, folder); });
-    stageQuestion(folder);
+    platform::reporting(u"Module", u"InitQuestion", platform::ReportedObject::Description, [&] {
+        questionNumber_ = questionNumber;
+        question_ = LateBound(exercises::createQuestion(questionNumber, {api_, services_}));
+        staging_.hostFolder = folder;
+        staging_.templatesFolder = templatesFolder(services_.registry);
+        services_.files.makeDirectories(staging_.templatesFolder);
+    });
+    staging_.Nettoyage(question_, session_.application());
+    staging_.Renomme(question_);
+    api_.PremierFichier = Staging::firstFile(question_);
+    api_.DossierHote = folder;
+    settings_.commandBars.willChange(session_.application());
+    session_.InitCommandBar();
+    session_.application().CommandBars().DisplayTooltips(true);
     prepareQuestion(folder);
+    settings_.ChangeDir(question_.get(members::PathDossierParDefaut).to<std::u16string>(), staging_.templatesFolder);
+    session_.restoreStartupDialog();
+    session_.ActiveFenetre();
+}
+
+void Module::forgetClosedPowerPoint(ObjectPtr& application, std::int32_t& window) {
+    if (window != unknownWindow && !services_.windows.className(window)) {
+        application = nullptr;
+        window = unknownWindow;
+        session_.forget();
+    }
 }
 
 void Module::obtainPowerPoint(ObjectPtr& application, std::int32_t& window) {
-    if (window != unknownWindow && !services_.windows.className(window)) {
-        application = nullptr;
-        session_.application = ppt::Application();
-        window = unknownWindow;
-        session_.window = 0;
-    }
     if (!application) {
         return startPowerPoint(application, window);
     }
-    if (!automation::isSame(application, session_.application.object())) {
+    if (!automation::isSame(application, session_.application().object())) {
         started_ = false;
     }
+    // For what it does, not for its answer: a PowerPoint of an earlier question that has become invisible is quit
+    // before the host's takes its place.
     static_cast<void>(session_.PowerPointVisible());
-    session_.application = ppt::Application(application);
-    session_.window = window;
+    session_.adopt(application, window);
     if (!session_.PowerPointVisible()) {
         application = nullptr;
         startPowerPoint(application, window);
@@ -67,43 +84,17 @@ void Module::obtainPowerPoint(ObjectPtr& application, std::int32_t& window) {
 void Module::startPowerPoint(ObjectPtr& application, std::int32_t& window) {
     session_.GetApplication();
     started_ = true;
-    application = session_.application.object();
-    window = session_.window;
-}
-
-void Module::createQuestion(std::int32_t questionNumber, const std::u16string& folder) {
-    questionNumber_ = questionNumber;
-    question_ = LateBound(exercises::createQuestion(questionNumber, {api_, services_}));
-    staging_.hostFolder = folder;
-    staging_.templatesFolder = templatesFolder(services_.registry);
-    services_.files.makeDirectories(staging_.templatesFolder);
-}
-
-void Module::stageQuestion(const std::u16string& folder) {
-    staging_.Nettoyage(question_, session_.application);
-    staging_.Renomme(question_);
-    const LateBound files(question_.get(members::FichiersDeTravail).to<ObjectPtr>());
-    const LateBound first(files.call(members::Item, std::int32_t{1}).to<ObjectPtr>());
-    api_.PremierFichier = first.get(members::NomDest).to<std::u16string>();
-    api_.DossierHote = folder;
+    application = session_.application().object();
+    window = session_.window();
 }
 
 void Module::prepareQuestion(const std::u16string& folder) {
-    settings_.commandBars.willChange(session_.application);
-    session_.InitCommandBar();
-    session_.application.CommandBars().DisplayTooltips(true);
-
-    Value application(session_.application.object());
+    Value application(session_.application().object());
     Value hostFolder(folder);
     Value templates(staging_.templatesFolder);
     question_.call(members::Prepare, Value::reference(application), Value::reference(hostFolder),
                    Value::reference(templates));
-    session_.application = ppt::Application(application);
-
-    settings_.ChangeDir(question_.get(members::PathDossierParDefaut).to<std::u16string>(), staging_.templatesFolder);
-    ignoringErrors(
-        [&] { session_.application.ShowStartupDialog(session_.startupDialog ? ppt::msoTrue : ppt::msoFalse); });
-    session_.ActiveFenetre();
+    session_.adopt(application.to<ObjectPtr>(), session_.window());
 }
 
 void Module::TestePoint() {
@@ -117,7 +108,7 @@ void Module::TestePoint() {
     if (!session_.ActiveFenetre()) {
         return failGenerally(u"AM");
     }
-    if (!staging_.VerifieTravail(questionNumber_, session_.application, causeText_)) {
+    if (!staging_.VerifieTravail(questionNumber_, session_.application(), causeText_)) {
         generalError_ = true;
         return;
     }
@@ -157,12 +148,12 @@ void Module::leavePowerPointAsFound() {
     if (!session_.PowerPointVisible()) {
         return;
     }
-    session_.FermeDialogues(session_.window);
+    session_.FermeDialogues(session_.window());
     session_.readKeptSettings();
     if (session_.PowerPointRepond()) {
         FirstError error;
-        error.attempt([&] { staging_.Nettoyage(question_, session_.application); });
-        error.attempt([&] { settings_.commandBars.restore(session_.application); });
+        error.attempt([&] { staging_.Nettoyage(question_, session_.application()); });
+        error.attempt([&] { settings_.commandBars.restore(session_.application()); });
         error.raise();
     }
 }
@@ -180,7 +171,7 @@ void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
     error.attempt([&] {
         const bool isVisible = session_.PowerPointVisible();
         if (isVisible && settings_.commandBars.isChanged() && session_.PowerPointRepond()) {
-            settings_.commandBars.restore(session_.application);
+            settings_.commandBars.restore(session_.application());
         }
         if (isVisible && started_) {
             const ppt::Application hosts(application);
@@ -189,8 +180,7 @@ void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
             application = nullptr;
         }
     });
-    session_.application = ppt::Application();
-    session_.window = 0;
+    session_.forget();
     error.raise();
 }
 

@@ -38,11 +38,12 @@ public:
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:
+    /// Lets go of a host's PowerPoint whose window no longer exists.
+    void forgetClosedPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
     /// Makes sure that a visible PowerPoint answers: the host's, or one attached to or started.
     void obtainPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
     void startPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
-    void createQuestion(std::int32_t questionNumber, const std::u16string& folder);
-    void stageQuestion(const std::u16string& folder);
+    /// The question may put another PowerPoint in the place of the one in use.
     void prepareQuestion(const std::u16string& folder);
     void FermeQuestion();
     void leavePowerPointAsFound();

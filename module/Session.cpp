@@ -19,33 +19,43 @@ constexpr int mostWindows = 10000;
 
 } // namespace
 
+void Session::adopt(const automation::ObjectPtr& application, WindowHandle window) {
+    application_ = ppt::Application(application);
+    window_ = window;
+}
+
+void Session::forget() noexcept {
+    application_ = ppt::Application();
+    window_ = 0;
+}
+
 void Session::GetApplication() {
     try {
-        application = ppt::Application();
-        const bool mayAttach = window == 0 || services_.windows.isVisible(window);
+        application_ = ppt::Application();
+        const bool mayAttach = window_ == 0 || services_.windows.isVisible(window_);
         const bool attached = mayAttach && ignoringErrors([&] {
-                                  application = ppt::Application(services_.servers.attach(programmaticId));
+                                  application_ = ppt::Application(services_.servers.attach(programmaticId));
                               });
         if (!attached) {
-            application = ppt::Application(services_.servers.create(programmaticId));
+            application_ = ppt::Application(services_.servers.create(programmaticId));
         }
-        application.Visible(ppt::msoTrue);
+        application_.Visible(ppt::msoTrue);
     } catch (...) {
         const automation::Error current = automation::currentError();
-        application = ppt::Application();
+        application_ = ppt::Application();
         platform::reportError(current, u"Module", u"GetApplication", current.description());
     }
-    window = services_.windows.findWindow(mainWindowClass);
-    ignoringErrors([&] { startupDialog = application.ShowStartupDialog() != ppt::msoFalse; });
+    window_ = services_.windows.findWindow(mainWindowClass);
+    readStartupDialog();
 }
 
 bool Session::PowerPointVisible() {
-    if (services_.windows.isVisible(window)) {
+    if (services_.windows.isVisible(window_)) {
         return true;
     }
     ignoringErrors([&] {
-        static_cast<void>(application.WindowState());
-        application.Quit();
+        static_cast<void>(application_.WindowState());
+        application_.Quit();
     });
     return false;
 }
@@ -53,9 +63,9 @@ bool Session::PowerPointVisible() {
 bool Session::PowerPointRepond() const noexcept {
     const automation::WithoutRetry once;
     return ignoringErrors([&] {
-        const std::int32_t state = application.WindowState();
-        application.WindowState(ppt::ppWindowMaximized);
-        application.WindowState(state);
+        const std::int32_t state = application_.WindowState();
+        application_.WindowState(ppt::ppWindowMaximized);
+        application_.WindowState(state);
     });
 }
 
@@ -63,11 +73,12 @@ bool Session::ActiveFenetre() {
     if (services_.windows.findWindow(mainWindowClass) == 0) {
         return false;
     }
-    application.WindowState(ppt::ppWindowMaximized);
-    if (services_.windows.isIconic(window)) {
-        services_.windows.show(window, WindowSystem::showMaximized);
+    application_.WindowState(ppt::ppWindowMaximized);
+    if (services_.windows.isIconic(window_)) {
+        services_.windows.show(window_, WindowSystem::showMaximized);
     }
-    services_.windows.setForeground(window);
+    // Whether the system lets it come to the front is not asked: a window that stays behind is still being worked in.
+    services_.windows.setForeground(window_);
     return true;
 }
 
@@ -96,7 +107,7 @@ void Session::FermeDialogues(WindowHandle handle) {
 void Session::InitCommandBar() {
     // Every step reaches its bar afresh, and what it refuses does not stop the next.
     const auto on = [this](std::u16string_view name, const auto& step) {
-        ignoringErrors([&] { step(application.CommandBars().Item(name)); });
+        ignoringErrors([&] { step(application_.CommandBars().Item(name)); });
     };
     const auto enable = [](const ppt::CommandBar& bar) { bar.Enabled(true); };
     const auto show = [&on](std::u16string_view name, ppt::MsoBarPosition position) {
@@ -110,17 +121,26 @@ void Session::InitCommandBar() {
         show(name, ppt::msoBarTop);
     }
     on(u"Drawing", enable);
+    // Reads whose answers nothing needs: they belong to the sequence of calls all the same.
     on(u"Drawing", [](const ppt::CommandBar& bar) { static_cast<void>(bar.Visible()); });
     on(u"Drawing", [](const ppt::CommandBar& bar) { static_cast<void>(bar.Position()); });
     show(u"Drawing", ppt::msoBarBottom);
     on(u"Task Pane", [](const ppt::CommandBar& bar) { static_cast<void>(bar.Enabled()); });
     on(u"Task Pane", [](const ppt::CommandBar& bar) { bar.Position(ppt::msoBarRight); });
-    on(u"Task Pane", [this](const ppt::CommandBar& bar) { bar.Visible(taskPane); });
+    on(u"Task Pane", [this](const ppt::CommandBar& bar) { bar.Visible(taskPane_); });
 }
 
 void Session::readKeptSettings() {
-    ignoringErrors([&] { taskPane = application.CommandBars().Item(u"Task Pane").Visible(); });
-    ignoringErrors([&] { startupDialog = application.ShowStartupDialog() != ppt::msoFalse; });
+    ignoringErrors([&] { taskPane_ = application_.CommandBars().Item(u"Task Pane").Visible(); });
+    readStartupDialog();
+}
+
+void Session::readStartupDialog() {
+    ignoringErrors([&] { startupDialog_ = application_.ShowStartupDialog() != ppt::msoFalse; });
+}
+
+void Session::restoreStartupDialog() const noexcept {
+    ignoringErrors([&] { application_.ShowStartupDialog(startupDialog_ ? ppt::msoTrue : ppt::msoFalse); });
 }
 
 } // namespace k73053

@@ -10,10 +10,15 @@ class Session {
 public:
     explicit Session(const platform::Services& services) : services_(services) {}
 
-    ppt::Application application;
-    platform::WindowHandle window = 0; ///< PowerPoint's main window; 0 when none
-    bool startupDialog = false; ///< `ShowStartupDialog` as read when the session was obtained or a question closed
-    bool taskPane = false;      ///< the "Task Pane" bar was shown when the last question closed
+    [[nodiscard]] const ppt::Application& application() const noexcept { return application_; }
+    /// PowerPoint's main window; 0 when none.
+    [[nodiscard]] platform::WindowHandle window() const noexcept { return window_; }
+
+    /// Takes a PowerPoint that another holds as the one in use.
+    void adopt(const automation::ObjectPtr& application, platform::WindowHandle window);
+
+    /// Lets go of PowerPoint and its window.
+    void forget() noexcept;
 
     /// Attaches to the running PowerPoint or starts one, and shows it. Where none can be started the application
     /// becomes nothing and the error goes to the error report.
@@ -38,11 +43,21 @@ public:
     /// visibility kept. What a bar refuses is passed over.
     void InitCommandBar();
 
-    /// Reads the settings to be kept from one question to the next; what cannot be read stays.
+    /// Reads the settings to be kept from one question to the next: whether the start dialog and the "Task Pane" bar
+    /// are shown. What cannot be read stays.
     void readKeptSettings();
 
+    /// Gives the start dialog the setting kept; a refusal is passed over.
+    void restoreStartupDialog() const noexcept;
+
 private:
+    void readStartupDialog();
+
     const platform::Services services_;
+    ppt::Application application_;
+    platform::WindowHandle window_ = 0;
+    bool startupDialog_ = false;
+    bool taskPane_ = false;
 };
 
 } // namespace k73053

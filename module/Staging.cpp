@@ -4,6 +4,8 @@
 #include "module/QuestionMembers.h"
 #include "platform/ErrorReport.h"
 
+#include <cassert>
+
 namespace k73053 {
 
 using automation::LateBound;
@@ -25,6 +27,7 @@ template <typename Visit> void walkFiles(const LateBound& question, const Visit&
 
 /// Closes every presentation of a path, given in lower case, without PowerPoint asking a question.
 void closePresentations(const ppt::Application& application, const std::u16string& path) {
+    assert(path == lowerCase(path));
     std::int32_t count = application.Presentations().Count();
     for (std::int32_t i = 1; i <= count;) {
         if (lowerCase(application.Presentations().Item(i).FullName()) == path) {
@@ -69,6 +72,12 @@ void Staging::Renomme(const LateBound& question) {
             files_.rename(folder + source, folder + file.get(members::NomDest).to<std::u16string>());
         });
     });
+}
+
+std::u16string Staging::firstFile(const LateBound& question) {
+    const LateBound files(question.get(members::FichiersDeTravail).to<automation::ObjectPtr>());
+    const LateBound first(files.call(members::Item, std::int32_t{1}).to<automation::ObjectPtr>());
+    return first.get(members::NomDest).to<std::u16string>();
 }
 
 bool Staging::VerifieTravail(std::int32_t questionNumber, const ppt::Application& application, std::u16string& cause) {

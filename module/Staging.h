@@ -21,6 +21,9 @@ public:
     /// Gives the delivered files of a question their working names. Failures go to the error report.
     void Renomme(const automation::LateBound& question);
 
+    /// Working name of a question's first file.
+    [[nodiscard]] static std::u16string firstFile(const automation::LateBound& question);
+
     /// The general checks of the learner's presentation. False leaves its code in `cause`.
     [[nodiscard]] bool VerifieTravail(std::int32_t questionNumber, const ppt::Application& application,
                                       std::u16string& cause);

@@ -202,7 +202,7 @@ TEST_F(Questions, CloseTheDialogAboveFirst) {
     machine.openDialog(u"Couleurs");
     machine.openWindow(u"Autre", u"Autre programme");
     const auto closing = [&](std::u16string_view title) {
-        platform::WindowHandle dialog = session.window;
+        platform::WindowHandle dialog = session.window();
         while (dialog != 0 && machine.services().windows.title(dialog) != title) {
             dialog = machine.services().windows.previous(dialog);
         }
@@ -210,15 +210,15 @@ TEST_F(Questions, CloseTheDialogAboveFirst) {
     };
     const std::string police = closing(u"Police");
     const std::string colours = closing(u"Couleurs");
-    session.FermeDialogues(session.window);
+    session.FermeDialogues(session.window());
     EXPECT_EQ(machine.dialogs(), 0U);
     const std::string calls = log.take();
     EXPECT_NE(calls.find(police), std::string::npos) << calls;
     EXPECT_LT(calls.find(colours), calls.find(police)) << calls;
-    session.FermeDialogues(session.window);
-    session.EnvoieEchap(session.window);
+    session.FermeDialogues(session.window());
+    session.EnvoieEchap(session.window());
     EXPECT_EQ(machine.keysSent(), u"{ESC}");
-    EXPECT_EQ(machine.foregroundWindow(), session.window);
+    EXPECT_EQ(machine.foregroundWindow(), session.window());
 }
 
 TEST_F(Questions, KeepEachFolderInItsOwnKeyForOlderVersions) {
