@@ -15,7 +15,7 @@ using exercises::firstQuestion;
 using exercises::lastQuestion;
 
 namespace {
-constexpr const char* extension = ".scn";
+constexpr const char* fileType = ".scn";
 } // namespace
 
 std::vector<fs::path> Library::files() const {
@@ -24,7 +24,7 @@ std::vector<fs::path> Library::files() const {
     }
     std::vector<fs::path> all;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder_)) {
-        if (entry.is_regular_file() && entry.path().extension() == extension) {
+        if (entry.is_regular_file() && entry.path().extension() == fileType) {
             all.push_back(entry.path());
         }
     }
@@ -37,7 +37,7 @@ fs::path Library::fileOf(std::int32_t question) const {
         throw UsageError("no question " + std::to_string(question) + ": the course has " +
                          std::to_string(firstQuestion) + " to " + std::to_string(lastQuestion));
     }
-    const fs::path name = "0" + std::to_string(question) + extension;
+    const fs::path name = "0" + std::to_string(question) + fileType;
     const std::vector<fs::path> all = files();
     const auto found =
         std::find_if(all.begin(), all.end(), [&](const fs::path& file) { return file.filename() == name; });

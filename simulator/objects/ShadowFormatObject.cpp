@@ -6,7 +6,7 @@ namespace simulator {
 
 namespace {
 
-constexpr std::int32_t lastStyle = 20;
+constexpr std::int32_t lastShadow = 20;
 constexpr float styleOffset = 6;
 
 /// Gives a shadow the offset of a style, where the style is a plain shadow to one corner.
@@ -56,7 +56,7 @@ std::int32_t ShadowFormatObject::type() const {
 }
 
 void ShadowFormatObject::setType(std::int32_t type) {
-    errors::demandWithin(type, 1, lastStyle, u"ShadowFormat.Type");
+    errors::demandWithin(type, 1, lastShadow, u"ShadowFormat.Type");
     nodes().change([type](Shape& shape) {
         shape.shadow.type = type;
         offsetByStyle(shape.shadow, type);

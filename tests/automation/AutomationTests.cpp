@@ -9,7 +9,7 @@
 
 #include <limits>
 
-namespace {
+namespace automation_tests {
 
 using namespace automation;
 
@@ -158,4 +158,4 @@ TEST(Text, SurvivesTheWayToUtf8AndBack) {
     EXPECT_EQ(lowerCase(u"ÉÈÇÀŒŸ MÉTHODOLOGIE.PPT ×"), u"éèçàœÿ méthodologie.ppt ×");
 }
 
-} // namespace
+} // namespace automation_tests

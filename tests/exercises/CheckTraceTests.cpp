@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace check_trace_tests {
 
 /// The words of a trace, one a line.
 std::string shortened(std::string trace) {
@@ -41,4 +41,4 @@ TEST(Check, ReadsWhatItsQuestionReadsInOrderAndAsOften) {
     }
 }
 
-} // namespace
+} // namespace check_trace_tests

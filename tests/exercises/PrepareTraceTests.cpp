@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace prepare_trace_tests {
 
 using automation::LateBound;
 using tests::ask;
@@ -127,4 +127,4 @@ TEST(Prepare, MakesTheCallsOfItsQuestionInOrder) {
     }
 }
 
-} // namespace
+} // namespace prepare_trace_tests

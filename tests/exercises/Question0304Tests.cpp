@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace question0304_tests {
 
 TEST(Question0304, SearchesTheOutlineAmongHiddenAndSystemFiles) {
     const std::u16string folder(tests::QuestionBench::folder);
@@ -52,4 +52,4 @@ TEST(Question0304, FindsNothingInAFolderThatIsGone) {
     EXPECT_FALSE(bench.testePoint().error);
 }
 
-} // namespace
+} // namespace question0304_tests

@@ -2,7 +2,7 @@
 #include "tests/exercises/QuestionBench.h"
 #include "tests/support/Errors.h"
 
-namespace {
+namespace question_fault_tests {
 
 using automation::Error;
 using automation::FaultInjector;
@@ -103,4 +103,4 @@ TEST_P(EachQuestion, ReportsAFailureAnywhereInTestePoint) {
     EXPECT_EQ(found, GetParam() == 304 ? u"AB" : u"");
 }
 
-} // namespace
+} // namespace question_fault_tests

@@ -5,7 +5,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/TraceLog.h"
 
-namespace {
+namespace question_tests {
 
 using automation::Array;
 using automation::LateBound;
@@ -258,4 +258,4 @@ TEST(ErrorReport, KeepsNumberAndDescription) {
     EXPECT_EQ(outer->helpContext(), 3);
 }
 
-} // namespace
+} // namespace question_tests

@@ -13,7 +13,7 @@
 #include <iterator>
 #include <sstream>
 
-namespace {
+namespace host_tests {
 
 using automation::LateBound;
 using automation::ObjectPtr;
@@ -287,4 +287,4 @@ TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
     EXPECT_TRUE(closed[0].starts_with("TestePoint closed the learner's presentation ")) << closed[0];
 }
 
-} // namespace
+} // namespace host_tests

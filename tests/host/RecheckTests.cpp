@@ -11,7 +11,7 @@
 #include <iterator>
 #include <set>
 
-namespace {
+namespace recheck_tests {
 
 using automation::LateBound;
 using automation::ObjectPtr;
@@ -109,4 +109,4 @@ TEST(Recheck, JudgesASavedPresentationAsTheLiveOne) {
     EXPECT_EQ(judged.size(), scenarios.filesOfCourse({}).size());
 }
 
-} // namespace
+} // namespace recheck_tests

@@ -6,7 +6,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Script.h"
 
-namespace {
+namespace module_fault_tests {
 
 using automation::Access;
 using automation::Crossing;
@@ -123,4 +123,4 @@ TEST_F(ModuleFaults, TemplatesFolderIsTheLearnersOwnWhereThereIsOne) {
     EXPECT_EQ(k73053::templatesFolder(registry), ordinary);
 }
 
-} // namespace
+} // namespace module_fault_tests

@@ -6,7 +6,7 @@
 #include "tests/support/Script.h"
 #include "tests/support/TraceLog.h"
 
-namespace {
+namespace module_trace_tests {
 
 using automation::LateBound;
 using automation::ObjectPtr;
@@ -287,4 +287,4 @@ Application.ShowStartupDialog
 )~");
 }
 
-} // namespace
+} // namespace module_trace_tests

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace machine_tests {
 
 using automation::LateBound;
 using automation::ObjectPtr;
@@ -223,4 +223,4 @@ TEST_F(MachineTest, LeavesNoObjectBehind) {
     EXPECT_EQ(automation::Object::alive(), before);
 }
 
-} // namespace
+} // namespace machine_tests

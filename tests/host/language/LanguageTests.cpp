@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace language_tests {
 
 using automation::Access;
 using automation::Value;
@@ -250,4 +250,4 @@ TEST(Language, AScenarioFileHasItsParts) {
     EXPECT_EQ(file.scenarios[1].lastExpectation(), nullptr);
 }
 
-} // namespace
+} // namespace language_tests

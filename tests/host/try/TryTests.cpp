@@ -7,7 +7,7 @@
 #include <fstream>
 #include <iterator>
 
-namespace {
+namespace try_tests {
 
 using host::ExitCode;
 
@@ -218,4 +218,4 @@ TEST_F(TryTest, GeneralErrorsAreExplained) {
     EXPECT_NE(said.find("To have the same moves judged afresh", judged), std::string::npos) << said;
 }
 
-} // namespace
+} // namespace try_tests

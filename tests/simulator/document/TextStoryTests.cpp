@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 namespace simulator {
-namespace {
+namespace text_story_tests {
 
 using Texts = std::vector<std::u16string>;
 
@@ -162,5 +162,5 @@ TEST(TextStory, AgreesWithAPlainListThroughManyEdits) {
     EXPECT_GT(longest, 40U);
 }
 
-} // namespace
+} // namespace text_story_tests
 } // namespace simulator

@@ -7,7 +7,7 @@
 #include <set>
 
 namespace simulator::compound {
-namespace {
+namespace compound_file_tests {
 
 std::string patterned(std::size_t size, unsigned step) {
     std::string bytes(size, '\0');
@@ -108,5 +108,5 @@ TEST(CompoundFile, SaysWhatIsWrongWithADamagedFile) {
     }
 }
 
-} // namespace
+} // namespace compound_file_tests
 } // namespace simulator::compound

@@ -16,7 +16,7 @@
 #include <fstream>
 #include <iterator>
 
-namespace {
+namespace mutation_tests {
 
 using tests::Chance;
 namespace language = host::language;
@@ -279,4 +279,4 @@ TEST(MutationTests, ObjectsAnswerAnyArgumentsWithAResultOrAnError) {
     EXPECT_GT(refused, 2000U);
 }
 
-} // namespace
+} // namespace mutation_tests

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 namespace simulator::powerpoint {
-namespace {
+namespace outline_file_tests {
 
 using records::Record;
 namespace type = records::type;
@@ -115,5 +115,5 @@ TEST(OutlineFile, CopiesAndDeletedShapesKeepTheOutlineInOrder) {
     EXPECT_EQ(textsOf(*read->slides()[1]), (std::vector<std::u16string>{u""}));
 }
 
-} // namespace
+} // namespace outline_file_tests
 } // namespace simulator::powerpoint

@@ -19,7 +19,7 @@
 #include <fstream>
 
 namespace simulator {
-namespace {
+namespace presentation_file_tests {
 
 using records::Record;
 namespace type = records::type;
@@ -409,5 +409,5 @@ TEST_F(PresentationStoreTest, WritesTheOutlineAsRichText) {
                                     "}\n");
 }
 
-} // namespace
+} // namespace presentation_file_tests
 } // namespace simulator

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 namespace simulator::records {
-namespace {
+namespace record_tests {
 
 constexpr std::uint16_t unknown = 0x2BAD;
 
@@ -46,5 +46,5 @@ TEST(Records, NameTheDamagedOneAndItsPlace) {
     }
 }
 
-} // namespace
+} // namespace record_tests
 } // namespace simulator::records

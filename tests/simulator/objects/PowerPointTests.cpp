@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace power_point_tests {
 
 using automation::LateBound;
 using automation::RunTimeError;
@@ -253,4 +253,4 @@ TEST_F(PowerPointTest, TellsWhetherTheCurveSelectedIsOpen) {
     EXPECT_TRUE(unavailable());
 }
 
-} // namespace
+} // namespace power_point_tests

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace shape_object_tests {
 
 using namespace simulator;
 using automation::Array;
@@ -566,4 +566,4 @@ TEST_F(ShapeObjectTest, TagsAreFoundWithoutCase) {
     EXPECT_EQ(number(tags, u"Count"), 1);
 }
 
-} // namespace
+} // namespace shape_object_tests

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 namespace simulator {
-namespace {
+namespace text_range_tests {
 
 using automation::LateBound;
 using automation::Value;
@@ -239,5 +239,5 @@ TEST_F(TextRange, RaisesOnceItsShapeIsGone) {
     }
 }
 
-} // namespace
+} // namespace text_range_tests
 } // namespace simulator

@@ -9,7 +9,7 @@
 #include <fstream>
 #include <iterator>
 
-namespace {
+namespace picture_tests {
 
 using namespace simulator;
 using automation::LateBound;
@@ -160,4 +160,4 @@ TEST_F(PictureTest, OtherFiltersAndPlacesAreRefused) {
     EXPECT_EQ(errorNumber([&] { say(slide, u"Export", u"C:\\x.svg", u"SVG"); }), gone);
 }
 
-} // namespace
+} // namespace picture_tests

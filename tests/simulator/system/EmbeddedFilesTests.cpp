@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace embedded_files_tests {
 
 using automation::RunTimeError;
 using simulator::EmbeddedFiles;
@@ -135,4 +135,4 @@ TEST_F(EmbeddedFilesTest, MakesFoldersUpToTheLastBackslash) {
     EXPECT_FALSE(files.makeDirectories(u"C:\\x\\fichier\\z\\"));
 }
 
-} // namespace
+} // namespace embedded_files_tests

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace embedded_registry_tests {
 
 using platform::OpenKey;
 using platform::Registry;
@@ -94,4 +94,4 @@ TEST(EmbeddedRegistry, GrantsAccessKeyByKeyAndCountsHandles) {
     EXPECT_EQ(registry.text(u"SOFTWARE\\Nouvelle\\Clé", u""), std::nullopt);
 }
 
-} // namespace
+} // namespace embedded_registry_tests

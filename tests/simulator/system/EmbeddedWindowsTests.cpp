@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace {
+namespace embedded_windows_tests {
 
 using platform::WindowHandle;
 using platform::WindowSystem;
@@ -133,4 +133,4 @@ TEST(EmbeddedLocale, AnswersInTwoSteps) {
     EXPECT_EQ(locale.getInfo(0x400, item, {}), 0);
 }
 
-} // namespace
+} // namespace embedded_windows_tests

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace cost_tests {
 
 const host::WorldMaker makeWorld = host::makeEmbeddedWorld;
 
@@ -31,4 +31,4 @@ TEST(BenchTests, ALargerDeckTakesAsManyCallsAsItsWordsDemand) {
     }
 }
 
-} // namespace
+} // namespace cost_tests

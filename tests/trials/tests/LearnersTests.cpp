@@ -8,7 +8,7 @@
 
 #include <numeric>
 
-namespace {
+namespace learners_tests {
 
 using namespace trials;
 
@@ -52,4 +52,4 @@ TEST(Learners, AreCutDownToWhatCounts) {
     EXPECT_LT(asked, 400U);
 }
 
-} // namespace
+} // namespace learners_tests

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace torture_tests {
 
 using automation::Border;
 using automation::Error;
@@ -182,4 +182,4 @@ TEST(TortureTests, ASampleOfOneQuestionsCallsComesThrough) {
     }
 }
 
-} // namespace
+} // namespace torture_tests
