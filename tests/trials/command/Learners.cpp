@@ -13,14 +13,15 @@
 #include <functional>
 #include <map>
 #include <ostream>
+#include <set>
 
 namespace trials {
 
 namespace {
 
-using learners::Attempt;
 using learners::Finding;
 using learners::Moves;
+using learners::Run;
 
 struct LearnersRequest {
     std::vector<std::int32_t> questions; ///< all where none is named
@@ -37,6 +38,29 @@ std::string outcomeOf(const Reading& reading) {
     return reading.erreurGenerale ? "general " + letter : letter.empty() ? "success" : letter;
 }
 
+std::string outcomeOf(const Expectation& expected) {
+    Reading reading;
+    reading.causeErreur = expected.letter;
+    if (expected.kind == Expectation::Kind::Error) {
+        reading.error.emplace(expected.error.number, u"", u"");
+    }
+    return outcomeOf(reading);
+}
+
+/// What a question's own check can come to: what the checks of its scenarios expect.
+std::set<std::string> outcomesOf(const language::ScenarioFile& file) {
+    std::set<std::string> outcomes;
+    for (const language::Scenario& scenario : file.scenarios) {
+        for (const language::Statement& statement : scenario.statements) {
+            const auto* const check = std::get_if<language::Check>(&statement.node);
+            if (check != nullptr && check->expected.kind != Expectation::Kind::General) {
+                outcomes.insert(outcomeOf(check->expected));
+            }
+        }
+    }
+    return outcomes;
+}
+
 /// What came of the learners of all questions.
 struct LearnersTotals {
     std::size_t learners = 0;
@@ -50,21 +74,21 @@ struct LearnersTotals {
 class Classroom {
 public:
     Classroom(const language::ScenarioFile& file, std::uint32_t draw)
-        : file_(file), lesson_(learners::lessonOf(file.question)), course_(file, makeEmbeddedWorld), draw_(draw) {}
+        : file_(file), outcomesSought_(outcomesOf(file)), course_(file, makeEmbeddedWorld), draw_(draw) {}
 
     /// Stops at the first disagreement, whose scenario is saved in `folder`. `work` is told of every learner.
     void run(std::size_t runs, const std::string& folder, std::ostream& out,
              const std::function<void(std::size_t run)>& work) {
-        const learners::Learner learner(lesson_, course_, draw_);
+        const learners::Learner learner(file_, course_, draw_);
         while (runs_ != runs && disagreements_ == 0) {
             work(++runs_);
-            const Attempt attempt = learner.work();
-            for (const Finding& finding : attempt.findings) {
+            const Run run = learner.work();
+            for (const Finding& finding : run.findings) {
                 ++outcomes_[outcomeOf(finding.read)];
             }
-            if (!attempt.isAgreed()) {
+            if (!run.isAgreed()) {
                 ++disagreements_;
-                save(attempt, folder, out);
+                save(run, folder, out);
             }
         }
     }
@@ -80,7 +104,7 @@ public:
             out << " no " << outcome << ',';
         }
         out << ' ' << disagreements_ << " disagreements\n";
-        const bool isMonotonous = lesson_.outcomes.size() > 1 && missing.size() + 1 >= lesson_.outcomes.size();
+        const bool isMonotonous = outcomesSought_.size() > 1 && missing.size() + 1 >= outcomesSought_.size();
         if (isMonotonous) {
             out << "question " << file_.question << ": the learners do not come to enough\n";
         }
@@ -93,18 +117,18 @@ public:
             totals.checks += count;
         }
         totals.disagreements += disagreements_;
-        totals.outcomes += lesson_.outcomes.size();
+        totals.outcomes += outcomesSought_.size();
         totals.missing += outcomesMissing().size();
     }
 
 private:
     [[nodiscard]] std::vector<std::string> outcomesMissing() const {
-        std::vector<std::string> missing = lesson_.outcomes;
+        std::vector<std::string> missing(outcomesSought_.begin(), outcomesSought_.end());
         std::erase_if(missing, [this](const std::string& outcome) { return outcomes_.contains(outcome); });
         return missing;
     }
 
-    void save(const Attempt& attempt, const std::string& folder, std::ostream& out) const {
+    void save(const Run& run, const std::string& folder, std::ostream& out) const {
         const auto disagrees = [this](const Moves& moves) {
             if (moves.empty() || moves.back() != learners::checkMove) {
                 return false;
@@ -112,10 +136,10 @@ private:
             const auto findings = learners::replay(file_.question, course_, moves);
             return findings && !findings->back().isAgreed();
         };
-        const bool isReproduced = disagrees(attempt.moves);
-        const Moves moves = isReproduced ? learners::shrunk(attempt.moves, disagrees) : attempt.moves;
+        const bool isReproduced = disagrees(run.moves);
+        const Moves moves = isReproduced ? learners::shrunk(run.moves, disagrees) : run.moves;
         const std::vector<Finding> findings =
-            isReproduced ? learners::replay(file_.question, course_, moves).value() : attempt.findings;
+            isReproduced ? learners::replay(file_.question, course_, moves).value() : run.findings;
         const std::string text = scenarioText(file_, moves, findings, "what a learner did");
         const std::string path = folder + "/learner-0" + std::to_string(file_.question) + ".scn";
         out << "question " << file_.question << ", run " << runs_ << ": expected " << findings.back().wanted.display()
@@ -125,7 +149,7 @@ private:
     }
 
     const language::ScenarioFile& file_;
-    const learners::Lesson& lesson_;
+    std::set<std::string> outcomesSought_;
     Course course_;
     learners::Draw draw_;
     std::size_t runs_ = 0;

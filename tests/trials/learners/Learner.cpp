@@ -1,30 +1,64 @@
 #include "tests/trials/learners/Learner.h"
 
+#include "automation/Text.h"
 #include "tests/trials/learners/Gestures.h"
+
+#include <regex>
 
 namespace trials::learners {
 
-Attempt Learner::work() const {
-    Trial trial(lesson_.question, course_);
-    Attempt attempt;
+namespace {
+
+/// What the host does of itself is none of a learner's moves.
+bool isOfLearner(const language::Statement& statement) {
+    const bool isMove = std::holds_alternative<language::Call>(statement.node) ||
+                        std::holds_alternative<language::Assignment>(statement.node);
+    return isMove && !statement.text.starts_with(u"Host.");
+}
+
+} // namespace
+
+Learner::Learner(const language::ScenarioFile& file, const Course& course, Draw& draw)
+    : question_(file.question), course_(course), draw_(draw) {
+    static const std::regex shapesOfSlide(R"(\((\d)\)\.Shapes)");
+    for (const language::Scenario& scenario : file.scenarios) {
+        Moves moves;
+        for (const language::Statement& statement : scenario.statements) {
+            if (std::holds_alternative<language::Check>(statement.node) && !scenario.startsBeforeInitQuestion) {
+                ways_.push_back(moves);
+            } else if (isOfLearner(statement)) {
+                moves.push_back(statement.text);
+                const std::string text = automation::toUtf8(statement.text);
+                if (std::smatch slide; std::regex_search(text, slide, shapesOfSlide)) {
+                    slides_.push_back(static_cast<std::size_t>(std::stoi(slide[1])));
+                }
+            }
+        }
+    }
+    slides_.push_back(1);
+}
+
+Run Learner::work() const {
+    Trial trial(question_, course_);
+    Run run;
     for (std::size_t checks = draw_.percent(75) ? 1 : draw_.between(2, 3); checks != 0; --checks) {
-        workOn(trial, attempt.moves);
-        attempt.moves.emplace_back(checkMove);
-        attempt.findings.push_back(trial.check());
-        if (!attempt.isAgreed()) {
-            return attempt;
+        workOn(trial, run.moves);
+        run.moves.emplace_back(checkMove);
+        run.findings.push_back(trial.check());
+        if (!run.isAgreed()) {
+            return run;
         }
         if (draw_.percent(60) && checks != 1) {
-            perform(u"Host.InitQuestion", trial, attempt.moves);
+            perform(u"Host.InitQuestion", trial, run.moves);
         }
     }
     trial.finish();
-    return attempt;
+    return run;
 }
 
 void Learner::workOn(Trial& trial, Moves& moves) const {
     if (draw_.percent(75)) {
-        followLesson(trial, moves);
+        followScenarios(trial, moves);
     } else {
         for (std::size_t left = draw_.between(1, 5); left != 0; --left) {
             doAnything(trial, moves);
@@ -32,18 +66,25 @@ void Learner::workOn(Trial& trial, Moves& moves) const {
     }
 }
 
-void Learner::followLesson(Trial& trial, Moves& moves) const {
-    const bool isStubborn = draw_.percent(20); // the same way in every step
-    const std::size_t way = draw_.below(8);
-    for (const Step& step : lesson_.steps) {
-        if (draw_.percent(8)) {
+void Learner::followScenarios(Trial& trial, Moves& moves) const {
+    Moves way = draw_.of(ways_);
+    if (draw_.percent(20)) {
+        const Moves& other = draw_.of(ways_);
+        way.resize(draw_.below(way.size() + 1));
+        way.insert(way.end(), other.begin(), other.end());
+    }
+    if (draw_.percent(10)) {
+        for (std::u16string& move : way) {
+            std::swap(move, way[draw_.below(way.size())]);
+        }
+    }
+    const std::size_t slips = draw_.percent(60) ? 0 : 8;
+    for (const std::u16string& move : way) {
+        if (draw_.percent(slips)) {
             doAnything(trial, moves);
         }
-        if (!draw_.percent(8)) {
-            perform(isStubborn          ? step[way % step.size()]
-                    : draw_.percent(65) ? step.front()
-                                        : draw_.of(step),
-                    trial, moves);
+        if (!draw_.percent(slips)) {
+            perform(move, trial, moves);
         }
     }
     if (draw_.percent(15)) {
@@ -53,7 +94,7 @@ void Learner::followLesson(Trial& trial, Moves& moves) const {
 
 void Learner::doAnything(Trial& trial, Moves& moves) const {
     const Scene scene = trial.scene();
-    const std::size_t slide = draw_.percent(90) ? lesson_.slide : draw_.between(1, 5);
+    const std::size_t slide = draw_.percent(90) ? draw_.of(slides_) : draw_.between(1, 5);
     perform(anyGesture({scene, draw_, slide}), trial, moves);
 }
 

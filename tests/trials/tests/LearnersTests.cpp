@@ -25,14 +25,13 @@ TEST(Learners, AreTakenDownAsScenarios) {
         const Course course(file, makeEmbeddedWorld);
         learners::Draw draw(static_cast<std::uint32_t>(question));
         for (int i = 0; i < 3; ++i) {
-            learners::Attempt attempt = learners::Learner(learners::lessonOf(question), course, draw).work();
-            const std::string right = learners::scenarioText(file, attempt.moves, attempt.findings, "a learner");
+            learners::Run run = learners::Learner(file, course, draw).work();
+            const std::string right = learners::scenarioText(file, run.moves, run.findings, "a learner");
             EXPECT_TRUE(failuresOf(right).empty()) << failuresOf(right).front().in("learner.scn") << "\n" << right;
-            attempt.findings.back().wanted = Reading();
-            attempt.findings.back().wanted.causeErreur = u"Q";
-            EXPECT_FALSE(attempt.isAgreed());
-            const auto failures =
-                failuresOf(learners::scenarioText(file, attempt.moves, attempt.findings, "a learner"));
+            run.findings.back().wanted = Reading();
+            run.findings.back().wanted.causeErreur = u"Q";
+            EXPECT_FALSE(run.isAgreed());
+            const auto failures = failuresOf(learners::scenarioText(file, run.moves, run.findings, "a learner"));
             ASSERT_EQ(failures.size(), 1U);
             EXPECT_TRUE(failures.front().message.starts_with("expected the letter \"Q\", the host reads "));
         }
