@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/files/PresentationFormat.h"
+#include "simulator/files/DamagedPresentation.h"
 
 #include <concepts>
 #include <cstdint>

@@ -1,9 +1,11 @@
 #include "simulator/files/FilePresentationStore.h"
 
 #include "automation/Text.h"
+#include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/Outline.h"
-#include "simulator/files/PowerPointFormat.h"
-#include "simulator/objects/PowerPointObject.h"
+#include "simulator/files/powerpoint/DocumentReader.h"
+#include "simulator/files/powerpoint/DocumentWriter.h"
+#include "simulator/process/Errors.h"
 
 #include <fstream>
 #include <iterator>
@@ -33,9 +35,6 @@ bool writeWhole(const std::filesystem::path& file, const std::string& bytes) {
 
 } // namespace
 
-FilePresentationStore::FilePresentationStore(Locate locate, std::unique_ptr<const PresentationFormat> format)
-    : locate_(std::move(locate)), format_(format ? std::move(format) : std::make_unique<const PowerPointFormat>()) {}
-
 PresentationPtr FilePresentationStore::load(std::u16string_view path) {
     const std::filesystem::path file = locate_(path);
     std::error_code ignored;
@@ -48,14 +47,14 @@ PresentationPtr FilePresentationStore::load(std::u16string_view path) {
         cannotOpen(path, u"lecture impossible.");
     }
     try {
-        return format_->load(bytes);
+        return powerpoint::readPresentation(bytes);
     } catch (const DamagedPresentation& damage) {
         cannotOpen(path, u"le fichier est endommagé (" + automation::fromUtf8(damage.what()) + u").");
     }
 }
 
 void FilePresentationStore::save(const Presentation& presentation, std::u16string_view path) {
-    write(format_->save(presentation), path);
+    write(powerpoint::writePresentation(presentation), path);
 }
 
 void FilePresentationStore::saveOutline(const Presentation& presentation, std::u16string_view path) {

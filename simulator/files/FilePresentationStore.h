@@ -1,11 +1,9 @@
 #pragma once
 
-#include "simulator/files/PresentationFormat.h"
 #include "simulator/process/Session.h"
 
 #include <filesystem>
 #include <functional>
-#include <memory>
 
 namespace simulator {
 
@@ -16,8 +14,7 @@ public:
     /// Tells where a Windows path lies on the real disk.
     using Locate = std::function<std::filesystem::path(std::u16string_view)>;
 
-    /// The format is PowerPoint's own where none is given.
-    explicit FilePresentationStore(Locate locate, std::unique_ptr<const PresentationFormat> format = nullptr);
+    explicit FilePresentationStore(Locate locate) : locate_(std::move(locate)) {}
 
     [[nodiscard]] PresentationPtr load(std::u16string_view path) override;
     /// A file that was there stays as it was where saving fails.
@@ -31,7 +28,6 @@ private:
     void write(const std::string& bytes, std::u16string_view path);
 
     Locate locate_;
-    std::unique_ptr<const PresentationFormat> format_;
 };
 
 } // namespace simulator

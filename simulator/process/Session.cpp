@@ -2,7 +2,7 @@
 
 #include "automation/Error.h"
 #include "automation/Text.h"
-#include "simulator/objects/PowerPointObject.h"
+#include "simulator/process/Errors.h"
 
 #include <algorithm>
 #include <utility>

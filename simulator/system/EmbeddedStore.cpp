@@ -1,6 +1,6 @@
 #include "simulator/system/EmbeddedStore.h"
 
-#include "simulator/objects/PowerPointObject.h"
+#include "simulator/process/Errors.h"
 
 namespace simulator {
 

@@ -1,4 +1,4 @@
-#include "simulator/files/PresentationFormat.h"
+#include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
 

@@ -1,8 +1,9 @@
 #include "simulator/document/SlideLayout.h"
 #include "simulator/files/Bytes.h"
-#include "simulator/files/PowerPointFormat.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
+#include "simulator/files/powerpoint/DocumentReader.h"
+#include "simulator/files/powerpoint/DocumentWriter.h"
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/RecordTypes.h"
@@ -54,7 +55,7 @@ std::string withTitleInOutline() {
     layOut(*slide, ppLayoutText);
     slide->shapes()[0]->text->replace({}, u"Faire le plan");
     slide->shapes()[0]->text->format({0, 5}, [](CharacterFormat& format) { format.size = 60; });
-    const std::string file = PowerPointFormat().save(*presentation);
+    const std::string file = writePresentation(*presentation);
 
     const auto origin = readObjects(file);
     PersistObject document = origin->objects.all().front();
@@ -69,18 +70,17 @@ std::string withTitleInOutline() {
 }
 
 TEST(OutlineFile, TextsOfTheOutlineAreReadAndGoBackThere) {
-    const PowerPointFormat format;
     const std::string file = withTitleInOutline();
-    const PresentationPtr presentation = format.load(file);
+    const PresentationPtr presentation = readPresentation(file);
     TextStory& title = *presentation->slides().front()->shapes()[0]->text;
     EXPECT_EQ(title.text(), u"Faire le plan");
     EXPECT_EQ(title.formatAt(0).size, 60);
     EXPECT_EQ(title.formatAt(6).size, 44);
 
-    const std::string saved = format.save(*presentation);
-    EXPECT_EQ(format.save(*format.load(saved)), saved);
+    const std::string saved = writePresentation(*presentation);
+    EXPECT_EQ(writePresentation(*readPresentation(saved)), saved);
     title.replace({0, 5}, u"Créer");
-    const std::string changed = format.save(*presentation);
+    const std::string changed = writePresentation(*presentation);
     const auto origin = readObjects(changed);
     Record slide = origin->objects.all().back().record;
     const std::vector<Record>& box = titleIn(slide).find(type::ArtClientTextbox)->children;
@@ -89,20 +89,19 @@ TEST(OutlineFile, TextsOfTheOutlineAreReadAndGoBackThere) {
     const Record& list = *origin->objects.find(origin->document)->find(type::SlideListWithText, slideList::slides);
     EXPECT_EQ(files::utf16Text(list.demand(type::TextCharsAtom).data), u"Créer le plan");
     EXPECT_TRUE(list.children.back().is(type::TextRulerAtom));
-    const PresentationPtr again = format.load(changed);
+    const PresentationPtr again = readPresentation(changed);
     EXPECT_EQ(*again->slides().front()->shapes()[0]->text, title);
 }
 
 /// Copies share what they were read from, and yet each has a text of its own.
 TEST(OutlineFile, CopiesAndDeletedShapesKeepTheOutlineInOrder) {
-    const PowerPointFormat format;
-    const PresentationPtr presentation = format.load(withTitleInOutline());
+    const PresentationPtr presentation = readPresentation(withTitleInOutline());
     const SlidePtr slide = presentation->slides().front();
     presentation->insert(slide->clone(), 1);
     slide->add(slide->shapes()[0]->clone(), u"Rectangle");
     slide->shapes().back()->text->replace({0, 5}, u"Deux");
     presentation->slides()[1]->remove(presentation->slides()[1]->shapes()[0]);
-    const PresentationPtr read = format.load(format.save(*presentation));
+    const PresentationPtr read = readPresentation(writePresentation(*presentation));
     const auto textsOf = [](const Slide& of) {
         std::vector<std::u16string> texts;
         for (const ShapePtr& shape : of.shapes()) {

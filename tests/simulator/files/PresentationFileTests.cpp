@@ -4,9 +4,10 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/files/Bytes.h"
 #include "simulator/files/FilePresentationStore.h"
-#include "simulator/files/PowerPointFormat.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
+#include "simulator/files/powerpoint/DocumentReader.h"
+#include "simulator/files/powerpoint/DocumentWriter.h"
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/PersistWriter.h"
 #include "simulator/files/records/RecordTypes.h"
@@ -96,10 +97,9 @@ void expectSame(const std::vector<ShapePtr>& left, const std::vector<ShapePtr>& 
     }
 }
 
-TEST(PresentationFormat, KeepsEverythingOfADocument) {
-    const PowerPointFormat format;
+TEST(PresentationFile, KeepsEverythingOfADocument) {
     const PresentationPtr written = richPresentation();
-    const PresentationPtr read = format.load(format.save(*written));
+    const PresentationPtr read = powerpoint::readPresentation(powerpoint::writePresentation(*written));
     EXPECT_EQ(read->snapToGrid, written->snapToGrid);
     EXPECT_EQ(read->slideWidth, written->slideWidth);
     EXPECT_EQ(read->slideHeight, written->slideHeight);
@@ -113,11 +113,11 @@ TEST(PresentationFormat, KeepsEverythingOfADocument) {
         EXPECT_EQ(b.presentation.lock(), read);
         expectSame(a.shapes(), b.shapes(), b);
     }
-    EXPECT_EQ(format.save(*read), format.save(*written));
+    EXPECT_EQ(powerpoint::writePresentation(*read), powerpoint::writePresentation(*written));
 }
 
 /// Every fill, line, anchor, flow and AutoShape that the object model can ask for.
-TEST(PresentationFormat, KeepsEveryKind) {
+TEST(PresentationFile, KeepsEveryKind) {
     const auto presentation = std::make_shared<Presentation>();
     const auto slide = std::make_shared<Slide>();
     presentation->insert(slide, 0);
@@ -142,13 +142,12 @@ TEST(PresentationFormat, KeepsEveryKind) {
     slide->shapes().back()->id = 5000; // beyond the numbers that one cluster has
     slide->insert(slide->shapes().front()->clone(), 0);
     slide->shapes().front()->id = 1024;
-    const PowerPointFormat format;
-    const PresentationPtr read = format.load(format.save(*presentation));
+    const PresentationPtr read = powerpoint::readPresentation(powerpoint::writePresentation(*presentation));
     ASSERT_EQ(read->slides().front()->shapes().size(), static_cast<std::size_t>(many) + 1);
     expectSame(slide->shapes(), read->slides().front()->shapes(), *read->slides().front());
 }
 
-TEST(PresentationFormat, ReadsFiftySlidesQuickly) {
+TEST(PresentationFile, ReadsFiftySlidesQuickly) {
     const auto presentation = std::make_shared<Presentation>();
     for (int i = 0; i < 50; ++i) {
         const auto slide = std::make_shared<Slide>();
@@ -157,19 +156,18 @@ TEST(PresentationFormat, ReadsFiftySlidesQuickly) {
         }
         presentation->insert(slide, 0);
     }
-    const PowerPointFormat format;
-    const std::string file = format.save(*presentation);
+    const std::string file = powerpoint::writePresentation(*presentation);
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(format.load(file)->slides().size(), 50U);
+    EXPECT_EQ(powerpoint::readPresentation(file)->slides().size(), 50U);
     const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
     std::cout << "50 slides of 10 shapes, " << file.size() << " bytes: " << taken.count() << " ms\n";
     EXPECT_LT(taken.count(), 1000); // 50 on a machine that does nothing else, far more under sanitizers
 }
 
 /// What a file says of a presentation survives changes around it.
-TEST(PresentationFormat, WritesChangesOverWhatWasRead) {
-    const PowerPointFormat format;
-    const PresentationPtr presentation = format.load(format.save(*richPresentation()));
+TEST(PresentationFile, WritesChangesOverWhatWasRead) {
+    const PresentationPtr presentation =
+        powerpoint::readPresentation(powerpoint::writePresentation(*richPresentation()));
     const SlidePtr first = presentation->slides().front();
     first->shapes().front()->setFrame({1, 2, 3, 4});
     first->shapes().front()->text->replace({0, 2}, u"Trois");
@@ -182,7 +180,7 @@ TEST(PresentationFormat, WritesChangesOverWhatWasRead) {
     presentation->colors.colors[0] = 0x123456;
     presentation->snapToGrid = true;
     presentation->tags.add(u"Autre", u"1");
-    const PresentationPtr read = format.load(format.save(*presentation));
+    const PresentationPtr read = powerpoint::readPresentation(powerpoint::writePresentation(*presentation));
     ASSERT_EQ(read->slides().size(), 3U);
     EXPECT_EQ(read->colors, presentation->colors);
     EXPECT_EQ(read->snapToGrid, true);
@@ -191,7 +189,7 @@ TEST(PresentationFormat, WritesChangesOverWhatWasRead) {
         EXPECT_EQ(read->slides()[i]->name, presentation->slides()[i]->name);
         expectSame(presentation->slides()[i]->shapes(), read->slides()[i]->shapes(), *read->slides()[i]);
     }
-    EXPECT_EQ(format.save(*read), format.save(*presentation));
+    EXPECT_EQ(powerpoint::writePresentation(*read), powerpoint::writePresentation(*presentation));
 }
 
 /// The file of a presentation with its document's stream, or another one, changed.
@@ -221,9 +219,8 @@ std::string withRecord(const std::string& file, std::uint16_t wanted, std::size_
     return powerpoint::writeObjects(objects, origin->userEdit, *origin);
 }
 
-TEST(PresentationFormat, SaysWhatIsWrongWithADamagedFile) {
-    const PowerPointFormat format;
-    const std::string sound = format.save(*richPresentation());
+TEST(PresentationFile, SaysWhatIsWrongWithADamagedFile) {
+    const std::string sound = powerpoint::writePresentation(*richPresentation());
     const auto inDocument = [&](const std::function<void(std::string&)>& change) {
         return withStream(sound, u"PowerPoint Document", change);
     };
@@ -262,7 +259,7 @@ TEST(PresentationFormat, SaysWhatIsWrongWithADamagedFile) {
     };
     for (const auto& [bytes, wanted] : cases) {
         try {
-            (void)format.load(bytes);
+            (void)powerpoint::readPresentation(bytes);
             ADD_FAILURE() << "read although: " << wanted;
         } catch (const DamagedPresentation& damage) {
             EXPECT_NE(std::string(damage.what()).find(wanted), std::string::npos) << damage.what() << " / " << wanted;
@@ -272,8 +269,8 @@ TEST(PresentationFormat, SaysWhatIsWrongWithADamagedFile) {
 }
 
 /// A slide with thousands of shapes of one number, of tags and of style runs: none is lost, none confused with another.
-TEST(PresentationFormat, ReadsManyShapesOfOneNumber) {
-    const auto origin = powerpoint::readObjects(PowerPointFormat().save(*richPresentation()));
+TEST(PresentationFile, ReadsManyShapesOfOneNumber) {
+    const auto origin = powerpoint::readObjects(powerpoint::writePresentation(*richPresentation()));
     powerpoint::PersistObjects objects = origin->objects;
     constexpr int many = 5'000;
     objects.forEach([](std::uint32_t, Record& record) {
@@ -299,15 +296,14 @@ TEST(PresentationFormat, ReadsManyShapesOfOneNumber) {
         record.children.push_back(std::move(tags));
     });
     const std::string file = powerpoint::writeObjects(objects, origin->userEdit, *origin);
-    const PresentationPtr read = PowerPointFormat().load(file);
+    const PresentationPtr read = powerpoint::readPresentation(file);
     EXPECT_EQ(read->slides().front()->tags.all().size(), std::size_t{many});
     EXPECT_GE(read->slides().front()->shapes().size(), std::size_t{many});
 }
 
 /// Hundreds of files with a few wrong bytes: each is read or refused, and one that is read can be saved.
-TEST(PresentationFormat, WithstandsWrongBytes) {
-    const PowerPointFormat format;
-    const std::string sound = format.save(*richPresentation());
+TEST(PresentationFile, WithstandsWrongBytes) {
+    const std::string sound = powerpoint::writePresentation(*richPresentation());
     const std::string document = compound::read(sound).stream(u"PowerPoint Document")->bytes;
     tests::Chance chance;
     const auto number = [&chance](std::size_t below) { return chance.below(below); };
@@ -321,7 +317,7 @@ TEST(PresentationFormat, WithstandsWrongBytes) {
             bytes[number(bytes.size())] = static_cast<char>(favourites.at(number(favourites.size())));
         }
         try {
-            const PresentationPtr read = format.load(
+            const PresentationPtr read = powerpoint::readPresentation(
                 inContainer ? bytes : withStream(sound, u"PowerPoint Document", [&](std::string& b) { b = bytes; }));
             for (const SlidePtr& slide : read->slides()) {
                 for (const ShapePtr& shape : slide->shapes()) {
@@ -331,7 +327,8 @@ TEST(PresentationFormat, WithstandsWrongBytes) {
                     }
                 }
             }
-            EXPECT_NO_THROW((void)format.load(format.save(*read))) << "round " << round;
+            EXPECT_NO_THROW((void)powerpoint::readPresentation(powerpoint::writePresentation(*read)))
+                << "round " << round;
         } catch (const DamagedPresentation&) {
             ++refused;
         }

@@ -1,4 +1,4 @@
-#include "simulator/files/PresentationFormat.h"
+#include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/records/RecordReader.h"
 #include "simulator/files/records/RecordTypes.h"
 

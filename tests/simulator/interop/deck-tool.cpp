@@ -3,7 +3,8 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/document/Presentation.h"
 #include "simulator/document/SlideLayout.h"
-#include "simulator/files/PowerPointFormat.h"
+#include "simulator/files/powerpoint/DocumentReader.h"
+#include "simulator/files/powerpoint/DocumentWriter.h"
 
 #include <fstream>
 #include <iostream>
@@ -21,7 +22,7 @@ std::string contents(const std::string& path) {
 }
 
 void save(const Presentation& presentation, const std::string& path) {
-    std::ofstream(path, std::ios::binary) << PowerPointFormat().save(presentation);
+    std::ofstream(path, std::ios::binary) << powerpoint::writePresentation(presentation);
 }
 
 /// A text on one line: paragraph marks as |, line breaks as /.
@@ -142,11 +143,11 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 2 && words[0] == "make") {
         save(*made(), words[1]);
     } else if (words.size() == 2 && words[0] == "dump") {
-        dump(*PowerPointFormat().load(contents(words[1])));
+        dump(*powerpoint::readPresentation(contents(words[1])));
     } else if (words.size() == 3 && words[0] == "copy") {
-        save(*PowerPointFormat().load(contents(words[1])), words[2]);
+        save(*powerpoint::readPresentation(contents(words[1])), words[2]);
     } else if (words.size() == 3 && edits.contains(words[0])) {
-        const PresentationPtr presentation = PowerPointFormat().load(contents(words[1]));
+        const PresentationPtr presentation = powerpoint::readPresentation(contents(words[1]));
         edits.at(words[0])(*presentation);
         save(*presentation, words[2]);
     } else {
