@@ -56,7 +56,7 @@ public:
 
 private:
     FileResult run(const language::ScenarioFile& file) {
-        FileResult result{file.name, file.question, toUtf8(file.heading), {}};
+        FileResult result{file.name, file.question, toUtf8(file.subject()), {}};
         Watch watch(Watch::patience, at_.out);
         watch.next(file.name + ", its course");
         const Runner runner(file, at_.worlds.chosen());

@@ -57,9 +57,14 @@ struct Check {
 };
 
 /// A value that must be found.
-struct ExpectValue {
+struct Equation {
     Expression actual;
     Expression wanted;
+};
+
+/// Values that must be found, in order.
+struct ExpectValues {
+    std::vector<Equation> equations;
 };
 
 /// A statement that must raise.
@@ -71,7 +76,7 @@ struct ExpectError {
 struct Statement {
     Place place;
     std::u16string text; ///< the line as it is written, without blanks around it and without its comment
-    std::variant<Call, Assignment, Check, ExpectValue, ExpectError> node;
+    std::variant<Call, Assignment, Check, ExpectValues, ExpectError> node;
 };
 
 /// What happens from one InitQuestion to the closing of the question.
@@ -85,13 +90,38 @@ struct Scenario {
     [[nodiscard]] const Expectation* lastExpectation() const;
 };
 
+/// A verdict that a question can come to, and what it says of the learner's work.
+struct Meaning {
+    Place place;
+    Expectation verdict; ///< a letter, a remark or a raised error
+    std::u16string text; ///< in a sentence
+};
+
+/// What is known of a question beside the learners' moves. Every part may be missing.
+struct Contract {
+    std::u16string task; ///< what the learner is to do, in a sentence
+    std::vector<Meaning> meanings;
+    std::vector<Statement> delivered; ///< what the presentation delivered must fulfil
+
+    /// The letters declared, those of remarks among them, in order.
+    [[nodiscard]] std::vector<std::u16string> letters() const;
+    /// What a letter means; null where it is not declared.
+    [[nodiscard]] const Meaning* meaningOf(std::u16string_view letter) const;
+    /// What the host reads where the learner has done the task.
+    [[nodiscard]] Expectation success() const;
+};
+
 /// A scenario file.
 struct ScenarioFile {
     std::string name;
     std::int32_t question = 0;
-    std::u16string heading;        ///< what the comment above the question says
+    std::u16string heading; ///< what the comment above the question says
+    Contract contract;
     std::vector<Statement> course; ///< statements that build the presentation delivered
     std::vector<Scenario> scenarios;
+
+    /// What the file is about, on a line: its question and task, or else its heading; may be empty.
+    [[nodiscard]] std::u16string subject() const;
 };
 
 } // namespace host::language

@@ -117,12 +117,14 @@ void Interpreter::perform(const Check& check) {
     }
 }
 
-void Interpreter::perform(const ExpectValue& expectation) {
-    const Value actual = valueOf(expectation.actual);
-    const Value wanted = valueOf(expectation.wanted);
-    if (!placed(expectation.actual.place, [&] { return areEqual(actual, wanted); })) {
-        throw Failure({place_, "expected " + automation::toUtf8(wanted.display()) + ", found " +
-                                   automation::toUtf8(actual.display())});
+void Interpreter::perform(const ExpectValues& expectation) {
+    for (const auto& [actual, wanted] : expectation.equations) {
+        const Value found = valueOf(actual);
+        const Value value = valueOf(wanted);
+        if (!placed(actual.place, [&] { return areEqual(found, value); })) {
+            throw Failure({actual.place, "expected " + automation::toUtf8(value.display()) + ", found " +
+                                             automation::toUtf8(found.display())});
+        }
     }
 }
 

@@ -39,7 +39,7 @@ private:
     void perform(const Call& call);
     void perform(const Assignment& assignment);
     void perform(const Check& check);
-    void perform(const ExpectValue& expectation);
+    void perform(const ExpectValues& expectation);
     void perform(const ExpectError& expectation);
 
     automation::Value valueOf(const Expression& expression);

@@ -34,6 +34,10 @@ bool LineParser::takeWord(std::u16string_view word) {
     return found;
 }
 
+bool LineParser::takeWordBefore(TokenKind next, std::u16string_view word) {
+    return !atEnd() && tokens_[position_ + 1].kind == next && takeWord(word);
+}
+
 bool LineParser::takeSymbol(char16_t sign) {
     const bool found = peek().isSymbol(sign);
     position_ += found ? 1 : 0;
@@ -51,6 +55,13 @@ std::u16string LineParser::text(const std::string& expected) {
         fail("expected " + expected);
     }
     return take().value.to<std::u16string>();
+}
+
+std::u16string LineParser::sentence(const std::string& expected) {
+    if (peek().kind == TokenKind::Text && peek().value.to<std::u16string>().empty()) {
+        fail("expected " + expected);
+    }
+    return text(expected);
 }
 
 std::int32_t LineParser::number(const std::string& expected) {
@@ -121,6 +132,20 @@ std::vector<std::u16string> LineParser::complement() {
     return lines;
 }
 
+Meaning LineParser::meaning(Expectation::Kind kind) {
+    Meaning result;
+    result.verdict.kind = kind;
+    if (kind == Expectation::Kind::Error) {
+        result.verdict.error = expectedError();
+        requireSymbol(u':');
+    } else {
+        result.verdict.letter = sentence("the letter, in quotes");
+    }
+    result.text = sentence("what it means, in quotes");
+    end();
+    return result;
+}
+
 ExpectedError LineParser::expectedError() {
     ExpectedError error;
     error.number = number("the number of the error");
@@ -146,9 +171,13 @@ decltype(Statement::node) LineParser::expectation() {
         }
         return node;
     }
-    Expression actual = expression();
-    requireSymbol(u'=');
-    return ExpectValue{std::move(actual), expression()};
+    ExpectValues node;
+    do {
+        Expression actual = expression();
+        requireSymbol(u'=');
+        node.equations.push_back({std::move(actual), expression()});
+    } while (takeSymbol(u','));
+    return node;
 }
 
 decltype(Statement::node) LineParser::assignment(bool isSet) {

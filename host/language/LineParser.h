@@ -14,7 +14,11 @@ public:
     [[nodiscard]] bool atEnd() const { return peek().kind == TokenKind::End; }
     /// Takes a word, its case ignored. False where something else stands.
     bool takeWord(std::u16string_view word);
+    /// The same, but only where the next token is of this kind: elsewhere the word may be a variable.
+    bool takeWordBefore(TokenKind next, std::u16string_view word);
     std::u16string text(const std::string& expected);
+    /// A text that is not empty.
+    std::u16string sentence(const std::string& expected);
     std::int32_t number(const std::string& expected);
     void end();
     /// For the statement behind `expect error`, which must not be another expectation.
@@ -23,6 +27,8 @@ public:
     /// A whole statement, up to the end of the line. An `expect error` whose line ends with the colon comes back
     /// without its statement.
     Statement statement();
+    /// A verdict of this kind and what it means, up to the end of the line.
+    Meaning meaning(Expectation::Kind kind);
     /// An expression on its own, up to the end of the line.
     Expression wholeExpression();
 

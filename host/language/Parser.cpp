@@ -2,8 +2,11 @@
 
 #include "automation/Text.h"
 #include "host/language/LineParser.h"
+#include "host/language/Words.h"
 
 #include <algorithm>
+#include <array>
+#include <tuple>
 
 namespace host::language {
 
@@ -14,6 +17,13 @@ Statement statementOf(std::u16string_view line, const std::vector<Token>& tokens
     const std::size_t first = tokens.front().place.column;
     statement.text = line.substr(first - 1, tokens.back().place.column - first);
     return statement;
+}
+
+/// True for an expectation of values, and for a variable that is set.
+bool changesNothing(const Statement& statement) {
+    const auto* const assignment = std::get_if<Assignment>(&statement.node);
+    return std::holds_alternative<ExpectValues>(statement.node) ||
+           (assignment != nullptr && !std::get<Reference>(assignment->target.node).object);
 }
 
 class FileParser {
@@ -90,7 +100,7 @@ private:
             scenario(words, place);
         } else if (words.takeWord(u"before")) {
             before(words, place);
-        } else {
+        } else if (!contract(words, place)) {
             add(statementOf(line, tokens));
         }
     }
@@ -103,16 +113,71 @@ private:
         words.end();
     }
 
+    /// Reads a line of the contract. False where it is none.
+    bool contract(LineParser& words, Place place) {
+        constexpr std::array<std::tuple<std::u16string_view, TokenKind, Expectation::Kind>, 3> verdicts{{
+            {u"letter", TokenKind::Text, Expectation::Kind::Letter},
+            {u"remark", TokenKind::Text, Expectation::Kind::Remark},
+            {u"error", TokenKind::Number, Expectation::Kind::Error},
+        }};
+        for (const auto& [word, next, kind] : verdicts) {
+            if (words.takeWordBefore(next, word)) {
+                meaning(words.meaning(kind), place);
+                return true;
+            }
+        }
+        if (words.takeWordBefore(TokenKind::Text, u"task")) {
+            task(words, place);
+        } else if (words.takeWordBefore(TokenKind::End, u"delivered")) {
+            delivered(place);
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    void task(LineParser& words, Place place) {
+        requireBeforeCourse(place, "the task");
+        if (!file_.contract.task.empty()) {
+            throw SyntaxError({place, "expected one task only"});
+        }
+        file_.contract.task = words.sentence("what the learner is to do, in quotes");
+        words.end();
+    }
+
+    void meaning(Meaning meaning, Place place) {
+        requireBeforeCourse(place, "what a verdict means");
+        if (file_.contract.meaningOf(meaning.verdict.letter) != nullptr) {
+            throw SyntaxError({place, "expected one meaning only for " + inQuotes(meaning.verdict.letter)});
+        }
+        meaning.place = place;
+        file_.contract.meanings.push_back(std::move(meaning));
+    }
+
+    void delivered(Place place) {
+        requireBeforeCourse(place, "what must be delivered");
+        if (block_ != nullptr) {
+            throw SyntaxError({place, "expected 'delivered' once only"});
+        }
+        block_ = &file_.contract.delivered;
+    }
+
+    void requireBeforeCourse(Place place, const std::string& what) const {
+        if (block_ != nullptr && block_ != &file_.contract.delivered) {
+            throw SyntaxError({place, "expected " + what + " before the course"});
+        }
+    }
+
     void course(LineParser& words, Place place) {
         words.end();
-        if (block_ != nullptr) {
+        if (block_ != nullptr && block_ != &file_.contract.delivered) {
             throw SyntaxError({place, "expected one course only, before the scenarios"});
         }
         block_ = &file_.course;
     }
 
     void scenario(LineParser& words, Place place) {
-        if (block_ == nullptr) {
+        if (block_ == nullptr || block_ == &file_.contract.delivered) {
             throw SyntaxError({place, "expected 'course' before the first scenario"});
         }
         Scenario scenario{place, words.text("the title of the scenario, in quotes"), false, {}};
@@ -143,6 +208,10 @@ private:
         if (block_ == &file_.course && std::holds_alternative<Check>(statement.node)) {
             throw SyntaxError({statement.place, "expected a statement that builds the presentation: "
                                                 "checks belong to scenarios"});
+        }
+        if (block_ == &file_.contract.delivered && !changesNothing(statement)) {
+            throw SyntaxError({statement.place, "expected 'expect', or a variable to be set: what is delivered is "
+                                                "looked at, not changed"});
         }
         block_->push_back(std::move(statement));
         auto* const expectation = std::get_if<ExpectError>(&block_->back().node);

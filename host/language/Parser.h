@@ -11,6 +11,14 @@ namespace host::language {
 ///
 ///     question 306                    the question that the file is about
 ///
+///     task "draw a rectangle"         what the learner is to do
+///     letter "A" "nothing was drawn"  what each letter means that the question can leave; so does
+///     remark "B" "it is tiny"         that of a success with a remark, and
+///     error 5 "CLASSE X": "…"         a raised error, with parts that its source contains
+///     delivered                       what the presentation delivered must fulfil: expectations, and variables for
+///     them
+///       expect ActivePresentation.Slides.Count = 1
+///
 ///     course                          the statements that build the presentation delivered
 ///       Presentations.Add
 ///       ActivePresentation.Slides.Add 1, ppLayoutBlank
@@ -34,8 +42,8 @@ namespace host::language {
 ///     check general "AK"              a general error
 ///     check error 0 "SERVICE X"       TestePoint raises a number, with parts that its source contains
 ///
-/// and `expect x = y` asks for a value, `expect error 91 "SERVICE X": statement` for a raised error (the statement may
-/// also stand on the next line).
+/// and `expect x = y` asks for a value, `expect x = y, z = 3` for several, `expect error 91 "SERVICE X": statement` for
+/// a raised error (the statement may also stand on the next line).
 [[nodiscard]] ScenarioFile parse(std::string fileName, std::string_view text);
 
 /// One statement, as it is typed at a prompt. Raises SyntaxError.

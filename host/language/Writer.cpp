@@ -15,8 +15,7 @@ std::u16string literal(std::u16string_view text) {
     return result + u'"';
 }
 
-std::u16string numberOf(const automation::Error& error) {
-    const std::int32_t number = error.number();
+std::u16string numberOf(std::int32_t number) {
     return number < 0 ? u"&H" + automation::hexadecimal(number) : automation::decimal(number);
 }
 
@@ -31,11 +30,43 @@ std::u16string verdictOf(const Reading& reading) {
     return text;
 }
 
+std::u16string lineOf(const Meaning& meaning) {
+    const Expectation& verdict = meaning.verdict;
+    std::u16string line;
+    if (verdict.kind == Expectation::Kind::Error) {
+        line = u"error " + numberOf(verdict.error.number);
+        for (const std::u16string& part : verdict.error.parts) {
+            line += u' ' + literal(part);
+        }
+        line += u':';
+    } else {
+        line = (verdict.kind == Expectation::Kind::Remark ? u"remark " : u"letter ") + literal(verdict.letter);
+    }
+    return line + u' ' + literal(meaning.text) + u'\n';
+}
+
+/// The statements of a block, each on a line of its own.
+std::u16string linesOf(const std::vector<Statement>& statements) {
+    std::u16string text;
+    for (const Statement& statement : statements) {
+        text += u"  " + statement.text + u'\n';
+    }
+    return text;
+}
+
+std::u16string textOf(const Contract& contract) {
+    std::u16string text = contract.task.empty() ? u"" : u"\ntask " + literal(contract.task) + u'\n';
+    for (const Meaning& meaning : contract.meanings) {
+        text += lineOf(meaning);
+    }
+    return contract.delivered.empty() ? text : text + u"\ndelivered\n" + linesOf(contract.delivered);
+}
+
 } // namespace
 
 std::vector<std::u16string> checkOf(const Reading& reading) {
     if (reading.error) {
-        return {u"check error " + numberOf(*reading.error),
+        return {u"check error " + numberOf(reading.error->number()),
                 u"expect Host.CauseErreur = " + literal(reading.causeErreur)};
     }
     if (!reading.erreurGenerale) {
@@ -51,10 +82,8 @@ std::vector<std::u16string> checkOf(const Reading& reading) {
 std::string scenarioText(const ScenarioFile& file, std::u16string_view title,
                          const std::vector<std::u16string>& statements) {
     std::u16string text = file.heading.empty() ? file.heading : u"# " + file.heading + u'\n';
-    text += u"question " + automation::decimal(file.question) + u"\n\ncourse\n";
-    for (const Statement& statement : file.course) {
-        text += u"  " + statement.text + u'\n';
-    }
+    text += u"question " + automation::decimal(file.question) + u'\n' + textOf(file.contract);
+    text += u"\ncourse\n" + linesOf(file.course);
     text += u"\nscenario " + literal(title) + u'\n';
     for (const std::u16string& statement : statements) {
         text += u"  " + statement + u'\n';

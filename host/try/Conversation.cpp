@@ -82,7 +82,8 @@ Conversation::Conversation(const language::ScenarioFile& file, Course course, Wo
     : file_(file), makeWorld_(std::move(makeWorld)), lines_(lines), out_(out), course_(std::move(course)) {}
 
 bool Conversation::run() {
-    out_ << toUtf8(file_.heading.empty() ? u"Question " + automation::decimal(file_.question) : file_.heading) << '\n';
+    const std::u16string subject = file_.subject();
+    out_ << toUtf8(subject.empty() ? u"Question " + automation::decimal(file_.question) : subject) << '\n';
     try {
         begin();
         printContents(attempt_->world().powerPoint().application(), out_);

@@ -2,6 +2,7 @@
 #include "automation/Text.h"
 #include "host/language/Interpreter.h"
 #include "host/language/Parser.h"
+#include "host/language/Writer.h"
 
 #include <gtest/gtest.h>
 
@@ -126,12 +127,27 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
 }
 
 TEST(Language, NamesWhatIsWrongWithAWholeFile) {
+    const auto changed = [](int line, int column) {
+        return std::to_string(line) + ":" + std::to_string(column) +
+               ": expected 'expect', or a variable to be set: what is delivered is looked at, not changed";
+    };
     const std::vector<std::pair<const char*, std::vector<std::string>>> files = {
         {"", {"1:1: expected 'question' and its number"}},
         {"course\nscenario \"a\"\n", {"1:1: expected 'question' and its number before anything else"}},
         {"question three", {"1:10: expected the number of the question, found 'three'"}},
         {"question 306\nPresentations.Add", {"2:1: expected 'course' or 'scenario' before the first statement"}},
         {"question 306\nscenario \"a\"", {"2:1: expected 'course' before the first scenario"}},
+        {"question 306\nletter \"A\" 3\nremark \"\" \"x\"\nerror 0 \"X\" \"x\"\ntask \"a\"\nletter \"B\" \"x\"\ntask "
+         "\"b\"\n"
+         "remark \"B\" \"y\"\ndelivered\n s.Left = 2\ns.Delete\n expect error 5: s.X\nscenario "
+         "\"a\"\ndelivered\ncourse\ndelivered\n"
+         "letter \"A\" \"x\"\nletter = 3",
+         {"2:12: expected what it means, in quotes, found 3", "3:8: expected the letter, in quotes, found \"\"",
+          "4:16: expected ':', found the end of the line", "7:1: expected one task only",
+          "8:1: expected one meaning only for \"B\"", changed(10, 2), changed(11, 1), changed(12, 2),
+          "13:1: expected 'course' before the first scenario", "14:1: expected 'delivered' once only",
+          "16:1: expected what must be delivered before the course",
+          "17:1: expected what a verdict means before the course"}},
         {"question 306\ncourse\n check \"A\"",
          {"3:2: expected a statement that builds the presentation: checks belong to scenarios"}},
         {"question 306\r\ncourse\r\nscenario \"a\"\r\n a.b(\r\n ' a remark\r\n a.b)\r\n",
@@ -178,9 +194,9 @@ TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
     const std::vector<std::pair<const char*, const char*>> cases = {
         {"expect Host.Left = 110.1\nexpect Host.Text = \"faire\"\nexpect Host.Nobody = Nothing\nexpect True = -1", ""},
         {"expect Host.Thing = \"faire\"", ""},
-        {"expect Host.Left = 110.125", "t.scn:4:1: expected 110.125, found 110.1"},
-        {"expect Host.Text = \"Faire\"", "t.scn:4:1: expected \"Faire\", found \"faire\""},
-        {"expect 1 = \"1\"", "t.scn:4:1: expected \"1\", found 1"},
+        {"expect Host.Left = 110.125", "t.scn:4:13: expected 110.125, found 110.1"},
+        {"expect Host.Text = \"faire\", Host.Text = \"Faire\"", "t.scn:4:34: expected \"Faire\", found \"faire\""},
+        {"expect 1 = \"1\"", "t.scn:4:8: expected \"1\", found 1"},
         {"Host.A.Fail", "t.scn:4:8: error 9 no such thing [SERVICE Here]"},
         {"Host.Nobody.B = 1", "t.scn:4:13: error 91 Variable objet ou variable de bloc With non définie [K73053]"},
         {"Set s = Host.Thing\nSet s.Parent = s(2)", "t.scn:5:16: error 424 Objet requis [K73053]"},
@@ -248,6 +264,21 @@ TEST(Language, AScenarioFileHasItsParts) {
     EXPECT_TRUE(one.lastExpectation()->isSuccess());
     EXPECT_FALSE(file.scenarios[1].startsBeforeInitQuestion);
     EXPECT_EQ(file.scenarios[1].lastExpectation(), nullptr);
+}
+
+TEST(Language, AFileKeepsItsContractWhenItIsWritten) {
+    const std::string text = "question 305\n\ntask \"say \"\"so\"\"\"\nletter \"A\" \"a \"\"word\"\"\"\n"
+                             "remark \"F\" \"four\"\nerror 0 \"CLASSE X\" \"SERVICE Y\": \"right\"\n"
+                             "\ndelivered\n  Set s = Slides\n  expect s.Count = 4, s(1).Left = 2\n"
+                             "\ncourse\n  A.B\n\nscenario \"t\"\n  check \"A\"\n";
+    const ScenarioFile file = parse("t.scn", text);
+    EXPECT_EQ(scenarioText(file, u"t", {u"check \"A\""}), text);
+    EXPECT_EQ(file.subject(), u"Question 305: say \"so\".");
+    EXPECT_EQ(file.contract.letters(), (std::vector<std::u16string>{u"A", u"F"}));
+    EXPECT_EQ(file.contract.meaningOf(u"A")->text, u"a \"word\"");
+    EXPECT_EQ(file.contract.success().kind, host::Expectation::Kind::Remark);
+    EXPECT_EQ(parse("t.scn", "question 1\nletter \"A\" \"x\"").contract.success().kind,
+              host::Expectation::Kind::Success);
 }
 
 } // namespace language_tests
