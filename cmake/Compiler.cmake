@@ -26,3 +26,15 @@ endif()
 if(WIN32)
     target_compile_definitions(compiler INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0601 _WIN32_WINNT=0x0601)
 endif()
+
+# What the runtime libraries of mingw-w64 do not mind where they are linked statically: the process that a library is a guest of,
+# and, for 32 bits, Windows XP.
+if(MINGW)
+    set(mingw ${CMAKE_CURRENT_LIST_DIR}/mingw)
+    add_library(guest_runtime OBJECT ${mingw}/ThreadSlots.cpp)
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+        target_sources(guest_runtime PRIVATE ${mingw}/OwnFrames.cpp ${mingw}/TickCount.cpp)
+    endif()
+    set_target_properties(guest_runtime PROPERTIES UNITY_BUILD OFF)
+    target_link_libraries(guest_runtime PRIVATE compiler)
+endif()

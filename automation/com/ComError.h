@@ -3,7 +3,7 @@
 #include "automation/Error.h"
 #include "automation/Unmoved.h"
 
-#include "automation/com/Ole.h"
+#include "automation/com/Patience.h"
 
 #include <utility>
 
@@ -40,12 +40,14 @@ void forgetError() noexcept;
 /// given, it is filled alike and the status is DISP_E_EXCEPTION. To be called in a handler.
 [[nodiscard]] HRESULT reportCurrent(EXCEPINFO* raised = nullptr) noexcept;
 
-/// Runs an operation at the border to COM, from which nothing but a status leaves.
-template <typename Operation> [[nodiscard]] HRESULT guarded(Operation&& operation) noexcept {
+/// Runs what a client has called at the border to COM, from which nothing but a status leaves; an exception as
+/// `reportCurrent` gives it.
+template <typename Call> [[nodiscard]] HRESULT guarded(Call&& call, EXCEPINFO* raised = nullptr) noexcept {
     try {
-        return std::forward<Operation>(operation)();
+        const Operation operation;
+        return std::forward<Call>(call)();
     } catch (...) {
-        return reportCurrent();
+        return reportCurrent(raised);
     }
 }
 

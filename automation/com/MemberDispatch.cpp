@@ -113,7 +113,7 @@ private:
     std::vector<Value> arguments_;
 };
 
-Value call(Published& object, const Member& member, Access access, GivenArguments& arguments) {
+Value valueOf(Published& object, const Member& member, Access access, GivenArguments& arguments) {
     try {
         return object.invoke(member.name, access, arguments.values());
     } catch (...) {
@@ -141,7 +141,7 @@ HRESULT getIdsOfNames(const MemberTable& members, LPOLESTR* names, UINT count, D
 
 HRESULT invoke(Published& object, DISPID id, WORD flags, const DISPPARAMS* parameters, VARIANT* result,
                EXCEPINFO* raised) noexcept {
-    try {
+    const auto call = [&] {
         const Member* const member = memberOf(object.members(), id);
         const auto access = accessOf(flags);
         if (member == nullptr || !access || !member->answers(*access)) {
@@ -151,16 +151,15 @@ HRESULT invoke(Published& object, DISPID id, WORD flags, const DISPPARAMS* param
             return refused;
         }
         GivenArguments arguments(*parameters);
-        const Value value = call(object, *member, *access, arguments);
+        const Value value = valueOf(object, *member, *access, arguments);
         Variant answer = variantOf(value);
         arguments.writeBack();
         if (result != nullptr) {
             *result = answer.release();
         }
         return S_OK;
-    } catch (...) {
-        return reportCurrent(raised);
-    }
+    };
+    return guarded(call, raised);
 }
 
 } // namespace automation::com::member_dispatch

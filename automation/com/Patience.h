@@ -7,8 +7,8 @@
 
 namespace automation::com {
 
-/// How long one access to a member waits for a busy server, with all the calls that it takes: two seconds at most, and
-/// not at all inside WithoutRetry.
+/// How long one access to a member waits for a busy server, with all the calls that it takes: two seconds at most, not
+/// at all inside WithoutRetry, and no longer than the operation has patience left.
 class Patience {
 public:
     /// Makes a call until the other process takes it: one that it refuses because it is busy is made again after short,
@@ -22,6 +22,18 @@ private:
     static constexpr std::chrono::milliseconds longest{2000};
 
     Clock::time_point end_ = Clock::now() + longest;
+};
+
+/// For the length of a scope, one operation that a client has called, on this thread: all its accesses together wait
+/// for six seconds at most. A scope inside another is part of it.
+class Operation {
+public:
+    Operation() noexcept;
+    ~Operation();
+    Operation(const Operation&) = delete;
+    Operation& operator=(const Operation&) = delete;
+    Operation(Operation&&) = delete;
+    Operation& operator=(Operation&&) = delete;
 };
 
 } // namespace automation::com

@@ -6,6 +6,18 @@
 
 namespace platform {
 
+namespace {
+
+/// Removes a key without keys below it. RegDeleteKeyExW is looked up, since Windows XP of 32 bits has neither the
+/// function nor another part of the registry.
+LSTATUS deleteKey(HKEY root, const std::wstring& path, REGSAM view) {
+    void* const found = reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"advapi32.dll"), "RegDeleteKeyExW"));
+    return found != nullptr ? reinterpret_cast<decltype(&RegDeleteKeyExW)>(found)(root, path.c_str(), view, 0)
+                            : RegDeleteKeyW(root, path.c_str());
+}
+
+} // namespace
+
 RegistryKey::~RegistryKey() {
     if (key_ != nullptr) {
         RegCloseKey(key_);
@@ -33,20 +45,20 @@ void RegistryKey::removeBare(HKEY root, std::wstring path, const std::wstring& s
         if (const auto opened = open(root, path, KEY_QUERY_VALUE | view); !opened || !opened.isBare()) {
             return;
         }
-        checkRegistry(RegDeleteKeyExW(root, path.c_str(), view, 0));
+        checkRegistry(deleteKey(root, path, view));
         const std::size_t end = path.rfind(L'\\');
         path.resize(end == std::wstring::npos ? 0 : end);
     }
 }
 
 std::wstring RegistryKey::text(const std::wstring& name) const {
+    DWORD type = REG_NONE;
     DWORD size = 0;
-    if (RegGetValueW(key_, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &size) != ERROR_SUCCESS) {
+    if (RegQueryValueExW(key_, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS || type != REG_SZ) {
         return {};
     }
-    std::wstring text(size / sizeof(wchar_t), L'\0');
-    checkRegistry(RegGetValueW(key_, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &size));
-    text.resize(size / sizeof(wchar_t));
+    std::wstring text((size + 1) / sizeof(wchar_t), L'\0');
+    checkRegistry(RegQueryValueExW(key_, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()), &size));
     text.resize(std::min(text.find(L'\0'), text.size()));
     return text;
 }

@@ -1,10 +1,12 @@
 #include "tests/library/Library.h"
+#include "tests/win32/Program.h"
 
 #include <gtest/gtest.h>
 #include <winver.h>
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -16,13 +18,17 @@ class Image {
 public:
     explicit Image(HMODULE module) : base_(reinterpret_cast<const std::byte*>(module)) {}
 
-    [[nodiscard]] std::set<std::string> imports() const {
-        std::set<std::string> names;
+    /// The functions that it takes from each library.
+    [[nodiscard]] std::map<std::string, std::set<std::string>> imports() const {
+        std::map<std::string, std::set<std::string>> names;
         const auto* each = at<IMAGE_IMPORT_DESCRIPTOR>(directory(IMAGE_DIRECTORY_ENTRY_IMPORT));
         for (; each->Name != 0; ++each) {
             std::string name = at<char>(each->Name);
             std::transform(name.begin(), name.end(), name.begin(), [](char c) { return static_cast<char>(c | 32); });
-            names.insert(name);
+            for (const auto* entry = at<IMAGE_THUNK_DATA>(each->OriginalFirstThunk); entry->u1.Ordinal != 0; ++entry) {
+                EXPECT_FALSE(IMAGE_SNAP_BY_ORDINAL(entry->u1.Ordinal)) << name;
+                names[name].insert(at<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(entry->u1.AddressOfData))->Name);
+            }
         }
         return names;
     }
@@ -50,18 +56,89 @@ private:
     const std::byte* base_;
 };
 
+/// Of what the system has, that which its documentation says to be there on Windows XP; the C library's is that of the
+/// file which Windows XP brings.
+const std::map<std::string, std::string> windowsXP{
+    {"advapi32.dll", "RegCloseKey RegCreateKeyExW RegDeleteValueW RegEnumValueW RegOpenKeyExW RegQueryInfoKeyW "
+                     "RegQueryValueExW RegSetValueExW"},
+    {"kernel32.dll",
+     "AddVectoredExceptionHandler CloseHandle CreateDirectoryW CreateEventA CreateSemaphoreA "
+     "DeleteCriticalSection DeleteFileW DuplicateHandle EnterCriticalSection FileTimeToSystemTime "
+     "FindClose FindFirstFileW FindNextFileW FormatMessageA FormatMessageW FreeLibrary GetCurrentProcess "
+     "GetCurrentProcessId GetCurrentThread GetCurrentThreadId GetFileAttributesW GetHandleInformation "
+     "GetLastError GetLocaleInfoA GetModuleFileNameW GetModuleHandleA GetModuleHandleExW GetModuleHandleW "
+     "GetProcAddress GetProcessAffinityMask GetProcessTimes GetSystemTimeAdjustment "
+     "GetSystemTimeAsFileTime GetThreadContext GetThreadPriority GetThreadTimes InitializeCriticalSection "
+     "IsDBCSLeadByteEx IsDebuggerPresent LeaveCriticalSection LoadLibraryA LoadLibraryW LocalFree "
+     "MoveFileExW MultiByteToWideChar OpenProcess OutputDebugStringA QueryPerformanceCounter "
+     "QueryPerformanceFrequency RaiseException ReleaseSemaphore RemoveVectoredExceptionHandler ResetEvent "
+     "ResumeThread SetEvent SetFileAttributesW SetLastError SetProcessAffinityMask SetSystemTime "
+     "SetThreadContext SetThreadPriority Sleep SuspendThread TlsAlloc TlsGetValue TlsSetValue "
+     "TryEnterCriticalSection VirtualProtect VirtualQuery WaitForMultipleObjects WaitForSingleObject "
+     "WideCharToMultiByte lstrcmpiW"},
+    {"msvcrt.dll",
+     "__mb_cur_max _amsg_exit _assert _beginthreadex _close _endthreadex _errno _initterm _iob _lock _read "
+     "_setjmp3 _strdup _ultoa _unlock abort atoi calloc exit fprintf fputc fputs free fwrite localeconv "
+     "longjmp malloc memchr memcmp memcpy memmove memset printf realloc setlocale strchr strcmp strerror "
+     "strlen strncmp vfprintf wcslen"},
+    {"ole32.dll", "CLSIDFromProgID CoCreateInstance CreateErrorInfo SetErrorInfo"},
+    {"oleaut32.dll",
+     "GetActiveObject LoadTypeLibEx SafeArrayCreate SafeArrayDestroy SafeArrayGetDim SafeArrayGetElemsize "
+     "SafeArrayGetLBound SafeArrayGetUBound SafeArrayPtrOfIndex SysAllocStringLen SysFreeString "
+     "SysStringLen VariantChangeTypeEx VariantClear VariantInit"},
+    {"user32.dll",
+     "AttachThreadInput DispatchMessageW FindWindowW GetClassNameW GetForegroundWindow GetKeyState "
+     "GetParent GetWindow GetWindowLongW GetWindowTextW GetWindowThreadProcessId IsHungAppWindow IsIconic "
+     "IsWindowVisible PeekMessageW PostQuitMessage SendInput SendMessageTimeoutW SetForegroundWindow "
+     "ShowWindow ShowWindowAsync TranslateMessage"},
+};
+
+/// What a file takes from the system that is not there on Windows XP.
+std::string missingOnWindowsXP(const Image& image) {
+    std::string missing;
+    for (const auto& [library, functions] : image.imports()) {
+        const auto known = windowsXP.find(library);
+        for (const std::string& function : functions) {
+            if (known == windowsXP.end() ||
+                (' ' + known->second + ' ').find(' ' + function + ' ') == std::string::npos) {
+                missing += library + ' ' + function + '\n';
+            }
+        }
+    }
+    return missing;
+}
+
 TEST(LibraryFileTest, ImportsTheSystemAloneAndExportsPlainNames) {
     const tests::Library library;
     const Image image(library.handle());
-    const std::set<std::string> system{"advapi32.dll", "kernel32.dll", "msvcrt.dll",
-                                       "ole32.dll",    "oleaut32.dll", "user32.dll"};
     const auto imports = image.imports();
     EXPECT_FALSE(imports.empty());
-    for (const std::string& name : imports) {
-        EXPECT_TRUE(system.contains(name)) << name;
+    for (const auto& [name, functions] : imports) {
+        EXPECT_TRUE(windowsXP.contains(name)) << name;
     }
     EXPECT_EQ(image.exports(), (std::set<std::string>{"DllCanUnloadNow", "DllGetClassObject", "DllInstall",
                                                       "DllRegisterServer", "DllUnregisterServer"}));
+}
+
+TEST(LibraryFileTest, LoadsOnWindowsXPWith32Bits) {
+    if (sizeof(void*) != 4) {
+        return;
+    }
+    EXPECT_EQ(missingOnWindowsXP(Image(tests::Library().handle())), "");
+    for (const wchar_t* const name : {L"..\\host\\exercise-host.exe", L"..\\simulator\\powerpnt-standin.exe"}) {
+        const auto program =
+            LoadLibraryExW(tests::Library::pathBeside(name).c_str(), nullptr, DONT_RESOLVE_DLL_REFERENCES);
+        ASSERT_NE(program, nullptr);
+        EXPECT_EQ(missingOnWindowsXP(Image(program)), "");
+        FreeLibrary(program);
+    }
+}
+
+TEST(LibraryFileTest, IsLoadedAgainAndAgainByAHostThatSharesTheCompilersRuntime) {
+    const tests::Program host(L"tests\\win32\\shared-runtime\\shared-runtime.exe",
+                              L'"' + tests::Library::path() + L'"');
+    EXPECT_EQ(host.exitCode(), 0U);
+    EXPECT_EQ(host.output(), "2000 times\r\n");
 }
 
 TEST(LibraryFileTest, IsOfTheVersionThatWasBuilt) {

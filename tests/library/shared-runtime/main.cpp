@@ -1,0 +1,60 @@
+#include <K73053.h>
+
+#include <cstdio>
+#include <stdexcept>
+
+// shared-runtime LIBRARY: a host that shares the compiler's runtime, as programs of mingw-w64 usually do, and loads and
+// frees the library again and again. Each time the library raises an error inside.
+
+namespace {
+
+constexpr int times = 2000; ///< more than a process has thread-local slots
+constexpr auto subscriptOutOfRange = static_cast<HRESULT>(0x800A0009);
+
+HRESULT readItemOfNone(HMODULE library) {
+    IClassFactory* factory = nullptr;
+    TableauTexte* texts = nullptr;
+    BSTR text = nullptr;
+    const auto entry = reinterpret_cast<void*>(GetProcAddress(library, "DllGetClassObject"));
+    reinterpret_cast<decltype(&DllGetClassObject)>(entry)(CLSID_ComplementInfo, IID_IClassFactory,
+                                                          reinterpret_cast<void**>(&factory));
+    factory->CreateInstance(nullptr, IID_TableauTexte, reinterpret_cast<void**>(&texts));
+    const HRESULT status = texts->item(1, &text);
+    SetErrorInfo(0, nullptr);
+    texts->Release();
+    factory->Release();
+    return status;
+}
+
+void run(const char* path) {
+    for (int done = 0; done < times; ++done) {
+        HMODULE library = LoadLibraryA(path);
+        if (library == nullptr) {
+            throw std::runtime_error("it does not load, after " + std::to_string(done) + " times");
+        }
+        if (readItemOfNone(library) != subscriptOutOfRange) {
+            throw std::runtime_error("no error was read");
+        }
+        FreeLibrary(library);
+        if (GetModuleHandleA(path) != nullptr) {
+            throw std::runtime_error("it stays loaded");
+        }
+    }
+}
+
+} // namespace
+
+int main(int /*count*/, char** arguments) {
+    try {
+        if (GetModuleHandleA("libstdc++-6.dll") == nullptr) {
+            throw std::logic_error("this host shares no runtime");
+        }
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        run(arguments[1]);
+        std::printf("%d times\n", times);
+        return 0;
+    } catch (const std::exception& error) {
+        std::puts(error.what());
+        return 1;
+    }
+}
