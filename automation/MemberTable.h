@@ -112,6 +112,9 @@ private:
             if (argument->isMissing()) {
                 raise(RunTimeError::ArgumentNotOptional);
             }
+            if (std::is_same_v<Plain, ObjectPtr> && argument->isEmpty()) {
+                return Plain(); // some clients say so that they have no object
+            }
             return argument->to<Plain>();
         }
     }

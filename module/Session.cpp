@@ -61,6 +61,10 @@ bool Session::PowerPointVisible() {
 }
 
 bool Session::PowerPointRepond() const noexcept {
+    // A call to a program that hangs would not come back.
+    if (services_.windows.isHung(window)) {
+        return false;
+    }
     const automation::WithoutRetry once;
     return ignoringErrors([&] {
         const std::int32_t state = application_.WindowState();

@@ -28,6 +28,8 @@ public:
     virtual std::u16string title(WindowHandle window) = 0;
     virtual bool isVisible(WindowHandle window) = 0;
     virtual bool isIconic(WindowHandle window) = 0;
+    /// True for a window whose program has answered no message for a while.
+    virtual bool isHung(WindowHandle window) = 0;
     virtual std::uint32_t extendedStyle(WindowHandle window) = 0;
     /// Parent or owner of a window.
     virtual WindowHandle parent(WindowHandle window) = 0;

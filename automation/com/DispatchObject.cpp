@@ -10,14 +10,10 @@ namespace automation::com {
 
 namespace {
 
+/// Where something is read, it is left to the server whether it has it as a property or as a method, as macro languages
+/// do.
 WORD flagsOf(Access access) noexcept {
-    switch (access) {
-    case Access::Get: return DISPATCH_PROPERTYGET;
-    case Access::Call: return DISPATCH_METHOD;
-    case Access::GetOrCall: return DISPATCH_METHOD | DISPATCH_PROPERTYGET;
-    case Access::Put: return DISPATCH_PROPERTYPUT;
-    }
-    return 0;
+    return access == Access::Put ? DISPATCH_PROPERTYPUT : DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 }
 
 /// True where it is the process that is gone, and not the object alone.

@@ -18,8 +18,8 @@ public:
     /// `identity` is what `identityOf` gives for `dispatch`.
     DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> identity, ServerSessionPtr session) noexcept;
 
-    /// Properties are read and written as such and methods called as such; an object that a property does not take by
-    /// value is set by reference. Arguments passed by reference come back also where the member raises.
+    /// Properties are written as such and read as property or method, whichever it is; an object that a property does
+    /// not take by value is set by reference. Arguments passed by reference come back also where the member raises.
     Value invoke(const Name& name, Access access, std::span<Value> arguments) override;
 
     [[nodiscard]] bool isSame(const Object& other) const noexcept override;

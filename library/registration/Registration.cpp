@@ -4,6 +4,7 @@
 #include "platform/win32/RegistryKey.h"
 
 #include <algorithm>
+#include <optional>
 #include <ranges>
 
 namespace library {
@@ -40,10 +41,22 @@ bool isOtherRegistered(HKEY root) {
     });
 }
 
+/// An entry with the text that was there before; nothing where there was none.
+struct Written {
+    Entry entry;
+    std::optional<std::wstring> former;
+};
+
+std::optional<std::wstring> textOf(HKEY root, const Entry& entry) {
+    const auto key = RegistryKey::open(root, pathOf(entry.key), KEY_QUERY_VALUE);
+    return key ? key.find(entry.name) : std::nullopt;
+}
+
 /// Where a registration has failed: its error is the one that counts.
-void tryToUnregister(Scope scope) noexcept {
+void tryToTakeBack(HKEY root, const Written& written) noexcept {
     try {
-        unregisterLibrary(scope);
+        const auto& [entry, former] = written;
+        former ? write(root, {entry.key, entry.name, *former}) : remove(root, entry);
     } catch (...) {
         return;
     }
@@ -52,12 +65,17 @@ void tryToUnregister(Scope scope) noexcept {
 } // namespace
 
 void registerLibrary(Scope scope, const std::wstring& libraryPath) {
+    const HKEY root = rootOf(scope);
+    std::vector<Written> written;
     try {
         for (const Entry& entry : entriesFor(libraryPath)) {
-            write(rootOf(scope), entry);
+            written.push_back({entry, textOf(root, entry)});
+            write(root, entry);
         }
     } catch (...) {
-        tryToUnregister(scope);
+        for (const Written& each : written | std::views::reverse) {
+            tryToTakeBack(root, each);
+        }
         throw;
     }
 }

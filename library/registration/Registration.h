@@ -10,7 +10,7 @@ enum class Scope {
     User,    ///< the current user alone
 };
 
-/// Writes the library's entries. Raises the error of the system, and then leaves nothing of them.
+/// Writes the library's entries. Raises the error of the system, and then leaves what was there before.
 void registerLibrary(Scope scope, const std::wstring& libraryPath);
 
 /// Removes the library's entries, and keys that this leaves bare. What the 32-bit and the 64-bit library have in common

@@ -38,7 +38,7 @@ inline constexpr std::array<Interface, 4> interfaces{{
     {"{d2b93336-d30b-4713-9a1d-555cd382d86c}", "IModule"},
     {"{8ca90e2c-2974-4368-926a-2767a181d5e5}", "IFichierDeTravail"},
     {"{5ef3d0e5-bea5-4d69-8c0f-444d661da3ac}", "IFichiersDeTravail"},
-    {"{2669b48d-50d6-4d97-aaf2-7a2d78df7e78}", "IComplementInfo"},
+    {"{ae1a4029-a612-4cda-bbdc-920021a18203}", "IComplementInfo"},
 }};
 
 } // namespace library::table

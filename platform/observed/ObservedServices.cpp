@@ -78,6 +78,10 @@ public:
         return gate_.passOr(
             false, u"isIconic", [&] { return inner_.isIconic(window); }, window);
     }
+    bool isHung(WindowHandle window) override {
+        return gate_.passOr(
+            false, u"isHung", [&] { return inner_.isHung(window); }, window);
+    }
     std::uint32_t extendedStyle(WindowHandle window) override {
         const auto ask = [&] { return static_cast<std::int32_t>(inner_.extendedStyle(window)); };
         return static_cast<std::uint32_t>(gate_.passOr(0, u"extendedStyle", ask, window));

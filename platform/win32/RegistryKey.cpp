@@ -51,16 +51,20 @@ void RegistryKey::removeBare(HKEY root, std::wstring path, const std::wstring& s
     }
 }
 
-std::wstring RegistryKey::text(const std::wstring& name) const {
+std::optional<std::wstring> RegistryKey::find(const std::wstring& name) const {
     DWORD type = REG_NONE;
     DWORD size = 0;
     if (RegQueryValueExW(key_, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS || type != REG_SZ) {
-        return {};
+        return std::nullopt;
     }
     std::wstring text((size + 1) / sizeof(wchar_t), L'\0');
     checkRegistry(RegQueryValueExW(key_, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()), &size));
     text.resize(std::min(text.find(L'\0'), text.size()));
     return text;
+}
+
+std::wstring RegistryKey::text(const std::wstring& name) const {
+    return find(name).value_or(std::wstring());
 }
 
 void RegistryKey::setText(const std::wstring& name, const std::wstring& text) const {

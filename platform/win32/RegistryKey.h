@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -32,6 +33,8 @@ public:
     [[nodiscard]] HKEY get() const noexcept { return key_; }
     [[nodiscard]] explicit operator bool() const noexcept { return key_ != nullptr; }
 
+    /// A text without its terminating NUL; nothing where it is missing, or no text.
+    [[nodiscard]] std::optional<std::wstring> find(const std::wstring& name) const;
     /// A text without its terminating NUL; empty where it is missing, or no text.
     [[nodiscard]] std::wstring text(const std::wstring& name) const;
     /// Writes a text; raises the error of the system.

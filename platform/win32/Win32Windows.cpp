@@ -40,7 +40,8 @@ std::optional<std::u16string> Win32Windows::className(WindowHandle window) {
 }
 
 std::u16string Win32Windows::title(WindowHandle window) {
-    return textFrom(&GetWindowTextW, window);
+    // Asking a window of this process would send it a message, and wait for it.
+    return textFrom(&InternalGetWindowText, window);
 }
 
 bool Win32Windows::isVisible(WindowHandle window) {
@@ -49,6 +50,10 @@ bool Win32Windows::isVisible(WindowHandle window) {
 
 bool Win32Windows::isIconic(WindowHandle window) {
     return IsIconic(windowOf(window)) != FALSE;
+}
+
+bool Win32Windows::isHung(WindowHandle window) {
+    return IsHungAppWindow(windowOf(window)) != FALSE;
 }
 
 std::uint32_t Win32Windows::extendedStyle(WindowHandle window) {
@@ -65,7 +70,7 @@ WindowHandle Win32Windows::previous(WindowHandle window) {
 
 void Win32Windows::show(WindowHandle window, std::int32_t command) {
     // Showing the window of another process waits for that process.
-    if (IsHungAppWindow(windowOf(window)) != FALSE) {
+    if (isHung(window)) {
         ShowWindowAsync(windowOf(window), command);
     } else {
         ShowWindow(windowOf(window), command);
@@ -73,7 +78,18 @@ void Win32Windows::show(WindowHandle window, std::int32_t command) {
 }
 
 bool Win32Windows::setForeground(WindowHandle window) {
-    return SetForegroundWindow(windowOf(window)) != FALSE;
+    if (SetForegroundWindow(windowOf(window)) != FALSE) {
+        return true;
+    }
+    // The system refuses it to whom is not in front himself; not to whom shares the input of the thread that is.
+    const DWORD inFront = GetWindowThreadProcessId(GetForegroundWindow(), nullptr);
+    if (IsWindow(windowOf(window)) == FALSE || IsHungAppWindow(GetForegroundWindow()) != FALSE ||
+        AttachThreadInput(GetCurrentThreadId(), inFront, TRUE) == FALSE) {
+        return false;
+    }
+    const bool isTaken = SetForegroundWindow(windowOf(window)) != FALSE;
+    AttachThreadInput(GetCurrentThreadId(), inFront, FALSE);
+    return isTaken;
 }
 
 void Win32Windows::send(WindowHandle window, std::uint32_t message) {

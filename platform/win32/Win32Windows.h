@@ -12,6 +12,7 @@ public:
     std::u16string title(WindowHandle window) override;
     bool isVisible(WindowHandle window) override;
     bool isIconic(WindowHandle window) override;
+    bool isHung(WindowHandle window) override;
     std::uint32_t extendedStyle(WindowHandle window) override;
     WindowHandle parent(WindowHandle window) override;
     WindowHandle previous(WindowHandle window) override;

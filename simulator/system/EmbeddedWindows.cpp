@@ -81,6 +81,10 @@ bool EmbeddedWindows::isIconic(WindowHandle window) {
     return placement(window) == Placement::Minimized;
 }
 
+bool EmbeddedWindows::isHung(WindowHandle /*window*/) {
+    return false;
+}
+
 std::uint32_t EmbeddedWindows::extendedStyle(WindowHandle window) {
     const Window* const found = find(window);
     return found != nullptr ? found->traits.extendedStyle : 0;

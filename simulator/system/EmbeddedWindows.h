@@ -47,6 +47,8 @@ public:
     std::u16string title(platform::WindowHandle window) override;
     bool isVisible(platform::WindowHandle window) override;
     bool isIconic(platform::WindowHandle window) override;
+    /// False: they all answer at once.
+    bool isHung(platform::WindowHandle window) override;
     std::uint32_t extendedStyle(platform::WindowHandle window) override;
     platform::WindowHandle parent(platform::WindowHandle window) override;
     platform::WindowHandle previous(platform::WindowHandle window) override;

@@ -90,6 +90,8 @@ TEST_F(ClassTest, ReadsThroughTheHostsInterfaceWhatQuestionsAdd) {
     LONG count = 0;
     EXPECT_EQ(hosts->count(&count), S_OK);
     EXPECT_EQ(count, 3);
+    EXPECT_EQ(own->count(&count), S_OK) << "the class has it under both names";
+    EXPECT_EQ(count, 3);
     EXPECT_EQ(late.call(u"count"), Value(3));
     const char16_t* const texts[] = {u"Élève", u"", u"trois"};
     for (std::int32_t i = 1; i <= count; ++i) {

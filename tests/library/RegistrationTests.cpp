@@ -214,6 +214,21 @@ TEST_F(RegistrationTest, SaysThatItCannotBeTakenBackWithoutRights) {
     EXPECT_EQ(library_.install(false, L"user"), S_OK);
 }
 
+TEST_F(RegistrationTest, LeavesAnEarlierOneWhereItFails) {
+    ASSERT_EQ(library_.install(true, L"user"), S_OK);
+    const auto entries = library::entriesFor(L"C:\\Earlier\\K73053.dll");
+    for (const library::Entry& entry : entries) {
+        RegistryKey::create(HKEY_CURRENT_USER, classes + entry.key).setText(entry.name, entry.text);
+    }
+    const auto before = tests::classesContent(HKEY_CURRENT_USER, 0);
+    {
+        const NoRights none(HKEY_CURRENT_USER, classes + entries.back().key);
+        EXPECT_EQ(library_.install(true, L"user"), E_ACCESSDENIED);
+    }
+    EXPECT_EQ(tests::classesContent(HKEY_CURRENT_USER, 0), before);
+    EXPECT_EQ(library_.install(false, L"user"), S_OK);
+}
+
 TEST_F(RegistrationTest, IsNotNeededWithTheManifest) {
     const std::wstring manifest = tests::Library::pathBeside(L"K73053.manifest");
     ACTCTXW wanted{};

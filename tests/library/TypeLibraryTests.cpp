@@ -101,7 +101,7 @@ TEST_F(TypeLibraryTest, NumbersMembersAsLateBoundCallsFindThem) {
         int members;
     } cases[] = {{IID_AbstractModule, module.get(), 8},
                  {IID_TableauTexte, texts.get(), 3},
-                 {IID_IComplementInfo, texts.get(), 3},
+                 {IID_IComplementInfo, texts.get(), 6},
                  {IID_IFichiersDeTravail, files.get(), 3},
                  {IID_IFichierDeTravail, file.get(), 3}};
     for (const auto& [interfaceId, object, members] : cases) {

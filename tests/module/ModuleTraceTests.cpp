@@ -164,6 +164,7 @@ TEST_F(ModuleTrace, GeneralChecks) {
     init();
     module.TestePoint();
     EXPECT_EQ(log.take(), R"~(Windows.isVisible((main)) -> True
+Windows.isHung((main)) -> False
 Application.WindowState
 Application.WindowState = 3
 Application.WindowState = 3
@@ -188,6 +189,7 @@ TEST_F(ModuleTrace, Closing) {
 Windows.previous((main)) -> 0
 Application.CommandBars.Item("Task Pane").Visible
 Application.ShowStartupDialog
+Windows.isHung((main)) -> False
 Application.WindowState
 Application.WindowState = 3
 Application.WindowState = 3

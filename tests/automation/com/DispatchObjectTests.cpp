@@ -127,10 +127,10 @@ TEST_F(DispatchObjectTest, StatesHowAMemberIsReached) {
     invoke(u"P", Access::Put, {1, 2});
     server_->statuses = {DISP_E_MEMBERNOTFOUND, S_OK};
     invoke(u"O", Access::Put, {object_});
-    EXPECT_EQ(server_->calls, (std::vector<Server::Call>{{'G', DISPATCH_PROPERTYGET, 2, 0},
-                                                         {'C', DISPATCH_METHOD, 0, 0},
+    EXPECT_EQ(server_->calls, (std::vector<Server::Call>{{'G', both, 2, 0},
+                                                         {'C', both, 0, 0},
                                                          {'E', both, 0, 0},
-                                                         {DISPID_VALUE, DISPATCH_PROPERTYGET, 1, 0},
+                                                         {DISPID_VALUE, both, 1, 0},
                                                          {'P', DISPATCH_PROPERTYPUT, 2, DISPID_PROPERTYPUT},
                                                          {'O', DISPATCH_PROPERTYPUT, 1, DISPID_PROPERTYPUT},
                                                          {'O', DISPATCH_PROPERTYPUTREF, 1, DISPID_PROPERTYPUT}}));

@@ -50,6 +50,7 @@ TEST_F(WindowTest, SaysNothingOfAWindowThatIsGone) {
         EXPECT_EQ(windows_.title(handle), u"");
         EXPECT_FALSE(windows_.isVisible(handle));
         EXPECT_FALSE(windows_.isIconic(handle));
+        EXPECT_FALSE(windows_.isHung(handle));
         EXPECT_EQ(windows_.extendedStyle(handle), 0U);
         EXPECT_EQ(windows_.parent(handle), 0);
         EXPECT_EQ(windows_.previous(handle), 0);
@@ -91,11 +92,15 @@ TEST_F(WindowTest, FindsAndClosesTheDialogAboveAWindow) {
 }
 
 TEST_F(WindowTest, DoesNotWaitLongForAWindowThatHangs) {
-    const TestWindow window({.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE});
+    const TestWindow window({.title = L"Boîte", .style = WS_OVERLAPPEDWINDOW | WS_VISIBLE});
     window.hang(6500ms);
     const auto start = Clock::now();
+    EXPECT_EQ(windows_.title(handleOf(window)), u"Boîte");
+    EXPECT_LT(Clock::now() - start, 2s) << "its thread is not asked";
+    EXPECT_FALSE(windows_.isHung(handleOf(window)));
     windows_.send(handleOf(window), WindowSystem::closeMessage);
     EXPECT_LT(Clock::now() - start, 6s);
+    EXPECT_TRUE(windows_.isHung(handleOf(window)));
 }
 
 TEST_F(WindowTest, SendsAKeyAndWaitsUntilItIsProcessed) {

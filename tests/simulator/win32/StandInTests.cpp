@@ -12,6 +12,7 @@
 
 #include <array>
 #include <chrono>
+#include <thread>
 
 namespace {
 
@@ -141,6 +142,30 @@ TEST_F(StandInTest, IsAskedOnceWhetherItAnswers) {
     controls.call(u"Refuse", 2);
     EXPECT_FALSE(session.PowerPointRepond());
     EXPECT_EQ(controls.get(u"Refusals"), Value(1)) << "a busy one is not asked again";
+}
+
+TEST_F(StandInTest, IsNotAskedWhileItHangs) {
+    using namespace std::chrono_literals;
+    using Clock = std::chrono::steady_clock;
+    platform::Win32Services services;
+    k73053::Session session(services.services());
+    session.application = ppt::Application(application_.object());
+    session.window = static_cast<platform::WindowHandle>(reinterpret_cast<std::intptr_t>(frame_));
+    std::thread other([this] {
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        const LateBound application(servers_.attach(powerPoint));
+        control().call(u"DelayCall", 1, 10000);
+        application.get(u"Version");
+        CoUninitialize();
+    });
+    for (const auto end = Clock::now() + 9s; IsHungAppWindow(frame_) == FALSE && Clock::now() < end;) {
+        Sleep(20);
+    }
+    const auto start = Clock::now();
+    EXPECT_FALSE(session.PowerPointRepond());
+    EXPECT_LT(Clock::now() - start, 1s);
+    other.join();
+    EXPECT_TRUE(session.PowerPointRepond());
 }
 
 std::wstring serverKey() {

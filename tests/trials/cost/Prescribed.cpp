@@ -25,7 +25,8 @@ constexpr std::size_t countPresentations = 2; // Presentations.Count
 constexpr std::size_t keyAccess = 3;          // open, read or write, close
 constexpr std::size_t folderValues = 4;
 constexpr std::size_t answers = 3;             // WindowState read, set and set back
-constexpr std::size_t windowCallsOfChecks = 4; // visible? find, iconic? to the front
+constexpr std::size_t hangs = 1;               // before it is asked
+constexpr std::size_t windowCallsOfChecks = 5; // visible? hung? find, iconic? to the front
 constexpr std::size_t toTheFront = 4;          // find, WindowState, iconic? to the front
 
 template <typename... Arguments> LateBound member(const LateBound& object, const Name& name, Arguments&&... arguments) {
@@ -141,7 +142,7 @@ PrescribedCalls prescribedCalls(std::int32_t question, const Surroundings& surro
                 toTheFront,
             prepare,
             automationCallsOfGeneralChecks(slidesChecked) + windowCallsOfChecks + callsIn(accessesOf(question)),
-            1 + noDialog + ofBar + startup + answers + cleaning + closing + folders};
+            1 + noDialog + ofBar + startup + hangs + answers + cleaning + closing + folders};
 }
 
 KeepingCalls keepingCalls(const Surroundings& surroundings) {
