@@ -62,7 +62,7 @@ bool Session::PowerPointVisible() {
 
 bool Session::PowerPointRepond() const noexcept {
     // A call to a program that hangs would not come back.
-    if (services_.windows.isHung(window)) {
+    if (services_.windows.isHung(window_)) {
         return false;
     }
     const automation::WithoutRetry once;

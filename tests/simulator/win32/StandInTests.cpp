@@ -149,8 +149,7 @@ TEST_F(StandInTest, IsNotAskedWhileItHangs) {
     using Clock = std::chrono::steady_clock;
     platform::Win32Services services;
     k73053::Session session(services.services());
-    session.application = ppt::Application(application_.object());
-    session.window = static_cast<platform::WindowHandle>(reinterpret_cast<std::intptr_t>(frame_));
+    session.adopt(application_.object(), static_cast<platform::WindowHandle>(reinterpret_cast<std::intptr_t>(frame_)));
     std::thread other([this] {
         CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
         const LateBound application(servers_.attach(powerPoint));
