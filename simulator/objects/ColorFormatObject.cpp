@@ -39,4 +39,8 @@ MsoColorType ColorFormatObject::type() const {
     return getter_().scheme == ppNotSchemeColor ? msoColorTypeRGB : msoColorTypeScheme;
 }
 
+ColorScheme schemeOf(const Shape& shape) {
+    return alive(alive(shape.slide)->presentation)->colors;
+}
+
 } // namespace simulator

@@ -35,4 +35,7 @@ private:
     Scheme scheme_;
 };
 
+/// The scheme that the colours of a shape are of.
+[[nodiscard]] ColorScheme schemeOf(const Shape& shape);
+
 } // namespace simulator

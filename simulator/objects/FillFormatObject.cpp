@@ -1,14 +1,6 @@
 #include "simulator/objects/FillFormatObject.h"
 
-#include "simulator/objects/ShapeColor.h"
-
 namespace simulator {
-
-namespace {
-
-constexpr std::int32_t mixed = -2;
-
-} // namespace
 
 const automation::MemberTable& FillFormatObject::members() const {
     using automation::method;
@@ -24,57 +16,21 @@ const automation::MemberTable& FillFormatObject::members() const {
         method<&This::twoColorGradient>(u"TwoColorGradient"),
         method<&This::userPicture>(u"UserPicture"),
         method<&This::userTextured>(u"UserTextured"),
-        property<&This::backColor>(u"BackColor"),
-        property<&This::foreColor>(u"ForeColor"),
-        property<&This::gradientStyle>(u"GradientStyle"),
-        property<&This::gradientVariant>(u"GradientVariant"),
-        property<&This::pattern>(u"Pattern"),
-        property<&This::transparency, &This::setTransparency>(u"Transparency"),
-        property<&This::type>(u"Type"),
-        property<&This::visible, &This::setVisible>(u"Visible"),
+        property<&This::color<&Fill::back>>(u"BackColor"),
+        property<&This::color<&Fill::fore>>(u"ForeColor"),
+        property<&This::detail<msoFillGradient, &Fill::gradientStyle>>(u"GradientStyle"),
+        property<&This::detail<msoFillGradient, &Fill::gradientVariant>>(u"GradientVariant"),
+        property<&This::detail<msoFillPatterned, &Fill::pattern>>(u"Pattern"),
+        property<&This::get<&Fill::transparency>, &This::setTransparency>(u"Transparency"),
+        property<&This::get<&Fill::type>>(u"Type"),
+        property<&This::get<&Fill::visible>, &This::turn<&Fill::visible>>(u"Visible"),
     };
     return table;
 }
 
-MsoTriState FillFormatObject::visible() const {
-    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.fill.visible); });
-}
-
-void FillFormatObject::setVisible(MsoTriState visible) {
-    nodes().change([visible](Shape& shape) { shape.fill.visible = visible != msoFalse; });
-}
-
-MsoFillType FillFormatObject::type() const {
-    return nodes().common(msoFillMixed, [](const Shape& shape) { return shape.fill.type; });
-}
-
-float FillFormatObject::transparency() const {
-    return nodes().common(mixedLength, [](const Shape& shape) { return shape.fill.transparency; });
-}
-
 void FillFormatObject::setTransparency(float transparency) {
     errors::demandWithin(transparency, 0.0F, 1.0F, u"FillFormat.Transparency");
-    nodes().change([transparency](Shape& shape) { shape.fill.transparency = transparency; });
-}
-
-std::shared_ptr<ColorFormatObject> FillFormatObject::foreColor() const {
-    return colorOf(session(), nodes(), [](Shape& shape) -> Color& { return shape.fill.fore; });
-}
-
-std::shared_ptr<ColorFormatObject> FillFormatObject::backColor() const {
-    return colorOf(session(), nodes(), [](Shape& shape) -> Color& { return shape.fill.back; });
-}
-
-std::int32_t FillFormatObject::pattern() const {
-    return detail(msoFillPatterned, &Fill::pattern);
-}
-
-std::int32_t FillFormatObject::gradientStyle() const {
-    return detail(msoFillGradient, &Fill::gradientStyle);
-}
-
-std::int32_t FillFormatObject::gradientVariant() const {
-    return detail(msoFillGradient, &Fill::gradientVariant);
+    set<&Fill::transparency>(transparency);
 }
 
 void FillFormatObject::solid() {
@@ -84,7 +40,7 @@ void FillFormatObject::solid() {
 void FillFormatObject::patterned(std::int32_t pattern) {
     errors::demandWithin(pattern, 1, 48, u"FillFormat.Patterned");
     become(msoFillPatterned);
-    nodes().change([pattern](Shape& shape) { shape.fill.pattern = pattern; });
+    set<&Fill::pattern>(pattern);
 }
 
 void FillFormatObject::oneColorGradient(std::int32_t style, std::int32_t variant, float degree) {
@@ -135,11 +91,6 @@ void FillFormatObject::becomeGradient(std::int32_t style, std::int32_t variant) 
         shape.fill.gradientStyle = style;
         shape.fill.gradientVariant = variant;
     });
-}
-
-std::int32_t FillFormatObject::detail(MsoFillType type, std::int32_t Fill::*part) const {
-    return nodes().common(
-        mixed, [type, part](const Shape& shape) { return shape.fill.type == type ? shape.fill.*part : mixed; });
 }
 
 } // namespace simulator

@@ -1,31 +1,23 @@
 #pragma once
 
-#include "simulator/objects/ColorFormatObject.h"
-#include "simulator/objects/NodeSet.h"
+#include "simulator/objects/ShapeFormatObject.h"
 
 namespace simulator {
 
 /// FillFormat: how some shapes are filled.
-class FillFormatObject final : public NodeSetObject<Shape> {
+class FillFormatObject final : public ShapeFormatObject<&Shape::fill> {
 public:
-    FillFormatObject(SessionPtr session, const ShapeSet& shapes)
-        : NodeSetObject(std::move(session), leavesOf(shapes)) {}
+    using ShapeFormatObject::ShapeFormatObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] MsoTriState visible() const;
-    void setVisible(MsoTriState visible);
-    [[nodiscard]] MsoFillType type() const;
     /// 0 opaque to 1 clear; raises an invalid request outside.
-    [[nodiscard]] float transparency() const;
     void setTransparency(float transparency);
-    [[nodiscard]] std::shared_ptr<ColorFormatObject> foreColor() const;
-    [[nodiscard]] std::shared_ptr<ColorFormatObject> backColor() const;
-    /// Mixed (-2) unless the fill is patterned.
-    [[nodiscard]] std::int32_t pattern() const;
-    /// Mixed (-2) unless the fill is a gradient.
-    [[nodiscard]] std::int32_t gradientStyle() const;
-    [[nodiscard]] std::int32_t gradientVariant() const;
+    /// What only fills of one type have; mixed (-2) for another.
+    template <MsoFillType type, std::int32_t Fill::*part> [[nodiscard]] std::int32_t detail() const {
+        return nodes().common(mixed,
+                              [](const Shape& shape) { return shape.fill.type == type ? shape.fill.*part : mixed; });
+    }
 
     void solid();
     void patterned(std::int32_t pattern);
@@ -41,7 +33,8 @@ public:
 private:
     void become(MsoFillType type) const;
     void becomeGradient(std::int32_t style, std::int32_t variant) const;
-    [[nodiscard]] std::int32_t detail(MsoFillType type, std::int32_t Fill::*part) const;
+
+    static constexpr std::int32_t mixed = -2;
 };
 
 } // namespace simulator

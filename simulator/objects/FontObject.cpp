@@ -1,7 +1,6 @@
 #include "simulator/objects/FontObject.h"
 
 #include "simulator/objects/TextRangeObject.h"
-#include "simulator/objects/TriState.h"
 
 namespace simulator {
 
@@ -9,10 +8,6 @@ namespace {
 
 constexpr float mixedSize = -2;
 constexpr float largestSize = 4000;
-
-ColorScheme schemeOf(const Shape& shape) {
-    return alive(alive(shape.slide)->presentation)->colors;
-}
 
 } // namespace
 
@@ -80,14 +75,6 @@ std::shared_ptr<ColorFormatObject> FontObject::color() const {
 
 automation::ObjectPtr FontObject::parent() const {
     return std::make_shared<TextRangeObject>(session(), part_.reference(), part_.span);
-}
-
-MsoTriState FontObject::styleOf(bool CharacterFormat::*property) const {
-    return triState(part_.common(property));
-}
-
-void FontObject::changeStyle(bool CharacterFormat::*property, MsoTriState on) {
-    part_.change(property, on != msoFalse);
 }
 
 } // namespace simulator

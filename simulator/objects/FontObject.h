@@ -2,6 +2,7 @@
 
 #include "simulator/objects/ColorFormatObject.h"
 #include "simulator/objects/TextPart.h"
+#include "simulator/objects/TriState.h"
 
 namespace simulator {
 
@@ -20,9 +21,11 @@ public:
     /// Raises an invalid request outside 1 to 4000 points.
     void setSize(float points);
     /// Mixed where the characters differ.
-    template <bool CharacterFormat::*property> [[nodiscard]] MsoTriState style() const { return styleOf(property); }
+    template <bool CharacterFormat::*property> [[nodiscard]] MsoTriState style() const {
+        return triState(part_.common(property));
+    }
     /// Any value but msoFalse means yes.
-    template <bool CharacterFormat::*property> void setStyle(MsoTriState on) { changeStyle(property, on); }
+    template <bool CharacterFormat::*property> void setStyle(MsoTriState on) { part_.change(property, on != msoFalse); }
     /// The colour of the range's first character, read at the time of the call; written to the whole range. It follows
     /// its characters while the text changes; once they are gone it answers with their last colour, and writing it
     /// raises an invalid request.
@@ -32,9 +35,6 @@ public:
     [[nodiscard]] automation::ObjectPtr parent() const;
 
 private:
-    [[nodiscard]] MsoTriState styleOf(bool CharacterFormat::*property) const;
-    void changeStyle(bool CharacterFormat::*property, MsoTriState on);
-
     TextPart part_;
 };
 

@@ -5,13 +5,6 @@
 
 namespace simulator {
 
-namespace {
-
-constexpr float mixedSpace = -2;
-constexpr float largestSpace = 132; ///< lines
-
-} // namespace
-
 ParagraphFormatObject::ParagraphFormatObject(SessionPtr session, TextPart part) noexcept
     : PowerPointObject(std::move(session)), part_(std::move(part)) {}
 
@@ -41,15 +34,6 @@ void ParagraphFormatObject::setAlignment(PpParagraphAlignment alignment) {
 
 std::shared_ptr<BulletFormatObject> ParagraphFormatObject::bullet() const {
     return std::make_shared<BulletFormatObject>(session(), part_);
-}
-
-float ParagraphFormatObject::spaceOf(float ParagraphFormat::*space) const {
-    return part_.common(space).value_or(mixedSpace);
-}
-
-void ParagraphFormatObject::changeSpace(float ParagraphFormat::*space, float lines) {
-    errors::demandWithin(lines, 0.0F, largestSpace, u"ParagraphFormat.Space");
-    part_.change(space, lines);
 }
 
 automation::ObjectPtr ParagraphFormatObject::parent() const {

@@ -19,16 +19,21 @@ public:
     void setAlignment(PpParagraphAlignment alignment);
     [[nodiscard]] std::shared_ptr<BulletFormatObject> bullet() const;
     /// In lines.
-    template <float ParagraphFormat::*which> [[nodiscard]] float space() const { return spaceOf(which); }
+    template <float ParagraphFormat::*which> [[nodiscard]] float space() const {
+        return part_.common(which).value_or(mixedSpace);
+    }
     /// Raises an invalid request for a negative space.
-    template <float ParagraphFormat::*which> void setSpace(float lines) { changeSpace(which, lines); }
+    template <float ParagraphFormat::*which> void setSpace(float lines) {
+        errors::demandWithin(lines, 0.0F, largestSpace, u"ParagraphFormat.Space");
+        part_.change(which, lines);
+    }
 
     /// The text range.
     [[nodiscard]] automation::ObjectPtr parent() const;
 
 private:
-    [[nodiscard]] float spaceOf(float ParagraphFormat::*space) const;
-    void changeSpace(float ParagraphFormat::*space, float lines);
+    static constexpr float mixedSpace = -2;
+    static constexpr float largestSpace = 132; ///< lines
 
     TextPart part_;
 };

@@ -1,7 +1,5 @@
 #include "simulator/objects/ShadowFormatObject.h"
 
-#include "simulator/objects/ShapeColor.h"
-
 namespace simulator {
 
 namespace {
@@ -31,28 +29,20 @@ const automation::MemberTable& ShadowFormatObject::members() const {
     using automation::property;
     using This = ShadowFormatObject;
     static const automation::MemberTable table{
-        method<&This::incrementOffsetX>(u"IncrementOffsetX"),
-        method<&This::incrementOffsetY>(u"IncrementOffsetY"),
-        property<&This::foreColor>(u"ForeColor"),
-        property<&This::obscured, &This::setObscured>(u"Obscured"),
-        property<&This::offsetX, &This::setOffsetX>(u"OffsetX"),
-        property<&This::offsetY, &This::setOffsetY>(u"OffsetY"),
-        property<&This::type, &This::setType>(u"Type"),
-        property<&This::visible, &This::setVisible>(u"Visible"),
+        method<&This::increment<&Shadow::offsetX>>(u"IncrementOffsetX"),
+        method<&This::increment<&Shadow::offsetY>>(u"IncrementOffsetY"),
+        property<&This::color<&Shadow::color>>(u"ForeColor"),
+        property<&This::get<&Shadow::obscured>, &This::turn<&Shadow::obscured>>(u"Obscured"),
+        property<&This::get<&Shadow::offsetX>, &This::set<&Shadow::offsetX>>(u"OffsetX"),
+        property<&This::get<&Shadow::offsetY>, &This::set<&Shadow::offsetY>>(u"OffsetY"),
+        property<&This::get<&Shadow::type>, &This::setType>(u"Type"),
+        property<&This::get<&Shadow::visible>, &This::setVisible>(u"Visible"),
     };
     return table;
 }
 
-MsoTriState ShadowFormatObject::visible() const {
-    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.shadow.visible); });
-}
-
 void ShadowFormatObject::setVisible(MsoTriState visible) {
     nodes().change([visible](Shape& shape) { shape.showShadow(visible != msoFalse); });
-}
-
-std::int32_t ShadowFormatObject::type() const {
-    return nodes().common(std::int32_t{-2}, [](const Shape& shape) { return shape.shadow.type; });
 }
 
 void ShadowFormatObject::setType(std::int32_t type) {
@@ -62,42 +52,6 @@ void ShadowFormatObject::setType(std::int32_t type) {
         offsetByStyle(shape.shadow, type);
         shape.showShadow(true);
     });
-}
-
-std::shared_ptr<ColorFormatObject> ShadowFormatObject::foreColor() const {
-    return colorOf(session(), nodes(), [](Shape& shape) -> Color& { return shape.shadow.color; });
-}
-
-float ShadowFormatObject::offsetX() const {
-    return nodes().common(mixedLength, [](const Shape& shape) { return shape.shadow.offsetX; });
-}
-
-void ShadowFormatObject::setOffsetX(float points) {
-    nodes().change([points](Shape& shape) { shape.shadow.offsetX = points; });
-}
-
-float ShadowFormatObject::offsetY() const {
-    return nodes().common(mixedLength, [](const Shape& shape) { return shape.shadow.offsetY; });
-}
-
-void ShadowFormatObject::setOffsetY(float points) {
-    nodes().change([points](Shape& shape) { shape.shadow.offsetY = points; });
-}
-
-void ShadowFormatObject::incrementOffsetX(float points) {
-    nodes().change([points](Shape& shape) { shape.shadow.offsetX += points; });
-}
-
-void ShadowFormatObject::incrementOffsetY(float points) {
-    nodes().change([points](Shape& shape) { shape.shadow.offsetY += points; });
-}
-
-MsoTriState ShadowFormatObject::obscured() const {
-    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.shadow.obscured); });
-}
-
-void ShadowFormatObject::setObscured(MsoTriState obscured) {
-    nodes().change([obscured](Shape& shape) { shape.shadow.obscured = obscured != msoFalse; });
 }
 
 } // namespace simulator

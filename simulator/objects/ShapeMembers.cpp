@@ -140,19 +140,19 @@ std::shared_ptr<TagsObject> ShapeMembers::tags() const {
 }
 
 std::shared_ptr<FillFormatObject> ShapeMembers::fill() const {
-    return std::make_shared<FillFormatObject>(session(), nodes());
+    return std::make_shared<FillFormatObject>(session(), leavesOf(nodes()));
 }
 
 std::shared_ptr<LineFormatObject> ShapeMembers::line() const {
-    return std::make_shared<LineFormatObject>(session(), nodes());
+    return std::make_shared<LineFormatObject>(session(), leavesOf(nodes()));
 }
 
 std::shared_ptr<ShadowFormatObject> ShapeMembers::shadow() const {
-    return std::make_shared<ShadowFormatObject>(session(), nodes());
+    return std::make_shared<ShadowFormatObject>(session(), leavesOf(nodes()));
 }
 
 std::shared_ptr<ThreeDFormatObject> ShapeMembers::threeD() const {
-    return std::make_shared<ThreeDFormatObject>(session(), nodes());
+    return std::make_shared<ThreeDFormatObject>(session(), leavesOf(nodes()));
 }
 
 std::shared_ptr<TextEffectFormatObject> ShapeMembers::textEffect() const {

@@ -13,23 +13,15 @@ const automation::MemberTable& ThreeDFormatObject::members() const {
     using This = ThreeDFormatObject;
     static const automation::MemberTable table{
         method<&This::setThreeDFormat>(u"SetThreeDFormat"),
-        property<&This::depth, &This::setDepth>(u"Depth"),
-        property<&This::presetThreeDFormat>(u"PresetThreeDFormat"),
-        property<&This::visible, &This::setVisible>(u"Visible"),
+        property<&This::get<&ThreeD::depth>, &This::setDepth>(u"Depth"),
+        property<&This::get<&ThreeD::preset>>(u"PresetThreeDFormat"),
+        property<&This::get<&ThreeD::visible>, &This::setVisible>(u"Visible"),
     };
     return table;
 }
 
-MsoTriState ThreeDFormatObject::visible() const {
-    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.threeD.visible); });
-}
-
 void ThreeDFormatObject::setVisible(MsoTriState visible) {
     nodes().change([visible](Shape& shape) { shape.showThreeD(visible != msoFalse); });
-}
-
-std::int32_t ThreeDFormatObject::presetThreeDFormat() const {
-    return nodes().common(mixed, [](const Shape& shape) { return shape.threeD.preset; });
 }
 
 void ThreeDFormatObject::setThreeDFormat(std::int32_t presetThreeDFormat) {
@@ -39,10 +31,6 @@ void ThreeDFormatObject::setThreeDFormat(std::int32_t presetThreeDFormat) {
         shape.threeD.preset = presetThreeDFormat;
         shape.showThreeD(true);
     });
-}
-
-float ThreeDFormatObject::depth() const {
-    return nodes().common(mixedLength, [](const Shape& shape) { return shape.threeD.depth; });
 }
 
 void ThreeDFormatObject::setDepth(float points) {
