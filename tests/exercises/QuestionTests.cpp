@@ -172,7 +172,7 @@ TEST_F(Questions, KeepTheirFrameBetweenCreationAndClosing) {
     EXPECT_EQ(question->ComplementInfo(), nullptr);
     EXPECT_EQ(say(LateBound(question->FichiersDeTravail()), u"count"), automation::Value(0));
     EXPECT_EQ(exercises::createQuestion(300, {api, machine.services()}), nullptr);
-    EXPECT_EQ(exercises::createQuestion(324, {api, machine.services()}), nullptr);
+    EXPECT_EQ(exercises::createQuestion(exercises::lastQuestion + 1, {api, machine.services()}), nullptr);
 }
 
 TEST_F(Questions, KeepTheLetterOfAnEarlierAttempt) {

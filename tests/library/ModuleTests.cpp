@@ -49,7 +49,7 @@ protected:
 TEST_F(ModuleTest, RefusesAQuestionThatThereIsNot) {
     startPowerPoint();
     const std::u16string text = u"Variable objet ou variable de bloc With non définie";
-    expectRefusal(324, {0x800A005BU, report(u"Module\n\r - SERVICE Nettoyage", text), text});
+    expectRefusal(399, {0x800A005BU, report(u"Module\n\r - SERVICE Nettoyage", text), text});
     EXPECT_EQ(init(300), static_cast<HRESULT>(0x800A005BU));
 }
 
@@ -308,7 +308,7 @@ TEST_F(ModuleTest, MakesTheTemplatesFolder) {
             UserHive::put(officeSettings, L"UserTemplates", *userTemplates);
         }
         EXPECT_FALSE(fs::exists(made));
-        EXPECT_TRUE(FAILED(init(324))) << "after the folder was made";
+        EXPECT_TRUE(FAILED(init(399))) << "after the folder was made";
         EXPECT_TRUE(fs::is_directory(made)) << fs::path(made);
         EXPECT_FALSE(fs::exists(made + L"\\ZOR Mod\u00E8les")) << "a last name without a backslash is no folder's";
         fs::remove_all(made);

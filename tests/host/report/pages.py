@@ -110,13 +110,11 @@ def all_questions(driver, host, folder):
     cases = suites.findall("testsuite/testcase")
     check("the same scenarios everywhere",
           "" if passed == scenarios == len(cases) == int(suites.get("tests")) else (passed, scenarios, len(cases)))
-    check("every letter is reached",
-          [(file["question"], letter["letter"]) for file in data["files"] for letter in file["letters"] if not letter["reachedBy"]])
     look(driver, page, "all questions")
     listen(driver, "all questions", len(data["files"]), scenarios)
     rows = driver.find_elements(By.CSS_SELECTOR, "details.file > summary")
     numbers = [row.find_element(By.CSS_SELECTOR, ".number").text for row in rows]
-    check("a row for every question", sorted(set(map(str, range(301, 324))) - set(numbers)))
+    check("a row for every question", sorted({str(file["question"]) for file in data["files"]} - set(numbers)))
     shown = driver.execute_script("return document.querySelectorAll('details.scenario').length")
     check("every scenario is on the page", "" if shown == passed else shown)
     check("every row shows whether it is folded", driver.execute_script(

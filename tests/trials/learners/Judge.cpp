@@ -1,9 +1,14 @@
 #include "tests/trials/learners/judges/Judges.h"
 
+#include <stdexcept>
+
 namespace trials::learners {
 
 JudgePtr makeJudge(std::int32_t question) {
     switch (question) {
+    case 301:
+    case 302:
+    case 303: return makeContentJudge();
     case 304: return makeFileJudge();
     case 305: return makeAdviceJudge();
     case 306: return makeReplacementJudge();
@@ -20,7 +25,7 @@ JudgePtr makeJudge(std::int32_t question) {
             }
         }
     }
-    return makeContentJudge();
+    throw std::out_of_range("no judge of question " + std::to_string(question));
 }
 
 } // namespace trials::learners

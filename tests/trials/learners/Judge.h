@@ -32,7 +32,7 @@ public:
 
 using JudgePtr = std::unique_ptr<Judge>;
 
-/// The judge of a question, 301 to 323.
+/// The judge of a question. Raises std::out_of_range where there is none.
 [[nodiscard]] JudgePtr makeJudge(std::int32_t question);
 
 } // namespace trials::learners
