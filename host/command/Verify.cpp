@@ -4,6 +4,7 @@
 #include "host/picture/Camera.h"
 #include "host/report/JUnit.h"
 #include "host/report/Json.h"
+#include "host/report/Letters.h"
 #include "host/report/Page.h"
 #include "host/report/Recorder.h"
 #include "host/run/Runner.h"
@@ -56,7 +57,7 @@ public:
 
 private:
     FileResult run(const language::ScenarioFile& file) {
-        FileResult result{file.name, file.question, toUtf8(file.subject()), {}};
+        FileResult result{file.name, file.question, toUtf8(file.subject()), file.contract.meanings, {}};
         Watch watch(Watch::patience, at_.out);
         watch.next(file.name + ", its course");
         const Runner runner(file, at_.worlds.chosen());
@@ -64,13 +65,26 @@ private:
             const std::string place = file.name + " \"" + toUtf8(scenario.title) + "\"";
             watch.next(place);
             at_.progress.at(result.name() + ", " + toUtf8(scenario.title), ++scenario_, scenarios_);
-            result.results.push_back(run(runner, scenario));
-            for (const language::Remark& failure : result.results.back().failures) {
-                at_.progress.clear();
-                at_.out << failure.in(file.name) << " (\"" << toUtf8(scenario.title) << "\")" << std::endl;
-            }
+            add(run(runner, scenario), result);
+        }
+        std::vector<language::Remark> amiss = runner.shortcomings();
+        if (result.failed() == 0) {
+            const std::vector<language::Remark> letters = report::lettersAmiss(result);
+            amiss.insert(amiss.end(), letters.begin(), letters.end());
+        }
+        if (!amiss.empty()) {
+            const std::size_t line = amiss.front().place.line;
+            add({"what the file says of its question", line, {}, std::move(amiss), 0, {}}, result);
         }
         return result;
+    }
+
+    void add(Result result, FileResult& file) const {
+        for (const language::Remark& failure : result.failures) {
+            at_.progress.clear();
+            at_.out << failure.in(file.file) << " (\"" << result.title << "\")" << std::endl;
+        }
+        file.results.push_back(std::move(result));
     }
 
     Result run(const Runner& runner, const language::Scenario& scenario) {

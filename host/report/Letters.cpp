@@ -3,26 +3,19 @@
 #include "automation/Text.h"
 
 #include <algorithm>
-#include <array>
+#include <functional>
 #include <tuple>
 
 namespace host::report {
 
 namespace {
 
-/// The letters of the questions from 304 on; 301 to 303 have none.
-constexpr std::array<std::string_view, 20> lettersByQuestion{
-    "AB",   "ABC",    "ABCF",   "ABC",    "CDEFGH", "ABCDEFGZ", "ABCZ", "ABCDEFZ", "ABCZ",    "AB",
-    "ABCZ", "ABCDEZ", "ABCDGZ", "ABCDEF", "ABCZ",   "ABCDEFZ",  "A",    "ABCDEZ",  "ABCDEFH", "BCDEF",
-};
-constexpr std::int32_t firstWithLetters = 304;
-
-std::vector<Letter> declared(std::int32_t question) {
+std::vector<Letter> declared(const FileResult& file) {
     std::vector<Letter> all;
-    if (question >= firstWithLetters &&
-        question < firstWithLetters + static_cast<std::int32_t>(lettersByQuestion.size())) {
-        for (const char letter : lettersByQuestion.at(static_cast<std::size_t>(question - firstWithLetters))) {
-            all.push_back({std::string(1, letter), false, false, {}});
+    for (const language::Meaning& meaning : file.meanings) {
+        if (const Expectation& verdict = meaning.verdict; !verdict.letter.empty()) {
+            const bool isRemark = verdict.kind == Expectation::Kind::Remark;
+            all.push_back({automation::toUtf8(verdict.letter), false, isRemark, {}, meaning.place.line});
         }
     }
     return all;
@@ -34,9 +27,8 @@ void reach(std::vector<Letter>& all, const Reading& reading, std::size_t scenari
         return candidate.letter == letter && candidate.isGeneral == reading.erreurGenerale;
     });
     if (found == all.end()) {
-        found = all.insert(all.end(), {letter, reading.erreurGenerale, false, {}});
+        found = all.insert(all.end(), {letter, reading.erreurGenerale, reading.bravoNuance, {}});
     }
-    found->isRemark = found->isRemark || reading.bravoNuance;
     if (found->reachedBy.empty() || found->reachedBy.back() != scenario) {
         found->reachedBy.push_back(scenario);
     }
@@ -45,7 +37,7 @@ void reach(std::vector<Letter>& all, const Reading& reading, std::size_t scenari
 } // namespace
 
 std::vector<Letter> lettersOf(const FileResult& file) {
-    std::vector<Letter> all = file.isQuestion() ? declared(file.question) : std::vector<Letter>();
+    std::vector<Letter> all = declared(file);
     for (std::size_t i = 0; i < file.results.size(); ++i) {
         for (const Attempt& attempt : file.results[i].attempts) {
             if (attempt.reading && !attempt.reading->error && !attempt.reading->causeErreur.empty()) {
@@ -57,6 +49,21 @@ std::vector<Letter> lettersOf(const FileResult& file) {
         return std::tie(left.isGeneral, left.letter) < std::tie(right.isGeneral, right.letter);
     });
     return all;
+}
+
+std::vector<language::Remark> lettersAmiss(const FileResult& file) {
+    const std::vector<Letter> letters = lettersOf(file);
+    const bool isDeclaring = std::any_of(letters.begin(), letters.end(), std::mem_fn(&Letter::line));
+    std::vector<language::Remark> remarks;
+    for (const Letter& letter : letters) {
+        if (isDeclaring && !letter.isGeneral && letter.line == 0) {
+            const std::size_t line = file.results.at(letter.reachedBy.front()).line;
+            remarks.push_back({{line, 1}, "the host reads \"" + letter.letter + "\", a letter that is not declared"});
+        } else if (file.isQuestion() && letter.reachedBy.empty()) {
+            remarks.push_back({{letter.line, 1}, "no scenario reaches the letter \"" + letter.letter + "\""});
+        }
+    }
+    return remarks;
 }
 
 } // namespace host::report

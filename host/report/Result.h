@@ -38,7 +38,8 @@ struct Result {
 struct FileResult {
     std::string file;
     std::int32_t question = 0;
-    std::string subject; ///< what the file says of itself at its head; may be empty
+    std::string subject;                     ///< what the file says of itself at its head; may be empty
+    std::vector<language::Meaning> meanings; ///< of the verdicts that the file declares
     std::vector<Result> results;
 
     [[nodiscard]] std::size_t passed() const noexcept;

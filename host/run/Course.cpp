@@ -16,6 +16,29 @@ namespace {
 constexpr std::u16string_view courseNumber = u"07305";
 constexpr std::u16string_view builtName = u"cours.ppt";
 
+automation::LateBound activePresentation(World& world) {
+    const automation::LateBound application(world.powerPoint().application());
+    return automation::LateBound(application.get(u"ActivePresentation").to<automation::ObjectPtr>());
+}
+
+/// What the active presentation lacks of these expectations. A variable that cannot be set ends them.
+std::vector<language::Remark> shortcomingsIn(World& world, const std::vector<language::Statement>& expectations) {
+    WorldStage stage(world);
+    language::Interpreter interpreter(stage);
+    std::vector<language::Remark> remarks;
+    for (const language::Statement& statement : expectations) {
+        try {
+            interpreter.execute(statement);
+        } catch (const language::Failure& failure) {
+            remarks.push_back(failure.remark);
+            if (std::holds_alternative<language::Assignment>(statement.node)) {
+                break;
+            }
+        }
+    }
+    return remarks;
+}
+
 } // namespace
 
 Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) : isBuilt_(true) {
@@ -29,12 +52,15 @@ Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) 
         interpreter.execute(statement);
     }
     interpreter.forget();
-    {
+    activePresentation(*world).call(u"SaveAs", built);
+    if (!file.contract.delivered.empty()) {
+        // It is looked at as it lies in its file.
+        activePresentation(*world).call(u"Close");
         const automation::LateBound application(world->powerPoint().application());
-        const automation::LateBound presentation(application.get(u"ActivePresentation").to<automation::ObjectPtr>());
-        presentation.call(u"SaveAs", built);
-        presentation.call(u"Close");
+        automation::LateBound(application.get(u"Presentations").to<automation::ObjectPtr>()).call(u"Open", built);
+        shortcomings_ = shortcomingsIn(*world, file.contract.delivered);
     }
+    activePresentation(*world).call(u"Close");
     world->powerPoint().close();
     for (const std::u16string& name : world->files().namesIn(folder)) {
         Bytes content = world->files().read(folder + name);

@@ -17,6 +17,8 @@ public:
     /// std::runtime_error where there is no presentation.
     Course(const std::filesystem::path& folder, std::int32_t question);
 
+    /// What the presentation built lacks of what the scenario file says of it.
+    [[nodiscard]] const std::vector<language::Remark>& shortcomings() const noexcept { return shortcomings_; }
     /// True for files that a scenario file builds, false for the course's own.
     [[nodiscard]] bool isBuilt() const noexcept { return isBuilt_; }
 
@@ -28,6 +30,7 @@ private:
     bool isBuilt_;
     Bytes presentation_;
     std::vector<std::pair<std::u16string, Bytes>> others_;
+    std::vector<language::Remark> shortcomings_;
 };
 
 } // namespace host

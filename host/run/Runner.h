@@ -22,6 +22,11 @@ public:
     Runner(const language::ScenarioFile& file, Course course, WorldMaker makeWorld)
         : file_(file), makeWorld_(std::move(makeWorld)), course_(std::move(course)) {}
 
+    /// What the course built lacks of what the file says of it.
+    [[nodiscard]] std::vector<language::Remark> shortcomings() const {
+        return course_ ? course_->shortcomings() : std::vector<language::Remark>();
+    }
+
     /// Makes the witness of a scenario, which sees its world.
     using WitnessMaker = std::function<std::unique_ptr<Witness>(World&)>;
 

@@ -1,6 +1,7 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
 #include "host/language/Parser.h"
+#include "host/language/Words.h"
 #include "host/run/Guard.h"
 #include "host/run/Runner.h"
 #include "host/world/TemporaryFolder.h"
@@ -60,6 +61,26 @@ TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
     EXPECT_NE(out.find(file() + ":16:1: the learner's folder Default was \""), std::string::npos);
     EXPECT_NE(out.find(file() + ":21:1: error 429 PowerPoint does not run"), std::string::npos);
     EXPECT_TRUE(out.ends_with("\n1 passed, 5 failed\n")) << out;
+}
+
+TEST_F(HostTest, VerifyHoldsAFileToWhatItSaysOfItsQuestion) {
+    const std::string contract = "question 306\nletter \"A\" \"x\"\ndelivered\n"
+                                 "expect ActivePresentation.Name = \"cours.ppt\", ActivePresentation.Slides.Count = 2\n"
+                                 "Set s = Nobody\nexpect s.Name = \"untold\"\n";
+    write(contract + std::string(course).substr(contract.find('\n') + 1) + success);
+    const std::string copy = file() + ".scn"; // not named after its question
+    std::filesystem::copy(file(), copy);
+    const auto found = [&](const std::string& path) {
+        std::string out = said({"verify", "--file", path}, ExitCode::FellShort);
+        host::replaceAll(out, " (\"what the file says of its question\")", "");
+        host::replaceAll(out, path, "");
+        return out;
+    };
+    const std::string delivered = ":4:73: expected 2, found 1\n:5:9: error 438 'Nobody' is neither a variable nor a "
+                                  "member of PowerPoint's application [K73053]\n";
+    const std::string undeclared = ":11:1: the host reads \"F\", a letter that is not declared\n1 passed, 1 failed\n";
+    EXPECT_EQ(found(copy), delivered + undeclared);
+    EXPECT_EQ(found(file()), delivered + ":2:1: no scenario reaches the letter \"A\"\n" + undeclared);
 }
 
 /// The bytes of a file in a world, as a file of the real disk.
@@ -195,7 +216,7 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
         {{"--version"}, ExitCode::Good, "1.2.3"},
         {{}, ExitCode::WrongUsage, "which command?"},
         {{"walk"}, ExitCode::WrongUsage, "not expected: walk"},
-        {{"run", "324"}, ExitCode::WrongUsage, "the course has 301 to 323"},
+        {{"run", "399"}, ExitCode::WrongUsage, "the course has 301 to 3"},
         {{"run", "many"}, ExitCode::WrongUsage, "many"},
         {{"run", "307"}, ExitCode::WrongUsage, "no scenario file: "},
         {{"run"}, ExitCode::WrongUsage, "has no scenario that ends in a success"},
