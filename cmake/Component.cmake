@@ -20,7 +20,4 @@ function(component name)
     else()
         target_precompile_headers(${name} REUSE_FROM ${lowest_component})
     endif()
-    if(name MATCHES "_(com|win32)$") # the system's headers leave too much behind for the next source
-        set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
-    endif()
 endfunction()

@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <chrono>
 #include <ostream>
+#include <random>
 
 namespace host {
 
@@ -33,10 +34,25 @@ using Files = std::vector<language::ScenarioFile>;
 struct VerifyRequest {
     std::vector<std::int32_t> questions;
     std::vector<std::string> files;
-    std::string page;  ///< file for a report as a page; empty for none
-    std::string junit; ///< file for a report as build servers read it; empty for none
-    std::string json;  ///< file for a report as JSON; empty for none
+    std::string page;                  ///< file for a report as a page; empty for none
+    std::string junit;                 ///< file for a report as build servers read it; empty for none
+    std::string json;                  ///< file for a report as JSON; empty for none
+    std::optional<std::size_t> sample; ///< scenarios of each file; all where nothing is said
+    std::optional<std::uint32_t> draw; ///< of the random numbers that pick them; a new one where it is missing
 };
+
+/// Leaves so many scenarios of each file, picked at random; says what picks the same again.
+void takeSample(const VerifyRequest& request, Files& files, std::ostream& out) {
+    const std::uint32_t draw = request.draw ? *request.draw : std::random_device()();
+    out << *request.sample << " scenarios of each file, --draw " << draw << std::endl;
+    std::mt19937 random(draw);
+    for (language::ScenarioFile& file : files) {
+        while (file.scenarios.size() > *request.sample) {
+            file.scenarios.erase(file.scenarios.begin() +
+                                 static_cast<std::ptrdiff_t>(random() % file.scenarios.size()));
+        }
+    }
+}
 
 /// Runs the scenarios of files, one after the other.
 class Verification {
@@ -157,6 +173,9 @@ ExitCode verify(const VerifyRequest& request, const CommandContext& at) {
     for (const std::filesystem::path& path : named(request, at.library)) {
         files.push_back(load(path));
     }
+    if (request.sample) {
+        takeSample(request, files, at.out);
+    }
     if (std::all_of(files.begin(), files.end(), [](const auto& file) { return file.scenarios.empty(); })) {
         throw UsageError("no scenario to verify");
     }
@@ -173,6 +192,9 @@ Action addVerify(CLI::App& command) {
     const auto request = std::make_shared<VerifyRequest>();
     addQuestions(command, request->questions);
     command.add_option("--file", request->files, "A scenario file");
+    auto* const sample =
+        command.add_option("--sample", request->sample, "Run so many scenarios of each file, at random");
+    command.add_option("--draw", request->draw, "What --sample draws by (at random)")->needs(sample);
     command.add_option("--report", request->page, "Write a page of all scenarios, with pictures (F.html)");
     command.add_option("--junit", request->junit, "Write a report as build servers read it (F.xml)");
     command.add_option("--json", request->json, "Write a report as JSON (F.json)");

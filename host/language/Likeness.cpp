@@ -35,8 +35,8 @@ std::u16string likeness(const automation::Object& object, std::u16string_view na
     const std::size_t most = wanted.size() < 4 ? 1 : 2;
     std::u16string alike;
     for (const automation::Member& member : published->members().members()) {
-        if (const std::size_t far = distance(wanted, automation::lowerCase(member.name.text()));
-            far > 0 && far <= most) {
+        if (const std::size_t changes = distance(wanted, automation::lowerCase(member.name.text()));
+            changes > 0 && changes <= most) {
             alike += alike.empty() ? u": " : u" or ";
             alike += member.name.text();
         }

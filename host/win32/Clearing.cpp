@@ -19,7 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A PowerPoint that is going holds its files a little longer.
-constexpr auto patience = 3000ms;
+constexpr auto untilLetGo = 3000ms;
 constexpr auto step = 20ms;
 
 std::vector<fs::path> contentOf(const fs::path& folder) {
@@ -35,7 +35,7 @@ void makeNormal(const fs::path& path) noexcept {
 }
 
 void removeAll(const fs::path& place) {
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + untilLetGo;
     std::error_code failure;
     do {
         makeNormal(place);

@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::u16string_view folder = u"C:\\Formation\\";
+constexpr std::u16string_view courseFolder = u"C:\\Formation\\";
 constexpr std::u16string_view general = u"SOFTWARE\\Microsoft\\Office\\11.0\\Common\\General";
 constexpr std::u16string_view templates = u"Mod\u00E8les";
 constexpr std::u16string_view shellFolders = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
@@ -46,7 +46,7 @@ public:
         }
         return *module_;
     }
-    std::u16string hostFolder() const override { return std::u16string(folder); }
+    std::u16string hostFolder() const override { return std::u16string(courseFolder); }
 
     PowerPoint& powerPoint() override { return powerPoint_; }
     Registry& registry() override { return registry_; }
@@ -76,7 +76,7 @@ private:
     }
 
     std::shared_ptr<Desktop> desktop_;
-    BorrowedFiles files_{desktop_->journal(), fs::path(folder).parent_path()};
+    BorrowedFiles files_{desktop_->journal(), fs::path(courseFolder).parent_path()};
     BorrowedRegistry registry_{desktop_->journal()};
     DesktopPowerPoint powerPoint_{desktop_->journal()};
     std::optional<VtableModule> module_;

@@ -19,7 +19,7 @@ namespace standin = simulator::standin;
 using automation::ObjectPtr;
 
 constexpr std::u16string_view programmaticId = u"PowerPoint.Application.11";
-constexpr DWORD patience = 10000;
+constexpr DWORD untilClosed = 10000;
 
 HWND findFrame() noexcept {
     return FindWindowW(standin::frameClass, nullptr);
@@ -83,8 +83,8 @@ void DesktopPowerPoint::close() {
     const HWND frame = findFrame();
     const Handle process = processOf(frame);
     forget();
-    SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
-    if (process && !process.isSignalled(patience)) {
+    SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, untilClosed, nullptr);
+    if (process && !process.isSignalled(untilClosed)) {
         automation::raise(automation::RunTimeError::PermissionDenied);
     }
 }
@@ -94,7 +94,7 @@ void DesktopPowerPoint::kill() {
     forget();
     if (process) {
         TerminateProcess(process.get(), 1);
-        WaitForSingleObject(process.get(), patience);
+        WaitForSingleObject(process.get(), untilClosed);
     }
 }
 
@@ -102,7 +102,7 @@ void DesktopPowerPoint::dismiss() {
     const HWND frame = findFrame();
     const bool isReal = !isStandInRunning() && !standin::isRegistered();
     forget();
-    SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
+    SendMessageTimeoutW(frame, WM_CLOSE, 0, 0, SMTO_ABORTIFHUNG, untilClosed, nullptr);
     if (findFrame() == nullptr) {
         return;
     }

@@ -15,7 +15,7 @@ namespace host {
 namespace {
 
 /// How long the system is kept waiting where it closes the console.
-constexpr DWORD patience = 20'000;
+constexpr DWORD untilDone = 20'000;
 
 /// What the system's thread that tells of interruptions and the one that reads have in common.
 struct ConsoleState {
@@ -35,7 +35,7 @@ BOOL WINAPI interrupt(DWORD event) {
     }
     CancelSynchronousIo(state().thread.get());
     if (event >= CTRL_CLOSE_EVENT) {
-        WaitForSingleObject(state().done.get(), patience); // the program ends when this returns
+        WaitForSingleObject(state().done.get(), untilDone); // the program ends when this returns
     }
     return TRUE;
 }

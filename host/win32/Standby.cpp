@@ -12,7 +12,7 @@ namespace {
 namespace standin = simulator::standin;
 
 constexpr std::size_t wanted = 2;
-constexpr DWORD patience = 20000;
+constexpr DWORD untilReady = 20000;
 
 /// The command that starts the stand-in, as it is registered for this program; empty where it is not what PowerPoint's
 /// name stands for.
@@ -46,12 +46,12 @@ Standby::~Standby() {
     forgetTaken();
     for (const Waiting& each : waiting_) {
         // A process that is killed would stay known to Wine as one that offers PowerPoint.
-        if (each.ready.isSignalled(patience)) {
+        if (each.ready.isSignalled(untilReady)) {
             PostThreadMessageW(each.thread, WM_QUIT, 0, 0);
         }
     }
     for (const Waiting& each : waiting_) {
-        WaitForSingleObject(each.process.get(), patience);
+        WaitForSingleObject(each.process.get(), untilReady);
     }
 }
 
@@ -100,7 +100,7 @@ void Standby::waitForOne() {
     for (std::size_t i = 0; i < wanted; ++i) {
         events.at(i) = waiting_[i].ready.get();
     }
-    WaitForMultipleObjects(static_cast<DWORD>(wanted), events.data(), FALSE, patience);
+    WaitForMultipleObjects(static_cast<DWORD>(wanted), events.data(), FALSE, untilReady);
 }
 
 } // namespace host

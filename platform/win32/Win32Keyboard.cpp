@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr auto patience = 2000ms;
+constexpr auto untilTaken = 2000ms;
 constexpr auto step = 5ms;
 
 constexpr std::u16string_view escape = u"{ESC}";
@@ -52,7 +52,7 @@ public:
     void take(WORD key) const {
         const bool before = isToggled(key);
         press(key);
-        const auto end = Clock::now() + patience;
+        const auto end = Clock::now() + untilTaken;
         while (isShared_ && isToggled(key) == before && Clock::now() < end) {
             std::this_thread::sleep_for(step);
         }
@@ -63,7 +63,8 @@ public:
         if (isOwn()) {
             processOwnMessages();
         } else {
-            SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, static_cast<UINT>(patience.count()), nullptr);
+            SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, static_cast<UINT>(untilTaken.count()),
+                                nullptr);
         }
     }
 

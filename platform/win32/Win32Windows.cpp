@@ -11,7 +11,7 @@ namespace {
 using automation::com::fromWide;
 using automation::com::WideText;
 
-constexpr UINT patience = 5000;
+constexpr UINT untilAnswered = 5000;
 
 HWND windowOf(WindowHandle handle) noexcept {
     return reinterpret_cast<HWND>(static_cast<std::intptr_t>(handle));
@@ -93,7 +93,7 @@ bool Win32Windows::setForeground(WindowHandle window) {
 }
 
 void Win32Windows::send(WindowHandle window, std::uint32_t message) {
-    SendMessageTimeoutW(windowOf(window), message, 0, 0, SMTO_ABORTIFHUNG, patience, nullptr);
+    SendMessageTimeoutW(windowOf(window), message, 0, 0, SMTO_ABORTIFHUNG, untilAnswered, nullptr);
 }
 
 } // namespace platform
