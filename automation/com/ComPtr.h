@@ -2,6 +2,7 @@
 
 #include "automation/com/Ole.h"
 
+#include <cassert>
 #include <utility>
 
 namespace automation::com {
@@ -42,12 +43,18 @@ public:
     }
 
     [[nodiscard]] T* get() const noexcept { return object_; }
-    T* operator->() const noexcept { return object_; }
+    T* operator->() const noexcept {
+        assert(object_ != nullptr);
+        return object_;
+    }
     [[nodiscard]] explicit operator bool() const noexcept { return object_ != nullptr; }
     friend bool operator==(const ComPtr& left, const ComPtr& right) noexcept { return left.object_ == right.object_; }
 
     /// Where a call leaves the reference that it gives out; to be used on an empty pointer.
-    [[nodiscard]] T** receive() noexcept { return &object_; }
+    [[nodiscard]] T** receive() noexcept {
+        assert(object_ == nullptr);
+        return &object_;
+    }
     /// Hands the reference over to the caller.
     [[nodiscard]] T* release() noexcept { return std::exchange(object_, nullptr); }
 

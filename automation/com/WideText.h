@@ -2,6 +2,7 @@
 
 #include "automation/com/Ole.h"
 
+#include <cassert>
 #include <new>
 #include <string>
 #include <string_view>
@@ -47,7 +48,11 @@ public:
     }
 
     [[nodiscard]] BSTR get() const noexcept { return text_; }
-    [[nodiscard]] BSTR* receive() noexcept { return &text_; }
+    /// Where a call leaves the text that it gives out; to be used on the empty text.
+    [[nodiscard]] BSTR* receive() noexcept {
+        assert(text_ == nullptr);
+        return &text_;
+    }
     [[nodiscard]] BSTR release() noexcept { return std::exchange(text_, nullptr); }
 
     [[nodiscard]] std::u16string text() const { return textOf(text_); }

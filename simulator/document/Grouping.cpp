@@ -2,10 +2,13 @@
 
 #include "simulator/document/Stacking.h"
 
+#include <cassert>
+
 namespace simulator {
 
 ShapePtr group(Slide& slide, const std::vector<ShapePtr>& shapes) {
     std::vector<ShapePtr> items = inStackingOrder(slide, shapes);
+    assert(!items.empty() && items.size() == shapes.size());
     const std::size_t place = slide.placeOf(*items.back()) + 1 - items.size();
     auto group = std::make_shared<Shape>();
     group->type = msoGroup;
@@ -20,6 +23,7 @@ ShapePtr group(Slide& slide, const std::vector<ShapePtr>& shapes) {
 }
 
 std::vector<ShapePtr> ungroup(Slide& slide, const ShapePtr& group) {
+    assert(group->type == msoGroup && !group->group());
     std::size_t place = slide.placeOf(*group);
     std::vector<ShapePtr> items = group->release();
     slide.remove(group);

@@ -2,6 +2,7 @@
 
 #include "simulator/document/TextAnchors.h"
 
+#include <cassert>
 #include <cstddef>
 #include <span>
 #include <string_view>
@@ -52,7 +53,9 @@ public:
     template <typename Change> void transform(Span span, const Change& change) {
         const Span within = clipped(span);
         for (std::size_t place = within.start; place < within.end(); ++place) {
-            text_[place] = change(text_[place]);
+            const char16_t changed = change(text_[place]);
+            assert((changed == paragraphMark) == (text_[place] == paragraphMark));
+            text_[place] = changed;
         }
         indexed_ = false;
     }

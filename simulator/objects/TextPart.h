@@ -3,6 +3,7 @@
 #include "simulator/objects/PowerPointObject.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace simulator {
 
@@ -64,6 +65,7 @@ public:
 private:
     template <typename Item, typename Read>
     static auto commonOf(std::span<const Item> items, const Read& read) -> std::optional<decltype(read(items[0]))> {
+        assert(!items.empty());
         auto first = read(items.front());
         const bool same = std::all_of(items.begin() + 1, items.end(), [&](const Item& i) { return read(i) == first; });
         return same ? std::optional(std::move(first)) : std::nullopt;

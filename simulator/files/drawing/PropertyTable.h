@@ -3,6 +3,8 @@
 #include "simulator/files/Bytes.h"
 #include "simulator/files/records/Record.h"
 
+#include <cassert>
+
 namespace simulator::drawing {
 
 /// A property of a drawing: a number, and for some a stretch of bytes.
@@ -59,8 +61,10 @@ private:
 /// A shape's properties with those that stand in for what it does not say: its master's, the document's.
 class Looks {
 public:
-    /// The tables must outlive this object; earlier ones win.
-    explicit Looks(std::vector<const PropertyTable*> tables) noexcept : tables_(std::move(tables)) {}
+    /// The shape's own table comes first, earlier ones win, and all must outlive this object.
+    explicit Looks(std::vector<const PropertyTable*> tables) noexcept : tables_(std::move(tables)) {
+        assert(!tables_.empty());
+    }
 
     [[nodiscard]] std::uint32_t number(std::uint16_t id, std::uint32_t otherwise) const noexcept;
     [[nodiscard]] float fixed(std::uint16_t id, float otherwise) const noexcept;  ///< of a 16.16 number

@@ -2,6 +2,7 @@
 
 #include "simulator/files/records/Record.h"
 
+#include <cassert>
 #include <map>
 
 namespace simulator::powerpoint {
@@ -30,6 +31,7 @@ public:
 
     /// Puts an object behind the others; its number must not be taken.
     void append(std::uint32_t id, records::Record record) {
+        assert(!places_.contains(id));
         places_.emplace(id, objects_.size());
         objects_.push_back({id, std::move(record)});
     }

@@ -2,6 +2,8 @@
 
 #include "simulator/files/text/TextException.h"
 
+#include <cassert>
+
 namespace simulator::text {
 
 /// A run of a text's style record.
@@ -32,10 +34,11 @@ struct StyleRuns {
 class RunWalk {
 public:
     /// There must be a run, and the runs must outlive this object.
-    explicit RunWalk(const std::vector<StyleRun>& runs) noexcept : runs_(runs) {}
+    explicit RunWalk(const std::vector<StyleRun>& runs) noexcept : runs_(runs) { assert(!runs.empty()); }
 
     /// The run that covers a character, the last one past the end; places must not go back.
     [[nodiscard]] const StyleRun& at(std::size_t place) noexcept {
+        assert(place >= start_);
         while (current_ + 1 < runs_.size() && place >= start_ + runs_[current_].length) {
             start_ += runs_[current_++].length;
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -13,8 +14,14 @@ public:
     explicit Draw(std::uint32_t number) : random_(number) {}
 
     /// A number below `limit`, which is not 0.
-    std::size_t below(std::size_t limit) { return random_() % limit; }
-    std::size_t between(std::size_t least, std::size_t most) { return least + below(most - least + 1); }
+    std::size_t below(std::size_t limit) {
+        assert(limit != 0);
+        return random_() % limit;
+    }
+    std::size_t between(std::size_t least, std::size_t most) {
+        assert(least <= most);
+        return least + below(most - least + 1);
+    }
     std::uint64_t bits() {
         const std::uint64_t high = random_();
         return high << 32U | random_();
