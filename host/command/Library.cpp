@@ -2,10 +2,9 @@
 
 #include "exercises/Catalogue.h"
 #include "host/language/Parser.h"
+#include "simulator/files/WholeFile.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <numeric>
 
 namespace host {
@@ -61,12 +60,11 @@ std::vector<fs::path> Library::filesOfCourse(const std::vector<std::int32_t>& qu
 }
 
 language::ScenarioFile load(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (std::error_code failed; !file || !fs::is_regular_file(path, failed)) {
+    const auto text = simulator::files::wholeFile(path);
+    if (!text) {
         throw UsageError("no scenario file: " + path.string());
     }
-    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    return language::parse(path.string(), text);
+    return language::parse(path.string(), *text);
 }
 
 Course courseOf(const language::ScenarioFile& file, const std::string& folder, const WorldMaker& makeWorld) {

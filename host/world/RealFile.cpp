@@ -1,7 +1,8 @@
 #include "host/world/RealFile.h"
 
+#include "simulator/files/WholeFile.h"
+
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 namespace host {
@@ -21,11 +22,11 @@ std::ofstream openedAnew(const fs::path& path) {
 } // namespace
 
 Bytes contentsOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (std::error_code failed; !file || !fs::is_regular_file(path, failed)) {
+    auto content = simulator::files::wholeFile<Bytes>(path);
+    if (!content) {
         throw std::runtime_error("no file: " + path.string());
     }
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return *std::move(content);
 }
 
 void writeContents(const fs::path& path, std::string_view content) {

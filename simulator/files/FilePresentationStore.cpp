@@ -3,12 +3,12 @@
 #include "automation/Text.h"
 #include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/Outline.h"
+#include "simulator/files/WholeFile.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
 #include "simulator/files/powerpoint/DocumentWriter.h"
 #include "simulator/process/Errors.h"
 
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 namespace simulator {
@@ -41,13 +41,12 @@ PresentationPtr FilePresentationStore::load(std::u16string_view path) {
     if (!std::filesystem::is_regular_file(file, ignored)) {
         cannotOpen(path, u"fichier introuvable.");
     }
-    std::ifstream stream(file, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    if (!stream) {
+    const auto bytes = files::wholeFile(file);
+    if (!bytes) {
         cannotOpen(path, u"lecture impossible.");
     }
     try {
-        return powerpoint::readPresentation(bytes);
+        return powerpoint::readPresentation(*bytes);
     } catch (const DamagedPresentation& damage) {
         cannotOpen(path, u"le fichier est endommagé (" + automation::fromUtf8(damage.what()) + u").");
     }

@@ -7,11 +7,10 @@
 #include "host/world/TemporaryFolder.h"
 #include "platform/observed/ObservedServices.h"
 #include "simulator/Machine.h"
+#include "simulator/files/WholeFile.h"
 #include "tests/support/Script.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 namespace tests {
 
@@ -97,8 +96,7 @@ private:
     };
 
     static std::string read(const std::string& name) {
-        std::ifstream file(SCENARIOS "/questions" + name);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return simulator::files::wholeFile(SCENARIOS "/questions" + name).value();
     }
 
     void createFile(const std::u16string& name) { machine.createFile(std::u16string(folder) + name); }

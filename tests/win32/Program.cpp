@@ -1,11 +1,9 @@
 #include "tests/win32/Program.h"
 
+#include "simulator/files/WholeFile.h"
 #include "tests/library/Library.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <iterator>
 
 namespace tests {
 
@@ -55,8 +53,7 @@ DWORD Program::exitCode() const {
 }
 
 std::string Program::output() const {
-    std::ifstream file(printed_, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return simulator::files::wholeFile(printed_).value_or("");
 }
 
 } // namespace tests

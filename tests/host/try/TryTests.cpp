@@ -2,10 +2,8 @@
 #include "host/language/Parser.h"
 #include "host/try/Completion.h"
 #include "host/world/TemporaryFolder.h"
+#include "simulator/files/WholeFile.h"
 #include "tests/support/Program.h"
-
-#include <fstream>
-#include <iterator>
 
 namespace try_tests {
 
@@ -33,8 +31,7 @@ protected:
     }
     [[nodiscard]] std::string file(const std::string& name) const { return (folder_.path() / name).string(); }
     [[nodiscard]] std::string contentOf(const std::string& name) const {
-        std::ifstream content(folder_.path() / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(content), std::istreambuf_iterator<char>()};
+        return simulator::files::wholeFile(folder_.path() / name).value_or("");
     }
 
 private:

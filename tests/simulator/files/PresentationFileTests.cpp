@@ -4,6 +4,7 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/files/Bytes.h"
 #include "simulator/files/FilePresentationStore.h"
+#include "simulator/files/WholeFile.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
@@ -340,10 +341,7 @@ TEST(PresentationFile, WithstandsWrongBytes) {
 /// A store over a folder of its own.
 class PresentationStoreTest : public testing::Test {
 protected:
-    std::string contents(const std::string& name) const {
-        std::ifstream stream(folder / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    }
+    std::string contents(const std::string& name) const { return files::wholeFile(folder / name).value(); }
     /// Demands PowerPoint's own error, and that it names the file.
     template <typename Act> static void expectError(const Act& act, std::u16string_view path) {
         const auto error = errorOf(act);

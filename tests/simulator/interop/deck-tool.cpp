@@ -3,23 +3,18 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/document/Presentation.h"
 #include "simulator/document/SlideLayout.h"
+#include "simulator/files/WholeFile.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
 #include "simulator/files/powerpoint/DocumentWriter.h"
 
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <map>
 
 /// A deck for other programs to read, and what the embedded PowerPoint sees in theirs.
 namespace {
 
 using namespace simulator;
-
-std::string contents(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
 
 void save(const Presentation& presentation, const std::string& path) {
     std::ofstream(path, std::ios::binary) << powerpoint::writePresentation(presentation);
@@ -143,11 +138,11 @@ int run(const std::vector<std::string>& words) {
     if (words.size() == 2 && words[0] == "make") {
         save(*made(), words[1]);
     } else if (words.size() == 2 && words[0] == "dump") {
-        dump(*powerpoint::readPresentation(contents(words[1])));
+        dump(*powerpoint::readPresentation(files::wholeFile(words[1]).value()));
     } else if (words.size() == 3 && words[0] == "copy") {
-        save(*powerpoint::readPresentation(contents(words[1])), words[2]);
+        save(*powerpoint::readPresentation(files::wholeFile(words[1]).value()), words[2]);
     } else if (words.size() == 3 && edits.contains(words[0])) {
-        const PresentationPtr presentation = powerpoint::readPresentation(contents(words[1]));
+        const PresentationPtr presentation = powerpoint::readPresentation(files::wholeFile(words[1]).value());
         edits.at(words[0])(*presentation);
         save(*presentation, words[2]);
     } else {

@@ -1,13 +1,11 @@
 #include "host/world/TemporaryFolder.h"
 #include "simulator/Machine.h"
 #include "simulator/document/Constants.h"
+#include "simulator/files/WholeFile.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Script.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <iterator>
 
 namespace picture_tests {
 
@@ -32,8 +30,7 @@ protected:
 
     [[nodiscard]] std::string picture() const {
         say(slide, u"Export", u"C:\\slide.svg", u"SVG", 360, 270);
-        std::ifstream file(machine_.realPath(u"C:\\slide.svg"), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        return files::wholeFile(machine_.realPath(u"C:\\slide.svg")).value();
     }
     [[nodiscard]] LateBound shape(std::int32_t kind) const {
         return ask(shapes, u"AddShape", kind, 100, 100, 200, 100);

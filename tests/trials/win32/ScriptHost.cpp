@@ -3,9 +3,7 @@
 #include "automation/Error.h"
 #include "host/win32/Handle.h"
 #include "host/world/TemporaryFolder.h"
-
-#include <fstream>
-#include <iterator>
+#include "simulator/files/WholeFile.h"
 
 namespace trials {
 
@@ -61,8 +59,7 @@ std::string runScript(const fs::path& script, const std::vector<std::u16string>&
     if (!runInto(inheritable(said), commandLine(script, arguments))) {
         automation::raise(automation::RunTimeError::CannotCreateObject);
     }
-    std::ifstream text(said, std::ios::binary);
-    return {std::istreambuf_iterator<char>(text), {}};
+    return simulator::files::wholeFile(said).value_or("");
 }
 
 } // namespace trials
