@@ -45,8 +45,11 @@ Standby::Standby() : program_(registeredProgram()), job_(jobThatEndsItsProcesses
 Standby::~Standby() {
     forgetTaken();
     for (const Waiting& each : waiting_) {
-        // A process that is killed would stay known to Wine as one that offers PowerPoint.
-        if (each.ready.isSignalled(untilReady)) {
+        // A process that is killed would stay known to Wine as one that offers PowerPoint. One that has become
+        // PowerPoint unseen is never ready again, but comes to its end.
+        const std::array<HANDLE, 2> either{each.ready.get(), each.process.get()};
+        if (WaitForMultipleObjects(static_cast<DWORD>(either.size()), either.data(), FALSE, untilReady) ==
+            WAIT_OBJECT_0) {
             PostThreadMessageW(each.thread, WM_QUIT, 0, 0);
         }
     }
@@ -64,6 +67,7 @@ void Standby::prepare() {
         start();
     }
     waitForOne();
+    forgetTaken(); // so that whoever is ready now is known to be taken when it no longer is
 }
 
 void Standby::forgetTaken() {
