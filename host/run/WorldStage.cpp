@@ -1,10 +1,10 @@
 #include "host/run/WorldStage.h"
 
 #include "automation/Text.h"
-#include "host/moves/FilesMoves.h"
-#include "host/moves/HostMoves.h"
-#include "host/moves/PowerPointMoves.h"
-#include "host/moves/RegistryMoves.h"
+#include "host/run/FilesMoves.h"
+#include "host/run/HostMoves.h"
+#include "host/run/PowerPointMoves.h"
+#include "host/run/RegistryMoves.h"
 #include "host/world/Refusal.h"
 
 namespace host {

@@ -1,4 +1,4 @@
-#include "host/moves/HostMoves.h"
+#include "host/run/HostMoves.h"
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "host/moves/FilesMoves.h"
+#include "host/run/FilesMoves.h"
 
 namespace host {
 

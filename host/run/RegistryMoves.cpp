@@ -1,4 +1,4 @@
-#include "host/moves/RegistryMoves.h"
+#include "host/run/RegistryMoves.h"
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "host/moves/PowerPointMoves.h"
+#include "host/run/PowerPointMoves.h"
 
 namespace host {
 
