@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/command/ExitCode.h"
 #include "host/command/Library.h"
 #include "host/command/Progress.h"
 #include "host/try/LineReader.h"
@@ -12,14 +13,6 @@ class App;
 }
 
 namespace host {
-
-/// How the program ends.
-enum class ExitCode : int {
-    Good = 0,
-    FellShort = 1,  ///< a scenario fell short, or a measurement
-    WrongUsage = 2, ///< a wrong command line, or a wrong line in a scenario file
-    Hung = 3,       ///< a scenario did not come to its end
-};
 
 /// The worlds that a command works in.
 struct Worlds {

@@ -74,7 +74,7 @@ public:
 private:
     FileResult run(const language::ScenarioFile& file) {
         FileResult result{file.name, file.question, toUtf8(file.subject()), file.contract.meanings, {}};
-        Watch watch(Watch::patience, at_.out);
+        Watch watch(at_.out);
         watch.next(file.name + ", its course");
         const Runner runner(file, at_.worlds.chosen());
         for (const language::Scenario& scenario : file.scenarios) {

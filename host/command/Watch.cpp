@@ -1,13 +1,21 @@
 #include "host/command/Watch.h"
 
-#include "host/command/Commands.h"
+#include "host/command/ExitCode.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <ostream>
 
 namespace host {
 
-Watch::Watch(std::chrono::seconds limit, std::ostream& out) : limit_(limit), out_(out), thread_([this] { run(); }) {}
+namespace {
+
+/// Far more than anything takes on a machine that has a lot to do.
+constexpr std::chrono::seconds patience{180};
+
+} // namespace
+
+Watch::Watch(std::ostream& out) : out_(out), thread_([this] { run(); }) {}
 
 Watch::~Watch() {
     {
@@ -31,7 +39,8 @@ void Watch::run() {
     std::unique_lock lock(mutex_);
     while (!isOver_) {
         const unsigned watched = count_;
-        if (!changed_.wait_for(lock, limit_, [&] { return isOver_ || count_ != watched; })) {
+        const bool isInTime = changed_.wait_for(lock, patience, [&] { return isOver_ || count_ != watched; });
+        if (!isInTime && !name_.empty()) {
             out_ << "hung: " << name_ << std::endl;
             std::_Exit(static_cast<int>(ExitCode::Hung));
         }

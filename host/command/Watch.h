@@ -2,7 +2,6 @@
 
 #include "automation/Unmoved.h"
 
-#include <chrono>
 #include <condition_variable>
 #include <iosfwd>
 #include <mutex>
@@ -11,24 +10,20 @@
 
 namespace host {
 
-/// Ends the program with ExitCode::Hung when something takes too long, and says what: nobody waits for a scenario that
-/// hangs.
+/// Ends the program with ExitCode::Hung when something takes too long, and says what: nobody waits for what hangs.
 class Watch : automation::Unmoved {
 public:
-    /// Far more than a scenario takes on a machine that has a lot to do.
-    static constexpr std::chrono::seconds patience{180};
-
     /// `out` must outlive this object.
-    Watch(std::chrono::seconds limit, std::ostream& out);
+    explicit Watch(std::ostream& out);
     ~Watch();
 
-    /// From now on this is what takes its time; the one before has come to its end.
+    /// From now on this is what takes its time, or nothing does where it has no name; what was before has come to its
+    /// end.
     void next(std::string name);
 
 private:
     void run();
 
-    std::chrono::seconds limit_;
     std::ostream& out_;
     std::mutex mutex_;
     std::condition_variable changed_;

@@ -6,10 +6,20 @@
 
 namespace host::language {
 
+namespace {
+
+bool isCheck(const Statement& statement) {
+    return std::holds_alternative<Check>(statement.node);
+}
+
+} // namespace
+
+std::span<const Statement> Scenario::firstMoves() const {
+    return {statements.begin(), std::find_if(statements.begin(), statements.end(), isCheck)};
+}
+
 const Expectation* Scenario::lastExpectation() const {
-    const auto last = std::find_if(statements.rbegin(), statements.rend(), [](const Statement& statement) {
-        return std::holds_alternative<Check>(statement.node);
-    });
+    const auto last = std::find_if(statements.rbegin(), statements.rend(), isCheck);
     return last == statements.rend() ? nullptr : &std::get<Check>(last->node).expected;
 }
 

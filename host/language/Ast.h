@@ -5,6 +5,7 @@
 #include "host/language/Place.h"
 
 #include <memory>
+#include <span>
 #include <variant>
 
 namespace host::language {
@@ -86,6 +87,8 @@ struct Scenario {
     bool startsBeforeInitQuestion = false; ///< the scenario states InitQuestion itself
     std::vector<Statement> statements;
 
+    /// What happens before the first check; everything where there is none.
+    [[nodiscard]] std::span<const Statement> firstMoves() const;
     /// What the last check of the scenario expects; null where it has none.
     [[nodiscard]] const Expectation* lastExpectation() const;
 };

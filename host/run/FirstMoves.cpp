@@ -8,10 +8,7 @@ namespace host {
 void performFirstMoves(const language::ScenarioFile& file, World& world, TrainingHost& host) {
     WorldStage stage(world, &host);
     language::Interpreter interpreter(stage);
-    for (const language::Statement& statement : file.scenarios.front().statements) {
-        if (std::holds_alternative<language::Check>(statement.node)) {
-            break;
-        }
+    for (const language::Statement& statement : file.scenarios.front().firstMoves()) {
         interpreter.execute(statement);
     }
     interpreter.forget();

@@ -46,12 +46,14 @@ public:
 
     /// What the learner does before the first check of the scenario.
     void work() {
-        std::for_each(moves().begin(), firstCheck(), [&](const auto& move) { interpreter_.execute(move); });
+        for (const host::language::Statement& move : scenario().firstMoves()) {
+            interpreter_.execute(move);
+        }
         interpreter_.forget();
     }
 
     /// The first check of the scenario, with what it expects.
-    void check() { interpreter_.execute(*firstCheck()); }
+    void check() { interpreter_.execute(scenario().statements[scenario().firstMoves().size()]); }
 
     [[nodiscard]] std::int32_t presentations() const { return number(ask(application_, u"Presentations"), u"Count"); }
     void closePresentation() { say(ask(application_, u"ActivePresentation"), u"Close"); }
@@ -101,12 +103,7 @@ private:
 
     void createFile(const std::u16string& name) { machine.createFile(std::u16string(folder) + name); }
 
-    [[nodiscard]] const std::vector<host::language::Statement>& moves() const { return file_.scenarios[0].statements; }
-    [[nodiscard]] std::vector<host::language::Statement>::const_iterator firstCheck() const {
-        return std::find_if(moves().begin(), moves().end(), [](const host::language::Statement& move) {
-            return std::holds_alternative<host::language::Check>(move.node);
-        });
-    }
+    [[nodiscard]] const host::language::Scenario& scenario() const { return file_.scenarios.front(); }
 
     std::int32_t number_;
     host::language::ScenarioFile file_;

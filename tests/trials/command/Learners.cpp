@@ -165,7 +165,7 @@ ExitCode letLearn(const LearnersRequest& request, const CommandContext& at) {
     std::size_t passed = 0;
     std::size_t failed = 0;
     LearnersTotals totals;
-    Watch watch(Watch::patience, at.out);
+    Watch watch(at.out);
     const std::vector<std::filesystem::path> paths = at.library.filesOfCourse(request.questions);
     std::size_t begun = 0; ///< learners of the questions before
     for (const std::filesystem::path& path : paths) {

@@ -20,7 +20,7 @@ struct TortureRequest {
 
 void tortureFile(const language::ScenarioFile& file, std::size_t every, std::mt19937& random, Totals& totals,
                  const CommandContext& at) {
-    Watch watch(Watch::patience, at.out);
+    Watch watch(at.out);
     watch.next(file.name);
     const torture::Torture torture(file, at.worlds.embedded, every, random);
     const auto report = [&](const std::string& finding) {
