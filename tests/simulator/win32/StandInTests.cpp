@@ -136,7 +136,7 @@ TEST_F(StandInTest, RefusesCallsWhileItIsBusyAndDiesWhenAsked) {
 TEST_F(StandInTest, IsAskedOnceWhetherItAnswers) {
     platform::Win32Services services;
     k73053::Session session(services.services());
-    session.application = ppt::Application(application_.object());
+    session.adopt(application_.object(), 0);
     EXPECT_TRUE(session.PowerPointRepond());
     const LateBound controls = control();
     controls.call(u"Refuse", 2);
