@@ -1,7 +1,6 @@
 #include "automation/com/ComError.h"
 #include "automation/com/Objects.h"
 #include "automation/com/WideText.h"
-#include "simulator/win32/StandInIdentity.h"
 #include "tests/library/ErrorSaid.h"
 #include "tests/library/Training.h"
 #include "tests/win32/TestWindow.h"
@@ -86,23 +85,6 @@ TEST_F(ModuleTest, TakesNothingHoweverAHostSaysIt) {
         EXPECT_EQ(module_->Fermer(), S_OK);
     }
     powerPoint_ = LateBound(); // the module has taken it over, and ends it
-}
-
-TEST_F(ModuleTest, WaitsForABusyPowerPointOnlySoLong) {
-    startPowerPoint();
-    deliver(314, 1);
-    ComPtr<IUnknown> controls;
-    ASSERT_EQ(GetActiveObject(simulator::standin::controlClass, nullptr, controls.receive()), S_OK);
-    const LateBound control(automation::com::objectOf(controls.as<IDispatch>().get()));
-    constexpr std::int32_t whileTheToolbarsAreSet = 40;
-    control.call(u"RefuseAtCall", whileTheToolbarsAreSet, 0);
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(init(314), automation::remote::callRejected);
-    const auto waited = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    EXPECT_GT(waited, 5);
-    EXPECT_LT(waited, 9);
-    control.put(u"Busy", false);
-    EXPECT_EQ(module_->Fermer(), S_OK);
 }
 
 TEST_F(ModuleTest, RaisesThePassingAttemptOfQuestion305) {

@@ -1,4 +1,5 @@
 #include "automation/WithoutRetry.h"
+#include "automation/com/ComError.h"
 #include "automation/com/DispatchObject.h"
 #include "automation/com/Objects.h"
 #include "automation/com/Variant.h"
@@ -266,6 +267,23 @@ TEST_F(DispatchObjectTest, AsksABusyServerAgainForAWhile) {
     const WithoutRetry once;
     EXPECT_EQ(numberRaised(), remote::callRejected);
     EXPECT_EQ(server_->calls.size(), 1U);
+}
+
+TEST_F(DispatchObjectTest, WaitsNoLongerThanAnOperationMay) {
+    server_->statuses.assign(1000, remote::callRejected);
+    const auto start = Clock::now();
+    const auto accessOften = [&] {
+        for (int i = 0; i < 5; ++i) {
+            EXPECT_EQ(numberRaised(), remote::callRejected);
+        }
+        return S_OK;
+    };
+    EXPECT_EQ(guarded([&] { return guarded(accessOften); }), S_OK);
+    const auto waited = std::chrono::duration<double>(Clock::now() - start).count();
+    EXPECT_GT(waited, 5.5);
+    EXPECT_LT(waited, 6.5) << "not two seconds each";
+    server_->statuses.assign(3, remote::callRejected);
+    EXPECT_EQ(guarded([&] { return numberRaised(); }), noError) << "the next one has patience of its own";
 }
 
 TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
