@@ -1,5 +1,6 @@
 #include "host/command/CommandLine.h"
 #include "host/command/Options.h"
+#include "host/world/RealFile.h"
 
 namespace host {
 
@@ -53,7 +54,7 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
         if (asked.chosen == nullptr) {
             throw UsageError("which command? See " + asked.app.get_name() + " --help");
         }
-        const Library library(asked.folder);
+        const Library library(pathOf(asked.folder));
         const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
         Progress progress(output.error, output.isTerminal);
         return asked.chosen({library, {embedded, remote}, makeLines, output.out, progress});

@@ -2,6 +2,7 @@
 
 #include "exercises/Catalogue.h"
 #include "host/language/Parser.h"
+#include "host/world/RealFile.h"
 #include "simulator/files/WholeFile.h"
 
 #include <algorithm>
@@ -69,7 +70,7 @@ language::ScenarioFile load(const fs::path& path) {
 
 Course courseOf(const language::ScenarioFile& file, const std::string& folder, const WorldMaker& makeWorld) {
     try {
-        return folder.empty() ? Course(file, makeWorld) : Course(folder, file.question);
+        return folder.empty() ? Course(file, makeWorld) : Course(pathOf(folder), file.question);
     } catch (const language::Failure& failure) {
         throw UsageError(failure.remark.in(file.name));
     } catch (const std::runtime_error& error) {

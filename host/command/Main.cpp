@@ -1,5 +1,6 @@
 #include "host/command/Main.h"
 
+#include "automation/Text.h"
 #include "host/world/EmbeddedWorld.h"
 #ifdef _WIN32
 #include "host/win32/ComWorld.h"
@@ -7,6 +8,8 @@
 
 #include <io.h>
 #include <windows.h>
+
+#include <shellapi.h>
 #else
 #include "host/posix/OwnLines.h"
 
@@ -28,6 +31,17 @@ std::filesystem::path programFile() {
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     return path;
 }
+/// As the command line has them: what `main` is given has lost the letters that the code page lacks.
+std::vector<std::string> givenArguments(int /*argc*/, char** /*argv*/) {
+    int count = 0;
+    LPWSTR* const all = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (const std::wstring_view text : std::span(all + 1, all + count)) {
+        arguments.push_back(automation::toUtf8(std::u16string(text.begin(), text.end())));
+    }
+    LocalFree(all);
+    return arguments;
+}
 #else
 constexpr std::nullptr_t comWorlds = nullptr;
 bool isTerminal() {
@@ -35,6 +49,9 @@ bool isTerminal() {
 }
 std::filesystem::path programFile() {
     return std::filesystem::read_symlink("/proc/self/exe");
+}
+std::vector<std::string> givenArguments(int argc, char** argv) {
+    return {argv + 1, argv + argc};
 }
 #endif
 
@@ -49,7 +66,7 @@ std::filesystem::path scenarioFolder(const std::filesystem::path& ofSources) {
 
 int host::runMain(const Program& program, const char* version, const std::filesystem::path& scenarios, int argc,
                   char** argv) {
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
-    return static_cast<int>(runCommandLine(program, arguments, scenarioFolder(scenarios), version, makeEmbeddedWorld,
-                                           {std::cout, std::cerr, isTerminal()}, makeOwnLines, comWorlds));
+    return static_cast<int>(runCommandLine(program, givenArguments(argc, argv), scenarioFolder(scenarios), version,
+                                           makeEmbeddedWorld, {std::cout, std::cerr, isTerminal()}, makeOwnLines,
+                                           comWorlds));
 }

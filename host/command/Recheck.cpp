@@ -41,7 +41,7 @@ struct RecheckRequest {
 
 /// The verdict of the module on the file.
 Reading judge(World& world, const Course& course, const RecheckRequest& request) {
-    const Bytes saved = contentsOf(request.file);
+    const Bytes saved = contentsOf(pathOf(request.file));
     Witness nobody;
     TrainingHost host(world, course, request.question, nobody);
     host.initQuestion(request.question, world.hostFolder());

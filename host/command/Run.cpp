@@ -115,7 +115,7 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
     };
     const Outcome outcome = runner.run(scenario, makeWitness, trace);
     const std::vector<std::string> pictures =
-        request.pictures.empty() ? std::vector<std::string>() : written(slide, request.pictures);
+        request.pictures.empty() ? std::vector<std::string>() : written(slide, pathOf(request.pictures));
     if (request.asJson) {
         nlohmann::ordered_json object = toJson(file, scenario, outcome);
         if (!request.pictures.empty()) {

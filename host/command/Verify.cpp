@@ -133,7 +133,7 @@ private:
 
 std::vector<std::filesystem::path> named(const VerifyRequest& request, const Library& library) {
     std::vector<std::filesystem::path> paths = library.filesOf(request.questions);
-    paths.insert(paths.end(), request.files.begin(), request.files.end());
+    std::transform(request.files.begin(), request.files.end(), std::back_inserter(paths), pathOf);
     return paths.empty() ? library.files() : paths;
 }
 
@@ -152,13 +152,13 @@ std::string now() {
 
 void write(const VerifyRequest& request, const Report& report) {
     if (!request.page.empty()) {
-        writeContents(request.page, report::asPage(report, now()));
+        writeContents(pathOf(request.page), report::asPage(report, now()));
     }
     if (!request.junit.empty()) {
-        writeContents(request.junit, report::asJUnit(report));
+        writeContents(pathOf(request.junit), report::asJUnit(report));
     }
     if (!request.json.empty()) {
-        writeContents(request.json, report::asJson(report));
+        writeContents(pathOf(request.json), report::asJson(report));
     }
 }
 
@@ -166,7 +166,7 @@ void write(const VerifyRequest& request, const Report& report) {
 ExitCode verify(const VerifyRequest& request, const CommandContext& at) {
     for (const std::string& file : {request.page, request.junit, request.json}) {
         if (!file.empty()) {
-            clearForWriting(file);
+            clearForWriting(pathOf(file));
         }
     }
     Files files;

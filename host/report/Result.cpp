@@ -1,5 +1,7 @@
 #include "host/report/Result.h"
 
+#include "automation/Text.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <numeric>
@@ -16,7 +18,7 @@ std::chrono::nanoseconds FileResult::time() const noexcept {
 }
 
 std::string FileResult::name() const {
-    return std::filesystem::path(file).stem().string();
+    return std::filesystem::path(automation::fromUtf8(file)).stem().string();
 }
 
 Totals::Totals(const Report& report) noexcept {

@@ -31,11 +31,6 @@ std::string trimmed(const std::string& text) {
     return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
 }
 
-/// A file as the author names it.
-fs::path pathOf(const std::string& name) {
-    return fs::path(fromUtf8(name));
-}
-
 /// Writes a file by a verb, which replaces one that is there already only where it ends with an exclamation mark.
 void writeBy(const std::string& verb, const std::string& name, std::string_view content) {
     const fs::path path = pathOf(name);

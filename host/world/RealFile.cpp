@@ -1,5 +1,6 @@
 #include "host/world/RealFile.h"
 
+#include "automation/Text.h"
 #include "simulator/files/WholeFile.h"
 
 #include <fstream>
@@ -20,6 +21,10 @@ std::ofstream openedAnew(const fs::path& path) {
 }
 
 } // namespace
+
+fs::path pathOf(const std::string& name) {
+    return {automation::fromUtf8(name)};
+}
 
 Bytes contentsOf(const fs::path& path) {
     auto content = simulator::files::wholeFile<Bytes>(path);

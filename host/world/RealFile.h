@@ -5,6 +5,9 @@
 /// Files of this computer itself, as its user names them. All raise std::runtime_error, in words for him.
 namespace host {
 
+/// A file as a text in UTF-8 names it.
+[[nodiscard]] std::filesystem::path pathOf(const std::string& name);
+
 [[nodiscard]] Bytes contentsOf(const std::filesystem::path& path);
 
 /// Writes a file anew.

@@ -1,6 +1,7 @@
 #include "automation/Unmoved.h"
 #include "host/win32/Loan.h"
 #include "simulator/win32/Registration.h"
+#include "tests/library/Library.h"
 #include "tests/library/UserHive.h"
 #include "tests/win32/Program.h"
 
@@ -65,6 +66,22 @@ TEST(HostTest, SaysInOneSentenceWhatIsNotRegistered) {
         EXPECT_EQ(output.find(said), 0U) << output;
         EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), 1) << output;
     }
+}
+
+TEST(HostTest, StandsInAFolderOfAnyName) {
+    const fs::path built = fs::path(tests::Library::pathBeside(L"..\\host"));
+    const std::wstring name = L"\u00C9l\u00E8ve \u0436"; // no code page has all of it
+    const fs::path scenarios = built / name / "scenarios";
+    fs::create_directories(scenarios);
+    fs::copy_file(built / "exercise-host.exe", built / name / "exercise-host.exe",
+                  fs::copy_options::overwrite_existing);
+    std::ofstream(scenarios / "0314.scn") << "question 314\n";
+    for (const std::wstring& arguments : {std::wstring(L"list"), L"list --scenarios \"" + scenarios.wstring() + L'"'}) {
+        const Program run(L"host\\" + name + L"\\exercise-host.exe", arguments);
+        EXPECT_EQ(run.exitCode(), 0U);
+        EXPECT_EQ(run.output(), "0314.scn: question 314\r\n");
+    }
+    fs::remove_all(built / name);
 }
 
 TEST(HostTest, ReadsTheSameOfTheLibraryAsOfItsOwnModule) {
