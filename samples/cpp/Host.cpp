@@ -1,7 +1,8 @@
-// Host NUMBER FOLDER [COMMAND]
+// Host NUMBER FOLDER [COMMAND...]
 //
 // A training host over the interface AbstractModule. FOLDER holds what the course delivers for question NUMBER
 // (07305314.ppt for 314). The learner presses Enter when done; or COMMAND, run to its end, does the learner's work.
+// Each further one is another attempt, which only questions 301 and 305 can be checked for without being opened anew.
 //
 //   Host 314 C:\Course
 
@@ -11,6 +12,7 @@
 #include <cstdio>
 #include <cwchar>
 #include <string>
+#include <vector>
 
 using Microsoft::WRL::ComPtr;
 
@@ -107,15 +109,18 @@ void learn(const wchar_t* command) {
     std::getchar();
 }
 
-void check(const ComPtr<AbstractModule>& module, LONG number) {
+/// True where this alone is the verdict, and says that the work is right: a letter would be an earlier attempt's.
+bool checkPasses(const ComPtr<AbstractModule>& module, LONG number) {
     try {
         require(module, module->TestePoint());
+        return false;
     } catch (const Failure& failure) {
         // A passed attempt of question 305 arrives as this error, without a description.
         constexpr auto invalidCall = static_cast<HRESULT>(0x800A0005);
         if (number != 305 || failure.number != invalidCall || !failure.description.empty()) {
             throw;
         }
+        return true;
     }
 }
 
@@ -164,7 +169,7 @@ template <typename Step> bool succeeds(const Step& step) {
     }
 }
 
-void runQuestion(LONG number, const std::wstring& folder, const wchar_t* command, bool& isGood) {
+void runQuestion(LONG number, const std::wstring& folder, const std::vector<const wchar_t*>& commands, bool& isGood) {
     const auto module = createModule();
     Session session;
     wchar_t library[MAX_PATH] = L"";
@@ -173,9 +178,14 @@ void runQuestion(LONG number, const std::wstring& folder, const wchar_t* command
 
     isGood = succeeds([&] {
         prepare(module, session, number, folder);
-        learn(command);
-        check(module, number);
-        tell(module);
+        for (const wchar_t* const command : commands) {
+            learn(command);
+            if (checkPasses(module, number)) {
+                std::puts("Passed");
+            } else {
+                tell(module);
+            }
+        }
     });
     // Whatever has failed, the learner's settings come back. A question that never opened cannot be closed: that is no
     // news.
@@ -189,20 +199,23 @@ void runQuestion(LONG number, const std::wstring& folder, const wchar_t* command
 
 int wmain(int count, wchar_t** arguments) {
     if (count < 3) {
-        std::puts("Host NUMBER FOLDER [COMMAND]");
+        std::puts("Host NUMBER FOLDER [COMMAND...]");
         return 2;
     }
     std::wstring folder = arguments[2];
     if (folder.back() != L'\\') {
         folder += L'\\';
     }
+    std::vector<const wchar_t*> commands(arguments + 3, arguments + count);
+    if (commands.empty()) {
+        commands.push_back(nullptr);
+    }
     SetConsoleOutputCP(CP_UTF8);
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     bool isGood = false;
-    const bool isClosed = succeeds([&] {
-        runQuestion(std::wcstol(arguments[1], nullptr, 10), folder, count > 3 ? arguments[3] : nullptr, isGood);
-    });
+    const bool isClosed =
+        succeeds([&] { runQuestion(std::wcstol(arguments[1], nullptr, 10), folder, commands, isGood); });
     CoUninitialize();
     return isGood && isClosed ? 0 : 1;
 }

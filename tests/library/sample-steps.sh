@@ -32,12 +32,14 @@ expect_closed() { expect '^Closed: PowerPoint ended is (True|-1), window 0$'; }
 # shellcheck disable=SC2086 # a command of several words
 deliver() { step 0 "the course's delivery" $learner deliver "$1" "$folder"; }
 
-# question NUMBER GESTURE NAME COMMAND...: a host that runs a question to its end, the learner having done one thing.
+# question NUMBER GESTURES NAME COMMAND...: a host that runs a question to its end, the learner doing one thing for each attempt
+# (GESTURE,GESTURE for two).
 question() {
-    local number=$1 gesture=$2 name=$3
+    local number=$1 name=$3 gestures
+    IFS=, read -ra gestures <<<"$2"
     shift 3
     deliver "$number"
-    step 0 "$name, question $number, $gesture" "$@" "$number" "$folder" "$learner $gesture"
+    step 0 "$name, question $number, ${gestures[*]}" "$@" "$number" "$folder" "${gestures[@]/#/"$learner "}"
     forbid '^Error'
     expect "^Question $number is open.*, window [1-9][0-9]*\$"
     expect_closed
