@@ -3,6 +3,8 @@
 #include <cstdint>
 
 /// PowerPoint's and Office's named constants, with their numbers, as far as the embedded PowerPoint knows them.
+/// The module states those that it uses for itself (ppt/Constants.h): a wrong one there would go unnoticed if both read
+/// it from one place.
 namespace simulator {
 
 enum MsoTriState : std::int32_t { msoTriStateMixed = -2, msoTrue = -1, msoFalse = 0 };

@@ -150,8 +150,7 @@ TEST_F(Questions, CountWordsAndItemsOfGroupsIn16Bits) {
 TEST_F(Questions, MarkNothingOnNoSlide) {
     say(ask(ask(ask(application, u"ActivePresentation"), u"Slides"), u"Item", 1), u"Delete");
     EXPECT_EQ(api.MarqueDiapositives(application), 0);
-    EXPECT_EQ(errorNumber([&] { api.ChercheForme(1, u"ZOR1", true, application); }),
-              static_cast<std::int32_t>(0x80048240U));
+    EXPECT_EQ(errorNumber([&] { api.ChercheForme(1, u"ZOR1", true, application); }), requestRefused);
 }
 
 TEST_F(Questions, KeepTheirFrameBetweenCreationAndClosing) {

@@ -1,4 +1,4 @@
-#include "simulator/files/DamagedPresentation.h"
+#include "simulator/files/Bytes.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
 
@@ -64,24 +64,14 @@ TEST(CompoundFile, GivesBackWhatWasWritten) {
 
 /// Bytes of a file with a 32-bit number put at a place.
 std::string patched(std::string file, std::size_t place, std::uint32_t number) {
-    for (std::size_t i = 0; i < 4; ++i) {
-        file.at(place + i) = static_cast<char>(number >> (8 * i));
-    }
+    files::putNumber(file, place, number);
     return file;
-}
-
-std::uint32_t numberAt(const std::string& file, std::size_t place) {
-    std::uint32_t number = 0;
-    for (std::size_t i = 4; i-- > 0;) {
-        number = (number << 8U) | static_cast<unsigned char>(file.at(place + i));
-    }
-    return number;
 }
 
 TEST(CompoundFile, SaysWhatIsWrongWithADamagedFile) {
     const std::string sound = write(richStorage());
-    const std::size_t fat = 512 + 512 * numberAt(sound, 76);
-    const std::size_t directory = 512 + 512 * numberAt(sound, 48);
+    const std::size_t fat = 512 + 512 * files::numberAt(sound, 76);
+    const std::size_t directory = 512 + 512 * files::numberAt(sound, 48);
     const std::vector<std::pair<std::string, std::string>> cases{
         {"", "not a compound file"},
         {"PK\3\4 and so on", "zip package"},

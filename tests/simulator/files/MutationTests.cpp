@@ -130,29 +130,11 @@ public:
 
     /// Objects are picked from a pool; nothing where it is empty. By-reference values refer to variables kept here.
     Value pick(const std::vector<ObjectPtr>& pool, int depth = 0) {
-        static const std::vector<std::u16string> texts{u"",
-                                                       u" ",
-                                                       u"-1",
-                                                       u"32768",
-                                                       u"2147483648",
-                                                       u"1e309",
-                                                       u"1e-400",
-                                                       u"0x10",
-                                                       u"&H7FFF",
-                                                       u"1,5",
-                                                       u"1.5",
-                                                       u"vrai",
-                                                       u"True",
-                                                       u"é",
-                                                       u"nan",
-                                                       u"inf",
-                                                       u"-",
-                                                       u"+",
-                                                       u"1 2",
-                                                       u"Standard",
-                                                       std::u16string(1, u'\0'),
-                                                       std::u16string(1, u'\xD800'),
-                                                       std::u16string(5000, u'9')};
+        using namespace std::string_view_literals;
+        static constexpr std::array texts{
+            u""sv,       u" "sv,   u"-1"sv,  u"32768"sv,    u"2147483648"sv, u"1e309"sv, u"1e-400"sv, u"0x10"sv,
+            u"&H7FFF"sv, u"1,5"sv, u"1.5"sv, u"vrai"sv,     u"True"sv,       u"é"sv,     u"nan"sv,    u"inf"sv,
+            u"-"sv,      u"+"sv,   u"1 2"sv, u"Standard"sv, u"\0"sv,         u"\xD800"sv};
         switch (chance_.below(depth > 2 ? 9 : 11)) {
         case 0: return {};
         case 1: return automation::Missing();
@@ -163,7 +145,7 @@ public:
         case 6:
             return chance_.oneIn(2) ? std::bit_cast<double>(chance_.bits())
                                     : static_cast<double>(chance_.below(140000)) / 2 - 35000;
-        case 7: return chance_.of(texts);
+        case 7: return chance_.oneIn(23) ? std::u16string(5000, u'9') : std::u16string(chance_.of(texts));
         case 8: return pool.empty() || chance_.oneIn(4) ? ObjectPtr() : chance_.of(pool);
         case 9: {
             Array elements(chance_.below(4));

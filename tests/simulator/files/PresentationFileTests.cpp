@@ -26,8 +26,6 @@ namespace presentation_file_tests {
 using records::Record;
 namespace type = records::type;
 
-constexpr auto requestRefused = static_cast<std::int32_t>(0x80048240U);
-
 /// Every member of a shape with a value that it does not have by itself.
 ShapePtr richRectangle() {
     ShapePtr shape = newShape::autoShape(5, {10.125F, 20.5F, 300, 200});

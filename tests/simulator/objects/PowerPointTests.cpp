@@ -1,5 +1,6 @@
 #include "host/world/TemporaryFolder.h"
 #include "simulator/Machine.h"
+#include "simulator/document/Constants.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Script.h"
 
@@ -7,6 +8,7 @@
 
 namespace power_point_tests {
 
+using namespace simulator;
 using automation::LateBound;
 using automation::RunTimeError;
 using tests::ask;
@@ -14,14 +16,8 @@ using tests::number;
 using tests::say;
 using tests::text;
 
-constexpr std::u16string_view folderName = u"C:\\Exercices\\";
-constexpr std::int32_t msoTrue = -1;
-constexpr std::int32_t msoFalse = 0;
-constexpr std::int32_t msoShapeRectangle = 1;
-constexpr std::int32_t msoFreeform = 5;
-constexpr std::int32_t msoGroup = 6;
-constexpr std::int32_t ppLayoutBlank = 12;
 constexpr std::int32_t ppSaveAsRTF = 6;
+constexpr std::u16string_view folderName = u"C:\\Exercices\\";
 
 std::u16string inFolder(std::u16string_view name) {
     return std::u16string(folderName) + std::u16string(name);
@@ -61,7 +57,7 @@ protected:
     }
 
     host::TemporaryFolder folder;
-    simulator::Machine machine{folder.path()};
+    Machine machine{folder.path()};
     LateBound application;
 };
 

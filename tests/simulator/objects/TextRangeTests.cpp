@@ -17,8 +17,6 @@ using tests::say;
 
 constexpr std::int32_t red = 0x0000FF;
 constexpr std::int32_t blue = 0xFF0000;
-constexpr auto objectGone = static_cast<std::int32_t>(0x80048010U);
-constexpr auto requestRefused = static_cast<std::int32_t>(0x80048240U);
 
 std::string utf8(const Value& value) {
     return automation::toUtf8(value.to<std::u16string>());
