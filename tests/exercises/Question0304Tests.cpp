@@ -1,6 +1,6 @@
 #include "automation/observe/CallCounter.h"
 #include "tests/exercises/QuestionBench.h"
-#include "tests/support/TraceLog.h"
+#include "tests/trials/trace/TraceLog.h"
 
 #include <gtest/gtest.h>
 
@@ -24,16 +24,16 @@ TEST(Question0304, SearchesTheOutlineAmongHiddenAndSystemFiles) {
         {u"Plan exo 3.rtf", readOnly | hidden | system, u"", {"Plan exo 3.*", "Plan exo 3.rtf"}},
     };
     for (const Case& outline : cases) {
-        tests::TraceLog log(tests::TraceLog::Repetition::Shown);
+        const auto log = std::make_shared<trials::trace::TraceLog>();
         tests::QuestionBench bench(304);
-        bench.prepare(log.observer());
-        static_cast<void>(log.take());
+        bench.prepare(log);
+        static_cast<void>(log->take());
         if (!outline.file.empty()) {
             bench.machine.createFile(folder + outline.file);
             bench.machine.setAttributes(folder + outline.file, outline.attributes);
         }
         EXPECT_EQ(bench.testePoint().causeErreur, outline.letter);
-        const std::string trace = log.take();
+        const std::string trace = log->take();
         EXPECT_EQ(std::count(trace.begin(), trace.end(), '\n'), outline.searches.size()) << trace;
         std::size_t at = 0;
         for (const std::string& pattern : outline.searches) {

@@ -1,9 +1,9 @@
+#include "automation/observe/CallTrace.h"
 #include "module/Session.h"
 #include "module/UserSettings.h"
 #include "platform/ErrorReport.h"
 #include "tests/exercises/QuestionBench.h"
 #include "tests/support/Errors.h"
-#include "tests/support/TraceLog.h"
 
 namespace question_tests {
 
@@ -193,8 +193,10 @@ TEST_F(Questions, KeepTheLetterOfAnEarlierAttempt) {
 }
 
 TEST_F(Questions, CloseTheDialogAboveFirst) {
-    tests::TraceLog log;
-    const platform::ObservedServices observed(machine.services(), log.observer());
+    std::string calls;
+    const auto trace = std::make_shared<automation::CallTrace>(
+        [&](const automation::TracedCall& call) { calls += automation::toUtf8(call.call) + '\n'; });
+    const platform::ObservedServices observed(machine.services(), trace);
     k73053::Session session(observed.services());
     session.GetApplication();
     machine.openDialog(u"Police");
@@ -211,7 +213,6 @@ TEST_F(Questions, CloseTheDialogAboveFirst) {
     const std::string colours = closing(u"Couleurs");
     session.FermeDialogues(session.window());
     EXPECT_EQ(machine.dialogs(), 0U);
-    const std::string calls = log.take();
     EXPECT_NE(calls.find(police), std::string::npos) << calls;
     EXPECT_LT(calls.find(colours), calls.find(police)) << calls;
     session.FermeDialogues(session.window());

@@ -30,9 +30,15 @@ double microsecondsACall(const QuestionCost& cost) {
 }
 
 /// Calls measured and calls prescribed, with those that keep the bars.
-std::string against(std::size_t measured, std::size_t prescribed, std::size_t keeping = 0) {
-    return std::to_string(measured) + '/' + std::to_string(prescribed) +
-           (keeping == 0 ? "" : '+' + std::to_string(keeping));
+std::string against(std::size_t measured, const cost::PrescribedCalls& prescribed) {
+    return std::to_string(measured) + '/' + std::to_string(prescribed.calls) +
+           (prescribed.keeping == 0 ? "" : '+' + std::to_string(prescribed.keeping));
+}
+
+/// True where an operation makes the calls of its expected trace, in order.
+bool isAsPrescribed(const OperationCost& cost, const cost::PrescribedCalls& prescribed, std::ostream& out) {
+    const std::string difference = trace::differenceOf(cost.lines, prescribed.trace);
+    return holds(difference.empty(), "other calls than prescribed: " + difference, out);
 }
 
 bool printQuestions(const CostRequest& request, const CommandContext& at) {
@@ -51,14 +57,20 @@ bool printQuestions(const CostRequest& request, const CommandContext& at) {
         const language::ScenarioFile file = load(path);
         const Course course(file, makeWorld);
         const QuestionCost cost = cost::costOf(file, course, makeWorld, timedRuns);
-        const cost::PrescribedCalls& prescribed = cost.prescribed;
-        out << std::setw(8) << file.question << std::setw(14)
-            << against(cost.initQuestion.calls, prescribed.initQuestion, cost.keeping.initQuestion) << std::setw(18)
-            << against(cost.prepareCalls, prescribed.prepare) << std::setw(12)
-            << against(cost.testePoint.calls, prescribed.testePoint) << std::setw(12)
-            << against(cost.fermer.calls, prescribed.fermer, cost.keeping.fermer) << std::setw(7) << cost.names.size()
-            << std::fixed << std::setprecision(2) << std::setw(11) << microsecondsACall(cost) << std::endl;
-        isGood = holds(cost.isAsPrescribed(), "other calls than prescribed", out) && isGood;
+        const cost::PrescribedCalls initQuestion(file.question, HostCall::InitQuestion);
+        const cost::PrescribedCalls testePoint(file.question, HostCall::TestePoint);
+        const cost::PrescribedCalls fermer(file.question, HostCall::Fermer);
+        // Prepare is what is left of InitQuestion without the calls around it.
+        const std::size_t around = initQuestion.calls + initQuestion.keeping - initQuestion.prepare;
+        out << std::setw(8) << file.question << std::setw(14) << against(cost.initQuestion.calls, initQuestion)
+            << std::setw(18)
+            << std::to_string(cost.initQuestion.calls - around) + '/' + std::to_string(initQuestion.prepare)
+            << std::setw(12) << against(cost.testePoint.calls, testePoint) << std::setw(12)
+            << against(cost.fermer.calls, fermer) << std::setw(7) << cost.names.size() << std::fixed
+            << std::setprecision(2) << std::setw(11) << microsecondsACall(cost) << std::endl;
+        isGood = isAsPrescribed(cost.initQuestion, initQuestion, out) && isGood;
+        isGood = isAsPrescribed(cost.testePoint, testePoint, out) && isGood;
+        isGood = isAsPrescribed(cost.fermer, fermer, out) && isGood;
         names.insert(cost.names.begin(), cost.names.end());
         automationCalls += cost.automationCalls();
     }

@@ -103,12 +103,9 @@ bool printBesideScript(const CostRequest& request, const CommandContext& at) {
             << std::endl;
     };
     ScriptRun script;
-    const QuestionCost cost = cost::remoteCostOf(
-        file, Course(file, at.worlds.embedded), at.worlds.remote, [&](World& /*world*/, cost::Moment moment) {
-            if (moment == cost::Moment::Checked) {
-                script = runCheck(at.library.folder() / "../tests/trials/cost/0306.vbs");
-            }
-        });
+    const QuestionCost cost = cost::remoteCostOf(file, Course(file, at.worlds.embedded), at.worlds.remote, [&] {
+        script = runCheck(at.library.folder() / "../tests/trials/cost/0306.vbs");
+    });
     print("library ", cost.testePoint.calls, cost.lookUps, cost.testePoint.time.count());
     print("script  ", script.calls, script.lookUps, script.milliseconds);
     const double ratio = cost.testePoint.time.count() / script.milliseconds;

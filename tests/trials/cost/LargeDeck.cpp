@@ -1,6 +1,8 @@
 #include "tests/trials/cost/LargeDeck.h"
 
 #include "host/language/Parser.h"
+#include "tests/trials/trace/Expected.h"
+#include "tests/trials/trace/TraceLog.h"
 
 namespace trials::cost {
 
@@ -21,6 +23,15 @@ language::ScenarioFile largeDeck(DeckSize size) {
         }
     }
     return language::parse("large deck", text + "scenario \"nothing left to do\"\n  check remark \"F\"\n");
+}
+
+std::size_t prescribedAutomationCalls(const DeckSize& deck) {
+    std::size_t calls = 0;
+    const trace::Texts texts(deck.slides, std::vector<int>(deck.shapesOnSlide, static_cast<int>(deck.wordsInShape)));
+    for (const trace::Line& line : trace::expectedTrace(texts)) {
+        calls += line.text.starts_with("Windows.") ? 0 : trace::callsIn(line.text);
+    }
+    return calls;
 }
 
 } // namespace trials::cost

@@ -18,4 +18,7 @@ struct DeckSize {
 /// to be written stands there four times, the one to be replaced not at all, so that the check reads every word twice.
 [[nodiscard]] language::ScenarioFile largeDeck(DeckSize size);
 
+/// Calls to PowerPoint that a TestePoint takes on it.
+[[nodiscard]] std::size_t prescribedAutomationCalls(const DeckSize& deck);
+
 } // namespace trials::cost

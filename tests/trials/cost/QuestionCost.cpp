@@ -3,6 +3,7 @@
 #include "automation/LateBound.h"
 #include "host/run/FirstMoves.h"
 #include "tests/trials/StandIn.h"
+#include "tests/trials/trace/TraceLog.h"
 
 #include <ctime>
 
@@ -16,6 +17,7 @@ struct Reckoning {
     std::size_t automationCalls = 0;
     std::size_t lookUps = 0;
     Milliseconds time{};
+    std::vector<std::string> lines{}; ///< written since the last reckoning
 };
 
 using Meter = std::function<Reckoning()>;
@@ -30,10 +32,10 @@ Milliseconds clockTime() {
 }
 
 /// One run of a question in a world of its own.
-class Run {
+class MeasuredRun {
 public:
-    Run(const language::ScenarioFile& file, const Course& course, World& world, Meter meter,
-        const Watching& watch = nullptr)
+    MeasuredRun(const language::ScenarioFile& file, const Course& course, World& world, Meter meter,
+                const OnChecked& onChecked = nullptr)
         : meter_(std::move(meter)) {
         Witness nobody;
         world.powerPoint().start();
@@ -41,16 +43,11 @@ public:
         host.application = world.powerPoint().application();
         host.window = world.powerPoint().window();
         cost.initQuestion = measure([&] { host.initQuestion(file.question, world.hostFolder()); });
-        const auto reach = [&](Moment moment) {
-            if (watch) {
-                watch(world, moment);
-            }
-        };
-        reach(Moment::Prepared);
         performFirstMoves(file, world, host);
-        reach(Moment::Worked);
         cost.testePoint = measure([&] { cost.reading = host.check(); });
-        reach(Moment::Checked);
+        if (onChecked) {
+            onChecked();
+        }
         cost.fermer = measure([&] { host.fermer(); });
         host.quitter();
     }
@@ -61,46 +58,39 @@ private:
     template <typename Step> OperationCost measure(const Step& step) {
         const Reckoning before = meter_();
         step();
-        const Reckoning after = meter_();
+        Reckoning after = meter_();
         cost.lookUps += after.lookUps - before.lookUps;
-        return {after.calls - before.calls, after.automationCalls - before.automationCalls, after.time - before.time};
+        return {after.calls - before.calls, after.automationCalls - before.automationCalls, after.time - before.time,
+                std::move(after.lines)};
     }
 
     Meter meter_;
 };
 
 QuestionCost observedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
-    const auto tally = std::make_shared<CallTally>();
-    const Meter meter = [&] { return Reckoning{tally->calls, tally->automationCalls, 0, {}}; };
-    std::optional<Surroundings> prepared;
-    PrescribedCalls prescribed{};
-    const Watching watch = [&](World& world, Moment moment) {
-        if (moment == Moment::Prepared) {
-            prepared.emplace(world, file.question);
-        } else if (moment == Moment::Worked) {
-            prescribed = prescribedCalls(file.question, *prepared, Surroundings(world, file.question).slides);
-        }
-    };
-    QuestionCost cost = Run(file, course, *makeWorld(tally), meter, watch).cost;
-    cost.prescribed = prescribed;
-    cost.keeping = keepingCalls(prepared.value());
-    cost.prepareCalls = tally->prepareCalls;
-    cost.names = tally->names;
+    const auto log = std::make_shared<trace::TraceLog>();
+    const Meter meter = [&] { return Reckoning{log->calls, log->automationCalls, 0, {}, log->takeLines()}; };
+    QuestionCost cost = MeasuredRun(file, course, *makeWorld(log), meter).cost;
+    cost.names = log->names;
     return cost;
 }
 
 } // namespace
 
-bool QuestionCost::isAsPrescribed() const noexcept {
-    return initQuestion.calls == prescribed.initQuestion + keeping.initQuestion && prepareCalls == prescribed.prepare &&
-           testePoint.calls == prescribed.testePoint && fermer.calls == prescribed.fermer + keeping.fermer;
+PrescribedCalls::PrescribedCalls(std::int32_t question, HostCall operation)
+    : trace(trace::expectedTrace(question, {operation, trace::Operation::Arrival::Fresh})) {
+    for (const trace::Line& line : trace) {
+        const std::size_t ofLine = trace::callsIn(line.text);
+        (trace::keepsBars(line.phase) ? keeping : calls) += ofLine;
+        prepare += line.phase == trace::Phase::Preparing ? ofLine : 0;
+    }
 }
 
 QuestionCost costOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld, int runs) {
     QuestionCost cost = observedCostOf(file, course, makeWorld);
-    const Meter timer = [] { return Reckoning{0, 0, 0, processorTime()}; };
+    const Meter timer = [] { return Reckoning{0, 0, 0, processorTime(), {}}; };
     for (int i = 0; i < runs; ++i) {
-        const QuestionCost unobserved = Run(file, course, *makeWorld(nullptr), timer).cost;
+        const QuestionCost unobserved = MeasuredRun(file, course, *makeWorld(nullptr), timer).cost;
         for (const auto operation : {&QuestionCost::initQuestion, &QuestionCost::testePoint, &QuestionCost::fermer}) {
             Milliseconds& shortest = (cost.*operation).time;
             const Milliseconds time = (unobserved.*operation).time;
@@ -111,7 +101,7 @@ QuestionCost costOf(const language::ScenarioFile& file, const Course& course, co
 }
 
 QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeRemoteWorld,
-                          const Watching& watch) {
+                          const OnChecked& onChecked) {
     const WorldPtr world = makeRemoteWorld(nullptr);
     const Meter meter = [] {
         const automation::LateBound standIn = trials::standIn();
@@ -119,9 +109,9 @@ QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& cour
             return static_cast<std::size_t>(standIn.get(name).to<std::int32_t>());
         };
         const std::size_t calls = counted(u"Calls");
-        return Reckoning{calls, calls, counted(u"LookUps"), clockTime()};
+        return Reckoning{calls, calls, counted(u"LookUps"), clockTime(), {}};
     };
-    return Run(file, course, *world, meter, watch).cost;
+    return MeasuredRun(file, course, *world, meter, onChecked).cost;
 }
 
 } // namespace trials::cost

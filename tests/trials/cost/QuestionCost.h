@@ -2,11 +2,11 @@
 
 #include "host/run/TrainingHost.h"
 #include "tests/trials/Host.h"
-#include "tests/trials/cost/CallTally.h"
-#include "tests/trials/cost/Prescribed.h"
+#include "tests/trials/trace/Expected.h"
 
 #include <chrono>
 #include <functional>
+#include <set>
 
 namespace trials::cost {
 
@@ -17,6 +17,18 @@ struct OperationCost {
     std::size_t calls = 0;           ///< that leave the module
     std::size_t automationCalls = 0; ///< of them, those to PowerPoint
     Milliseconds time{};
+    std::vector<std::string> lines; ///< of its trace, where calls are observed
+};
+
+/// Calls that an operation takes where each step is taken as it is described, and none beside: those of its expected
+/// trace.
+struct PrescribedCalls {
+    PrescribedCalls(std::int32_t question, HostCall operation);
+
+    std::vector<trace::Line> trace;
+    std::size_t calls = 0;   ///< without those that keep the learner's bars
+    std::size_t keeping = 0; ///< those
+    std::size_t prepare = 0; ///< of the question's Prepare
 };
 
 /// What a question costs, from its beginning to its closing.
@@ -24,24 +36,18 @@ struct QuestionCost {
     OperationCost initQuestion;
     OperationCost testePoint;
     OperationCost fermer;
-    std::size_t prepareCalls = 0;   ///< of InitQuestion's calls
     std::set<std::u16string> names; ///< of PowerPoint's members called
-    PrescribedCalls prescribed{};   ///< where calls are observed
-    KeepingCalls keeping{};         ///< beside them
     std::size_t lookUps = 0;        ///< of names, by a PowerPoint in a process of its own
     Reading reading;                ///< after the first moves of the scenario file
 
     [[nodiscard]] std::size_t automationCalls() const noexcept {
         return initQuestion.automationCalls + testePoint.automationCalls + fermer.automationCalls;
     }
-    /// True where InitQuestion, Prepare, TestePoint and Fermer make the calls prescribed, and those that keep the bars.
-    [[nodiscard]] bool isAsPrescribed() const noexcept;
     [[nodiscard]] Milliseconds time() const noexcept { return initQuestion.time + testePoint.time + fermer.time; }
 };
 
-/// How far a question has come.
-enum class Moment : std::uint8_t { Prepared, Worked, Checked };
-using Watching = std::function<void(World&, Moment)>;
+/// Called when the question has been checked, before it is closed.
+using OnChecked = std::function<void()>;
 
 /// Counts the calls of a question whose learner performs the first moves of its file, and takes the shortest processor
 /// time of several runs that nobody observes. `course` holds the file's files. Raises what the module raises.
@@ -49,8 +55,8 @@ using Watching = std::function<void(World&, Moment)>;
                                   int runs);
 
 /// The same, run once with a PowerPoint in a process of its own, which counts its calls and the names looked up in
-/// them; the time is the clock's. `watch` is called as the question goes on.
+/// them; the time is the clock's.
 [[nodiscard]] QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course,
-                                        const WorldMaker& makeRemoteWorld, const Watching& watch = nullptr);
+                                        const WorldMaker& makeRemoteWorld, const OnChecked& onChecked = nullptr);
 
 } // namespace trials::cost

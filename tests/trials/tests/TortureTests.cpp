@@ -13,7 +13,7 @@ using trials::torture::Answer;
 using trials::torture::Call;
 using trials::torture::Fault;
 using trials::torture::Judge;
-using trials::torture::Stage;
+using trials::trace::Phase;
 using Lasting = Fault::Lasting;
 
 const host::WorldMaker makeWorld = host::makeEmbeddedWorld;
@@ -62,52 +62,52 @@ TEST(TortureTests, JudgeDemandsWhatIsPrescribedForEachStep) {
         std::size_t right; ///< of the answers
     };
     const std::vector<Case> cases = {
-        {HostCall::InitQuestion, {Border::Automation, Stage::Obtaining, u"create"}, 3},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Obtaining, u"attach"}, silence},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Saving}, straight},
-        {HostCall::InitQuestion, {Border::Registry, Stage::Saving, u"query", {}, key}, 13},
-        {HostCall::InitQuestion, {Border::Registry, Stage::Creating, u"open", {}, key}, 4},
-        {HostCall::InitQuestion, {Border::Registry, Stage::Creating, u"close", {}, key}, silence},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Cleaning}, 5},
-        {HostCall::InitQuestion, {Border::File, Stage::Cleaning, u"remove"}, silence},
-        {HostCall::InitQuestion, {Border::File, Stage::Staging, u"rename"}, 7},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Arranging}, silence},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Tooltips}, straight},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Preparing}, 8},
-        {HostCall::InitQuestion, {Border::Registry, Stage::Pointing, u"open", {}, key}, 12},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Startup}, silence},
-        {HostCall::InitQuestion, {Border::Automation, Stage::Fronting}, straight},
-        {HostCall::TestePoint, {Border::Automation, Stage::Fronting}, straight},
-        {HostCall::TestePoint, {Border::Automation, Stage::Examining}, straight},
-        {HostCall::TestePoint, {Border::Automation, Stage::Checking}, 11},
-        {HostCall::Fermer, {Border::Automation, Stage::Closing}, silence},
-        {HostCall::Fermer, {Border::Automation, Stage::Asking}, silence},
-        {HostCall::Fermer, {Border::Automation, Stage::Cleaning}, 5},
-        {HostCall::Fermer, {Border::Registry, Stage::Restoring, u"open", {}, key}, 13},
-        {HostCall::Fermer, {Border::Registry, Stage::Restoring, u"set", {}, key}, silence},
-        {HostCall::Quitter, {Border::Automation, Stage::Ending, u"Quit"}, straight},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Obtaining, u"create"}, 3},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Obtaining, u"attach"}, silence},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Saving}, straight},
+        {HostCall::InitQuestion, {Border::Registry, Phase::Saving, u"query", {}, key}, 13},
+        {HostCall::InitQuestion, {Border::Registry, Phase::Creating, u"open", {}, key}, 4},
+        {HostCall::InitQuestion, {Border::Registry, Phase::Creating, u"close", {}, key}, silence},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Cleaning}, 5},
+        {HostCall::InitQuestion, {Border::File, Phase::Cleaning, u"remove"}, silence},
+        {HostCall::InitQuestion, {Border::File, Phase::Staging, u"rename"}, 7},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Arranging}, silence},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Tooltips}, straight},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Preparing}, 8},
+        {HostCall::InitQuestion, {Border::Registry, Phase::Pointing, u"open", {}, key}, 12},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Startup}, silence},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Fronting}, straight},
+        {HostCall::TestePoint, {Border::Automation, Phase::Fronting}, straight},
+        {HostCall::TestePoint, {Border::Automation, Phase::Examining}, straight},
+        {HostCall::TestePoint, {Border::Automation, Phase::Checking}, 11},
+        {HostCall::Fermer, {Border::Automation, Phase::Closing}, silence},
+        {HostCall::Fermer, {Border::Automation, Phase::Asking}, silence},
+        {HostCall::Fermer, {Border::Automation, Phase::Cleaning}, 5},
+        {HostCall::Fermer, {Border::Registry, Phase::Restoring, u"open", {}, key}, 13},
+        {HostCall::Fermer, {Border::Registry, Phase::Restoring, u"set", {}, key}, silence},
+        {HostCall::Quitter, {Border::Automation, Phase::Ending, u"Quit"}, straight},
     };
-    const trials::torture::Aftermath flawless;
+    const trials::torture::Outcome flawless;
     for (const auto& [operation, call, right] : cases) {
         const std::vector<Call> route{call};
         const Judge judge(306, {operation, {}}, flawless, route);
         for (std::size_t i = 0; i < answers.size(); ++i) {
-            trials::torture::Aftermath aftermath;
-            aftermath.error = answers[i];
+            trials::torture::Outcome outcome;
+            outcome.error = answers[i];
             const Fault& fault = call.border == Border::Automation ? busy : denied;
-            EXPECT_EQ(judge.judge(aftermath, 0, fault).findings.empty(), i == right)
-                << "stage " << static_cast<int>(call.stage) << ", answer " << i;
+            EXPECT_EQ(judge.judge(outcome, 0, fault).findings.empty(), i == right)
+                << "phase " << static_cast<int>(call.phase) << ", answer " << i;
         }
     }
 }
 
 /// A fault that lasts strikes on until it is noticed; a check answers by a code where PowerPoint cannot be reached.
 TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
-    const std::vector<Call> route{{Border::Window, Stage::Looking, u"isVisible"},
-                                  {Border::Automation, Stage::Asking},
-                                  {Border::Window, Stage::Fronting, u"findWindow"},
-                                  {Border::Automation, Stage::Examining},
-                                  {Border::Automation, Stage::Checking}};
+    const std::vector<Call> route{{Border::Window, Phase::Looking, u"isVisible"},
+                                  {Border::Automation, Phase::Asking},
+                                  {Border::Window, Phase::Fronting, u"findWindow"},
+                                  {Border::Automation, Phase::Examining},
+                                  {Border::Automation, Phase::Checking}};
     const host::Reading right;
     const auto code = [](std::u16string_view text) {
         host::Reading reading;
@@ -118,7 +118,7 @@ TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
     const Fault denied{Fault::Kind::AccessDenied, Lasting::Once};
     const Fault deaf{Fault::Kind::Busy, Lasting::FromThereOn};
     const Fault late{Fault::Kind::Late, Lasting::Once};
-    trials::torture::Aftermath flawless;
+    trials::torture::Outcome flawless;
     flawless.reading = right;
     const Judge judge(306, {HostCall::TestePoint, {}}, flawless, route);
     struct Case {
@@ -133,40 +133,54 @@ TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
         {3, code(u"%AL"), deaf, false}, {1, right, late, true},           {3, code(u"A"), late, false},
     };
     for (const auto& [position, reading, fault, isRight] : cases) {
-        trials::torture::Aftermath aftermath;
-        aftermath.reading = reading;
-        EXPECT_EQ(judge.judge(aftermath, position, fault).findings.empty(), isRight)
+        trials::torture::Outcome outcome;
+        outcome.reading = reading;
+        EXPECT_EQ(judge.judge(outcome, position, fault).findings.empty(), isRight)
             << position << ", " << fault.display() << ", " << reading.display();
     }
 
-    const std::vector<Call> searching{{Border::File, Stage::Checking, u"find", u"Files.find(\"Plan exo 3.*\", 6)"},
-                                      {Border::File, Stage::Checking, u"find", u"Files.find(\"Plan exo 3.rtf\", 6)"}};
+    const std::vector<Call> searching{{Border::File, Phase::Checking, u"find", u"Files.find(\"Plan exo 3.*\", 6)"},
+                                      {Border::File, Phase::Checking, u"find", u"Files.find(\"Plan exo 3.rtf\", 6)"}};
     const Judge ofSearch(304, {HostCall::TestePoint, {}}, flawless, searching);
     for (const std::size_t position : {0U, 1U}) {
         for (const auto* const letter : {u"", u"A", u"B", u"C"}) {
-            trials::torture::Aftermath aftermath;
-            aftermath.reading = right;
-            aftermath.reading->causeErreur = letter;
-            EXPECT_EQ(ofSearch.judge(aftermath, position, denied).findings.empty(),
+            trials::torture::Outcome outcome;
+            outcome.reading = right;
+            outcome.reading->causeErreur = letter;
+            EXPECT_EQ(ofSearch.judge(outcome, position, denied).findings.empty(),
                       letter == std::u16string(position == 0 ? u"A" : u"B"))
-                << position << ", " << aftermath.reading->display();
+                << position << ", " << outcome.reading->display();
         }
     }
 
-    const std::vector<Call> closing{{Border::Automation, Stage::Returning},
-                                    {Border::Registry, Stage::Restoring, u"open", {}, u"K"}};
-    const trials::torture::Aftermath silent;
+    const std::vector<Call> closing{{Border::Automation, Phase::Returning},
+                                    {Border::Registry, Phase::Restoring, u"open", {}, u"K"}};
+    const trials::torture::Outcome silent;
     const Judge ofClosing(306, {HostCall::Fermer, {}}, silent, closing);
     EXPECT_TRUE(ofClosing.judge(silent, 0, deaf).findings.empty());
     EXPECT_EQ(ofClosing.judge(silent, 1, {Fault::Kind::AccessDenied, Lasting::FromThereOn}).findings.size(), 1U);
 
-    trials::torture::Aftermath lost;
+    trials::torture::Outcome lost;
     lost.findings = {"lost"};
     lost.bars = {"moved"};
     lost.isStruck = false;
     lost.powerPointEnded = true;
     EXPECT_EQ(ofClosing.judge(lost, 0, deaf).findings.size(), 4U);
     EXPECT_EQ(ofClosing.judge(lost, 1, denied).findings.size(), 5U) << "windows could be asked";
+}
+
+/// Where no call is made to fail, what is left is the operations as they go, along their expected traces.
+TEST(TortureTests, OperationsMakeTheCallsOfTheirExpectedTracesInOrder) {
+    std::mt19937 random(1);
+    for (const std::filesystem::path& path : host::Library(SCENARIOS).filesOfCourse({})) {
+        const host::language::ScenarioFile file = host::load(path);
+        constexpr std::size_t none = 1U << 30U;
+        trials::torture::Totals totals;
+        trials::torture::Torture(file, makeWorld, none, random)
+            .run(
+                totals, [](const std::string& finding) { ADD_FAILURE() << finding; }, [](const auto&, auto, auto) {});
+        EXPECT_EQ(totals.failed, 0U);
+    }
 }
 
 TEST(TortureTests, ASampleOfOneQuestionsCallsComesThrough) {

@@ -23,43 +23,42 @@ bool isSameVerdict(const Reading& left, const Reading& right) {
 
 } // namespace
 
-Judgement Judge::judge(const Aftermath& aftermath, std::size_t position, const Fault& fault) const {
-    const Prescription prescription = prescriptionFor(question_, operation_, route_, position, fault);
-    Judgement judgement{Answer::Wrong, aftermath.findings};
+Judgement Judge::judge(const Outcome& outcome, std::size_t position, const Fault& fault) const {
+    const Expected expected = expectedFor(question_, operation_, route_, position, fault);
+    Judgement judgement{Answer::Wrong, outcome.findings};
     std::vector<std::string>& findings = judgement.findings;
-    if (!aftermath.isStruck) {
+    if (!outcome.isStruck) {
         findings.emplace_back("the fault has not struck");
     }
     // The bar that could not be read before it was arranged cannot be put back, nor can those of a process that has
     // died.
     const bool isUnread =
-        route_[position].stage == Stage::Layout && fault.lasting == Lasting::Once && aftermath.bars.size() <= 1;
+        route_[position].phase == Phase::Layout && fault.lasting == Lasting::Once && outcome.bars.size() <= 1;
     if (!isUnread && fault.kind != Kind::Dies) {
-        findings.insert(findings.end(), aftermath.bars.begin(), aftermath.bars.end());
+        findings.insert(findings.end(), outcome.bars.begin(), outcome.bars.end());
     }
-    if (isAnsweredBy(prescription, aftermath)) {
-        judgement.answer = prescription.answer;
+    if (isAnsweredBy(expected, outcome)) {
+        judgement.answer = expected.answer;
     } else {
-        findings.push_back("the host gets" + (aftermath.error ? " " + inWords(*aftermath.error) : " no error") +
-                           (aftermath.reading ? ", " + aftermath.reading->display() : "") +
-                           ", and not: " + prescription.display());
+        findings.push_back("the host gets" + (outcome.error ? " " + inWords(*outcome.error) : " no error") +
+                           (outcome.reading ? ", " + outcome.reading->display() : "") +
+                           ", and not: " + expected.display());
     }
-    if (aftermath.powerPointEnded && !mayEndPowerPoint(position, fault)) {
+    if (outcome.powerPointEnded && !mayEndPowerPoint(position, fault)) {
         findings.emplace_back("the learner's PowerPoint has been ended");
     }
     return judgement;
 }
 
-bool Judge::isAnsweredBy(const Prescription& prescription, const Aftermath& aftermath) const {
-    const std::optional<Error>& error = aftermath.error;
-    const std::optional<Reading>& reading = aftermath.reading;
-    switch (prescription.answer) {
+bool Judge::isAnsweredBy(const Expected& expected, const Outcome& outcome) const {
+    const std::optional<Error>& error = outcome.error;
+    const std::optional<Reading>& reading = outcome.reading;
+    switch (expected.answer) {
     case Answer::Reported:
     case Answer::Registry:
-    case Answer::Straight: return error && prescription.admits(*error);
-    case Answer::Code: return !error && reading && reading->erreurGenerale && reading->causeErreur == prescription.code;
-    case Answer::Letter:
-        return !error && reading && !reading->erreurGenerale && reading->causeErreur == prescription.code;
+    case Answer::Straight: return error && expected.admits(*error);
+    case Answer::Code: return !error && reading && reading->erreurGenerale && reading->causeErreur == expected.code;
+    case Answer::Letter: return !error && reading && !reading->erreurGenerale && reading->causeErreur == expected.code;
     case Answer::Silence:
         return isSameError(error, flawless_.error) && (!reading || isSameVerdict(*reading, *flawless_.reading));
     case Answer::Wrong: break;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tests/trials/torture/Ordeal.h"
-#include "tests/trials/torture/Prescription.h"
+#include "tests/trials/torture/Expected.h"
+#include "tests/trials/torture/Run.h"
 
 namespace trials::torture {
 
@@ -15,19 +15,19 @@ struct Judgement {
 class Judge {
 public:
     /// `flawless` is how the operation goes when nothing fails, along its route; both must outlive this object.
-    Judge(std::int32_t question, Operation operation, const Aftermath& flawless, std::span<const Call> route)
+    Judge(std::int32_t question, Operation operation, const Outcome& flawless, std::span<const Call> route)
         : question_(question), operation_(operation), flawless_(flawless), route_(route) {}
 
     /// `position` is that of the call that failed, from 0.
-    [[nodiscard]] Judgement judge(const Aftermath& aftermath, std::size_t position, const Fault& fault) const;
+    [[nodiscard]] Judgement judge(const Outcome& outcome, std::size_t position, const Fault& fault) const;
 
 private:
-    [[nodiscard]] bool isAnsweredBy(const Prescription& prescription, const Aftermath& aftermath) const;
+    [[nodiscard]] bool isAnsweredBy(const Expected& expected, const Outcome& outcome) const;
     [[nodiscard]] bool mayEndPowerPoint(std::size_t position, const Fault& fault) const;
 
     std::int32_t question_;
     Operation operation_;
-    const Aftermath& flawless_;
+    const Outcome& flawless_;
     std::span<const Call> route_;
 };
 

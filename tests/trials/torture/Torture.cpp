@@ -24,15 +24,19 @@ constexpr std::array operations{
 
 /// An operation with the calls that leave the module in it.
 struct Rehearsal {
-    Aftermath aftermath;
+    Outcome outcome;
     std::vector<Call> route;
 };
 
-Rehearsal rehearse(const Ordeal& ordeal, Operation operation) {
+Rehearsal rehearse(std::int32_t question, const Run& run, Operation operation) {
     const auto recorder = std::make_shared<RouteRecorder>();
     ObservedCalls observed([&](World&) { return Strike{recorder, nullptr}; });
-    Rehearsal rehearsal{ordeal.run(operation, observed, true), {}};
-    rehearsal.route = recorder->route(operation.call, rehearsal.aftermath.calls);
+    Rehearsal rehearsal{run.run(operation, observed, true), {}};
+    const std::vector<trace::Line> expected = trace::expectedTrace(question, operation);
+    rehearsal.route = recorder->route(expected, rehearsal.outcome.calls);
+    if (std::string difference = recorder->differenceOf(expected, rehearsal.outcome.calls); !difference.empty()) {
+        rehearsal.outcome.findings.push_back(std::move(difference));
+    }
     return rehearsal;
 }
 
@@ -45,30 +49,30 @@ bool leavesFoldersWritable(const Fault& fault) {
 
 Torture::Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every,
                  std::mt19937& random)
-    : file_(file), course_(file, makeWorld), ordeal_(file, course_, makeWorld), every_(every), random_(random) {}
+    : file_(file), course_(file, makeWorld), run_(file, course_, makeWorld), every_(every), random_(random) {}
 
 void Torture::run(Totals& totals, const Report& report, const Progress& progress) const {
     for (const Operation& operation : operations) {
-        const Rehearsal rehearsal = rehearse(ordeal_, operation);
+        const Rehearsal rehearsal = rehearse(file_.question, run_, operation);
         std::vector<std::size_t> positions(rehearsal.route.size());
         std::iota(positions.begin(), positions.end(), std::size_t{0});
         const Struck struck = [&](const Fault& fault, std::size_t n) {
             ObservedCalls observed([&](World& world) { return fault.at(n, world); });
-            return ordeal_.run(operation, observed, leavesFoldersWritable(fault));
+            return run_.run(operation, observed, leavesFoldersWritable(fault));
         };
-        run({operation, rehearsal.aftermath, rehearsal.route, positions}, Fault::all(), struck,
+        run({operation, rehearsal.outcome, rehearsal.route, positions}, Fault::all(), struck,
             {totals, report, progress});
     }
 }
 
 void Torture::runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const Report& report,
                         const Progress& progress) const {
-    const Ordeal remote(file_, course_, makeRemoteWorld);
+    const Run remote(file_, course_, makeRemoteWorld);
     for (const Operation& operation : operations) {
         if (operation.arrival == Arrival::Started || operation.call == HostCall::Quitter || operation.isHeld) {
             continue;
         }
-        const std::vector<Call> route = rehearse(ordeal_, operation).route;
+        const std::vector<Call> route = rehearse(file_.question, run_, operation).route;
         std::vector<std::size_t> positions;
         for (std::size_t i = 0; i < route.size(); ++i) {
             if (route[i].border == Border::Automation) {
@@ -76,7 +80,7 @@ void Torture::runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const
             }
         }
         RemoteCalls untroubled;
-        Aftermath flawless = remote.run(operation, untroubled, true);
+        Outcome flawless = remote.run(operation, untroubled, true);
         if (flawless.calls != positions.size()) {
             flawless.findings.push_back(std::to_string(flawless.calls) + " calls reach PowerPoint, and not " +
                                         std::to_string(positions.size()));

@@ -34,7 +34,7 @@ public:
 
 private:
     /// An operation in which a fault strikes the n-th call.
-    using Struck = std::function<Aftermath(const Fault&, std::size_t)>;
+    using Struck = std::function<Outcome(const Fault&, std::size_t)>;
     /// Whoever is told how it goes.
     struct Audience {
         Totals& totals;
@@ -45,7 +45,7 @@ private:
     /// An operation as it goes when nothing fails, and the calls on its route that can be made to fail.
     struct Ground {
         Operation operation;
-        const Aftermath& flawless;
+        const Outcome& flawless;
         std::span<const Call> route;
         std::span<const std::size_t> positions;
     };
@@ -55,7 +55,7 @@ private:
 
     const language::ScenarioFile& file_;
     Course course_;
-    Ordeal ordeal_;
+    Run run_;
     std::size_t every_;
     std::mt19937& random_;
 };

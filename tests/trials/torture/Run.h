@@ -2,28 +2,16 @@
 
 #include "host/run/TrainingHost.h"
 #include "tests/trials/Host.h"
-#include "tests/trials/torture/Belongings.h"
+#include "tests/trials/torture/LearnerState.h"
 #include "tests/trials/torture/Tampering.h"
+#include "tests/trials/trace/Expected.h"
 
 namespace trials::torture {
 
-/// An operation of the host whose calls are made to fail, and where its PowerPoint comes from.
-struct Operation {
-    enum class Arrival : bool {
-        Brought, ///< the host brings a PowerPoint in which the learner has a presentation open
-        Started, ///< the module starts PowerPoint
-    };
-
-    HostCall call;
-    Arrival arrival;
-    bool isHeld = false; ///< for InitQuestion: a question has been begun before and not been closed
-
-    /// In words: `InitQuestion (PowerPoint started)`.
-    [[nodiscard]] std::string display() const;
-};
+using trace::Operation;
 
 /// What an operation came to, and what the course of the question after it left amiss.
-struct Aftermath {
+struct Outcome {
     std::optional<automation::Error> error; ///< what the operation raised
     std::optional<Reading> reading;         ///< of TestePoint
     std::size_t calls = 0;                  ///< that left the module during the operation
@@ -36,19 +24,19 @@ struct Aftermath {
 /// The way of one question through a fresh world: it is begun, worked on, checked, closed and left, up to the operation
 /// in question and on through Fermer and Quitter; then comes a fresh start without faults, after which all that is the
 /// learner's must be as it was.
-class Ordeal {
+class Run {
 public:
     /// All must outlive this object.
-    Ordeal(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld)
+    Run(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld)
         : file_(file), course_(course), makeWorld_(makeWorld) {}
 
     /// Calls are tampered with from the beginning of the operation to the end of Quitter. With `foldersStayWritable`
     /// the folders must be the learner's again before the fresh start.
-    [[nodiscard]] Aftermath run(Operation operation, Tampering& tampering, bool foldersStayWritable) const;
+    [[nodiscard]] Outcome run(Operation operation, Tampering& tampering, bool foldersStayWritable) const;
 
 private:
-    [[nodiscard]] Aftermath runIn(World& world, Operation operation, Tampering& tampering,
-                                  bool foldersStayWritable) const;
+    [[nodiscard]] Outcome runIn(World& world, Operation operation, Tampering& tampering,
+                                bool foldersStayWritable) const;
 
     const language::ScenarioFile& file_;
     const Course& course_;

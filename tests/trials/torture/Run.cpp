@@ -1,4 +1,4 @@
-#include "tests/trials/torture/Ordeal.h"
+#include "tests/trials/torture/Run.h"
 
 #include "automation/LateBound.h"
 #include "automation/Text.h"
@@ -27,7 +27,7 @@ void settleIn(World& world) {
     bars.put(u"DisplayTooltips", false);
 }
 
-void comparePresentations(const Belongings& before, const Belongings& after, std::vector<std::string>& findings) {
+void comparePresentations(const LearnerState& before, const LearnerState& after, std::vector<std::string>& findings) {
     for (const OpenPresentation& open : before.presentations) {
         if (std::find(after.presentations.begin(), after.presentations.end(), open) == after.presentations.end()) {
             findings.push_back("the learner's presentation " + toUtf8(open.name) + " is closed or changed");
@@ -38,7 +38,7 @@ void comparePresentations(const Belongings& before, const Belongings& after, std
     }
 }
 
-void compareBars(const Belongings& before, const Belongings& after, std::vector<std::string>& findings) {
+void compareBars(const LearnerState& before, const LearnerState& after, std::vector<std::string>& findings) {
     for (std::size_t i = 0; i < before.bars.size(); ++i) {
         if (i >= after.bars.size() || after.bars[i] != before.bars[i]) {
             findings.push_back("the command bars were \"" + toUtf8(before.bars[i]) + "\" and now are \"" +
@@ -49,27 +49,22 @@ void compareBars(const Belongings& before, const Belongings& after, std::vector<
 
 } // namespace
 
-std::string Operation::display() const {
-    return toUtf8(nameOf(call)) + (arrival == Arrival::Started ? " (PowerPoint started)" : "") +
-           (isHeld ? " (a question held)" : "");
-}
-
-Aftermath Ordeal::run(Operation operation, Tampering& tampering, bool foldersStayWritable) const {
+Outcome Run::run(Operation operation, Tampering& tampering, bool foldersStayWritable) const {
     const std::size_t aliveBefore = automation::Object::alive();
-    Aftermath aftermath;
+    Outcome outcome;
     {
         const WorldPtr world = makeWorld_(tampering.observer());
-        aftermath = runIn(*world, operation, tampering, foldersStayWritable);
+        outcome = runIn(*world, operation, tampering, foldersStayWritable);
     }
     if (const std::size_t aliveAfter = automation::Object::alive(); aliveAfter != aliveBefore) {
-        aftermath.findings.push_back(std::to_string(aliveAfter - aliveBefore) + " automation objects left alive");
+        outcome.findings.push_back(std::to_string(aliveAfter - aliveBefore) + " automation objects left alive");
     }
-    return aftermath;
+    return outcome;
 }
 
-Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering, bool foldersStayWritable) const {
+Outcome Run::runIn(World& world, Operation operation, Tampering& tampering, bool foldersStayWritable) const {
     settleIn(world);
-    const Belongings before(world);
+    const LearnerState before(world);
     const std::int32_t windowBefore = world.powerPoint().window();
     Witness nobody;
     TrainingHost host(world, course_, file_.question, nobody);
@@ -80,7 +75,7 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering,
         world.powerPoint().close();
     }
 
-    Aftermath aftermath;
+    Outcome outcome;
     const auto begin = [&] { host.initQuestion(file_.question, world.hostFolder()); };
     const auto perform = [&](HostCall call, const auto& step) {
         if (call != operation.call) {
@@ -88,9 +83,9 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering,
             return;
         }
         tampering.begin(world);
-        aftermath.error = errorOf(step);
-        aftermath.calls = tampering.calls(world);
-        aftermath.isStruck = tampering.hasStruck(world);
+        outcome.error = errorOf(step);
+        outcome.calls = tampering.calls(world);
+        outcome.isStruck = tampering.hasStruck(world);
     };
     if (operation.isHeld) {
         begin();
@@ -99,9 +94,9 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering,
     if (operation.call == HostCall::TestePoint) {
         performFirstMoves(file_, world, host);
         perform(HostCall::TestePoint, [&] {
-            aftermath.reading = host.check();
-            if (aftermath.reading->error) {
-                throw automation::Error(*aftermath.reading->error);
+            outcome.reading = host.check();
+            if (outcome.reading->error) {
+                throw automation::Error(*outcome.reading->error);
             }
         });
     }
@@ -112,31 +107,31 @@ Aftermath Ordeal::runIn(World& world, Operation operation, Tampering& tampering,
     tampering.end(world);
 
     if (foldersStayWritable && folderSettings::in(world.registry()) != before.folders) {
-        aftermath.findings.emplace_back("the learner's folders are not restored when the module is left");
+        outcome.findings.emplace_back("the learner's folders are not restored when the module is left");
     }
     const bool brought = operation.arrival == Operation::Arrival::Brought;
-    aftermath.powerPointEnded = brought && world.powerPoint().window() != windowBefore;
+    outcome.powerPointEnded = brought && world.powerPoint().window() != windowBefore;
     if (const auto error = errorOf([&] {
             begin();
             host.fermer();
             host.quitter();
         })) {
-        aftermath.findings.push_back("the fresh start raises " + inWords(*error));
+        outcome.findings.push_back("the fresh start raises " + inWords(*error));
     }
     world.powerPoint().start();
-    const Belongings after(world);
+    const LearnerState after(world);
     if (after.folders != before.folders) {
-        aftermath.findings.emplace_back("the learner's folders are not restored after a fresh start");
+        outcome.findings.emplace_back("the learner's folders are not restored after a fresh start");
     }
-    compareBars(before, after, aftermath.bars);
-    if (brought && !aftermath.powerPointEnded) {
-        comparePresentations(before, after, aftermath.findings);
+    compareBars(before, after, outcome.bars);
+    if (brought && !outcome.powerPointEnded) {
+        comparePresentations(before, after, outcome.findings);
     }
     for (const std::string& open : world.leftOpen()) {
-        aftermath.findings.push_back(open);
+        outcome.findings.push_back(open);
     }
     host.application = nullptr;
-    return aftermath;
+    return outcome;
 }
 
 } // namespace trials::torture

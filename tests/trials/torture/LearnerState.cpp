@@ -1,4 +1,4 @@
-#include "tests/trials/torture/Belongings.h"
+#include "tests/trials/torture/LearnerState.h"
 
 #include "automation/LateBound.h"
 
@@ -27,7 +27,7 @@ std::vector<std::u16string> barsOf(const LateBound& application) {
 
 } // namespace
 
-Belongings::Belongings(World& world) : folders(folderSettings::in(world.registry())) {
+LearnerState::LearnerState(World& world) : folders(folderSettings::in(world.registry())) {
     if (const ObjectPtr application = world.powerPoint().application()) {
         bars = barsOf(LateBound(application));
         presentations = Snapshot(world).presentations.value_or(std::vector<OpenPresentation>());

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tests/trials/torture/Ordeal.h"
 #include "tests/trials/torture/Route.h"
+#include "tests/trials/torture/Run.h"
 
 #include <span>
 
@@ -23,7 +23,7 @@ inline constexpr std::size_t answers = 7;
 [[nodiscard]] std::string_view nameOf(Answer answer) noexcept;
 
 /// What the host must get where a call fails.
-struct Prescription {
+struct Expected {
     Answer answer = Answer::Silence;
     /// The error raised, for the first three answers. What a PowerPoint says that is dying is not known beforehand: any
     /// number will do that says so, and the source need but begin so.
@@ -38,7 +38,7 @@ struct Prescription {
 
 /// What the host must get where a fault strikes the call at a position (from 0) of an operation of a question. What
 /// fails in silence lets a fault that lasts strike again, at a call further on.
-[[nodiscard]] Prescription prescriptionFor(std::int32_t question, Operation operation, std::span<const Call> route,
-                                           std::size_t position, const Fault& fault);
+[[nodiscard]] Expected expectedFor(std::int32_t question, Operation operation, std::span<const Call> route,
+                                   std::size_t position, const Fault& fault);
 
 } // namespace trials::torture

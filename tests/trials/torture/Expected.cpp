@@ -1,4 +1,4 @@
-#include "tests/trials/torture/Prescription.h"
+#include "tests/trials/torture/Expected.h"
 
 #include "automation/Text.h"
 #include "host/language/Expectation.h"
@@ -22,9 +22,9 @@ constexpr std::u16string_view registryText =
 /// What an error report gives as its object.
 enum class Object : std::uint8_t { None, Description, Source };
 
-/// What becomes of a failed call of a stage; what no rule names is passed over.
+/// What becomes of a failed call of a phase; what no rule names is passed over.
 struct Rule {
-    Stage stage;
+    Phase phase;
     Border border;
     std::u16string_view member; ///< any where it is empty
     Answer answer;
@@ -34,35 +34,35 @@ struct Rule {
 };
 
 constexpr std::array rules{
-    Rule{Stage::Obtaining, Border::Automation, u"attach", Answer::Silence},
-    Rule{Stage::Obtaining, Border::Automation, u"ShowStartupDialog", Answer::Silence},
-    Rule{Stage::Obtaining, Border::Automation, {}, Answer::Reported, u"Module", u"GetApplication", Object::Description},
-    Rule{Stage::Saving, Border::Automation, {}, Answer::Straight},
-    Rule{Stage::Saving, Border::Registry, u"open", Answer::Registry},
-    Rule{Stage::Saving, Border::Registry, u"query", Answer::Registry},
-    Rule{Stage::Cleaning, Border::Automation, {}, Answer::Reported, u"Module", u"Nettoyage", Object::Description},
-    Rule{Stage::Restoring, Border::Registry, u"open", Answer::Registry},
-    Rule{Stage::Creating, Border::Registry, u"open", Answer::Reported, u"Module", u"InitQuestion", Object::Description},
-    Rule{Stage::Creating, Border::Registry, u"query", Answer::Reported, u"Module", u"InitQuestion",
+    Rule{Phase::Obtaining, Border::Automation, u"attach", Answer::Silence},
+    Rule{Phase::Obtaining, Border::Automation, u"ShowStartupDialog", Answer::Silence},
+    Rule{Phase::Obtaining, Border::Automation, {}, Answer::Reported, u"Module", u"GetApplication", Object::Description},
+    Rule{Phase::Saving, Border::Automation, {}, Answer::Straight},
+    Rule{Phase::Saving, Border::Registry, u"open", Answer::Registry},
+    Rule{Phase::Saving, Border::Registry, u"query", Answer::Registry},
+    Rule{Phase::Cleaning, Border::Automation, {}, Answer::Reported, u"Module", u"Nettoyage", Object::Description},
+    Rule{Phase::Restoring, Border::Registry, u"open", Answer::Registry},
+    Rule{Phase::Creating, Border::Registry, u"open", Answer::Reported, u"Module", u"InitQuestion", Object::Description},
+    Rule{Phase::Creating, Border::Registry, u"query", Answer::Reported, u"Module", u"InitQuestion",
          Object::Description},
-    Rule{Stage::Staging, Border::File, {}, Answer::Reported, u"Module", u"Renomme", Object::Description},
-    Rule{Stage::Tooltips, Border::Automation, {}, Answer::Straight},
-    Rule{Stage::Preparing, Border::Automation, {}, Answer::Reported, {}, u"Prepare", Object::Source},
-    Rule{Stage::Preparing, Border::Locale, {}, Answer::Reported, {}, u"Prepare", Object::Source},
-    Rule{Stage::Pointing, Border::Registry, u"open", Answer::Reported, u"Module", u"ChangeDir", Object::Description},
-    Rule{Stage::Fronting, Border::Automation, {}, Answer::Straight},
-    Rule{Stage::Examining, Border::Automation, {}, Answer::Straight},
-    Rule{Stage::Checking, Border::Automation, {}, Answer::Reported, {}, u"TestePoint", Object::Source},
-    Rule{Stage::Checking, Border::File, {}, Answer::Letter}, // question 304 finds no files
-    Rule{Stage::Ending, Border::Automation, {}, Answer::Straight},
+    Rule{Phase::Staging, Border::File, {}, Answer::Reported, u"Module", u"Renomme", Object::Description},
+    Rule{Phase::Tooltips, Border::Automation, {}, Answer::Straight},
+    Rule{Phase::Preparing, Border::Automation, {}, Answer::Reported, {}, u"Prepare", Object::Source},
+    Rule{Phase::Preparing, Border::Locale, {}, Answer::Reported, {}, u"Prepare", Object::Source},
+    Rule{Phase::Pointing, Border::Registry, u"open", Answer::Reported, u"Module", u"ChangeDir", Object::Description},
+    Rule{Phase::Fronting, Border::Automation, {}, Answer::Straight},
+    Rule{Phase::Examining, Border::Automation, {}, Answer::Straight},
+    Rule{Phase::Checking, Border::Automation, {}, Answer::Reported, {}, u"TestePoint", Object::Source},
+    Rule{Phase::Checking, Border::File, {}, Answer::Letter}, // question 304 finds no files
+    Rule{Phase::Ending, Border::Automation, {}, Answer::Straight},
 };
 
 const Rule* ruleFor(const Call& call, Operation operation) {
-    if (operation.isHeld && call.stage == Stage::Saving && call.member == u"query") {
+    if (operation.isHeld && call.phase == Phase::Saving && call.member == u"query") {
         return nullptr; // the learner's folders have been kept since the question held was begun
     }
     for (const Rule& each : rules) {
-        if (each.stage == call.stage && each.border == call.border &&
+        if (each.phase == call.phase && each.border == call.border &&
             (each.member.empty() || each.member == call.member)) {
             return each.answer == Answer::Silence ? nullptr : &each;
         }
@@ -84,12 +84,12 @@ Error failureOf(const Call& call, const Fault& fault) {
 }
 
 /// The way of a fault through an operation.
-class Passage {
+class FaultPath {
 public:
-    Passage(std::int32_t question, Operation operation, std::span<const Call> route, const Fault& fault)
+    FaultPath(std::int32_t question, Operation operation, std::span<const Call> route, const Fault& fault)
         : question_(question), operation_(operation), route_(route), fault_(fault), isGone_(fault.isDeath()) {}
 
-    [[nodiscard]] Prescription from(std::size_t position) {
+    [[nodiscard]] Expected from(std::size_t position) {
         for (std::size_t i = position; i < route_.size();) {
             const Call& call = route_[i];
             if (!strikes(call, i == position)) {
@@ -103,7 +103,7 @@ public:
                 }
             }
             if (const Rule* const rule = ruleFor(call, operation_)) {
-                return prescriptionOf(*rule, call);
+                return expectedOf(*rule, call);
             }
             i = next(i);
         }
@@ -127,37 +127,38 @@ private:
     /// The call from which the operation goes on where one has failed in silence.
     [[nodiscard]] std::size_t next(std::size_t i) {
         const Call& call = route_[i];
-        const auto past = [&](std::initializer_list<Stage> stages) {
+        const auto past = [&](std::initializer_list<Phase> phases) {
             const auto isIn = [&](const Call& each) {
-                return std::find(stages.begin(), stages.end(), each.stage) != stages.end();
+                return std::find(phases.begin(), phases.end(), each.phase) != phases.end();
             };
             return static_cast<std::size_t>(
                 std::find_if_not(route_.begin() + static_cast<std::ptrdiff_t>(i), route_.end(), isIn) - route_.begin());
         };
-        if (call.stage == Stage::Obtaining && (call.member == u"isVisible" || call.member == u"className")) {
+        if (call.phase == Phase::Obtaining && (call.member == u"isVisible" || call.member == u"className")) {
             isGone_ = false; // another PowerPoint is started
         }
-        if (call.stage == Stage::Looking) {
+        if (call.phase == Phase::Looking) {
             isGone_ = true; // it is quit where it is hidden
-            return past({Stage::Looking, Stage::Closing, Stage::Asking, Stage::Cleaning, Stage::Returning});
+            return past(
+                {Phase::Looking, Phase::Closing, Phase::Hanging, Phase::Asking, Phase::Cleaning, Phase::Returning});
         }
-        if (call.stage == Stage::Asking) {
-            return past({Stage::Asking, Stage::Cleaning, Stage::Returning});
+        if (call.phase == Phase::Asking) {
+            return past({Phase::Asking, Phase::Cleaning, Phase::Returning});
         }
-        const bool isWithoutWindow = call.stage == Stage::Fronting && call.member == u"findWindow";
-        return isWithoutWindow || call.stage == Stage::LookingEnd ? route_.size() : i + 1;
+        const bool isWithoutWindow = call.phase == Phase::Fronting && call.member == u"findWindow";
+        return isWithoutWindow || call.phase == Phase::LookingEnd ? route_.size() : i + 1;
     }
 
     [[nodiscard]] static std::u16string_view codeFor(const Call& call) {
-        switch (call.stage) {
-        case Stage::Looking: return u"AK";
-        case Stage::Asking: return u"%AL";
-        case Stage::Fronting: return call.member == u"findWindow" ? u"AM" : u"";
+        switch (call.phase) {
+        case Phase::Looking: return u"AK";
+        case Phase::Asking: return u"%AL";
+        case Phase::Fronting: return call.member == u"findWindow" ? u"AM" : u"";
         default: return u"";
         }
     }
 
-    [[nodiscard]] Prescription prescriptionOf(const Rule& rule, const Call& call) const {
+    [[nodiscard]] Expected expectedOf(const Rule& rule, const Call& call) const {
         const bool isOfDeath = isGone_ && call.border == Border::Automation;
         if (rule.answer == Answer::Letter) {
             const bool isOfType = call.text.find(u".rtf") != std::u16string::npos;
@@ -199,7 +200,7 @@ std::string_view nameOf(Answer answer) noexcept {
     return "";
 }
 
-bool Prescription::admits(const Error& raised) const {
+bool Expected::admits(const Error& raised) const {
     if (!error) {
         return false;
     }
@@ -210,20 +211,20 @@ bool Prescription::admits(const Error& raised) const {
     return raised.number() == error->number() && raised.source() == error->source();
 }
 
-std::string Prescription::display() const {
+std::string Expected::display() const {
     return std::string(nameOf(answer)) + (error ? ", " + inWords(*error) : "") +
            (code.empty() ? "" : ", " + automation::toUtf8(code));
 }
 
-Prescription prescriptionFor(std::int32_t question, Operation operation, std::span<const Call> route,
-                             std::size_t position, const Fault& fault) {
+Expected expectedFor(std::int32_t question, Operation operation, std::span<const Call> route, std::size_t position,
+                     const Fault& fault) {
     if (fault.isDelay()) {
         // Whether PowerPoint answers is asked once: it is refused, then, and the answer is no.
         const bool isRefused = fault.kind == Kind::Refuses && operation.call == HostCall::TestePoint &&
-                               route[position].stage == Stage::Asking;
-        return isRefused ? Prescription{Answer::Code, std::nullopt, false, u"%AL"} : Prescription{};
+                               route[position].phase == Phase::Asking;
+        return isRefused ? Expected{Answer::Code, std::nullopt, false, u"%AL"} : Expected{};
     }
-    return Passage(question, operation, route, fault).from(position);
+    return FaultPath(question, operation, route, fault).from(position);
 }
 
 } // namespace trials::torture
