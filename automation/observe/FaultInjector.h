@@ -31,6 +31,13 @@ public:
         return next();
     }
 
+    /// Counts anew, up to another position.
+    void rearm(std::size_t position) noexcept {
+        position_ = position;
+        calls_ = 0;
+        hasStruck_ = false;
+    }
+
     /// Calls seen so far, failed ones included.
     [[nodiscard]] std::size_t calls() const noexcept { return calls_; }
     /// True once a call has been made to fail.

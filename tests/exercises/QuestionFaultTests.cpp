@@ -10,25 +10,14 @@ using automation::Object;
 
 const Error fault(static_cast<std::int32_t>(0x800706BEU), u"Microsoft PowerPoint", u"L'appel a échoué.");
 
-/// Lets an injector be replaced under objects that are observed already.
-class Line final : public automation::Observer {
-public:
-    automation::Value around(const automation::Crossing& crossing, const Next& next) override {
-        return injector->around(crossing, next);
-    }
-
-    std::shared_ptr<FaultInjector> injector;
-};
-
-/// Fails call after call of an operation until it makes no more; `judge` sees the error of each, and whether PowerPoint
-/// was called. Returns the number of calls.
+/// Fails call after call of an operation until it makes no more; `judge` sees the error of each. Returns the number of
+/// calls.
 template <typename Operation, typename Judge>
-std::size_t failEachCall(Line& line, const Operation& operation, const Judge& judge) {
+std::size_t failEachCall(FaultInjector& calls, const Operation& operation, const Judge& judge) {
     for (std::size_t n = 1;; ++n) {
-        line.injector = std::make_shared<FaultInjector>(n, FaultInjector::Lasting::Once, fault);
+        calls.rearm(n);
         const std::optional<Error> error = errorOf(operation);
-        if (line.injector->calls() < n) {
-            line.injector = std::make_shared<FaultInjector>(0, FaultInjector::Lasting::Once, fault);
+        if (!calls.hasStruck()) {
             return n - 1;
         }
         SCOPED_TRACE(n);
@@ -47,7 +36,7 @@ protected:
     }
 
     tests::QuestionBench bench{GetParam()};
-    std::shared_ptr<Line> line = std::make_shared<Line>();
+    std::shared_ptr<FaultInjector> injector = std::make_shared<FaultInjector>(0, FaultInjector::Lasting::Once, fault);
 };
 INSTANTIATE_TEST_SUITE_P(All, EachQuestion, testing::Range(exercises::firstQuestion, exercises::lastQuestion + 1),
                          [](const auto& question) { return std::to_string(question.param); });
@@ -57,12 +46,12 @@ TEST_P(EachQuestion, ReportsAFailureAnywhereInPrepare) {
     std::size_t typeMismatches = 0;
     const std::size_t alive = Object::alive();
     const std::size_t calls = failEachCall(
-        *line,
+        *injector,
         [&] {
             if (bench.presentations() != 0) {
                 bench.closePresentation();
             }
-            bench.prepare(line);
+            bench.prepare(injector);
         },
         [&](const std::optional<Error>& error) {
             if (error && error->number() == static_cast<std::int32_t>(automation::RunTimeError::TypeMismatch)) {
@@ -79,8 +68,7 @@ TEST_P(EachQuestion, ReportsAFailureAnywhereInPrepare) {
 }
 
 TEST_P(EachQuestion, ReportsAFailureAnywhereInTestePoint) {
-    line->injector = std::make_shared<FaultInjector>(0, FaultInjector::Lasting::Once, fault);
-    bench.prepare(line);
+    bench.prepare(injector);
     static_cast<void>(bench.testePoint());
     const std::u16string letter = bench.question->CauseErreur();
     EXPECT_EQ(letter.empty(), GetParam() <= 303);
@@ -88,7 +76,7 @@ TEST_P(EachQuestion, ReportsAFailureAnywhereInTestePoint) {
     std::u16string found;
     const std::size_t alive = Object::alive();
     const std::size_t calls = failEachCall(
-        *line, [&] { bench.question->TestePoint(); },
+        *injector, [&] { bench.question->TestePoint(); },
         [&](const std::optional<Error>& error) {
             if (GetParam() == 304) {
                 EXPECT_FALSE(error) << "a search for files that fails finds nothing";

@@ -21,7 +21,7 @@ namespace {
 
 using learners::Finding;
 using learners::Moves;
-using learners::Run;
+using learners::Record;
 
 struct LearnersRequest {
     std::vector<std::int32_t> questions; ///< all where none is named
@@ -47,16 +47,11 @@ std::string outcomeOf(const Expectation& expected) {
     return outcomeOf(reading);
 }
 
-/// What a question's own check can come to: what the checks of its scenarios expect.
+/// What a question's own check can come to, as its scenario file declares it.
 std::set<std::string> outcomesOf(const language::ScenarioFile& file) {
-    std::set<std::string> outcomes;
-    for (const language::Scenario& scenario : file.scenarios) {
-        for (const language::Statement& statement : scenario.statements) {
-            const auto* const check = std::get_if<language::Check>(&statement.node);
-            if (check != nullptr && check->expected.kind != Expectation::Kind::General) {
-                outcomes.insert(outcomeOf(check->expected));
-            }
-        }
+    std::set<std::string> outcomes{outcomeOf(file.contract.success())};
+    for (const language::Meaning& meaning : file.contract.meanings) {
+        outcomes.insert(outcomeOf(meaning.verdict));
     }
     return outcomes;
 }
@@ -82,13 +77,13 @@ public:
         const learners::Learner learner(file_, course_, draw_);
         while (runs_ != runs && disagreements_ == 0) {
             work(++runs_);
-            const Run run = learner.work();
-            for (const Finding& finding : run.findings) {
+            const Record record = learner.work();
+            for (const Finding& finding : record.findings) {
                 ++outcomes_[outcomeOf(finding.read)];
             }
-            if (!run.isAgreed()) {
+            if (!record.isAgreed()) {
                 ++disagreements_;
-                save(run, folder, out);
+                save(record, folder, out);
             }
         }
     }
@@ -128,7 +123,7 @@ private:
         return missing;
     }
 
-    void save(const Run& run, const std::string& folder, std::ostream& out) const {
+    void save(const Record& record, const std::string& folder, std::ostream& out) const {
         const auto disagrees = [this](const Moves& moves) {
             if (moves.empty() || moves.back() != learners::checkMove) {
                 return false;
@@ -136,10 +131,10 @@ private:
             const auto findings = learners::replay(file_.question, course_, moves);
             return findings && !findings->back().isAgreed();
         };
-        const bool isReproduced = disagrees(run.moves);
-        const Moves moves = isReproduced ? learners::shrunk(run.moves, disagrees) : run.moves;
+        const bool isReproduced = disagrees(record.moves);
+        const Moves moves = isReproduced ? learners::shrunk(record.moves, disagrees) : record.moves;
         const std::vector<Finding> findings =
-            isReproduced ? learners::replay(file_.question, course_, moves).value() : run.findings;
+            isReproduced ? learners::replay(file_.question, course_, moves).value() : record.findings;
         const std::string text = scenarioText(file_, moves, findings, "what a learner did");
         const std::string path = folder + "/learner-0" + std::to_string(file_.question) + ".scn";
         out << "question " << file_.question << ", run " << runs_ << ": expected " << findings.back().wanted.display()

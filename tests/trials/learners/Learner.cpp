@@ -38,22 +38,22 @@ Learner::Learner(const language::ScenarioFile& file, const Course& course, Draw&
     slides_.push_back(1);
 }
 
-Run Learner::work() const {
+Record Learner::work() const {
     Trial trial(question_, course_);
-    Run run;
+    Record record;
     for (std::size_t checks = draw_.percent(75) ? 1 : draw_.between(2, 3); checks != 0; --checks) {
-        workOn(trial, run.moves);
-        run.moves.emplace_back(checkMove);
-        run.findings.push_back(trial.check());
-        if (!run.isAgreed()) {
-            return run;
+        workOn(trial, record.moves);
+        record.moves.emplace_back(checkMove);
+        record.findings.push_back(trial.check());
+        if (!record.isAgreed()) {
+            return record;
         }
         if (draw_.percent(60) && checks != 1) {
-            perform(u"Host.InitQuestion", trial, run.moves);
+            perform(u"Host.InitQuestion", trial, record.moves);
         }
     }
     trial.finish();
-    return run;
+    return record;
 }
 
 void Learner::workOn(Trial& trial, Moves& moves) const {

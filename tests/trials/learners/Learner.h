@@ -6,7 +6,7 @@
 namespace trials::learners {
 
 /// What a learner has done.
-struct Run {
+struct Record {
     Moves moves; ///< up to the first check that is not agreed on, or to the last one
     std::vector<Finding> findings;
 
@@ -21,7 +21,7 @@ public:
     Learner(const language::ScenarioFile& file, const Course& course, Draw& draw);
 
     /// From InitQuestion to the closing of the question.
-    [[nodiscard]] Run work() const;
+    [[nodiscard]] Record work() const;
 
 private:
     void workOn(Trial& trial, Moves& moves) const;

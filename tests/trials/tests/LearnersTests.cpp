@@ -25,13 +25,13 @@ TEST(Learners, AreTakenDownAsScenarios) {
         const Course course(file, makeEmbeddedWorld);
         learners::Draw draw(static_cast<std::uint32_t>(question));
         for (int i = 0; i < 3; ++i) {
-            learners::Run run = learners::Learner(file, course, draw).work();
-            const std::string right = learners::scenarioText(file, run.moves, run.findings, "a learner");
+            learners::Record record = learners::Learner(file, course, draw).work();
+            const std::string right = learners::scenarioText(file, record.moves, record.findings, "a learner");
             EXPECT_TRUE(failuresOf(right).empty()) << failuresOf(right).front().in("learner.scn") << "\n" << right;
-            run.findings.back().wanted = Reading();
-            run.findings.back().wanted.causeErreur = u"Q";
-            EXPECT_FALSE(run.isAgreed());
-            const auto failures = failuresOf(learners::scenarioText(file, run.moves, run.findings, "a learner"));
+            record.findings.back().wanted = Reading();
+            record.findings.back().wanted.causeErreur = u"Q";
+            EXPECT_FALSE(record.isAgreed());
+            const auto failures = failuresOf(learners::scenarioText(file, record.moves, record.findings, "a learner"));
             ASSERT_EQ(failures.size(), 1U);
             EXPECT_TRUE(failures.front().message.starts_with("expected the letter \"Q\", the host reads "));
         }

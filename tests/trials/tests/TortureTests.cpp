@@ -11,8 +11,8 @@ using automation::Error;
 using host::HostCall;
 using trials::torture::Answer;
 using trials::torture::Call;
+using trials::torture::Checker;
 using trials::torture::Fault;
-using trials::torture::Judge;
 using trials::trace::Phase;
 using Lasting = Fault::Lasting;
 
@@ -25,9 +25,9 @@ Error reported(std::u16string_view owner, std::u16string_view service, std::u16s
     return Error(number, source, u"");
 }
 
-/// A judge must find fault with what is wrong, or the torture could not fail: where every call of an operation is
+/// A checker must find fault with what is wrong, or the torture could not fail: where every call of an operation is
 /// refused once, each answer but the one prescribed for that step is wrong.
-TEST(TortureTests, JudgeDemandsWhatIsPrescribedForEachStep) {
+TEST(TortureTests, CheckerDemandsWhatIsPrescribedForEachStep) {
     const Fault busy{Fault::Kind::Busy, Lasting::Once};
     const Fault denied{Fault::Kind::AccessDenied, Lasting::Once};
     const std::int32_t number = busy.error().number();
@@ -90,19 +90,19 @@ TEST(TortureTests, JudgeDemandsWhatIsPrescribedForEachStep) {
     const trials::torture::Outcome flawless;
     for (const auto& [operation, call, right] : cases) {
         const std::vector<Call> route{call};
-        const Judge judge(306, {operation, {}}, flawless, route);
+        const Checker checker(306, {operation, {}}, flawless, route);
         for (std::size_t i = 0; i < answers.size(); ++i) {
             trials::torture::Outcome outcome;
             outcome.error = answers[i];
             const Fault& fault = call.border == Border::Automation ? busy : denied;
-            EXPECT_EQ(judge.judge(outcome, 0, fault).findings.empty(), i == right)
+            EXPECT_EQ(checker.assess(outcome, 0, fault).findings.empty(), i == right)
                 << "phase " << static_cast<int>(call.phase) << ", answer " << i;
         }
     }
 }
 
 /// A fault that lasts strikes on until it is noticed; a check answers by a code where PowerPoint cannot be reached.
-TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
+TEST(TortureTests, CheckerFollowsAFaultAndSeesWhatIsLost) {
     const std::vector<Call> route{{Border::Window, Phase::Looking, u"isVisible"},
                                   {Border::Automation, Phase::Asking},
                                   {Border::Window, Phase::Fronting, u"findWindow"},
@@ -120,7 +120,7 @@ TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
     const Fault late{Fault::Kind::Late, Lasting::Once};
     trials::torture::Outcome flawless;
     flawless.reading = right;
-    const Judge judge(306, {HostCall::TestePoint, {}}, flawless, route);
+    const Checker checker(306, {HostCall::TestePoint, {}}, flawless, route);
     struct Case {
         std::size_t position;
         host::Reading reading;
@@ -135,19 +135,19 @@ TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
     for (const auto& [position, reading, fault, isRight] : cases) {
         trials::torture::Outcome outcome;
         outcome.reading = reading;
-        EXPECT_EQ(judge.judge(outcome, position, fault).findings.empty(), isRight)
+        EXPECT_EQ(checker.assess(outcome, position, fault).findings.empty(), isRight)
             << position << ", " << fault.display() << ", " << reading.display();
     }
 
     const std::vector<Call> searching{{Border::File, Phase::Checking, u"find", u"Files.find(\"Plan exo 3.*\", 6)"},
                                       {Border::File, Phase::Checking, u"find", u"Files.find(\"Plan exo 3.rtf\", 6)"}};
-    const Judge ofSearch(304, {HostCall::TestePoint, {}}, flawless, searching);
+    const Checker ofSearch(304, {HostCall::TestePoint, {}}, flawless, searching);
     for (const std::size_t position : {0U, 1U}) {
         for (const auto* const letter : {u"", u"A", u"B", u"C"}) {
             trials::torture::Outcome outcome;
             outcome.reading = right;
             outcome.reading->causeErreur = letter;
-            EXPECT_EQ(ofSearch.judge(outcome, position, denied).findings.empty(),
+            EXPECT_EQ(ofSearch.assess(outcome, position, denied).findings.empty(),
                       letter == std::u16string(position == 0 ? u"A" : u"B"))
                 << position << ", " << outcome.reading->display();
         }
@@ -156,17 +156,17 @@ TEST(TortureTests, JudgeFollowsAFaultAndSeesWhatIsLost) {
     const std::vector<Call> closing{{Border::Automation, Phase::Returning},
                                     {Border::Registry, Phase::Restoring, u"open", {}, u"K"}};
     const trials::torture::Outcome silent;
-    const Judge ofClosing(306, {HostCall::Fermer, {}}, silent, closing);
-    EXPECT_TRUE(ofClosing.judge(silent, 0, deaf).findings.empty());
-    EXPECT_EQ(ofClosing.judge(silent, 1, {Fault::Kind::AccessDenied, Lasting::FromThereOn}).findings.size(), 1U);
+    const Checker ofClosing(306, {HostCall::Fermer, {}}, silent, closing);
+    EXPECT_TRUE(ofClosing.assess(silent, 0, deaf).findings.empty());
+    EXPECT_EQ(ofClosing.assess(silent, 1, {Fault::Kind::AccessDenied, Lasting::FromThereOn}).findings.size(), 1U);
 
     trials::torture::Outcome lost;
     lost.findings = {"lost"};
     lost.bars = {"moved"};
     lost.isStruck = false;
     lost.powerPointEnded = true;
-    EXPECT_EQ(ofClosing.judge(lost, 0, deaf).findings.size(), 4U);
-    EXPECT_EQ(ofClosing.judge(lost, 1, denied).findings.size(), 5U) << "windows could be asked";
+    EXPECT_EQ(ofClosing.assess(lost, 0, deaf).findings.size(), 4U);
+    EXPECT_EQ(ofClosing.assess(lost, 1, denied).findings.size(), 5U) << "windows could be asked";
 }
 
 /// Where no call is made to fail, what is left is the operations as they go, along their expected traces.

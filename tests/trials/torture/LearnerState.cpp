@@ -1,6 +1,6 @@
 #include "tests/trials/torture/LearnerState.h"
 
-#include "automation/LateBound.h"
+#include "host/world/Members.h"
 
 namespace trials::torture {
 
@@ -10,17 +10,15 @@ using automation::LateBound;
 using automation::ObjectPtr;
 
 std::vector<std::u16string> barsOf(const LateBound& application) {
-    const LateBound bars(application.get(u"CommandBars").to<ObjectPtr>());
+    const LateBound bars = memberOf(application, u"CommandBars");
     std::vector<std::u16string> all;
-    const auto count = bars.get(u"Count").to<std::int32_t>();
-    for (std::int32_t i = 1; i <= count; ++i) {
-        const LateBound bar(bars.get(u"Item", i).to<ObjectPtr>());
+    forEachItem(bars, [&](const LateBound& bar) {
         std::u16string text = bar.get(u"Name").to<std::u16string>();
         for (const std::u16string_view member : {u"Visible", u"Enabled", u"Position"}) {
             text.append(u" ").append(bar.get(member).display());
         }
         all.push_back(std::move(text));
-    }
+    });
     all.push_back(u"tooltips " + bars.get(u"DisplayTooltips").display());
     return all;
 }

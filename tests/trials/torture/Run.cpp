@@ -1,8 +1,8 @@
 #include "tests/trials/torture/Run.h"
 
-#include "automation/LateBound.h"
 #include "automation/Text.h"
 #include "host/run/FirstMoves.h"
+#include "host/world/Members.h"
 #include "tests/trials/torture/ErrorOf.h"
 
 namespace trials::torture {
@@ -10,20 +10,20 @@ namespace trials::torture {
 namespace {
 
 using automation::LateBound;
-using automation::ObjectPtr;
 using automation::toUtf8;
 
 /// PowerPoint as the learner has left it: a presentation not saved yet, bars arranged by hand.
 void settleIn(World& world) {
     world.powerPoint().start();
     const LateBound application(world.powerPoint().application());
-    const LateBound presentations(application.get(u"Presentations").to<ObjectPtr>());
-    const LateBound presentation(presentations.call(u"Add").to<ObjectPtr>());
-    const LateBound slides(presentation.get(u"Slides").to<ObjectPtr>());
-    slides.call(u"Add", 1, 12);
-    const LateBound bars(application.get(u"CommandBars").to<ObjectPtr>());
-    LateBound(bars.get(u"Item", u"Formatting").to<ObjectPtr>()).put(u"Visible", false);
-    LateBound(bars.get(u"Item", u"Drawing").to<ObjectPtr>()).put(u"Position", 1);
+    const LateBound presentation(memberOf(application, u"Presentations").call(u"Add").to<automation::ObjectPtr>());
+    memberOf(presentation, u"Slides").call(u"Add", 1, 12);
+    const LateBound bars = memberOf(application, u"CommandBars");
+    const auto bar = [&](std::u16string_view name) {
+        return LateBound(bars.get(u"Item", name).to<automation::ObjectPtr>());
+    };
+    bar(u"Formatting").put(u"Visible", false);
+    bar(u"Drawing").put(u"Position", 1);
     bars.put(u"DisplayTooltips", false);
 }
 

@@ -104,7 +104,7 @@ void Torture::run(const Ground& ground, std::span<const Fault> faults, const Str
             report(place + ", nothing failed: " + finding);
         }
     }
-    const Judge judge(file_.question, operation, flawless, route);
+    const Checker checker(file_.question, operation, flawless, route);
     for (std::size_t n = firstPosition(); n <= positions.size(); n += every_) {
         const Call& call = route[positions[n - 1]];
         for (const Fault& fault : faults) {
@@ -112,10 +112,10 @@ void Torture::run(const Ground& ground, std::span<const Fault> faults, const Str
                 continue;
             }
             progress(operation, n, positions.size());
-            const Judgement judgement = judge.judge(struck(fault, n), positions[n - 1], fault);
+            const Assessment assessment = checker.assess(struck(fault, n), positions[n - 1], fault);
             ++totals.failed;
-            ++totals.outcomes.at(static_cast<std::size_t>(judgement.answer));
-            for (const std::string& finding : judgement.findings) {
+            ++totals.outcomes.at(static_cast<std::size_t>(assessment.answer));
+            for (const std::string& finding : assessment.findings) {
                 ++totals.findings;
                 report(place + ", call " + std::to_string(n) + " " + toUtf8(call.text) + ", " + fault.display() + ": " +
                        finding);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/trials/torture/Judge.h"
+#include "tests/trials/torture/Checker.h"
 
 #include <random>
 

@@ -1,4 +1,4 @@
-#include "tests/trials/torture/Judge.h"
+#include "tests/trials/torture/Checker.h"
 
 #include "automation/Text.h"
 
@@ -23,10 +23,10 @@ bool isSameVerdict(const Reading& left, const Reading& right) {
 
 } // namespace
 
-Judgement Judge::judge(const Outcome& outcome, std::size_t position, const Fault& fault) const {
+Assessment Checker::assess(const Outcome& outcome, std::size_t position, const Fault& fault) const {
     const Expected expected = expectedFor(question_, operation_, route_, position, fault);
-    Judgement judgement{Answer::Wrong, outcome.findings};
-    std::vector<std::string>& findings = judgement.findings;
+    Assessment assessment{Answer::Wrong, outcome.findings};
+    std::vector<std::string>& findings = assessment.findings;
     if (!outcome.isStruck) {
         findings.emplace_back("the fault has not struck");
     }
@@ -38,7 +38,7 @@ Judgement Judge::judge(const Outcome& outcome, std::size_t position, const Fault
         findings.insert(findings.end(), outcome.bars.begin(), outcome.bars.end());
     }
     if (isAnsweredBy(expected, outcome)) {
-        judgement.answer = expected.answer;
+        assessment.answer = expected.answer;
     } else {
         findings.push_back("the host gets" + (outcome.error ? " " + inWords(*outcome.error) : " no error") +
                            (outcome.reading ? ", " + outcome.reading->display() : "") +
@@ -47,10 +47,10 @@ Judgement Judge::judge(const Outcome& outcome, std::size_t position, const Fault
     if (outcome.powerPointEnded && !mayEndPowerPoint(position, fault)) {
         findings.emplace_back("the learner's PowerPoint has been ended");
     }
-    return judgement;
+    return assessment;
 }
 
-bool Judge::isAnsweredBy(const Expected& expected, const Outcome& outcome) const {
+bool Checker::isAnsweredBy(const Expected& expected, const Outcome& outcome) const {
     const std::optional<Error>& error = outcome.error;
     const std::optional<Reading>& reading = outcome.reading;
     switch (expected.answer) {
@@ -66,7 +66,7 @@ bool Judge::isAnsweredBy(const Expected& expected, const Outcome& outcome) const
     return false;
 }
 
-bool Judge::mayEndPowerPoint(std::size_t position, const Fault& fault) const {
+bool Checker::mayEndPowerPoint(std::size_t position, const Fault& fault) const {
     if (fault.isDeath()) {
         return true;
     }

@@ -6,20 +6,20 @@
 namespace trials::torture {
 
 /// What came of a failed call.
-struct Judgement {
+struct Assessment {
     Answer answer = Answer::Wrong;
     std::vector<std::string> findings; ///< what is wrong; empty where all is as it must be
 };
 
-/// Judges how an operation went in which a call had failed.
-class Judge {
+/// Assesses how an operation went in which a call had failed.
+class Checker {
 public:
     /// `flawless` is how the operation goes when nothing fails, along its route; both must outlive this object.
-    Judge(std::int32_t question, Operation operation, const Outcome& flawless, std::span<const Call> route)
+    Checker(std::int32_t question, Operation operation, const Outcome& flawless, std::span<const Call> route)
         : question_(question), operation_(operation), flawless_(flawless), route_(route) {}
 
     /// `position` is that of the call that failed, from 0.
-    [[nodiscard]] Judgement judge(const Outcome& outcome, std::size_t position, const Fault& fault) const;
+    [[nodiscard]] Assessment assess(const Outcome& outcome, std::size_t position, const Fault& fault) const;
 
 private:
     [[nodiscard]] bool isAnsweredBy(const Expected& expected, const Outcome& outcome) const;

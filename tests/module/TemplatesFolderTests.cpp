@@ -1,0 +1,38 @@
+#include "host/world/TemporaryFolder.h"
+#include "module/TemplatesFolder.h"
+#include "simulator/Machine.h"
+
+#include <gtest/gtest.h>
+
+namespace templates_folder_tests {
+
+using platform::Registry;
+
+constexpr std::u16string_view generalKey = u"SOFTWARE\\Microsoft\\Office\\11.0\\Common\\General";
+
+TEST(TemplatesFolder, IsTheLearnersOwnWhereThereIsOne) {
+    const std::u16string ordinary =
+        u"c:\\documents and settings\\eleve\\application data\\Microsoft\\modèles\\ZOR Modèles\\";
+    const std::u16string nul(1, u'\0');
+    const std::vector<std::pair<std::u16string, std::u16string>> cases = {
+        {u"D:\\Mes Modèles" + nul, u"d:\\mes modèles\\ZOR Modèles\\"},
+        {u"D:\\Mes Modèles\\" + nul, u"d:\\mes modèles\\ZOR Modèles\\"},
+        {u"D:\\ZOR Modèles" + nul, u"d:\\zor modèles"},
+        {u"D:\\A" + nul + u"B" + nul, u"d:\\ab\\ZOR Modèles\\"},
+        {u"D:\\Cut", u"d:\\cu\\ZOR Modèles\\"},
+        {nul + nul + nul, ordinary},
+        {u"", ordinary},
+    };
+    const host::TemporaryFolder root;
+    simulator::Machine machine(root.path());
+    Registry& registry = machine.services().registry;
+    for (const auto& [data, expected] : cases) {
+        const platform::OpenKey key(registry, generalKey, Registry::queryAndSet);
+        ASSERT_TRUE(key.set(u"UserTemplates", data, data.size()));
+        EXPECT_EQ(k73053::templatesFolder(registry), expected);
+    }
+    machine.deleteRegistryValue(generalKey, u"UserTemplates");
+    EXPECT_EQ(k73053::templatesFolder(registry), ordinary);
+}
+
+} // namespace templates_folder_tests
