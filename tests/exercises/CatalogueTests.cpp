@@ -3,8 +3,8 @@
 #include "host/command/Library.h"
 #include "host/language/Words.h"
 #include "host/world/RealFile.h"
-#include "tests/trials/cost/Accesses.h"
 #include "tests/trials/learners/Judge.h"
+#include "tests/trials/trace/Expected.h"
 
 #include <gtest/gtest.h>
 
@@ -78,8 +78,8 @@ TEST(Catalogue, EachQuestionIsKnownInEveryPlaceThatSpeaksOfIt) {
         }
         EXPECT_NO_THROW(static_cast<void>(trials::learners::makeJudge(number)))
             << "tests/trials/learners/Judge.cpp has no judge of " << number;
-        EXPECT_NO_THROW(static_cast<void>(trials::cost::accessesOf(number)))
-            << "tests/trials/cost/Accesses.cpp does not say what " << number << " reads";
+        EXPECT_NO_THROW(static_cast<void>(trials::trace::prepareOf(number)))
+            << "tests/trials/trace/Questions.cpp does not say what " << number << " reads";
     }
 }
 

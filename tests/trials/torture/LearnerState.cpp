@@ -12,13 +12,14 @@ using automation::ObjectPtr;
 std::vector<std::u16string> barsOf(const LateBound& application) {
     const LateBound bars = memberOf(application, u"CommandBars");
     std::vector<std::u16string> all;
-    forEachItem(bars, [&](const LateBound& bar) {
+    for (std::int32_t i = 1; i <= countOf(bars); ++i) {
+        const LateBound bar(bars.get(u"Item", i).to<ObjectPtr>());
         std::u16string text = bar.get(u"Name").to<std::u16string>();
         for (const std::u16string_view member : {u"Visible", u"Enabled", u"Position"}) {
             text.append(u" ").append(bar.get(member).display());
         }
         all.push_back(std::move(text));
-    });
+    }
     all.push_back(u"tooltips " + bars.get(u"DisplayTooltips").display());
     return all;
 }

@@ -76,7 +76,8 @@ using Texts = std::vector<std::vector<int>>;
 /// How the lines of an operation differ from those expected, in words; empty where they do not.
 [[nodiscard]] std::string differenceOf(const std::vector<std::string>& lines, const std::vector<Line>& expected);
 
-/// The calls of a question's Prepare and those of its check, each line ending with a line feed.
+/// The calls of a question's Prepare and those of its check, each line ending with a line feed. Raise
+/// std::out_of_range where nothing is known of the question.
 ///@{
 [[nodiscard]] std::string prepareOf(std::int32_t question);
 [[nodiscard]] std::string checkOf(std::int32_t question);
