@@ -52,9 +52,6 @@ public:
         interpreter_.forget();
     }
 
-    /// The first check of the scenario, with what it expects.
-    void check() { interpreter_.execute(scenario().statements[scenario().firstMoves().size()]); }
-
     [[nodiscard]] std::int32_t presentations() const { return number(ask(application_, u"Presentations"), u"Count"); }
     void closePresentation() { say(ask(application_, u"ActivePresentation"), u"Close"); }
 

@@ -18,7 +18,7 @@ JudgePtr makeJudge(std::int32_t question) {
     default: break;
     }
     for (const auto books :
-         {judging::placing::books(), judging::drawing::books(), judging::looks::books(), judging::handling::books()}) {
+         {judges::placing::books(), judges::drawing::books(), judges::looks::books(), judges::handling::books()}) {
         for (const RuleBook& book : books) {
             if (book.question == question) {
                 return std::make_unique<RuleJudge>(book);

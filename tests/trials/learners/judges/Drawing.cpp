@@ -1,6 +1,6 @@
 #include "tests/trials/learners/judges/Judges.h"
 
-namespace trials::learners::judging::drawing {
+namespace trials::learners::judges::drawing {
 
 namespace {
 
@@ -101,4 +101,4 @@ std::span<const RuleBook> books() noexcept {
     return all;
 }
 
-} // namespace trials::learners::judging::drawing
+} // namespace trials::learners::judges::drawing

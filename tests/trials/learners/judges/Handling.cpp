@@ -2,7 +2,7 @@
 
 #include <set>
 
-namespace trials::learners::judging::handling {
+namespace trials::learners::judges::handling {
 
 namespace {
 
@@ -68,4 +68,4 @@ std::span<const RuleBook> books() noexcept {
     return all;
 }
 
-} // namespace trials::learners::judging::handling
+} // namespace trials::learners::judges::handling

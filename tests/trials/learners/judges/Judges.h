@@ -7,7 +7,7 @@
 namespace trials::learners {
 
 /// The rule books of the questions that one slide decides.
-namespace judging {
+namespace judges {
 /// Place, size or order of shapes: 311, 315, 318, 319.
 namespace placing {
 [[nodiscard]] std::span<const RuleBook> books() noexcept;
@@ -24,7 +24,7 @@ namespace looks {
 namespace handling {
 [[nodiscard]] std::span<const RuleBook> books() noexcept;
 }
-} // namespace judging
+} // namespace judges
 
 /// 304: a file in the host's folder.
 [[nodiscard]] JudgePtr makeFileJudge();

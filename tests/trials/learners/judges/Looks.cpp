@@ -1,6 +1,6 @@
 #include "tests/trials/learners/judges/Judges.h"
 
-namespace trials::learners::judging::looks {
+namespace trials::learners::judges::looks {
 
 namespace {
 
@@ -54,4 +54,4 @@ std::span<const RuleBook> books() noexcept {
     return all;
 }
 
-} // namespace trials::learners::judging::looks
+} // namespace trials::learners::judges::looks

@@ -1,6 +1,6 @@
 #include "tests/trials/learners/judges/Judges.h"
 
-namespace trials::learners::judging::placing {
+namespace trials::learners::judges::placing {
 
 namespace {
 
@@ -81,4 +81,4 @@ std::span<const RuleBook> books() noexcept {
     return all;
 }
 
-} // namespace trials::learners::judging::placing
+} // namespace trials::learners::judges::placing
