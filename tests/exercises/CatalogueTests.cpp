@@ -75,6 +75,7 @@ TEST(Catalogue, EachQuestionIsKnownInEveryPlaceThatSpeaksOfIt) {
             EXPECT_EQ(rowsIn(guide, number), rowsOf(file)) << "docs/integrator.md tells otherwise than " << path;
         } catch (const host::UsageError& error) {
             ADD_FAILURE() << error.message;
+            EXPECT_NE(rowsIn(guide, number), "") << "docs/integrator.md has no row of " << number;
         }
         EXPECT_NO_THROW(static_cast<void>(trials::learners::makeJudge(number)))
             << "tests/trials/learners/Judge.cpp has no judge of " << number;
