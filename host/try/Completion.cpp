@@ -32,18 +32,18 @@ std::size_t startOfChain(const std::string& line, std::size_t end) {
 }
 
 /// True where reading the expression reads properties of published objects only.
-bool isOfProperties(const Expression& expression, Attempt& attempt) {
+bool isOfProperties(const Expression& expression, OpenQuestion& open) {
     const auto* const reference = std::get_if<Reference>(&expression.node);
     if (reference == nullptr) {
         return std::holds_alternative<language::Literal>(expression.node);
     }
-    const auto isProperty = [&](const Expression& argument) { return isOfProperties(argument, attempt); };
+    const auto isProperty = [&](const Expression& argument) { return isOfProperties(argument, open); };
     if (!std::all_of(reference->arguments.begin(), reference->arguments.end(), isProperty) ||
         (reference->object && !isProperty(*reference->object))) {
         return false;
     }
-    const ObjectPtr owner = reference->object ? attempt.evaluate(*reference->object).to<ObjectPtr>()
-                                              : attempt.world().powerPoint().application();
+    const ObjectPtr owner =
+        reference->object ? open.evaluate(*reference->object).to<ObjectPtr>() : open.world().powerPoint().application();
     const auto* const published = dynamic_cast<const Published*>(owner.get());
     const automation::Member* const member = published != nullptr && !reference->name.empty()
                                                  ? published->members().find(std::u16string_view(reference->name))
@@ -51,9 +51,9 @@ bool isOfProperties(const Expression& expression, Attempt& attempt) {
     return published != nullptr && (member == nullptr || !member->isMethod);
 }
 
-ObjectPtr objectBefore(const std::string& chain, Attempt& attempt) {
+ObjectPtr objectBefore(const std::string& chain, OpenQuestion& open) {
     const Expression expression = language::parseExpression(automation::fromUtf8(chain));
-    return isOfProperties(expression, attempt) ? attempt.evaluate(expression).to<ObjectPtr>() : nullptr;
+    return isOfProperties(expression, open) ? open.evaluate(expression).to<ObjectPtr>() : nullptr;
 }
 
 void addMembers(const ObjectPtr& object, std::vector<std::string>& names) {
@@ -66,7 +66,7 @@ void addMembers(const ObjectPtr& object, std::vector<std::string>& names) {
 
 } // namespace
 
-std::vector<std::string> completionsOf(const std::string& line, Attempt& attempt) {
+std::vector<std::string> completionsOf(const std::string& line, OpenQuestion& open) {
     std::size_t start = line.size();
     while (start > 0 && isPartOfName(line[start - 1])) {
         --start;
@@ -75,9 +75,9 @@ std::vector<std::string> completionsOf(const std::string& line, Attempt& attempt
     try {
         if (start > 0 && line[start - 1] == '.') {
             const std::size_t chain = startOfChain(line, start - 1);
-            addMembers(objectBefore(line.substr(chain, start - 1 - chain), attempt), names);
+            addMembers(objectBefore(line.substr(chain, start - 1 - chain), open), names);
         } else if (start < line.size()) {
-            addMembers(attempt.world().powerPoint().application(), names);
+            addMembers(open.world().powerPoint().application(), names);
             names.insert(names.end(), {"Files", "Host", "PowerPoint", "Registry"});
         }
     } catch (const std::exception&) {

@@ -81,7 +81,7 @@ bool Conversation::run() {
     out_ << toUtf8(subject.empty() ? u"Question " + automation::decimal(file_.question) : subject) << '\n';
     try {
         begin();
-        printContents(attempt_->world().powerPoint().application(), out_);
+        printContents(open_->world().powerPoint().application(), out_);
     } catch (const automation::Error& error) {
         out_ << "The question cannot be prepared: " << inWords(error) << '\n';
         static_cast<void>(close());
@@ -102,21 +102,21 @@ bool Conversation::run() {
 }
 
 void Conversation::begin() {
-    if (attempt_) {
-        static_cast<void>(attempt_->close()); // what is amiss is of moves that are taken back
+    if (open_) {
+        static_cast<void>(open_->close()); // what is amiss is of moves that are taken back
     }
-    attempt_.reset(); // where PowerPoint is the one on the desktop, there cannot be two
+    open_.reset(); // where PowerPoint is the one on the desktop, there cannot be two
     isOver_ = true;
-    attempt_.emplace(file_.question, course_, makeWorld_);
+    open_.emplace(file_.question, course_, makeWorld_);
     isOver_ = false;
 }
 
 bool Conversation::close() {
-    if (!attempt_) {
+    if (!open_) {
         return false;
     }
-    const std::vector<std::string> findings = attempt_->close();
-    attempt_.reset();
+    const std::vector<std::string> findings = open_->close();
+    open_.reset();
     for (const std::string& finding : findings) {
         out_ << "Not as it was before: " << finding << '\n';
     }
@@ -149,9 +149,9 @@ void Conversation::obey(const std::string& line) {
             perform(line);
         }
     } catch (const language::SyntaxError& error) {
-        out_ << inWords(error) << '\n';
+        out_ << explained(error) << '\n';
     } catch (const language::Failure& failure) {
-        out_ << inWords(failure) << '\n';
+        out_ << explained(failure) << '\n';
     } catch (const std::exception& error) {
         out_ << error.what() << '\n';
     }
@@ -171,16 +171,16 @@ void Conversation::perform(std::string line) {
     if (const auto* const wanted = std::get_if<language::Check>(&statement.node)) {
         return judge(&wanted->expected);
     }
-    attempt_->perform(std::move(statement));
+    open_->perform(std::move(statement));
 }
 
 void Conversation::print(const std::string& expression) {
-    out_ << printed(attempt_->evaluate(language::parseExpression(fromUtf8(expression)))) << '\n';
+    out_ << printed(open_->evaluate(language::parseExpression(fromUtf8(expression)))) << '\n';
 }
 
 void Conversation::judge(const Expectation* expected) {
-    const bool isFirst = attempt_->checks() == 0;
-    const Reading reading = attempt_->check();
+    const bool isFirst = open_->checks() == 0;
+    const Reading reading = open_->check();
     explain(reading, file_, out_);
     if (expected != nullptr) {
         out_ << (expected->matches(reading) ? "That is what was expected.\n"
@@ -200,26 +200,26 @@ void Conversation::check(const std::string& expected) {
 }
 
 void Conversation::undo(const std::string& /*rest*/) {
-    const std::size_t made = attempt_->moves();
+    const std::size_t made = open_->moves();
     begin();
     out_ << "The question is prepared anew, without the " << counted(made, "move") << " made.\n";
 }
 
 void Conversation::again(const std::string& /*rest*/) {
-    std::vector<Statement> moves = attempt_->takeMoves();
+    std::vector<Statement> moves = open_->takeMoves();
     begin();
     for (Statement& move : moves) {
-        attempt_->perform(std::move(move));
+        open_->perform(std::move(move));
     }
     out_ << "The question is prepared anew, and " << counted(moves.size(), "move") << " made once more.\n";
 }
 
 void Conversation::show(const std::string& /*rest*/) {
-    printContents(attempt_->world().powerPoint().application(), out_);
+    printContents(open_->world().powerPoint().application(), out_);
 }
 
 void Conversation::members(const std::string& expression) {
-    const auto object = attempt_->evaluate(language::parseExpression(fromUtf8(expression))).to<automation::ObjectPtr>();
+    const auto object = open_->evaluate(language::parseExpression(fromUtf8(expression))).to<automation::ObjectPtr>();
     const auto* const published = dynamic_cast<const automation::Published*>(object.get());
     if (published == nullptr) {
         throw std::runtime_error("Only objects of the embedded PowerPoint list their members; this is " +
@@ -245,10 +245,10 @@ void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     }
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    writeBy(verb, name, language::scenarioText(file_, title, attempt_->statements()));
-    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << counted(attempt_->moves(), "move")
-         << " and " << counted(attempt_->checks(), "check") << ".\n";
-    if (attempt_->checks() == 0) {
+    writeBy(verb, name, language::scenarioText(file_, title, open_->statements()));
+    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << counted(open_->moves(), "move")
+         << " and " << counted(open_->checks(), "check") << ".\n";
+    if (open_->checks() == 0) {
         out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
     }
     if (!course_.isBuilt()) {
@@ -258,7 +258,7 @@ void Conversation::saveBy(const std::string& verb, const std::string& rest) {
 }
 
 void Conversation::exportBy(const std::string& verb, const std::string& file) {
-    const Bytes content = attempt_->presentation();
+    const Bytes content = open_->presentation();
     writeBy(verb, file, std::string(content.begin(), content.end()));
     out_ << "The presentation is in " << file << ".\n";
 }
@@ -281,7 +281,7 @@ std::vector<std::string> Conversation::completions(const std::string& line) {
             words.emplace_back(verb.name);
         }
     }
-    for (std::string& member : completionsOf(line, *attempt_)) {
+    for (std::string& member : completionsOf(line, *open_)) {
         words.push_back(std::move(member));
     }
     return words;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/try/Attempt.h"
 #include "host/try/LineReader.h"
+#include "host/try/OpenQuestion.h"
 
 #include <iosfwd>
 
@@ -63,7 +63,7 @@ private:
     LineReader& lines_;
     std::ostream& out_;
     Course course_;
-    std::optional<Attempt> attempt_;
+    std::optional<OpenQuestion> open_;
     bool isOver_ = false;
 };
 

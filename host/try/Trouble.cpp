@@ -34,19 +34,19 @@ std::string_view adviceFor(std::int32_t error) {
     return found == advices.end() ? std::string_view() : found->text;
 }
 
-std::string inWords(const language::Remark& remark) {
+std::string explained(const language::Remark& remark) {
     return "column " + std::to_string(remark.place.column) + ": " + remark.message;
 }
 
 } // namespace
 
-std::string inWords(const language::SyntaxError& error) {
-    return inWords(error.remark);
+std::string explained(const language::SyntaxError& error) {
+    return explained(error.remark);
 }
 
-std::string inWords(const language::Failure& failure) {
+std::string explained(const language::Failure& failure) {
     const std::string_view advice = adviceFor(failure.error);
-    return inWords(failure.remark) + (advice.empty() ? "" : " (" + std::string(advice) + ")");
+    return explained(failure.remark) + (advice.empty() ? "" : " (" + std::string(advice) + ")");
 }
 
 } // namespace host

@@ -112,8 +112,8 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
 TEST_F(TryTest, CompletingCallsNoMethod) {
     const host::language::ScenarioFile scenarios = host::load(host::Library(SCENARIOS).fileOf(314));
     const host::Course course(scenarios, host::makeEmbeddedWorld);
-    host::Attempt attempt(314, course, host::makeEmbeddedWorld);
-    const auto completions = [&](const std::string& line) { return host::completionsOf(line, attempt); };
+    host::OpenQuestion open(314, course, host::makeEmbeddedWorld);
+    const auto completions = [&](const std::string& line) { return host::completionsOf(line, open); };
     EXPECT_EQ(completions("?activepres"), std::vector<std::string>{"ActivePresentation"});
     EXPECT_EQ(completions("x = ActivePresentation.Slides(1).Shapes(\"Text Box 3\").Rotat"),
               std::vector<std::string>{"Rotation"});
@@ -125,12 +125,12 @@ TEST_F(TryTest, CompletingCallsNoMethod) {
         EXPECT_EQ(completions(line), std::vector<std::string>()) << line;
     }
     const auto count = [&](const std::u16string& collection) {
-        return attempt.evaluate(host::language::parseExpression(collection + u".Count")).to<std::int32_t>();
+        return open.evaluate(host::language::parseExpression(collection + u".Count")).to<std::int32_t>();
     };
     EXPECT_EQ(count(u"Presentations"), 1);
     EXPECT_EQ(count(u"ActivePresentation.Slides"), 1);
     EXPECT_EQ(count(u"ActivePresentation.Slides(1).Shapes"), 3);
-    EXPECT_EQ(attempt.close(), std::vector<std::string>());
+    EXPECT_EQ(open.close(), std::vector<std::string>());
 }
 
 TEST_F(TryTest, TheEndOfTheInputLeavesNothingBehindAndWhatIsLeftIsSaid) {

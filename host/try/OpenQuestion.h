@@ -6,10 +6,10 @@
 namespace host {
 
 /// A question prepared in a world of its own, and what a learner has done in it since.
-class Attempt {
+class OpenQuestion {
 public:
     /// Stages the question and prepares it. `course` must outlive this object. Raises what the module raises.
-    Attempt(std::int32_t question, const Course& course, const WorldMaker& makeWorld);
+    OpenQuestion(std::int32_t question, const Course& course, const WorldMaker& makeWorld);
 
     /// Performs a move and remembers it. Raises language::Failure where it falls short; it is not remembered then.
     void perform(language::Statement move);

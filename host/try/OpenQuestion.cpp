@@ -1,4 +1,4 @@
-#include "host/try/Attempt.h"
+#include "host/try/OpenQuestion.h"
 
 #include "automation/LateBound.h"
 #include "host/language/Parser.h"
@@ -12,17 +12,17 @@ namespace host {
 
 using language::Statement;
 
-Attempt::Attempt(std::int32_t question, const Course& course, const WorldMaker& makeWorld)
+OpenQuestion::OpenQuestion(std::int32_t question, const Course& course, const WorldMaker& makeWorld)
     : world_(makeWorld(nullptr)), guard_(*world_), exercise_(*world_, course, question, guard_) {
     exercise_.begin();
 }
 
-void Attempt::perform(Statement move) {
+void OpenQuestion::perform(Statement move) {
     exercise_.execute(move);
     steps_.push_back({std::move(move), true});
 }
 
-Reading Attempt::check() {
+Reading OpenQuestion::check() {
     Reading reading = exercise_.check();
     for (const std::u16string& line : language::checkOf(reading)) {
         remember(language::parseStatement(line));
@@ -31,7 +31,7 @@ Reading Attempt::check() {
     return reading;
 }
 
-void Attempt::remember(Statement expectation) {
+void OpenQuestion::remember(Statement expectation) {
     if (!std::holds_alternative<language::Check>(expectation.node)) {
         try {
             exercise_.execute(expectation);
@@ -42,11 +42,11 @@ void Attempt::remember(Statement expectation) {
     steps_.push_back({std::move(expectation), false});
 }
 
-std::size_t Attempt::moves() const {
+std::size_t OpenQuestion::moves() const {
     return static_cast<std::size_t>(std::count_if(steps_.begin(), steps_.end(), std::mem_fn(&Step::isMove)));
 }
 
-std::vector<std::u16string> Attempt::statements() const {
+std::vector<std::u16string> OpenQuestion::statements() const {
     std::vector<std::u16string> all;
     for (const Step& step : steps_) {
         all.push_back(step.statement.text);
@@ -54,7 +54,7 @@ std::vector<std::u16string> Attempt::statements() const {
     return all;
 }
 
-std::vector<Statement> Attempt::takeMoves() {
+std::vector<Statement> OpenQuestion::takeMoves() {
     std::vector<Statement> taken;
     checks_ = 0;
     for (Step& step : std::exchange(steps_, {})) {
@@ -65,7 +65,7 @@ std::vector<Statement> Attempt::takeMoves() {
     return taken;
 }
 
-Bytes Attempt::presentation() {
+Bytes OpenQuestion::presentation() {
     const std::u16string copy = world_->hostFolder() + u"exercise-host copy.ppt";
     const automation::LateBound application(world_->powerPoint().application());
     const automation::LateBound active(application.get(u"ActivePresentation").to<automation::ObjectPtr>());
@@ -75,7 +75,7 @@ Bytes Attempt::presentation() {
     return content;
 }
 
-std::vector<std::string> Attempt::close() {
+std::vector<std::string> OpenQuestion::close() {
     std::vector<std::string> findings;
     try {
         exercise_.finish();
