@@ -9,7 +9,7 @@
 
 #include <thread>
 
-namespace {
+namespace class_tests {
 
 using automation::LateBound;
 using automation::Value;
@@ -221,4 +221,4 @@ TEST_F(ClassTest, ServesSeveralThreads) {
     }
 }
 
-} // namespace
+} // namespace class_tests

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace {
+namespace file_tests {
 
 /// The tables of a loaded file.
 class Image {
@@ -148,4 +148,4 @@ TEST(LibraryFileTest, IsOfTheVersionThatWasBuilt) {
     }
 }
 
-} // namespace
+} // namespace file_tests

@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <fstream>
 
-namespace {
+namespace module_tests {
 
 namespace fs = std::filesystem;
 using automation::LateBound;
@@ -297,4 +297,4 @@ TEST_F(ModuleTest, MakesTheTemplatesFolder) {
     }
 }
 
-} // namespace
+} // namespace module_tests

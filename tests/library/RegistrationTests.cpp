@@ -11,7 +11,7 @@
 #include <K73053.h>
 #include <gtest/gtest.h>
 
-namespace {
+namespace registration_tests {
 
 using automation::com::ComPtr;
 using platform::RegistryKey;
@@ -244,4 +244,4 @@ TEST_F(RegistrationTest, IsNotNeededWithTheManifest) {
     EXPECT_NE(createByName(), S_OK);
 }
 
-} // namespace
+} // namespace registration_tests

@@ -8,7 +8,7 @@
 #include <map>
 #include <string>
 
-namespace {
+namespace type_library_tests {
 
 using automation::com::Bstr;
 using automation::com::ComPtr;
@@ -142,4 +142,4 @@ TEST_F(TypeLibraryTest, IsGivenByEveryObject) {
     EXPECT_EQ(module->GetTypeInfo(0, 0, nullptr), E_POINTER);
 }
 
-} // namespace
+} // namespace type_library_tests

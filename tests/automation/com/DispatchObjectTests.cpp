@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-namespace {
+namespace dispatch_object_tests {
 
 using namespace automation;
 using namespace automation::com;
@@ -332,4 +332,4 @@ TEST_F(DispatchObjectTest, IsTheSameByIdentity) {
     EXPECT_EQ(dispatchOf(object_).get(), server_.get()) << "it leaves as it came";
 }
 
-} // namespace
+} // namespace dispatch_object_tests

@@ -10,7 +10,7 @@
 
 #include <vector>
 
-namespace {
+namespace object_dispatch_tests {
 
 using namespace automation;
 using namespace automation::com;
@@ -279,4 +279,4 @@ TEST_F(ObjectDispatchTest, KeepsIdentityAcrossTheBorder) {
     EXPECT_TRUE(left.expired());
 }
 
-} // namespace
+} // namespace object_dispatch_tests

@@ -9,7 +9,7 @@
 
 #include <chrono>
 
-namespace {
+namespace process_tests {
 
 using namespace automation;
 using namespace automation::com;
@@ -95,4 +95,4 @@ TEST_F(ProcessTest, OutlivesAServerThatDies) {
     EXPECT_LT(Clock::now() - start, std::chrono::seconds(2)) << "releasing it waits for nobody";
 }
 
-} // namespace
+} // namespace process_tests

@@ -21,7 +21,7 @@
 #include <optional>
 #include <utility>
 
-namespace {
+namespace variant_tests {
 
 using namespace automation;
 using namespace automation::com;
@@ -424,4 +424,4 @@ TEST(Variant, WritesToVariablesOfEveryType) {
     EXPECT_EQ(numberRaisedBy([&] { read(circle); }), 7);
 }
 
-} // namespace
+} // namespace variant_tests

@@ -14,7 +14,7 @@
 #include <set>
 #include <thread>
 
-namespace {
+namespace host_tests {
 
 namespace fs = std::filesystem;
 
@@ -180,4 +180,4 @@ TEST_F(CutShortTest, IsMadeGoodByTheNextRun) {
     host::removing.vacate(*kept.begin());
 }
 
-} // namespace
+} // namespace host_tests

@@ -9,7 +9,7 @@
 #include <array>
 #include <fstream>
 
-namespace {
+namespace journal_tests {
 
 namespace fs = std::filesystem;
 
@@ -148,4 +148,4 @@ TEST_F(JournalTest, LendsNoFileThatWasThereBefore) {
     EXPECT_EQ(content(disk.path()), Names{"mine.txt"});
 }
 
-} // namespace
+} // namespace journal_tests

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <functional>
 
-namespace {
+namespace file_tests {
 
 using platform::FileSystem;
 using platform::Win32Files;
@@ -122,4 +122,4 @@ TEST_F(FileTest, MakesFoldersUpToTheLastBackslash) {
     EXPECT_FALSE(files_.makeDirectories(u"Q:\\aucun\\lecteur\\"));
 }
 
-} // namespace
+} // namespace file_tests

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-namespace {
+namespace registry_tests {
 
 using platform::OpenKey;
 using platform::Registry;
@@ -154,4 +154,4 @@ TEST_F(RegistryTest, OpensWithTheAccessAskedFor) {
     registry_.close(again);
 }
 
-} // namespace
+} // namespace registry_tests

@@ -10,7 +10,7 @@
 #include <functional>
 #include <thread>
 
-namespace {
+namespace service_tests {
 
 using automation::Access;
 using automation::Error;
@@ -93,4 +93,4 @@ TEST_F(ServerTest, StartsAServerOfItsOwn) {
     EXPECT_NE(errorNumber([&] { servers_.create(id); }), noError);
 }
 
-} // namespace
+} // namespace service_tests

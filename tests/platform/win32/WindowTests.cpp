@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace window_tests {
 
 using namespace std::chrono_literals;
 using platform::WindowHandle;
@@ -129,4 +129,4 @@ TEST_F(WindowTest, LeavesTheEndOfTheProgramToItsOwnLoop) {
     DestroyWindow(own);
 }
 
-} // namespace
+} // namespace window_tests

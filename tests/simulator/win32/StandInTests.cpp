@@ -14,7 +14,7 @@
 #include <chrono>
 #include <thread>
 
-namespace {
+namespace stand_in_tests {
 
 namespace standin = simulator::standin;
 
@@ -294,4 +294,4 @@ TEST(StandInCommandLineTest, StartsAPowerPointAsItsSwitchesSay) {
     }
 }
 
-} // namespace
+} // namespace stand_in_tests
