@@ -47,6 +47,7 @@ LangString InUse ${LANG_FRENCH} "est utilisé ; rien n'a été modifié. Fermez 
     !insertmacro DEMAND_FREE_FILE "${FOLDER}\x86\K73053.dll"
     !insertmacro DEMAND_FREE_FILE "${FOLDER}\x64\K73053.dll"
     !insertmacro DEMAND_FREE_FILE "${FOLDER}\tools\exercise-host.exe"
+    !insertmacro DEMAND_FREE_FILE "${FOLDER}\tools\powerpnt-standin.exe"
 !macroend
 !macro DEMAND_FREE_FILE FILE
     ${If} ${FileExists} "${FILE}"
