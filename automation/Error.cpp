@@ -24,8 +24,8 @@ std::string compose(std::int32_t number, const std::u16string& source, const std
 } // namespace
 
 bool remote::isDead(std::int32_t number) noexcept {
-    return number == disconnected || number == serverUnavailable || number == callFailed ||
-           number == objectNotConnected;
+    return number == disconnected || number == serverUnavailable || number == callFailed || number == callNotExecuted ||
+           number == serverDied || number == serverDiedBefore || number == objectNotConnected;
 }
 
 Error::Error(std::int32_t number, std::u16string source, std::u16string description, std::u16string helpFile,

@@ -36,6 +36,9 @@ inline constexpr std::int32_t retryLater = static_cast<std::int32_t>(0x8001010AU
 inline constexpr std::int32_t disconnected = static_cast<std::int32_t>(0x80010108U);
 inline constexpr std::int32_t serverUnavailable = static_cast<std::int32_t>(0x800706BAU);
 inline constexpr std::int32_t callFailed = static_cast<std::int32_t>(0x800706BEU);
+inline constexpr std::int32_t callNotExecuted = static_cast<std::int32_t>(0x800706BFU);
+inline constexpr std::int32_t serverDied = static_cast<std::int32_t>(0x80010007U);
+inline constexpr std::int32_t serverDiedBefore = static_cast<std::int32_t>(0x80010012U);
 inline constexpr std::int32_t objectNotConnected = static_cast<std::int32_t>(0x800401FDU);
 
 /// True for the numbers that say that the process behind an object is gone for good.

@@ -32,11 +32,13 @@ public:
 
 private:
     template <typename... Arguments> Value invoke(const Name& name, Access access, Arguments&&... arguments) const {
-        if (!object_) {
+        // A reference of the call's own: what the call does may change this one.
+        const ObjectPtr object = object_;
+        if (!object) {
             raise(RunTimeError::ObjectNotSet);
         }
         std::array<Value, sizeof...(Arguments)> values{{Value(std::forward<Arguments>(arguments))...}};
-        return object_->invoke(name, access, values);
+        return object->invoke(name, access, values);
     }
 
     ObjectPtr object_;

@@ -91,6 +91,16 @@ public:
     Parameter(std::span<Value> arguments, std::size_t position)
         : argument_(position < arguments.size() ? &arguments[position] : nullptr), plain_(convert(argument_)) {}
 
+    /// The caller's variable lets go of what is passed, until it is written back: an object that the function drops is
+    /// gone at once.
+    void begin() noexcept {
+        if constexpr (writesBack) {
+            if (Value* const variable = argument_->variable()) {
+                *variable = Value();
+            }
+        }
+    }
+
     [[nodiscard]] P pass() { return static_cast<P>(plain_); }
 
     void finish() noexcept {
@@ -127,7 +137,9 @@ private:
 template <typename... Parameters> struct Finisher : automation::Unmoved {
     std::tuple<Parameter<Parameters>...>& parameters;
 
-    explicit Finisher(std::tuple<Parameter<Parameters>...>& all) : parameters(all) {}
+    explicit Finisher(std::tuple<Parameter<Parameters>...>& all) : parameters(all) {
+        std::apply([](auto&... each) { (each.begin(), ...); }, parameters);
+    }
     ~Finisher() {
         std::apply([](auto&... each) { (each.finish(), ...); }, parameters);
     }

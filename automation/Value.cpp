@@ -87,6 +87,23 @@ template <typename Floating> std::u16string general(Floating number, int digits)
 
 } // namespace
 
+// A variant of the standard library may break where memory runs out while it copies; so the copy is made beside it and
+// moved in, which cannot fail.
+Value::Value(const Value& other) {
+    static_assert(std::is_nothrow_move_constructible_v<Storage> && std::is_nothrow_move_assignable_v<Storage>);
+    std::visit(
+        [this](const auto& held) {
+            auto copy = held;
+            storage_ = std::move(copy);
+        },
+        other.storage_);
+}
+
+Value& Value::operator=(const Value& other) {
+    Value copy(other);
+    return *this = std::move(copy);
+}
+
 Value Value::reference(Value& variable) {
     Value result;
     result.storage_ = variable.variable() != nullptr ? variable.variable() : &variable;

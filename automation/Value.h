@@ -55,6 +55,12 @@ public:
     Value(Array elements) noexcept : storage_(std::move(elements)) {}
     template <Enumeration E> Value(E value) noexcept : storage_(static_cast<std::int32_t>(value)) {}
 
+    Value(const Value& other);
+    Value& operator=(const Value& other);
+    Value(Value&&) noexcept = default;
+    Value& operator=(Value&&) noexcept = default;
+    ~Value() = default;
+
     /// An argument passed by reference: reading it reads `variable`, and what the callee writes lands there.
     /// `variable` must outlive the call.
     static Value reference(Value& variable);
@@ -98,9 +104,10 @@ public:
     friend bool operator==(const Value& left, const Value& right) { return left.storage_ == right.storage_; }
 
 private:
-    std::variant<Empty, Missing, bool, std::int16_t, std::int32_t, float, double, std::u16string, ObjectPtr, Array,
-                 Value*>
-        storage_;
+    using Storage = std::variant<Empty, Missing, bool, std::int16_t, std::int32_t, float, double, std::u16string,
+                                 ObjectPtr, Array, Value*>;
+
+    Storage storage_;
 };
 
 template <> bool Value::to<bool>() const;

@@ -10,8 +10,9 @@ namespace exercises {
 /// questions share. One instance lives as long as the library is loaded; its variables start at zero and are never
 /// reset but where a routine says so.
 ///
-/// Every routine works on the active presentation of the application given and reaches every PowerPoint object afresh.
-/// None has an error handler: automation errors and integer overflows pass to the caller.
+/// Those that take an application work on its active presentation and reach slides and shapes afresh at each step; the
+/// items of a group are reached from their group. None has an error handler: automation errors and integer overflows
+/// pass to the caller.
 class API {
 public:
     /// Name of the tag that carries an identity.
@@ -29,9 +30,10 @@ public:
     std::int16_t NbParchemins = 0;   ///< horizontal scrolls met when asked for "msoShapeHorizontalScroll"; only counted
 
     // Set for the current question.
-    std::u16string PremierFichier;  ///< working name of the question's first file
-    std::u16string DossierHote;     ///< the host's folder, ending with a backslash
-    std::int32_t SystemeMesure = 0; ///< 0 metric, 1 U.S.
+    std::u16string PremierFichier; ///< working name of the question's first file
+    std::u16string DossierHote;    ///< the host's folder, as the host gives it
+
+    std::int32_t SystemeMesure = 0; ///< 0 metric, 1 U.S., as the last question 318 found it
 
     // Results of `VerifiePresentation`.
     bool PresentationOuverte = false;

@@ -61,6 +61,9 @@ void Question::prepareSlideWithShapes(std::int16_t slide) {
 void Question::TestePoint() {
     reporting(className_, u"TestePoint", ReportedObject::Source, [&] {
         complementInfo_ = std::make_shared<collections::ComplementInfo>();
+        if (!application_) {
+            automation::raise(automation::RunTimeError::ObjectNotSet);
+        }
         check();
     });
 }

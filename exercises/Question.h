@@ -48,7 +48,7 @@ public:
     void Prepare(automation::ObjectPtr& application, const std::u16string& folder,
                  const std::optional<std::u16string>& argument);
     /// Checks the learner's work and leaves the verdict in `CauseErreur`, `BravoNuance` and a new `ComplementInfo`.
-    /// Failures go to the error report; fields set before stay.
+    /// Failures go to the error report; fields set before stay. Raises ObjectNotSet (91) before `Prepare`.
     void TestePoint();
     /// Complementary texts of the last check; nothing before the first.
     [[nodiscard]] automation::ObjectPtr ComplementInfo() const { return complementInfo_; }
@@ -85,7 +85,8 @@ protected:
     [[nodiscard]] ppt::Slide diapositive(std::int16_t slide) const;
     /// Shape k of a slide, reached afresh.
     [[nodiscard]] ppt::Shape forme(std::int16_t slide, const ppt::Index& shape) const;
-    /// Identity of shape k of a slide, reached afresh; empty for a shape that the learner added.
+    /// Identity of shape k of a slide, reached afresh; empty where it carries none, as a shape drawn by the
+    /// learner (a copy carries that of its original).
     [[nodiscard]] std::u16string identite(std::int16_t slide, const ppt::Index& shape) const;
     /// Left, Top, Width and Height of shape k of a slide, each reached afresh, in this order.
     [[nodiscard]] Place place(std::int16_t slide, const ppt::Index& shape) const;

@@ -4,8 +4,8 @@
 
 namespace exercises {
 
-/// Gives `visit` the text of every shape that holds text, slide by slide, from back to front. Each shape is reached
-/// afresh from the application.
+/// Gives `visit` the text of every shape that has a text frame, slide by slide, from back to front; the items of groups
+/// are not entered. Each shape is reached afresh from the application, and its text from the shape.
 template <typename Visit> void walkTexts(const ppt::Application& application, const Visit& visit) {
     const std::int32_t slides = application.ActivePresentation().Slides().Count();
     for (std::int32_t s = 1; s <= slides; ++s) {

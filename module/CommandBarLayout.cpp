@@ -2,6 +2,9 @@
 
 #include "platform/ErrorReport.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace k73053 {
 
 using platform::ignoringErrors;
@@ -36,15 +39,21 @@ template <typename Kept, typename Step> void give(Kept& kept, const Step& step) 
 } // namespace
 
 void CommandBarLayout::saveVisible(const ppt::Application& application) {
-    const std::int32_t bars = application.CommandBars().Count();
-    std::vector<Kept<bool>> visible = visible_;
-    visible.resize(static_cast<std::size_t>(bars));
-    for (std::int32_t i = 1; i <= bars; ++i) {
-        const bool isVisible = application.CommandBars().Item(i).Visible();
-        Kept<bool>& kept = visible[static_cast<std::size_t>(i - 1)];
-        kept.value = kept.isChanged ? kept.value : isVisible;
+    const std::int32_t count = application.CommandBars().Count();
+    std::vector<ShownBar> shown;
+    std::copy_if(shown_.begin(), shown_.end(), std::back_inserter(shown),
+                 [](const ShownBar& bar) { return bar.visible.isChanged; });
+    for (std::int32_t i = 1; i <= count; ++i) {
+        const ppt::CommandBar bar = application.CommandBars().Item(i);
+        const bool isVisible = bar.Visible();
+        std::u16string name = bar.Name();
+        const bool isKept =
+            std::any_of(shown.begin(), shown.end(), [&](const ShownBar& kept) { return kept.name == name; });
+        if (!isKept) {
+            shown.push_back({std::move(name), {isVisible}});
+        }
     }
-    visible_ = std::move(visible);
+    shown_ = std::move(shown);
 }
 
 void CommandBarLayout::willChange(const ppt::Application& application) noexcept {
@@ -57,14 +66,14 @@ void CommandBarLayout::willChange(const ppt::Application& application) noexcept 
 }
 
 void CommandBarLayout::markVisible() noexcept {
-    for (Kept<bool>& bar : visible_) {
-        bar.isChanged = true;
+    for (ShownBar& bar : shown_) {
+        bar.visible.isChanged = true;
     }
 }
 
 bool CommandBarLayout::isChanged() const noexcept {
     return tooltips_.isChanged ||
-           std::any_of(visible_.begin(), visible_.end(), [](const Kept<bool>& bar) { return bar.isChanged; }) ||
+           std::any_of(shown_.begin(), shown_.end(), [](const ShownBar& bar) { return bar.visible.isChanged; }) ||
            std::any_of(arranged_.begin(), arranged_.end(),
                        [](const ArrangedBar& bar) { return bar.enabled.isChanged || bar.position.isChanged; });
 }
@@ -88,11 +97,10 @@ void CommandBarLayout::putBack(const ppt::Application& application) {
             }
         });
     }
-    for (std::size_t i = 0; i < visible_.size(); ++i) {
-        give(visible_[i], [&](bool isVisible) {
-            const auto index = static_cast<std::int32_t>(i + 1);
-            if (application.CommandBars().Item(index).Visible() != isVisible) {
-                application.CommandBars().Item(index).Visible(isVisible);
+    for (ShownBar& bar : shown_) {
+        give(bar.visible, [&](bool isVisible) {
+            if (application.CommandBars().Item(bar.name).Visible() != isVisible) {
+                application.CommandBars().Item(bar.name).Visible(isVisible);
             }
         });
     }

@@ -3,6 +3,7 @@
 #include "ppt/Application.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -34,6 +35,12 @@ private:
         bool isChanged = false;
     };
 
+    /// Bars are saved by their place and put back by their name: one that comes or goes meanwhile shifts no other.
+    struct ShownBar {
+        std::u16string name;
+        Kept<bool> visible = {};
+    };
+
     struct ArrangedBar {
         std::u16string_view name;
         Kept<bool> enabled = {};
@@ -44,7 +51,7 @@ private:
     void markVisible() noexcept;
     void putBack(const ppt::Application& application);
 
-    std::vector<Kept<bool>> visible_; ///< bar i + 1
+    std::vector<ShownBar> shown_;
     std::array<ArrangedBar, 4> arranged_{{{u"standard"}, {u"formatting"}, {u"Drawing"}, {u"Task Pane"}}};
     Kept<bool> tooltips_;
 };

@@ -2,6 +2,7 @@
 
 #include "automation/FirstError.h"
 #include "exercises/Catalogue.h"
+#include "module/Entry.h"
 #include "module/QuestionMembers.h"
 #include "module/TemplatesFolder.h"
 #include "platform/ErrorReport.h"
@@ -12,6 +13,7 @@ using automation::FirstError;
 using automation::LateBound;
 using automation::ObjectPtr;
 using automation::Value;
+using platform::ignoringErrors;
 
 namespace {
 
@@ -23,14 +25,18 @@ Module::Module(exercises::API& api, const platform::Services& services)
     : api_(api), services_(services), session_(services), settings_(services.registry), staging_(services.files, api) {}
 
 Module::~Module() {
-    settings_.restoreLeftovers();
+    ignoringErrors([&] { restoreLeftovers(); });
 }
 
 void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& folder, ObjectPtr& application,
                           std::int32_t& window, const std::u16string& /*unused*/) {
+    const Entry entry(u"InitQuestion");
     settings_.createKey();
     forgetClosedPowerPoint(application, window);
     obtainPowerPoint(application, window);
+    if (!question_) {
+        ignoringErrors([&] { restoreLeftovers(); });
+    }
     settings_.SauveParamUser(session_.application());
     session_.FermeDialogues(session_.window());
     if (question_) {
@@ -68,7 +74,8 @@ void Module::obtainPowerPoint(ObjectPtr& application, std::int32_t& window) {
     if (!application) {
         return startPowerPoint(application, window);
     }
-    if (!automation::isSame(application, session_.application().object())) {
+    const bool isAnother = !automation::isSame(application, session_.application().object());
+    if (isAnother) {
         started_ = false;
     }
     // For what it does, not for its answer: a PowerPoint of an earlier question that has become invisible is quit
@@ -78,6 +85,8 @@ void Module::obtainPowerPoint(ObjectPtr& application, std::int32_t& window) {
     if (!session_.PowerPointVisible()) {
         application = nullptr;
         startPowerPoint(application, window);
+    } else if (isAnother) {
+        session_.readStartupDialog();
     }
 }
 
@@ -98,6 +107,7 @@ void Module::prepareQuestion(const std::u16string& folder) {
 }
 
 void Module::TestePoint() {
+    const Entry entry(u"TestePoint");
     generalError_ = false;
     if (!session_.PowerPointVisible()) {
         return failGenerally(u"AK");
@@ -158,24 +168,32 @@ void Module::leavePowerPointAsFound() {
     }
 }
 
+void Module::restoreLeftovers() {
+    if (settings_.commandBars.isChanged() && services_.windows.isVisible(session_.window()) &&
+        session_.PowerPointRepond()) {
+        settings_.commandBars.restore(session_.application());
+    }
+    settings_.restoreLeftovers();
+}
+
 void Module::Fermer() {
+    const Entry entry(u"Fermer");
+    if (!question_ && settings_.isChanged()) {
+        return restoreLeftovers();
+    }
     FermeQuestion();
 }
 
 void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
+    const Entry entry(u"Quitter");
     FirstError error;
     if (question_) {
         error.attempt([&] { FermeQuestion(); });
     }
-    settings_.restoreLeftovers();
+    ignoringErrors([&] { restoreLeftovers(); });
     error.attempt([&] {
-        const bool isVisible = session_.PowerPointVisible();
-        if (isVisible && settings_.commandBars.isChanged() && session_.PowerPointRepond()) {
-            settings_.commandBars.restore(session_.application());
-        }
-        if (isVisible && started_) {
-            const ppt::Application hosts(application);
-            hosts.Quit();
+        if (session_.PowerPointVisible() && started_) {
+            ppt::Application(application).Quit();
             window = 0;
             application = nullptr;
         }

@@ -8,12 +8,13 @@
 namespace k73053 {
 
 /// The one object that the host creates: it turns the host's calls into work on one PowerPoint session and one question
-/// at a time. Its members are the host's interface `AbstractModule`.
+/// at a time. Its members are the host's interface `AbstractModule`. Of its operations `InitQuestion`, `TestePoint`,
+/// `Fermer` and `Quitter` one runs at a time in the process; another meanwhile is refused as busy (8001010A).
 class Module final : public automation::Published {
 public:
     /// The variables shared by all questions, and the system's services; both must outlive this object.
     Module(exercises::API& api, const platform::Services& services);
-    /// Folders that no close could restore are tried once more.
+    /// What no close could restore is tried once more.
     ~Module() override;
 
     /// Stages and prepares a question of the course in the host's folder, which ends with a backslash. The host's
@@ -30,7 +31,8 @@ public:
     [[nodiscard]] bool BravoNuance() const;
     /// Complementary texts of the last check.
     [[nodiscard]] automation::ObjectPtr Complement() const;
-    /// Closes the question and restores the learner's settings.
+    /// Closes the question and restores the learner's settings; without a question, what an earlier close could not
+    /// restore. Raises ObjectNotSet (91) where there is neither.
     void Fermer();
     /// Closes a question still held, and PowerPoint where the module started it.
     void Quitter(automation::ObjectPtr& application, std::int32_t& window);
@@ -47,6 +49,9 @@ private:
     void prepareQuestion(const std::u16string& folder);
     void FermeQuestion();
     void leavePowerPointAsFound();
+    /// Puts back what an exercise has changed and no close could restore: the bars where PowerPoint answers, and the
+    /// folders.
+    void restoreLeftovers();
     void failGenerally(std::u16string_view cause);
 
     exercises::API& api_;

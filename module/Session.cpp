@@ -29,17 +29,30 @@ void Session::forget() noexcept {
     window_ = 0;
 }
 
+bool Session::attach() {
+    if (!ignoringErrors([&] { application_ = ppt::Application(services_.servers.attach(programmaticId)); })) {
+        return false;
+    }
+    try {
+        application_.Visible(ppt::msoTrue);
+        return true;
+    } catch (const automation::Error& error) {
+        if (!automation::remote::isDead(error.number())) {
+            throw;
+        }
+        application_ = ppt::Application();
+        return false;
+    }
+}
+
 void Session::GetApplication() {
     try {
         application_ = ppt::Application();
         const bool mayAttach = window_ == 0 || services_.windows.isVisible(window_);
-        const bool attached = mayAttach && ignoringErrors([&] {
-                                  application_ = ppt::Application(services_.servers.attach(programmaticId));
-                              });
-        if (!attached) {
+        if (!mayAttach || !attach()) {
             application_ = ppt::Application(services_.servers.create(programmaticId));
+            application_.Visible(ppt::msoTrue);
         }
-        application_.Visible(ppt::msoTrue);
     } catch (...) {
         const automation::Error current = automation::currentError();
         application_ = ppt::Application();

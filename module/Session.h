@@ -47,11 +47,15 @@ public:
     /// are shown. What cannot be read stays.
     void readKeptSettings();
 
+    /// Reads whether the start dialog is shown; where it cannot be read, what was kept stays.
+    void readStartupDialog();
+
     /// Gives the start dialog the setting kept; a refusal is passed over.
     void restoreStartupDialog() const noexcept;
 
 private:
-    void readStartupDialog();
+    /// Attaches to the running PowerPoint and shows it; false where there is none, or one that is dead.
+    bool attach();
 
     const platform::Services services_;
     ppt::Application application_;

@@ -3,13 +3,19 @@
 #include "module/RegistryError.h"
 #include "platform/ErrorReport.h"
 
+#include <algorithm>
+
 namespace k73053 {
 
-using platform::ignoringErrors;
 using platform::OpenKey;
 using platform::Registry;
 
 namespace {
+
+/// Saving reports its errors under the same name as giving back.
+template <typename Operation> void reportingSettings(const Operation& operation) {
+    platform::reporting(u"Module", u"RestaureParamUser", platform::ReportedObject::Description, operation);
+}
 
 constexpr std::u16string_view recentFolderListKey = u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList";
 constexpr std::u16string_view separateKeys = u"SOFTWARE\\Microsoft\\Office\\10.0\\Powerpoint\\Recent Folder List\\";
@@ -36,23 +42,29 @@ void UserSettings::createKey() {
 }
 
 void UserSettings::SauveParamUser(const ppt::Application& application) {
-    commandBars.saveVisible(application);
-    for (RecentFolder& folder : folders_) {
-        const OpenKey key(registry_, keyOf(folder), Registry::queryAndSet);
-        if (!key.isOpen()) {
-            raiseFor(folder);
+    reportingSettings([&] {
+        commandBars.saveVisible(application);
+        for (RecentFolder& folder : folders_) {
+            save(folder);
         }
-        std::u16string data;
-        const Registry::Status status = key.query(valueOf(folder), data);
-        if (folder.changed) {
-            continue;
-        }
-        // A value that is there and cannot be read would be lost once the exercise's stands in its place.
-        if (status != Registry::success && status != Registry::fileNotFound) {
-            raiseFor(folder);
-        }
-        folder.saved = status == Registry::success ? withoutNul(std::move(data)) : std::u16string();
+    });
+}
+
+void UserSettings::save(RecentFolder& folder) const {
+    const OpenKey key(registry_, keyOf(folder), Registry::queryAndSet);
+    if (!key.isOpen()) {
+        raiseFor(folder);
     }
+    std::u16string data;
+    const Registry::Status status = key.query(valueOf(folder), data);
+    if (folder.changed) {
+        return;
+    }
+    // A value that is there and cannot be read would be lost once the exercise's stands in its place.
+    if (status != Registry::success && status != Registry::fileNotFound) {
+        raiseFor(folder);
+    }
+    folder.saved = status == Registry::success ? withoutNul(std::move(data)) : std::u16string();
 }
 
 void UserSettings::ChangeDir(const std::u16string& folder, const std::u16string& templatesFolder) {
@@ -73,22 +85,27 @@ void UserSettings::ChangeDir(const std::u16string& folder, const std::u16string&
 }
 
 void UserSettings::RestaureParamUser() {
+    restoreWhere([](const RecentFolder&) { return true; });
+}
+
+void UserSettings::restoreLeftovers() {
+    restoreWhere([](const RecentFolder& folder) { return folder.changed; });
+}
+
+bool UserSettings::isChanged() const noexcept {
+    return commandBars.isChanged() ||
+           std::any_of(folders_.begin(), folders_.end(), [](const RecentFolder& folder) { return folder.changed; });
+}
+
+template <typename Condition> void UserSettings::restoreWhere(const Condition& condition) {
     const RecentFolder* refused = nullptr;
     for (RecentFolder& folder : folders_) {
-        if (!restore(folder) && refused == nullptr) {
+        if (condition(folder) && !restore(folder) && refused == nullptr) {
             refused = &folder;
         }
     }
     if (refused != nullptr) {
-        raiseFor(*refused);
-    }
-}
-
-void UserSettings::restoreLeftovers() noexcept {
-    for (RecentFolder& folder : folders_) {
-        if (folder.changed) {
-            ignoringErrors([&] { static_cast<void>(restore(folder)); });
-        }
+        reportingSettings([&] { raiseFor(*refused); });
     }
 }
 

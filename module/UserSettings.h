@@ -22,19 +22,23 @@ public:
     void createKey();
 
     /// Saves which command bars are shown, and the recent folders. What an earlier question still has changed keeps its
-    /// saved copy. Raises the registry error for a key that cannot be opened, or a value that cannot be read.
+    /// saved copy. The registry error for a key that cannot be opened, or a value that cannot be read, goes to the
+    /// error report.
     void SauveParamUser(const ppt::Application& application);
 
     /// Points PowerPoint's recent folders at a folder; only "Default" receives a usable one. Failures go to the error
     /// report.
     void ChangeDir(const std::u16string& folder, const std::u16string& templatesFolder);
 
-    /// Writes the saved recent folders back, as many as can be; raises the registry error for the first key that cannot
-    /// be opened.
+    /// Writes the saved recent folders back, as many as can be; the registry error for the first key that cannot be
+    /// opened goes to the error report.
     void RestaureParamUser();
 
-    /// Tries once more to write back the folders that an exercise changed and no close could restore. Raises nothing.
-    void restoreLeftovers() noexcept;
+    /// The same for the folders that an exercise has changed and no close could restore.
+    void restoreLeftovers();
+
+    /// True while a folder or a bar may stand as an exercise has left it.
+    [[nodiscard]] bool isChanged() const noexcept;
 
     /// The learner's command bars, which only a PowerPoint that answers can take back.
     CommandBarLayout commandBars;
@@ -49,6 +53,8 @@ private:
     [[nodiscard]] std::u16string keyOf(const RecentFolder& folder) const;
     [[nodiscard]] std::u16string_view valueOf(const RecentFolder& folder) const;
     [[noreturn]] void raiseFor(const RecentFolder& folder) const;
+    template <typename Condition> void restoreWhere(const Condition& condition);
+    void save(RecentFolder& folder) const;
     /// False where the key cannot be opened.
     [[nodiscard]] bool restore(RecentFolder& folder);
 

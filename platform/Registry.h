@@ -35,8 +35,8 @@ public:
     /// Data of a string value as it is stored, terminating NUL included where it has one. Where it is longer than
     /// `length` characters: `moreData`, with `length` set to what is needed.
     virtual Status query(Key key, std::u16string_view name, std::size_t& length, std::u16string& data) = 0;
-    /// Writes the first `length` characters of `data` as a string value (REG_SZ). A terminating NUL is stored only
-    /// where `length` counts it (that is, exceeds the text by one).
+    /// Writes the first `length` characters of a buffer that holds `data` and a terminating NUL as a string value
+    /// (REG_SZ). The system stores the NUL where `length` counts it, and where it follows the last character written.
     virtual Status set(Key key, std::u16string_view name, std::u16string_view data, std::size_t length) = 0;
     virtual void close(Key key) = 0;
 };

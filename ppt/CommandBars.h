@@ -20,6 +20,7 @@ public:
 class CommandBar : public Facade<u"CommandBar"> {
 public:
     using Facade::Facade;
+    [[nodiscard]] std::u16string Name() const { return get<u"Name">().to<std::u16string>(); }
     [[nodiscard]] bool Enabled() const { return get<u"Enabled">().to<bool>(); }
     void Enabled(bool enabled) const { put<u"Enabled">(enabled); }
     [[nodiscard]] bool Visible() const { return get<u"Visible">().to<bool>(); }

@@ -86,8 +86,8 @@ std::u16string_view nameOf(Border border) noexcept {
 
 std::u16string Crossing::display() const {
     std::u16string text(target);
-    text += (text.empty() || member.empty()) ? u"" : u".";
-    text += member;
+    text += text.empty() ? u"" : u".";
+    text += member.empty() ? u"(default)" : member;
     const bool writes = access == Access::Put && !arguments.empty();
     const auto shown = writes ? arguments.first(arguments.size() - 1) : arguments;
     if (!shown.empty()) {

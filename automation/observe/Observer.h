@@ -22,7 +22,8 @@ struct Crossing {
     Access access;
     std::span<const Value> arguments;
 
-    /// The call as a macro would state it: `Slides.Item(2)`, `Application.Visible = -1`.
+    /// The call as a macro would state it: `Slides.Item(2)`, `Application.Visible = -1`; `(default)` where no member is
+    /// named.
     [[nodiscard]] std::u16string display() const;
 };
 

@@ -75,13 +75,9 @@ Registry::Status Win32Registry::query(Key key, std::u16string_view name, std::si
 }
 
 Registry::Status Win32Registry::set(Key key, std::u16string_view name, std::u16string_view data, std::size_t length) {
-    // The system adds a NUL of its own where one follows what it was given: what follows here is none, so that the size
-    // stored is the size asked for.
-    constexpr wchar_t noNul = L'\xFFFF';
     const std::size_t stored = std::min(length, data.size() + 1);
     std::wstring text(data.begin(), data.end());
     text.resize(std::max(stored, data.size()), L'\0');
-    text.push_back(noNul);
     return RegSetValueExW(handleOf(key), WideText(name).get(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.data()),
                           bytesOf(stored));
 }

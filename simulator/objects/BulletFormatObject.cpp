@@ -11,7 +11,7 @@ constexpr std::int32_t mixedCharacter = -2;
 
 } // namespace
 
-BulletFormatObject::BulletFormatObject(SessionPtr session, TextPart part) noexcept
+BulletFormatObject::BulletFormatObject(SessionPtr session, TextPart part)
     : PowerPointObject(std::move(session)), part_(std::move(part)) {}
 
 const automation::MemberTable& BulletFormatObject::members() const {

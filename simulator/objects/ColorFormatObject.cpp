@@ -2,7 +2,7 @@
 
 namespace simulator {
 
-ColorFormatObject::ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme) noexcept
+ColorFormatObject::ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme)
     : PowerPointObject(std::move(session)), getter_(std::move(getter)), setter_(std::move(setter)),
       scheme_(std::move(scheme)) {}
 

@@ -15,7 +15,7 @@ public:
     using Scheme = std::function<ColorScheme()>;
 
     /// The three functions raise `errors::gone` where what bears the colour is gone.
-    ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme) noexcept;
+    ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

@@ -14,7 +14,7 @@ public:
     static constexpr std::int32_t stateFocusable = 0x100000; ///< STATE_SYSTEM_FOCUSABLE
 
     /// Both places are from 0.
-    CommandBarControlObject(SessionPtr session, std::size_t bar, std::size_t place) noexcept
+    CommandBarControlObject(SessionPtr session, std::size_t bar, std::size_t place)
         : PowerPointObject(std::move(session)), bar_(bar), place_(place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

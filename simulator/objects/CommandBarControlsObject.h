@@ -10,8 +10,7 @@ class CommandBarObject;
 class CommandBarControlsObject final : public PowerPointObject {
 public:
     /// `bar` is the bar's place from 0.
-    CommandBarControlsObject(SessionPtr session, std::size_t bar) noexcept
-        : PowerPointObject(std::move(session)), bar_(bar) {}
+    CommandBarControlsObject(SessionPtr session, std::size_t bar) : PowerPointObject(std::move(session)), bar_(bar) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

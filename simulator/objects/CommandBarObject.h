@@ -11,8 +11,7 @@ class CommandBarsObject;
 class CommandBarObject final : public PowerPointObject {
 public:
     /// `place` is from 0.
-    CommandBarObject(SessionPtr session, std::size_t place) noexcept
-        : PowerPointObject(std::move(session)), place_(place) {}
+    CommandBarObject(SessionPtr session, std::size_t place) : PowerPointObject(std::move(session)), place_(place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

@@ -14,7 +14,7 @@ class ViewObject;
 /// DocumentWindow: a window on a presentation. Members raise `errors::gone` once it is closed.
 class DocumentWindowObject final : public PowerPointObject {
 public:
-    DocumentWindowObject(SessionPtr session, std::weak_ptr<DocumentWindow> window) noexcept
+    DocumentWindowObject(SessionPtr session, std::weak_ptr<DocumentWindow> window)
         : PowerPointObject(std::move(session)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

@@ -11,7 +11,7 @@ class DocumentWindowsObject final : public PowerPointObject {
 public:
     using PowerPointObject::PowerPointObject;
     /// The windows of one presentation.
-    DocumentWindowsObject(SessionPtr session, std::weak_ptr<Presentation> presentation) noexcept
+    DocumentWindowsObject(SessionPtr session, std::weak_ptr<Presentation> presentation)
         : PowerPointObject(std::move(session)), presentation_(std::move(presentation)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

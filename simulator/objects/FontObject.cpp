@@ -11,7 +11,7 @@ constexpr float largestSize = 4000;
 
 } // namespace
 
-FontObject::FontObject(SessionPtr session, TextPart part) noexcept
+FontObject::FontObject(SessionPtr session, TextPart part)
     : PowerPointObject(std::move(session)), part_(std::move(part)) {}
 
 const automation::MemberTable& FontObject::members() const {

@@ -9,7 +9,7 @@ namespace simulator {
 /// Font: how the characters of a range look. Members raise `errors::gone` where the shape is gone.
 class FontObject final : public PowerPointObject {
 public:
-    FontObject(SessionPtr session, TextPart part) noexcept;
+    FontObject(SessionPtr session, TextPart part);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

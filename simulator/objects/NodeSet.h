@@ -89,7 +89,7 @@ using SlideSet = NodeSet<Slide>;
 /// the same object.
 template <typename Node> class NodeSetObject : public PowerPointObject {
 public:
-    NodeSetObject(SessionPtr session, NodeSet<Node> nodes) noexcept
+    NodeSetObject(SessionPtr session, NodeSet<Node> nodes)
         : PowerPointObject(std::move(session)), nodes_(std::move(nodes)) {}
 
     [[nodiscard]] bool isSame(const automation::Object& other) const noexcept final {

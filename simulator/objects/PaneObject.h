@@ -10,7 +10,7 @@ class DocumentWindowObject;
 class PaneObject final : public PowerPointObject {
 public:
     /// `index` is from 1.
-    PaneObject(SessionPtr session, std::weak_ptr<DocumentWindow> window, std::int32_t index) noexcept
+    PaneObject(SessionPtr session, std::weak_ptr<DocumentWindow> window, std::int32_t index)
         : PowerPointObject(std::move(session)), window_(std::move(window)), index_(index) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

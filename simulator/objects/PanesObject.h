@@ -7,7 +7,7 @@ namespace simulator {
 /// Panes: outline, slide and notes in normal view; a single one in any other view.
 class PanesObject final : public PowerPointObject {
 public:
-    PanesObject(SessionPtr session, std::weak_ptr<DocumentWindow> window) noexcept
+    PanesObject(SessionPtr session, std::weak_ptr<DocumentWindow> window)
         : PowerPointObject(std::move(session)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

@@ -5,7 +5,7 @@
 
 namespace simulator {
 
-ParagraphFormatObject::ParagraphFormatObject(SessionPtr session, TextPart part) noexcept
+ParagraphFormatObject::ParagraphFormatObject(SessionPtr session, TextPart part)
     : PowerPointObject(std::move(session)), part_(std::move(part)) {}
 
 const automation::MemberTable& ParagraphFormatObject::members() const {

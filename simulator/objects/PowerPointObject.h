@@ -10,7 +10,7 @@ namespace simulator {
 /// or has ended.
 class PowerPointObject : public automation::Published {
 public:
-    explicit PowerPointObject(SessionPtr session) noexcept : session_(std::move(session)) {}
+    explicit PowerPointObject(SessionPtr session) : session_(std::move(session)) {}
 
     automation::Value invoke(const automation::Name& name, automation::Access access,
                              std::span<automation::Value> arguments) final {

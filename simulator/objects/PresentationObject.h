@@ -24,7 +24,7 @@ enum PpSaveAsFileType : std::int32_t {
 /// Presentation: an open presentation. Members raise `errors::gone` once it is closed.
 class PresentationObject final : public PowerPointObject {
 public:
-    PresentationObject(SessionPtr session, std::weak_ptr<Presentation> presentation) noexcept
+    PresentationObject(SessionPtr session, std::weak_ptr<Presentation> presentation)
         : PowerPointObject(std::move(session)), presentation_(std::move(presentation)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

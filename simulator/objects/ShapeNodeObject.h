@@ -8,7 +8,7 @@ namespace simulator {
 class ShapeNodeObject final : public PowerPointObject {
 public:
     /// `place` counts from 0.
-    ShapeNodeObject(SessionPtr session, std::weak_ptr<Shape> shape, std::size_t place) noexcept
+    ShapeNodeObject(SessionPtr session, std::weak_ptr<Shape> shape, std::size_t place)
         : PowerPointObject(std::move(session)), shape_(std::move(shape)), place_(place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

@@ -17,13 +17,13 @@ std::weak_ptr<Presentation> presentationOf(const std::weak_ptr<Slide>& reference
 
 } // namespace
 
-TagsObject::TagsObject(SessionPtr session, const PresentationPtr& presentation) noexcept
+TagsObject::TagsObject(SessionPtr session, const PresentationPtr& presentation)
     : PowerPointObject(std::move(session)), tags_(tagsOf(presentation)), presentation_(presentation) {}
 
-TagsObject::TagsObject(SessionPtr session, const SlidePtr& slide) noexcept
+TagsObject::TagsObject(SessionPtr session, const SlidePtr& slide)
     : PowerPointObject(std::move(session)), tags_(tagsOf(slide)), presentation_(slide->presentation) {}
 
-TagsObject::TagsObject(SessionPtr session, const ShapePtr& shape) noexcept
+TagsObject::TagsObject(SessionPtr session, const ShapePtr& shape)
     : PowerPointObject(std::move(session)), tags_(tagsOf(shape)), presentation_(presentationOf(shape->slide)) {}
 
 const automation::MemberTable& TagsObject::members() const {

@@ -7,9 +7,9 @@ namespace simulator {
 /// Tags: the tags of a presentation, slide or shape, in the order in which they were added.
 class TagsObject final : public PowerPointObject {
 public:
-    TagsObject(SessionPtr session, const PresentationPtr& presentation) noexcept;
-    TagsObject(SessionPtr session, const SlidePtr& slide) noexcept;
-    TagsObject(SessionPtr session, const ShapePtr& shape) noexcept;
+    TagsObject(SessionPtr session, const PresentationPtr& presentation);
+    TagsObject(SessionPtr session, const SlidePtr& slide);
+    TagsObject(SessionPtr session, const ShapePtr& shape);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
     /// True for the tags of the same presentation, slide or shape.

@@ -14,7 +14,7 @@ constexpr float widest = 1584; ///< points
 
 } // namespace
 
-TextFrameObject::TextFrameObject(SessionPtr session, std::weak_ptr<Shape> shape) noexcept
+TextFrameObject::TextFrameObject(SessionPtr session, std::weak_ptr<Shape> shape)
     : PowerPointObject(std::move(session)), part_(std::move(shape), everything) {}
 
 const automation::MemberTable& TextFrameObject::members() const {

@@ -43,7 +43,7 @@ std::u16string_view memberNameOf(TextUnit unit) {
 
 } // namespace
 
-TextRangeObject::TextRangeObject(SessionPtr session, std::weak_ptr<Shape> shape, Span span, TextUnit unit) noexcept
+TextRangeObject::TextRangeObject(SessionPtr session, std::weak_ptr<Shape> shape, Span span, TextUnit unit)
     : PowerPointObject(std::move(session)), part_(std::move(shape), span), unit_(unit) {}
 
 const automation::MemberTable& TextRangeObject::members() const {

@@ -10,7 +10,7 @@ class SlideObject;
 /// View: what a document window shows.
 class ViewObject final : public PowerPointObject {
 public:
-    ViewObject(SessionPtr session, std::weak_ptr<DocumentWindow> window) noexcept
+    ViewObject(SessionPtr session, std::weak_ptr<DocumentWindow> window)
         : PowerPointObject(std::move(session)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;

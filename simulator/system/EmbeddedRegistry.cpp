@@ -89,7 +89,8 @@ platform::Registry::Status EmbeddedRegistry::set(Key key, std::u16string_view na
         return status;
     }
     std::u16string stored(data.substr(0, length));
-    if (length > data.size()) {
+    const bool isNulNext = length == data.size() && !stored.empty() && stored.back() != u'\0';
+    if (length > data.size() || isNulNext) {
         stored += u'\0';
     }
     assign(content->values, name, std::move(stored));

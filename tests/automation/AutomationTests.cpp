@@ -6,6 +6,7 @@
 #include "automation/observe/CallTrace.h"
 #include "automation/observe/FaultInjector.h"
 #include "tests/support/Errors.h"
+#include "tests/support/ScarceMemory.h"
 
 #include <limits>
 
@@ -70,6 +71,26 @@ TEST(Value, RaisesWhatDoesNotConvert) {
     EXPECT_EQ(errorNumber([] { return Value(Missing()).to<std::u16string>(); }), number(RunTimeError::TypeMismatch));
     EXPECT_EQ(errorNumber([] { return Value(nullptr).to<std::int32_t>(); }), number(RunTimeError::ObjectNotSet));
     EXPECT_EQ(errorNumber([] { return Value(1).to<ObjectPtr>(); }), number(RunTimeError::ObjectRequired));
+}
+
+TEST(Value, StaysWholeWhereMemoryRunsOut) {
+    const Value text(std::u16string(100, u'x'));
+    for (const Value& original : {text, Value(Array{text, 7, text})}) {
+        bool hasStruck = true;
+        for (std::size_t position = 1; hasStruck; ++position) {
+            Value assigned(u"as it was");
+            {
+                const tests::ScarceMemory scarce(position);
+                try {
+                    const Value copy(original);
+                    assigned = copy;
+                } catch (const std::bad_alloc&) {
+                }
+                hasStruck = tests::ScarceMemory::hasStruck();
+            }
+            EXPECT_EQ(assigned, hasStruck ? Value(u"as it was") : original);
+        }
+    }
 }
 
 TEST(Integer, OverflowsInItsOwnType) {

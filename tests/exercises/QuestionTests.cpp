@@ -1,9 +1,11 @@
+#include "automation/observe/CallCounter.h"
 #include "automation/observe/CallTrace.h"
 #include "module/Session.h"
 #include "module/UserSettings.h"
 #include "platform/ErrorReport.h"
 #include "tests/exercises/QuestionBench.h"
 #include "tests/support/Errors.h"
+#include "tests/support/ScarceMemory.h"
 
 namespace question_tests {
 
@@ -166,6 +168,12 @@ TEST_F(Questions, KeepTheirFrameBetweenCreationAndClosing) {
     EXPECT_EQ(early->source(), u"DLL K61027 - CLASSE Question0305\n\r - SERVICE TestePoint - OBJET K73053");
     EXPECT_NE(question->ComplementInfo(), nullptr);
 
+    machine.createFile(u"Plan exo 3.rtf");
+    for (int number = exercises::firstQuestion; number <= exercises::lastQuestion; ++number) {
+        const auto unprepared = exercises::createQuestion(number, {api, machine.services()});
+        EXPECT_EQ(errorNumber([&] { unprepared->TestePoint(); }), 91) << number;
+    }
+
     question->Fermer();
     question->Fermer();
     EXPECT_EQ(question->ComplementInfo(), nullptr);
@@ -243,6 +251,25 @@ TEST_F(Questions, KeepEachFolderInItsOwnKeyForOlderVersions) {
     settings.RestaureParamUser();
     EXPECT_EQ(machine.registryText(key + u"MultimediaDir", u""), u"C:\\MultimediaDir")
         << "the exercise's folder is never taken for the learner's";
+}
+
+TEST(Check, ReportsWhereverMemoryRunsOut) {
+    tests::QuestionBench bench(311);
+    bench.prepare(std::make_shared<automation::CallCounter>());
+    bench.work();
+    bench.question->TestePoint();
+    bool hasStruck = true;
+    std::size_t position = 0;
+    while (hasStruck) {
+        std::int32_t raised = noError;
+        {
+            const tests::ScarceMemory scarce(++position);
+            raised = errorNumber([&] { bench.question->TestePoint(); });
+            hasStruck = tests::ScarceMemory::hasStruck();
+        }
+        EXPECT_EQ(raised, hasStruck ? 7 : noError) << "allocation " << position;
+    }
+    EXPECT_GT(position, 100U);
 }
 
 TEST(ErrorReport, KeepsNumberAndDescription) {

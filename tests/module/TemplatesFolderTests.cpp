@@ -28,7 +28,7 @@ TEST(TemplatesFolder, IsTheLearnersOwnWhereThereIsOne) {
     Registry& registry = machine.services().registry;
     for (const auto& [data, expected] : cases) {
         const platform::OpenKey key(registry, generalKey, Registry::queryAndSet);
-        ASSERT_TRUE(key.set(u"UserTemplates", data, data.size()));
+        ASSERT_TRUE(key.set(u"UserTemplates", data + u"x", data.size())); // no NUL follows
         EXPECT_EQ(k73053::templatesFolder(registry), expected);
     }
     machine.deleteRegistryValue(generalKey, u"UserTemplates");

@@ -49,7 +49,7 @@ protected:
     Win32Registry registry_;
 };
 
-TEST_F(RegistryTest, StoresTextsInTheSizeAskedFor) {
+TEST_F(RegistryTest, StoresTextsInTheSizeAskedForAndANulThatFollows) {
     const OpenKey key(registry_, path, Registry::queryAndSet);
     ASSERT_TRUE(key.isOpen());
     const std::u16string folder = u"C:\\Élève\\";
@@ -60,12 +60,12 @@ TEST_F(RegistryTest, StoresTextsInTheSizeAskedFor) {
         DWORD bytes;
         std::u16string read;
     } cases[] = {
-        {L"Default", u"Default", folder.size(), 18, folder},
+        {L"Default", u"Default", folder.size(), 20, folder + u'\0'},
         {L"Terminated", u"Terminated", folder.size() + 1, 20, folder + u'\0'},
         {L"PictureDir", u"PictureDir", 0, 0, u""},
         {L"Part", u"Part", 2, 4, u"C:"},
         {L"TooLong", u"TooLong", folder.size() + 50, 20, folder + u'\0'},
-        {L"", u"", folder.size(), 18, folder},
+        {L"", u"", folder.size(), 20, folder + u'\0'},
     };
     for (const auto& [name, nameInside, length, bytes, read] : cases) {
         EXPECT_TRUE(key.set(nameInside, folder, length));

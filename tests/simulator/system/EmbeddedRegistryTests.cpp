@@ -11,7 +11,7 @@ using namespace std::string_view_literals;
 
 constexpr std::u16string_view path = u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList";
 
-TEST(EmbeddedRegistry, StoresExactlyTheCharactersCounted) {
+TEST(EmbeddedRegistry, StoresTheCharactersCountedAndANulThatFollows) {
     struct Case {
         std::u16string_view data;
         std::size_t length;
@@ -21,7 +21,7 @@ TEST(EmbeddedRegistry, StoresExactlyTheCharactersCounted) {
     registry.setText(path, u"Default", u"avant");
     const OpenKey key(registry, path, Registry::queryAndSet);
     for (const auto& [data, length, stored] : std::initializer_list<Case>{
-             {u"C:\\Dossier", 10, u"C:\\Dossier"sv},
+             {u"C:\\Dossier", 10, u"C:\\Dossier\0"sv},
              {u"C:\\Dossier", 11, u"C:\\Dossier\0"sv},
              {u"C:\\Dossier", 3, u"C:\\"sv},
              {u"C:\\Dossier", 0, u""sv},

@@ -50,9 +50,10 @@ TEST(TortureTests, CheckerDemandsWhatIsPrescribedForEachStep) {
         reported(u"Question0307", u"Prepare", source, number),
         reported(u"Question0306", u"TestePoint", source, number),
         reported(u"Module", u"ChangeDir", noKey, registryError),
+        reported(u"Module", u"RestaureParamUser", noKey, registryError),
+        reported(u"Module", u"RestaureParamUser", noKey + u"2", registryError),
         Error(registryError, noKey, u""),
-        Error(registryError, noKey + u"2", u""),
-        Error(registryError, u"elsewhere", u""),
+        reported(u"Module", u"RestaureParamUser", description, number),
     };
     constexpr std::size_t silence = 0;
     constexpr std::size_t straight = 1;
@@ -64,7 +65,7 @@ TEST(TortureTests, CheckerDemandsWhatIsPrescribedForEachStep) {
     const std::vector<Case> cases = {
         {HostCall::InitQuestion, {Border::Automation, Phase::Obtaining, u"create"}, 3},
         {HostCall::InitQuestion, {Border::Automation, Phase::Obtaining, u"attach"}, silence},
-        {HostCall::InitQuestion, {Border::Automation, Phase::Saving}, straight},
+        {HostCall::InitQuestion, {Border::Automation, Phase::Saving}, 16},
         {HostCall::InitQuestion, {Border::Registry, Phase::Saving, u"query", {}, key}, 13},
         {HostCall::InitQuestion, {Border::Registry, Phase::Creating, u"open", {}, key}, 4},
         {HostCall::InitQuestion, {Border::Registry, Phase::Creating, u"close", {}, key}, silence},

@@ -55,7 +55,6 @@ bool Checker::isAnsweredBy(const Expected& expected, const Outcome& outcome) con
     const std::optional<Reading>& reading = outcome.reading;
     switch (expected.answer) {
     case Answer::Reported:
-    case Answer::Registry:
     case Answer::Straight: return error && expected.admits(*error);
     case Answer::Code: return !error && reading && reading->erreurGenerale && reading->causeErreur == expected.code;
     case Answer::Letter: return !error && reading && !reading->erreurGenerale && reading->causeErreur == expected.code;

@@ -37,11 +37,14 @@ constexpr std::array rules{
     Rule{Phase::Obtaining, Border::Automation, u"attach", Answer::Silence},
     Rule{Phase::Obtaining, Border::Automation, u"ShowStartupDialog", Answer::Silence},
     Rule{Phase::Obtaining, Border::Automation, {}, Answer::Reported, u"Module", u"GetApplication", Object::Description},
-    Rule{Phase::Saving, Border::Automation, {}, Answer::Straight},
-    Rule{Phase::Saving, Border::Registry, u"open", Answer::Registry},
-    Rule{Phase::Saving, Border::Registry, u"query", Answer::Registry},
+    Rule{Phase::Saving, Border::Automation, {}, Answer::Reported, u"Module", u"RestaureParamUser", Object::Description},
+    Rule{Phase::Saving, Border::Registry, u"open", Answer::Reported, u"Module", u"RestaureParamUser",
+         Object::Description},
+    Rule{Phase::Saving, Border::Registry, u"query", Answer::Reported, u"Module", u"RestaureParamUser",
+         Object::Description},
     Rule{Phase::Cleaning, Border::Automation, {}, Answer::Reported, u"Module", u"Nettoyage", Object::Description},
-    Rule{Phase::Restoring, Border::Registry, u"open", Answer::Registry},
+    Rule{Phase::Restoring, Border::Registry, u"open", Answer::Reported, u"Module", u"RestaureParamUser",
+         Object::Description},
     Rule{Phase::Creating, Border::Registry, u"open", Answer::Reported, u"Module", u"InitQuestion", Object::Description},
     Rule{Phase::Creating, Border::Registry, u"query", Answer::Reported, u"Module", u"InitQuestion",
          Object::Description},
@@ -190,7 +193,6 @@ private:
 std::string_view nameOf(Answer answer) noexcept {
     switch (answer) {
     case Answer::Reported: return "reported with class and service";
-    case Answer::Registry: return "named the registry key";
     case Answer::Straight: return "raised straight";
     case Answer::Code: return "general code";
     case Answer::Letter: return "letter";

@@ -10,14 +10,13 @@ namespace trials::torture {
 /// How the host came to know of a failed call.
 enum class Answer : std::uint8_t {
     Reported, ///< an error with class and service
-    Registry, ///< the error that names a registry key
     Straight, ///< the failed call's own error
     Code,     ///< a general error of TestePoint
     Letter,   ///< another letter of TestePoint
     Silence,  ///< nothing, and the same verdict
     Wrong,    ///< anything but what is prescribed
 };
-inline constexpr std::size_t answers = 7;
+inline constexpr std::size_t answers = 6;
 
 /// The name of an answer, for a line of totals.
 [[nodiscard]] std::string_view nameOf(Answer answer) noexcept;
@@ -25,7 +24,7 @@ inline constexpr std::size_t answers = 7;
 /// What the host must get where a call fails.
 struct Expected {
     Answer answer = Answer::Silence;
-    /// The error raised, for the first three answers. What a PowerPoint says that is dying is not known beforehand: any
+    /// The error raised, for the first two answers. What a PowerPoint says that is dying is not known beforehand: any
     /// number will do that says so, and the source need but begin so.
     std::optional<automation::Error> error{};
     bool isOfDeath = false;

@@ -1,6 +1,7 @@
 #include "tests/trials/trace/Expected.h"
 
 #include "automation/Text.h"
+#include "simulator/process/CommandBarSet.h"
 
 #include <algorithm>
 #include <utility>
@@ -94,8 +95,7 @@ public:
                                              {"MultimediaDir", R"(, "C:\Formation\", 0)"},
                                              {"PictureDir", R"(, "C:\Formation\", 0)"},
                                              {"TemplateDir", ", \"" + templates + "\", 0"}}));
-        const bool isRead = operation_.arrival == Arrival::Started;
-        add(Phase::Startup, isRead ? "Application.ShowStartupDialog = -1\n" : "Application.ShowStartupDialog = 0\n");
+        add(Phase::Startup, "Application.ShowStartupDialog = -1\n");
         bringToFront();
     }
 
@@ -159,12 +159,13 @@ Application.ShowStartupDialog
         }
         add(Phase::Obtaining, std::string("Windows.className((window))\n") +
                                   (operation_.isHeld ? "Windows.isVisible((window))\n" : "Windows.isVisible(0)\n") +
-                                  "Windows.isVisible((window))\n");
+                                  "Windows.isVisible((window))\n" +
+                                  (operation_.isHeld ? "" : "Application.ShowStartupDialog\n"));
     }
 
     void save() {
         add(Phase::Saving, "Application.CommandBars.Count\n" +
-                               places(bars, "Application.CommandBars.Item(", ").Visible\n") +
+                               places(bars, "Application.CommandBars.Item(", ").Visible\nCommandBar.Name\n") +
                                folders("query", {{"Default", ", 255"},
                                                  {"MultimediaDir", ", 255"},
                                                  {"PictureDir", ", 255"},
@@ -236,6 +237,7 @@ Registry.close
     /// By hand the learner has hidden the formatting bar, put the drawing bar at the top and switched the tooltips off.
     void putBarsBack() {
         const bool isArranged = operation_.arrival != Arrival::Fresh;
+        const simulator::CommandBarSet installed;
         std::string lines = arrangedBars({"Position"});
         if (isArranged) {
             const std::string drawing = bar(R"("Drawing")", "Position");
@@ -244,9 +246,11 @@ Registry.close
         }
         for (int i = 1; i <= bars; ++i) {
             const bool isHidden = i == taskPane || (isArranged && i == drawingBar);
-            lines += bar(std::to_string(i), "Visible");
-            lines += isHidden ? bar(std::to_string(i), "Visible = True") : "";
-            lines += isArranged && i == formattingBar ? bar(std::to_string(i), "Visible = False") : "";
+            const std::string name =
+                '"' + automation::toUtf8(installed.bars[static_cast<std::size_t>(i - 1)].name) + '"';
+            lines += bar(name, "Visible");
+            lines += isHidden ? bar(name, "Visible = True") : "";
+            lines += isArranged && i == formattingBar ? bar(name, "Visible = False") : "";
         }
         lines += arrangedBars({"Enabled"}) + "Application.CommandBars.DisplayTooltips\n";
         add(Phase::Returning, lines + (isArranged ? "Application.CommandBars.DisplayTooltips = False\n" : ""));

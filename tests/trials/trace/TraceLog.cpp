@@ -47,7 +47,7 @@ std::string TraceLog::take() {
 std::string TraceLog::lineOf(const automation::Crossing& crossing) {
     const std::string line = automation::toUtf8(crossing.display());
     if (crossing.border != automation::Border::Window || crossing.member == u"findWindow") {
-        return line.empty() ? "(default)" : line;
+        return line;
     }
     const std::u16string window = crossing.arguments.front().display();
     auto known = std::find(windows_.begin(), windows_.end(), window);

@@ -1,0 +1,221 @@
+#include "host/world/TemporaryFolder.h"
+#include "module/Module.h"
+#include "platform/observed/ObservedServices.h"
+#include "simulator/Machine.h"
+#include "simulator/process/Session.h"
+#include "tests/support/Errors.h"
+#include "tests/support/Script.h"
+
+namespace module_fault_tests {
+
+using automation::Access;
+using automation::Crossing;
+using automation::Value;
+using platform::Registry;
+
+constexpr std::u16string_view folder = u"C:\\Formation\\";
+
+/// Makes every call fail that a test picks.
+class FailingCalls final : public automation::Observer {
+public:
+    Value around(const Crossing& crossing, const Next& next) override {
+        if (fails && fails(crossing)) {
+            throw error;
+        }
+        return next();
+    }
+
+    std::function<bool(const Crossing&)> fails;
+    automation::Error error{automation::RunTimeError::PathAccess};
+};
+
+/// A module on a computer with the delivered file of question 301.
+class ModuleFaults : public testing::Test {
+public:
+    ModuleFaults() {
+        machine.startPowerPoint();
+        machine.createFile(std::u16string(folder) + u"x");
+        const automation::LateBound deck =
+            tests::ask(tests::ask(automation::LateBound(machine.application()), u"Presentations"), u"Add");
+        tests::ask(tests::ask(deck, u"Slides"), u"Add", 1, 12);
+        tests::say(deck, u"SaveAs", std::u16string(folder) + u"07305301.ppt");
+        tests::say(deck, u"Close");
+    }
+
+    void init() { module.InitQuestion(301, std::u16string(folder), application, window, u""); }
+
+    host::TemporaryFolder root;
+    simulator::Machine machine{root.path()};
+    std::shared_ptr<FailingCalls> calls = std::make_shared<FailingCalls>();
+    platform::ObservedServices observed{machine.services(), calls};
+    exercises::API api;
+    automation::ObjectPtr application;
+    std::int32_t window = -1;
+    k73053::Module module{api, observed.services()};
+};
+
+TEST_F(ModuleFaults, AKeyThatClosesBeforeTheFoldersChangeIsReported) {
+    constexpr std::u16string_view access = u"Impossible d'accéder en lecture-écriture à la clé de base de registre\n\r"
+                                           u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\"
+                                           u"Recent Folder List\\";
+    int opened = 0;
+    calls->fails = [&](const Crossing& crossing) {
+        return crossing.member == u"open" && crossing.display().find(u"RecentFolderList") != std::u16string::npos &&
+               ++opened > 5;
+    };
+    const auto error = errorOf([&] { init(); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->number(), static_cast<std::int32_t>(0x800403E8U));
+    EXPECT_EQ(error->source(), u"DLL K61027 - CLASSE Module\n\r - SERVICE ChangeDir - OBJET " + std::u16string(access) +
+                                   u"MultimediaDir");
+    EXPECT_EQ(machine.registryText(u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList", u"Default"),
+              folder);
+    const auto closing = errorOf([&] { module.Fermer(); });
+    ASSERT_TRUE(closing);
+    EXPECT_EQ(closing->source(), u"DLL K61027 - CLASSE Module\n\r - SERVICE RestaureParamUser - OBJET " +
+                                     std::u16string(access) + u"Default");
+    calls->fails = nullptr;
+    module.Fermer();
+    EXPECT_NE(machine.registryText(u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList", u"Default"),
+              folder)
+        << "the learner's folder comes back without a question";
+    EXPECT_EQ(errorNumber([&] { module.Fermer(); }), 91) << "nothing is kept any more";
+}
+
+TEST_F(ModuleFaults, EveryOperationIsRefusedInEveryCallOfEveryOther) {
+    k73053::Module another(api, observed.services());
+    automation::ObjectPtr nothing;
+    std::int32_t unknown = -1;
+    std::size_t entered = 0;
+    bool isProbing = false;
+    const auto expectRefused = [&](std::u16string_view operation, const auto& call) {
+        const auto refused = errorOf(call);
+        ASSERT_TRUE(refused);
+        EXPECT_EQ(refused->number(), automation::remote::retryLater);
+        EXPECT_TRUE(refused->source().starts_with(u"DLL K61027 - CLASSE Module\n\r - SERVICE " +
+                                                  std::u16string(operation) + u" - OBJET "));
+    };
+    calls->fails = [&](const Crossing&) {
+        if (std::exchange(isProbing, true)) {
+            return false;
+        }
+        for (k73053::Module* const probed : {&module, &another}) {
+            expectRefused(u"InitQuestion", [&] { probed->InitQuestion(302, u"D:\\", nothing, unknown, u""); });
+            expectRefused(u"TestePoint", [&] { probed->TestePoint(); });
+            expectRefused(u"Fermer", [&] { probed->Fermer(); });
+            expectRefused(u"Quitter", [&] { probed->Quitter(nothing, unknown); });
+            static_cast<void>(probed->ErreurGenerale());
+            static_cast<void>(errorNumber([&] { static_cast<void>(probed->CauseErreur()); }));
+            static_cast<void>(errorNumber([&] { static_cast<void>(probed->BravoNuance()); }));
+            static_cast<void>(errorNumber([&] { static_cast<void>(probed->Complement()); }));
+        }
+        ++entered;
+        isProbing = false;
+        return false;
+    };
+    const auto runs = [&](const auto& operation) {
+        const std::size_t before = entered;
+        operation();
+        EXPECT_GT(entered, before);
+    };
+    runs([&] { init(); });
+    runs([&] { module.TestePoint(); });
+    EXPECT_FALSE(module.ErreurGenerale());
+    EXPECT_EQ(module.CauseErreur(), u"");
+    runs([&] { module.Fermer(); });
+    runs([&] { module.Quitter(application, window); });
+    EXPECT_FALSE(machine.isPowerPointRunning());
+    calls->fails = nullptr;
+    EXPECT_EQ(errorNumber([&] { another.Fermer(); }), 91) << "free again";
+}
+
+TEST_F(ModuleFaults, NothingIsNothingHoweverTheHostSaysIt) {
+    Value brought; // empty, as null arrives as well
+    Value handle(std::int32_t{-1});
+    const automation::LateBound host(std::shared_ptr<automation::Object>(&module, [](automation::Object*) {}));
+    const auto start = [&] {
+        host.call(u"InitQuestion", std::int32_t{301}, folder, Value::reference(brought), Value::reference(handle), u"");
+    };
+    start();
+    EXPECT_TRUE(brought.isObject());
+    host.call(u"Quitter", Value::reference(brought), Value::reference(handle));
+    EXPECT_EQ(brought, Value(nullptr));
+    EXPECT_EQ(errorNumber(start), 53) << "taken for nothing; what is missing now is the delivered file";
+}
+
+TEST_F(ModuleFaults, AnObjectThatTheModuleDropsIsGoneAtOnce) {
+    struct Remembered final : automation::Object {
+        Value invoke(const automation::Name&, Access, std::span<Value>) override { return {}; }
+    };
+    auto object = std::make_shared<Remembered>();
+    const std::weak_ptr<Remembered> old = object;
+    Value brought(std::move(object));
+    Value handle(std::int32_t{12345});
+    bool isDropped = false;
+    calls->fails = [&](const Crossing& crossing) {
+        EXPECT_EQ(old.expired(), isDropped);
+        isDropped = isDropped || crossing.member == u"className"; // of a window that is no more
+        return false;
+    };
+    const automation::LateBound host(std::shared_ptr<automation::Object>(&module, [](automation::Object*) {}));
+    host.call(u"InitQuestion", std::int32_t{301}, folder, Value::reference(brought), Value::reference(handle), u"");
+    calls->fails = nullptr;
+}
+
+TEST_F(ModuleFaults, BarsThatNoCloseCouldPutBackComeBackAtRelease) {
+    const auto taskPane = [&]() -> simulator::CommandBar& {
+        simulator::CommandBarSet& all = machine.session()->settings().commandBars;
+        return all.bars[all.find(u"Task Pane")];
+    };
+    ASSERT_TRUE(taskPane().visible);
+    {
+        k73053::Module closing(api, observed.services());
+        closing.InitQuestion(301, std::u16string(folder), application, window, u"");
+        EXPECT_FALSE(taskPane().visible);
+        calls->fails = [](const Crossing& crossing) { return crossing.member == u"WindowState"; };
+        closing.Fermer();
+        EXPECT_FALSE(taskPane().visible);
+        calls->fails = nullptr;
+    }
+    EXPECT_TRUE(taskPane().visible);
+}
+
+TEST_F(ModuleFaults, ABarThatComesMeanwhileShiftsNoOther) {
+    init();
+    std::vector<simulator::CommandBar>& bars = machine.session()->settings().commandBars.bars;
+    simulator::CommandBar shown;
+    shown.name = u"Nouvelle";
+    shown.visible = true;
+    std::vector<simulator::CommandBar> expected = bars;
+    bars.insert(bars.begin(), shown);
+    module.Fermer();
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        const bool isLearners = expected[i].name == u"Task Pane" || expected[i].visible;
+        EXPECT_EQ(bars[i + 1].visible, isLearners) << i;
+    }
+    EXPECT_TRUE(bars[0].visible);
+}
+
+TEST_F(ModuleFaults, APowerPointThatDiesWhileItIsAttachedToIsReplaced) {
+    calls->error = automation::Error(static_cast<std::int32_t>(0x80010012U), u"", u"");
+    std::vector<std::u16string> reached;
+    calls->fails = [&](const Crossing& crossing) {
+        const bool isFirst = crossing.member == u"Visible" && crossing.target == u"Application" &&
+                             std::find(reached.begin(), reached.end(), u"create") == reached.end();
+        reached.emplace_back(crossing.member);
+        return isFirst;
+    };
+    init();
+    EXPECT_EQ(std::count(reached.begin(), reached.end(), u"create"), 1);
+    calls->fails = nullptr;
+}
+
+TEST_F(ModuleFaults, DefaultIsWrittenFromABufferThatEndsWithANul) {
+    init();
+    const platform::OpenKey key(machine.services().registry,
+                                u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList", Registry::read);
+    EXPECT_EQ(key.query(u"Default"), std::u16string(folder) + u'\0');
+    EXPECT_EQ(key.query(u"PictureDir"), u"");
+}
+
+} // namespace module_fault_tests

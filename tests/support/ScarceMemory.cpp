@@ -1,0 +1,45 @@
+#include "tests/support/ScarceMemory.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+thread_local std::size_t allocationsLeft = 0; // 0 also where none is to fail
+thread_local bool struck = false;
+} // namespace
+
+void* operator new(std::size_t size) {
+    if (allocationsLeft != 0 && --allocationsLeft == 0) {
+        struck = true;
+        throw std::bad_alloc();
+    }
+    if (void* const memory = std::malloc(size == 0 ? 1 : size)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
+
+namespace tests {
+
+ScarceMemory::ScarceMemory(std::size_t position) noexcept {
+    struck = false;
+    allocationsLeft = position;
+}
+
+ScarceMemory::~ScarceMemory() {
+    allocationsLeft = 0;
+}
+
+bool ScarceMemory::hasStruck() noexcept {
+    return struck;
+}
+
+} // namespace tests
