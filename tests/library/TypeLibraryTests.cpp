@@ -138,7 +138,8 @@ TEST_F(TypeLibraryTest, IsGivenByEveryObject) {
     ComPtr<ITypeInfo> type;
     ASSERT_EQ(module->GetTypeInfo(0, 0, type.receive()), S_OK);
     EXPECT_EQ(described(*type.get(), MEMBERID_NIL).name, u"IModule");
-    EXPECT_EQ(module->GetTypeInfo(1, 0, type.receive()), DISP_E_BADINDEX);
+    ComPtr<ITypeInfo> none;
+    EXPECT_EQ(module->GetTypeInfo(1, 0, none.receive()), DISP_E_BADINDEX);
     EXPECT_EQ(module->GetTypeInfo(0, 0, nullptr), E_POINTER);
 }
 
