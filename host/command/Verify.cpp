@@ -73,7 +73,8 @@ public:
 
 private:
     FileResult run(const language::ScenarioFile& file) {
-        FileResult result{file.name, file.question, toUtf8(file.subject()), file.contract.meanings, {}};
+        FileResult result{
+            file.name, file.question, toUtf8(file.subject()), file.contract.meanings, {}, request_.sample.has_value()};
         Watch watch(at_.out);
         watch.next(file.name + ", its course");
         const Runner runner(file, at_.worlds.chosen());

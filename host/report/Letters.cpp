@@ -59,7 +59,7 @@ std::vector<language::Remark> lettersAmiss(const FileResult& file) {
         if (isDeclaring && !letter.isGeneral && letter.line == 0) {
             const std::size_t line = file.results.at(letter.reachedBy.front()).line;
             remarks.push_back({{line, 1}, "the host reads \"" + letter.letter + "\", a letter that is not declared"});
-        } else if (file.isQuestion() && letter.reachedBy.empty()) {
+        } else if (file.isQuestion() && !file.isSample && letter.reachedBy.empty()) {
             remarks.push_back({{letter.line, 1}, "no scenario reaches the letter \"" + letter.letter + "\""});
         }
     }

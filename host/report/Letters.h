@@ -16,7 +16,8 @@ struct Letter {
 /// The letters that a file declares and what else was read in its scenarios: first its own, then general errors.
 [[nodiscard]] std::vector<Letter> lettersOf(const FileResult& file);
 /// What a file that declares letters and its scenarios, which have all passed, lack of one another: a letter that is
-/// read and not declared; in the file that a question is named after also one that no scenario reaches.
+/// read and not declared; in the file that a question is named after also one that no scenario
+/// reaches, where all have run.
 [[nodiscard]] std::vector<language::Remark> lettersAmiss(const FileResult& file);
 
 } // namespace host::report
