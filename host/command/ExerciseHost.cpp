@@ -34,12 +34,12 @@ constexpr std::array commands{
     Command{"list", "List questions and scenarios", addList, false},
 };
 
-constexpr Program program{"exercise-host", purpose, examples, commands};
+constexpr Program itself{"exercise-host", purpose, examples, commands};
 
 } // namespace
 
 const Program& exerciseHost() noexcept {
-    return program;
+    return itself;
 }
 
 } // namespace host

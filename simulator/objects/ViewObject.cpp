@@ -30,9 +30,9 @@ const automation::MemberTable& ViewObject::members() const {
 }
 
 void ViewObject::setZoom(std::int32_t percent) const {
-    constexpr std::int32_t smallest = 10;
-    constexpr std::int32_t largest = 400;
-    if (percent < smallest || percent > largest) {
+    constexpr std::int32_t smallestZoom = 10;
+    constexpr std::int32_t largestZoom = 400;
+    if (percent < smallestZoom || percent > largestZoom) {
         errors::invalidRequest(u"View.Zoom", u"Le zoom va de 10 à 400.");
     }
     simulator::alive(window_)->zoom = percent;
