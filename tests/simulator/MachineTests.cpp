@@ -100,6 +100,23 @@ TEST_F(MachineTest, RefusesCallsWhileBusyAndOnceEnded) {
     }
 }
 
+TEST_F(MachineTest, LocksTheFilesOfItsPresentations) {
+    machine.startPowerPoint();
+    services.files.makeDirectories(u"C:\\Exercices\\");
+    const LateBound presentation = ask(ask(powerPoint(), u"Presentations"), u"Add");
+    say(presentation, u"SaveAs", u"C:\\Exercices\\a.ppt");
+    const auto remove = [&] { return errorNumber([&] { services.files.remove(u"C:\\Exercices\\A.ppt"); }); };
+    EXPECT_EQ(remove(), static_cast<std::int32_t>(RunTimeError::PermissionDenied));
+    EXPECT_EQ(errorNumber([&] { services.files.rename(u"C:\\Exercices\\a.ppt", u"C:\\Exercices\\c.ppt"); }),
+              static_cast<std::int32_t>(RunTimeError::PathAccess));
+    say(presentation, u"Close");
+    EXPECT_EQ(remove(), noError);
+    const auto error = errorOf([&] { ask(ask(powerPoint(), u"Presentations"), u"Item", 6); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->description(),
+              u"Presentations.Item : Entier hors limites. 6 n'appartient pas à la plage valide de 1 à 0.");
+}
+
 TEST_F(MachineTest, HasNoActivePresentationWhileInvisible) {
     const LateBound application(services.servers.create(programmaticId));
     const auto active = [&](std::u16string_view member) { return errorNumber([&] { say(application, member); }); };
