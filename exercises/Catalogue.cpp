@@ -6,7 +6,7 @@ QuestionPtr createQuestion(std::int32_t number, const Environment& environment) 
     if (number < firstQuestion || number > lastQuestion) {
         return nullptr;
     }
-    return questionClasses[static_cast<std::size_t>(number - firstQuestion)](number, environment);
+    return questionClasses.at(static_cast<std::size_t>(number - firstQuestion))(number, environment);
 }
 
 } // namespace exercises

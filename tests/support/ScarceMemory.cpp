@@ -3,6 +3,10 @@
 #include <cstdlib>
 #include <new>
 
+// What stands in for the language's own allocation cannot itself be made of containers and owners.
+// NOLINTBEGIN(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory,
+// cppcoreguidelines-avoid-non-const-global-variables)
+
 namespace {
 thread_local std::size_t allocationsLeft = 0; // 0 also where none is to fail
 thread_local bool struck = false;
@@ -34,6 +38,9 @@ void operator delete(void* memory) noexcept {
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
     std::free(memory);
 }
+
+// NOLINTEND(cppcoreguidelines-no-malloc, cppcoreguidelines-owning-memory,
+// cppcoreguidelines-avoid-non-const-global-variables)
 
 namespace tests {
 

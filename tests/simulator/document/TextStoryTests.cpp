@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace simulator {
-namespace text_story_tests {
+namespace simulator::text_story_tests {
 
 using Texts = std::vector<std::u16string>;
 
@@ -162,5 +161,4 @@ TEST(TextStory, AgreesWithAPlainListThroughManyEdits) {
     EXPECT_GT(longest, 40U);
 }
 
-} // namespace text_story_tests
-} // namespace simulator
+} // namespace simulator::text_story_tests

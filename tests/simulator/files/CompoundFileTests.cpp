@@ -6,8 +6,7 @@
 
 #include <set>
 
-namespace simulator::compound {
-namespace compound_file_tests {
+namespace simulator::compound::compound_file_tests {
 
 std::string patterned(std::size_t size, unsigned step) {
     std::string bytes(size, '\0');
@@ -98,5 +97,4 @@ TEST(CompoundFile, SaysWhatIsWrongWithADamagedFile) {
     }
 }
 
-} // namespace compound_file_tests
-} // namespace simulator::compound
+} // namespace simulator::compound::compound_file_tests

@@ -10,8 +10,7 @@
 
 #include <gtest/gtest.h>
 
-namespace simulator::powerpoint {
-namespace outline_file_tests {
+namespace simulator::powerpoint::outline_file_tests {
 
 using records::Record;
 namespace type = records::type;
@@ -114,5 +113,4 @@ TEST(OutlineFile, CopiesAndDeletedShapesKeepTheOutlineInOrder) {
     EXPECT_EQ(textsOf(*read->slides()[1]), (std::vector<std::u16string>{u""}));
 }
 
-} // namespace outline_file_tests
-} // namespace simulator::powerpoint
+} // namespace simulator::powerpoint::outline_file_tests

@@ -20,8 +20,7 @@
 #include <chrono>
 #include <fstream>
 
-namespace simulator {
-namespace presentation_file_tests {
+namespace simulator::presentation_file_tests {
 
 using records::Record;
 namespace type = records::type;
@@ -402,5 +401,4 @@ TEST_F(PresentationStoreTest, WritesTheOutlineAsRichText) {
                                     "}\n");
 }
 
-} // namespace presentation_file_tests
-} // namespace simulator
+} // namespace simulator::presentation_file_tests

@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace simulator::records {
-namespace record_tests {
+namespace simulator::records::record_tests {
 
 constexpr std::uint16_t unknown = 0x2BAD;
 
@@ -46,5 +45,4 @@ TEST(Records, NameTheDamagedOneAndItsPlace) {
     }
 }
 
-} // namespace record_tests
-} // namespace simulator::records
+} // namespace simulator::records::record_tests
