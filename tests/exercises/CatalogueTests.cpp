@@ -77,7 +77,7 @@ TEST(Catalogue, EachQuestionIsKnownInEveryPlaceThatSpeaksOfIt) {
             ADD_FAILURE() << error.message;
             EXPECT_NE(rowsIn(guide, number), "") << "docs/integrator.md has no row of " << number;
         }
-        EXPECT_NO_THROW(static_cast<void>(trials::learners::makeJudge(number)))
+        EXPECT_NO_THROW(static_cast<void>(trials::learners::judgeOf(number)))
             << "tests/trials/learners/Judge.cpp has no judge of " << number;
         EXPECT_NO_THROW(static_cast<void>(trials::trace::prepareOf(number)))
             << "tests/trials/trace/Questions.cpp does not say what " << number << " reads";

@@ -15,8 +15,7 @@ std::u16string fullName(const simulator::Presentation& presentation) {
 } // namespace
 
 void Examiner::begun(const Scene& scene) {
-    judge_ = makeJudge(question_);
-    judge_->prepared(scene);
+    judge_ = judgeOf(question_)(scene);
     expectedMarks_ = static_cast<std::ptrdiff_t>(scene.active()->slides().size());
     kept_ = Reading();
 }
@@ -28,7 +27,7 @@ Reading Examiner::examine(const Scene& scene) {
         reading.causeErreur = letter;
         return reading;
     }
-    const Verdict verdict = judge_->verdict(scene);
+    const Verdict verdict = judge_(scene);
     kept_.complement = verdict.complement;
     kept_.bravoNuance = kept_.bravoNuance || verdict.isRemark;
     if (!verdict.letter.empty()) {

@@ -30,7 +30,7 @@ private:
     void compareSlides(const simulator::Presentation& presentation);
 
     std::int32_t question_;
-    JudgePtr judge_;
+    Judge judge_;
     std::ptrdiff_t expectedMarks_ = 0; ///< marked slides, less those that the checks since have counted
     Slides slides_;                    ///< as they were compared last, if only for a question before
     Reading kept_;                     ///< the question's own letter, remark and complement

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "automation/Unmoved.h"
 #include "tests/trials/learners/Work.h"
 
+#include <functional>
 #include <optional>
 
 namespace trials::learners {
@@ -21,18 +21,12 @@ struct Verdict {
 };
 
 /// Judges a learner's work on one question by the state in which it is left: by itself, without the module.
-class Judge : automation::Unmoved {
-public:
-    virtual ~Judge() = default;
+using Judge = std::function<Verdict(const Scene&)>;
 
-    /// The question has been prepared, and the learner is about to begin.
-    virtual void prepared(const Scene& /*scene*/) {}
-    [[nodiscard]] virtual Verdict verdict(const Scene& scene) const = 0;
-};
+/// Makes the judge of a question that has been prepared, and whose learner is about to begin.
+using JudgeMaker = Judge (*)(const Scene& prepared);
 
-using JudgePtr = std::unique_ptr<Judge>;
-
-/// The judge of a question. Raises std::out_of_range where there is none.
-[[nodiscard]] JudgePtr makeJudge(std::int32_t question);
+/// The one of a question. Raises std::out_of_range where there is none.
+[[nodiscard]] JudgeMaker judgeOf(std::int32_t question);
 
 } // namespace trials::learners

@@ -1,6 +1,6 @@
 #include "tests/trials/learners/judges/Judges.h"
 
-namespace trials::learners {
+namespace trials::learners::judges {
 
 namespace {
 
@@ -12,29 +12,22 @@ bool showsForSelecting(DocumentWindow& window, const simulator::Slide& slide) {
            window.shown().get() == &slide;
 }
 
-class CurveJudge final : public Judge {
-public:
-    Verdict verdict(const Scene& scene) const override {
-        if (scene.slide(1) == nullptr) {
-            return Verdict::refused();
-        }
-        const Work work(scene, 1);
-        const std::size_t freeforms = work.added(simulator::msoFreeform);
-        if (work.addedGroups() != 0 || freeforms != 1) {
-            return Verdict::of(work.addedGroups() != 0 ? u"Z" : freeforms == 0 ? u"A" : u"B");
-        }
-        if (!showsForSelecting(*scene.window(), *scene.slide(1))) {
-            return Verdict::refused();
-        }
-        const bool isClosed = work.addedThat([](const Found& found) { return found.shape->closed; }) != 0;
-        return Verdict::of(isClosed ? u"" : u"C");
-    }
-};
-
 } // namespace
 
-JudgePtr makeCurveJudge() {
-    return std::make_unique<CurveJudge>();
+Verdict curve(const Scene& scene) {
+    if (scene.slide(1) == nullptr) {
+        return Verdict::refused();
+    }
+    const Work work(scene, 1);
+    const std::size_t freeforms = work.added(simulator::msoFreeform);
+    if (work.addedGroups() != 0 || freeforms != 1) {
+        return Verdict::of(work.addedGroups() != 0 ? u"Z" : freeforms == 0 ? u"A" : u"B");
+    }
+    if (!showsForSelecting(*scene.window(), *scene.slide(1))) {
+        return Verdict::refused();
+    }
+    const bool isClosed = work.addedThat([](const Found& found) { return found.shape->closed; }) != 0;
+    return Verdict::of(isClosed ? u"" : u"C");
 }
 
-} // namespace trials::learners
+} // namespace trials::learners::judges

@@ -2,7 +2,7 @@
 
 #include <set>
 
-namespace trials::learners::judges::handling {
+namespace trials::learners::judges {
 
 namespace {
 
@@ -21,19 +21,6 @@ std::set<const Shape*> selected(const Work& work) {
     return outermost;
 }
 
-constexpr auto selecting = std::to_array<Rule>({
-    {u"A", [](const Work& work) { return work.misses(u"ZOR2"); }},
-    {u"Z", [](const Work& work) { return work.isInGroup(u"ZOR2"); }},
-    {u"B", [](const Work& work) { return work.scene().window()->selection.type() != simulator::ppSelectionShapes; }},
-    {u"C", [](const Work& work) { return selected(work).size() > 1; }},
-    {u"B", [](const Work& work) { return markOf(**selected(work).begin()) != u"ZOR2"; }},
-});
-
-constexpr auto deleting = std::to_array<Rule>({
-    {u"A", [](const Work& work) { return !work.misses(u"ZOR3"); }},
-    {u"B", [](const Work& work) { return work.misses(u"ZOR1") || work.misses(u"ZOR2"); }},
-});
-
 /// The items of the backmost group added.
 const std::vector<ShapePtr>& itemsOfNewGroup(const Work& work) {
     const auto group =
@@ -46,26 +33,30 @@ bool isInNewGroup(const Work& work, std::u16string_view mark) {
     return std::any_of(items.begin(), items.end(), [mark](const ShapePtr& item) { return markOf(*item) == mark; });
 }
 
-constexpr auto grouping = std::to_array<Rule>({
-    {u"A", [](const Work& work) { return work.misses(u"ZOR4"); }},
-    {u"B", [](const Work& work) { return work.misses(u"ZOR2"); }},
-    {u"E", [](const Work& work) { return work.addedGroups() == 0; }},
-    {u"F", [](const Work& work) { return work.addedGroups() > 1; }},
-    {u"C", [](const Work& work) { return !isInNewGroup(work, u"ZOR4"); }},
-    {u"D", [](const Work& work) { return !isInNewGroup(work, u"ZOR2"); }},
-    {u"H", [](const Work& work) { return itemsOfNewGroup(work).size() > 2; }},
-});
-
-constexpr auto all = std::to_array<RuleBook>({
-    {310, 1, selecting},
-    {313, 1, deleting},
-    {322, 1, grouping},
-});
-
 } // namespace
 
-std::span<const RuleBook> books() noexcept {
-    return all;
+std::u16string_view selecting(const Work& work) {
+    return work.misses(u"ZOR2")                                                      ? u"A"
+           : work.isInGroup(u"ZOR2")                                                 ? u"Z"
+           : work.scene().window()->selection.type() != simulator::ppSelectionShapes ? u"B"
+           : selected(work).size() > 1                                               ? u"C"
+           : markOf(**selected(work).begin()) != u"ZOR2"                             ? u"B"
+                                                                                     : u"";
 }
 
-} // namespace trials::learners::judges::handling
+std::u16string_view deleting(const Work& work) {
+    return !work.misses(u"ZOR3") ? u"A" : work.misses(u"ZOR1") || work.misses(u"ZOR2") ? u"B" : u"";
+}
+
+std::u16string_view grouping(const Work& work) {
+    return work.misses(u"ZOR4")               ? u"A"
+           : work.misses(u"ZOR2")             ? u"B"
+           : work.addedGroups() == 0          ? u"E"
+           : work.addedGroups() > 1           ? u"F"
+           : !isInNewGroup(work, u"ZOR4")     ? u"C"
+           : !isInNewGroup(work, u"ZOR2")     ? u"D"
+           : itemsOfNewGroup(work).size() > 2 ? u"H"
+                                              : u"";
+}
+
+} // namespace trials::learners::judges

@@ -1,48 +1,46 @@
 #pragma once
 
-#include "tests/trials/learners/RuleJudge.h"
+#include "tests/trials/learners/Judge.h"
 
-#include <array>
+/// What each question comes to.
+namespace trials::learners::judges {
 
-namespace trials::learners {
+/// The letter of the first fault of the work on a slide; empty where nothing is wrong.
+///@{
+[[nodiscard]] std::u16string_view box(const Work& work);
+[[nodiscard]] std::u16string_view selecting(const Work& work);
+[[nodiscard]] std::u16string_view moving(const Work& work);
+[[nodiscard]] std::u16string_view deleting(const Work& work);
+[[nodiscard]] std::u16string_view basicShape(const Work& work);
+[[nodiscard]] std::u16string_view stacking(const Work& work);
+[[nodiscard]] std::u16string_view filling(const Work& work);
+[[nodiscard]] std::u16string_view rectangle(const Work& work);
+[[nodiscard]] std::u16string_view sizing(const Work& work);
+[[nodiscard]] std::u16string_view sizingAndMoving(const Work& work);
+[[nodiscard]] std::u16string_view snapping(const Work& work);
+[[nodiscard]] std::u16string_view thirdDimension(const Work& work);
+[[nodiscard]] std::u16string_view grouping(const Work& work);
+[[nodiscard]] std::u16string_view wordArt(const Work& work);
+///@}
 
-/// The rule books of the questions that one slide decides.
-namespace judges {
-/// Place, size or order of shapes: 311, 315, 318, 319.
-namespace placing {
-[[nodiscard]] std::span<const RuleBook> books() noexcept;
-}
-/// New shapes: 309, 314, 317, 323.
-namespace drawing {
-[[nodiscard]] std::span<const RuleBook> books() noexcept;
-}
-/// Another look: 316, 320, 321.
-namespace looks {
-[[nodiscard]] std::span<const RuleBook> books() noexcept;
-}
-/// A selection, a deletion, a group: 310, 313, 322.
-namespace handling {
-[[nodiscard]] std::span<const RuleBook> books() noexcept;
-}
-} // namespace judges
+/// What is decided by more than the shapes of a slide.
+///@{
+[[nodiscard]] Verdict outline(const Scene& scene);
+[[nodiscard]] Verdict advice(const Scene& scene);
+[[nodiscard]] Verdict replacement(const Scene& scene);
+[[nodiscard]] Verdict spelling(const Scene& scene);
+[[nodiscard]] Verdict curve(const Scene& scene);
+///@}
 
-/// 304: a file in the host's folder.
-[[nodiscard]] JudgePtr makeFileJudge();
-/// 305: the text of a new slide.
-[[nodiscard]] JudgePtr makeAdviceJudge();
-/// 306 and 307: words of the whole presentation.
-[[nodiscard]] JudgePtr makeReplacementJudge();
-[[nodiscard]] JudgePtr makeSpellingJudge();
-/// 308: words of a paragraph and their colour.
-[[nodiscard]] JudgePtr makeSynonymJudge();
-/// 312: a freeform, closed or open.
-[[nodiscard]] JudgePtr makeCurveJudge();
-/// 301 to 303: nothing is asked.
-[[nodiscard]] JudgePtr makeContentJudge();
+/// Keeps an eye on the word to be replaced, whose colour counts as it is in the end.
+[[nodiscard]] Judge synonym(const Scene& prepared);
+
+/// Where the picture of the first slide stands.
+inline constexpr simulator::Frame sun{481.625F, 368.375F, 194.75F, 125.125F};
 
 /// True where a shape stands in a frame, to the last bit.
 [[nodiscard]] inline bool stands(const Found* found, const simulator::Frame& frame) noexcept {
     return found->shape->frame() == frame;
 }
 
-} // namespace trials::learners
+} // namespace trials::learners::judges

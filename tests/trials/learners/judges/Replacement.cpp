@@ -2,7 +2,7 @@
 #include "tests/trials/learners/judges/Judges.h"
 #include "tests/trials/learners/judges/Words.h"
 
-namespace trials::learners {
+namespace trials::learners::judges {
 
 namespace {
 
@@ -20,40 +20,26 @@ std::size_t count(const Scene& scene, std::u16string_view wanted) {
     return total;
 }
 
-class ReplacementJudge final : public Judge {
-public:
-    Verdict verdict(const Scene& scene) const override {
-        if (count(scene, u"faire") != 0) {
-            return Verdict::of(u"A");
-        }
-        const std::size_t replaced = count(scene, u"créer");
-        switch (replaced) {
-        case 0: return Verdict::of(u"B");
-        case 4: return {u"F", true, {}, {}};
-        default: return {u"C", false, {u" " + automation::fromUtf8(std::to_string(replaced))}, {}};
-        }
-    }
-};
-
-class SpellingJudge final : public Judge {
-public:
-    Verdict verdict(const Scene& scene) const override {
-        if (count(scene, u"Régles") != 0) {
-            return Verdict::of(u"A");
-        }
-        const bool isCorrected = count(scene, u"Règles") != 0;
-        return {isCorrected ? u"C" : u"B", isCorrected, {}, {}};
-    }
-};
-
 } // namespace
 
-JudgePtr makeReplacementJudge() {
-    return std::make_unique<ReplacementJudge>();
+Verdict replacement(const Scene& scene) {
+    if (count(scene, u"faire") != 0) {
+        return Verdict::of(u"A");
+    }
+    const std::size_t replaced = count(scene, u"créer");
+    switch (replaced) {
+    case 0: return Verdict::of(u"B");
+    case 4: return {u"F", true, {}, {}};
+    default: return {u"C", false, {u" " + automation::fromUtf8(std::to_string(replaced))}, {}};
+    }
 }
 
-JudgePtr makeSpellingJudge() {
-    return std::make_unique<SpellingJudge>();
+Verdict spelling(const Scene& scene) {
+    if (count(scene, u"Régles") != 0) {
+        return Verdict::of(u"A");
+    }
+    const bool isCorrected = count(scene, u"Règles") != 0;
+    return {isCorrected ? u"C" : u"B", isCorrected, {}, {}};
 }
 
-} // namespace trials::learners
+} // namespace trials::learners::judges

@@ -1,7 +1,7 @@
 #include "tests/trials/learners/judges/Judges.h"
 #include "tests/trials/learners/judges/Words.h"
 
-namespace trials::learners {
+namespace trials::learners::judges {
 
 namespace {
 
@@ -10,10 +10,9 @@ using simulator::TextStory;
 
 constexpr auto objectGone = static_cast<std::int32_t>(0x80048010);
 
-/// The judge of question 308. It keeps an eye on the word to be replaced, whose colour counts as it is in the end.
-class SynonymJudge final : public Judge {
+class SynonymJudge {
 public:
-    void prepared(const Scene& scene) override {
+    explicit SynonymJudge(const Scene& scene) {
         const simulator::ShapePtr& body = scene.slide(5)->shapes().at(1);
         shape_ = body;
         for (const Word& word : wordsOf(body->text->text())) {
@@ -23,7 +22,7 @@ public:
         }
     }
 
-    Verdict verdict(const Scene& scene) const override {
+    Verdict operator()(const Scene& scene) const {
         if (scene.slide(5) == nullptr) {
             return Verdict::refused();
         }
@@ -84,8 +83,8 @@ private:
 
 } // namespace
 
-JudgePtr makeSynonymJudge() {
-    return std::make_unique<SynonymJudge>();
+Judge synonym(const Scene& prepared) {
+    return SynonymJudge(prepared);
 }
 
-} // namespace trials::learners
+} // namespace trials::learners::judges
