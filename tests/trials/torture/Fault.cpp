@@ -39,62 +39,49 @@ private:
     World& world_;
 };
 
-std::string_view nameOf(Kind kind) noexcept {
-    switch (kind) {
-    case Kind::Exception: return "automation exception";
-    case Kind::Busy: return "server busy";
-    case Kind::Dead: return "server dead";
-    case Kind::OutOfMemory: return "out of memory";
-    case Kind::AccessDenied: return "access denied";
-    case Kind::Killed: return "PowerPoint killed";
-    case Kind::Dies: return "PowerPoint dies";
-    case Kind::Refuses: return "PowerPoint refuses";
-    case Kind::Late: return "PowerPoint answers late";
-    }
-    return "";
+/// What a kind of fault is called, the calls that can fail so, and what they raise.
+struct Nature {
+    std::string_view name;
+    bool (*fits)(Border);
+    Error error;
+};
+
+const Nature& natureOf(Kind kind) {
+    constexpr auto automationOnly = [](Border border) { return border == Border::Automation; };
+    constexpr auto allocating = [](Border border) { return border == Border::Automation || border == Border::File; };
+    constexpr auto ofSystem = [](Border border) { return border != Border::Automation; };
+    constexpr auto any = [](Border /*border*/) { return true; };
+    static const Error dead(automation::remote::serverUnavailable, u"Serveur", u"Le serveur RPC n'est pas disponible.");
+    static const Error refused(automation::remote::callRejected, u"", u"");
+    static const std::array<Nature, 9> all{{
+        {"automation exception", automationOnly,
+         Error(invalidRequest, u"Microsoft PowerPoint", u"Requête non valide.")},
+        {"server busy", automationOnly,
+         Error(automation::remote::callRejected, u"Appel", u"L'appel a été rejeté par l'appelé.")},
+        {"server dead", automationOnly, dead},
+        {"out of memory", allocating, Error(outOfMemory, u"Système", u"Mémoire insuffisante.")},
+        {"access denied", ofSystem, Error(RunTimeError::PathAccess)},
+        {"PowerPoint killed", any, dead},
+        {"PowerPoint dies", automationOnly, dead},
+        {"PowerPoint refuses", automationOnly, refused},
+        {"PowerPoint answers late", automationOnly, refused},
+    }};
+    return all.at(static_cast<std::size_t>(kind));
 }
 
 } // namespace
 
-bool Fault::fits(Border border) const noexcept {
-    switch (kind) {
-    case Kind::Exception:
-    case Kind::Busy:
-    case Kind::Dies:
-    case Kind::Refuses:
-    case Kind::Late:
-    case Kind::Dead: return border == Border::Automation;
-    case Kind::OutOfMemory: return border == Border::Automation || border == Border::File;
-    case Kind::AccessDenied: return border != Border::Automation;
-    case Kind::Killed: return true;
-    }
-    return false;
+bool Fault::fits(Border border) const {
+    return natureOf(kind).fits(border);
 }
 
 const Error& Fault::error() const {
-    static const Error exception(invalidRequest, u"Microsoft PowerPoint", u"Requête non valide.");
-    static const Error busy(automation::remote::callRejected, u"Appel", u"L'appel a été rejeté par l'appelé.");
-    static const Error refused(automation::remote::callRejected, u"", u"");
-    static const Error dead(automation::remote::serverUnavailable, u"Serveur", u"Le serveur RPC n'est pas disponible.");
-    static const Error memory(outOfMemory, u"Système", u"Mémoire insuffisante.");
-    static const Error denied(RunTimeError::PathAccess);
-    switch (kind) {
-    case Kind::Exception: return exception;
-    case Kind::Busy: return busy;
-    case Kind::Dead:
-    case Kind::Dies:
-    case Kind::Killed: return dead;
-    case Kind::Refuses:
-    case Kind::Late: return refused;
-    case Kind::OutOfMemory: return memory;
-    case Kind::AccessDenied: break;
-    }
-    return denied;
+    return natureOf(kind).error;
 }
 
 std::string Fault::display() const {
     const bool lasts = lasting == Lasting::FromThereOn && !isDeath();
-    return std::string(nameOf(kind)) + (lasts ? " from there on" : "");
+    return std::string(natureOf(kind).name) + (lasts ? " from there on" : "");
 }
 
 Strike Fault::at(std::size_t position, World& world) const {

@@ -24,7 +24,7 @@ struct Fault {
     Lasting lasting;
 
     /// True for the calls that can fail so.
-    [[nodiscard]] bool fits(automation::Border border) const noexcept;
+    [[nodiscard]] bool fits(automation::Border border) const;
     /// PowerPoint's process ends.
     [[nodiscard]] bool isDeath() const noexcept { return kind == Kind::Killed || kind == Kind::Dies; }
     /// The call is taken in the end: the host must not notice.

@@ -22,25 +22,27 @@ public:
     virtual void end(World& world) = 0;
 };
 
-/// Has the calls of a world in this process pass through an observer.
-class ObservedCalls final : public Tampering {
+/// Has the calls of a world in this process pass through an observer; must outlive the world.
+class ObservedCalls final : public Tampering, public automation::Observer {
 public:
-    using StrikeMaker = std::function<Strike(World&)>;
-
-    explicit ObservedCalls(StrikeMaker makeStrike);
-
-    automation::ObserverPtr observer() override;
-    void begin(World& world) override;
-    std::size_t calls(World& world) override;
-    bool hasStruck(World& world) override;
-    void end(World& world) override;
+    explicit ObservedCalls(std::function<Strike(World&)> makeStrike) : makeStrike_(std::move(makeStrike)) {}
+    automation::Value around(const automation::Crossing& crossing, const Next& next) override {
+        ++calls_;
+        return strike_.observer ? strike_.observer->around(crossing, next) : next();
+    }
+    automation::ObserverPtr observer() override { return {automation::ObserverPtr(), this}; }
+    void begin(World& world) override {
+        strike_ = makeStrike_(world);
+        calls_ = 0;
+    }
+    std::size_t calls(World& /*world*/) override { return calls_; }
+    bool hasStruck(World& /*world*/) override { return !strike_.hasStruck || strike_.hasStruck(); }
+    void end(World& /*world*/) override { strike_ = {}; }
 
 private:
-    class Switch;
-
-    StrikeMaker makeStrike_;
+    std::function<Strike(World&)> makeStrike_;
     Strike strike_;
-    std::shared_ptr<Switch> line_;
+    std::size_t calls_ = 0;
 };
 
 /// Has a PowerPoint in a process of its own misbehave, where a fault is given, at one of the calls that reach it.
