@@ -7,36 +7,39 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace tests {
 
 using automation::com::Bstr;
 using automation::com::ComPtr;
+using automation::com::Variant;
 
 ErrorSaid errorOfInterface(HRESULT status) {
-    ErrorSaid said{static_cast<std::uint32_t>(status), {}, {}};
+    ErrorSaid said;
+    said.number = static_cast<std::uint32_t>(status);
     ComPtr<IErrorInfo> info;
     if (GetErrorInfo(0, info.receive()) == S_OK) {
         Bstr source;
         Bstr description;
         info->GetSource(source.receive());
         info->GetDescription(description.receive());
+        info->GetHelpContext(&said.helpContext);
         said.source = source.text();
         said.description = description.text();
     }
     return said;
 }
 
-ErrorSaid errorOfCall(IDispatch& object, std::u16string_view member, const std::vector<automation::Value>& arguments) {
+ErrorSaid errorOfInvoke(IDispatch& object, std::u16string_view member, std::vector<VARIANT> arguments) {
     const Bstr name(member);
     LPOLESTR asked = name.get();
     DISPID id = DISPID_UNKNOWN;
     EXPECT_EQ(object.GetIDsOfNames(IID_NULL, &asked, 1, 0, &id), S_OK);
-    std::vector<automation::com::Variant> given;
-    for (auto each = arguments.rbegin(); each != arguments.rend(); ++each) {
-        given.push_back(automation::com::variantOf(*each));
-    }
-    DISPPARAMS parameters{given.data(), nullptr, static_cast<UINT>(given.size()), 0};
-    automation::com::Variant result;
+    std::reverse(arguments.begin(), arguments.end());
+    DISPPARAMS parameters{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
+    Variant result;
     automation::com::ExceptionInfo raised;
     const HRESULT status =
         object.Invoke(id, IID_NULL, 0, DISPATCH_METHOD | DISPATCH_PROPERTYGET, &parameters, &result, &raised, nullptr);
@@ -44,9 +47,15 @@ ErrorSaid errorOfCall(IDispatch& object, std::u16string_view member, const std::
         return errorOfInterface(status);
     }
     ErrorSaid said{static_cast<std::uint32_t>(raised.scode), Bstr::textOf(raised.bstrSource),
-                   Bstr::textOf(raised.bstrDescription)};
+                   Bstr::textOf(raised.bstrDescription), raised.dwHelpContext};
     EXPECT_EQ(errorOfInterface(raised.scode), said);
     return said;
+}
+
+ErrorSaid errorOfCall(IDispatch& object, std::u16string_view member, const std::vector<automation::Value>& arguments) {
+    std::vector<Variant> held;
+    std::transform(arguments.begin(), arguments.end(), std::back_inserter(held), automation::com::variantOf);
+    return errorOfInvoke(object, member, std::vector<VARIANT>(held.begin(), held.end()));
 }
 
 } // namespace tests

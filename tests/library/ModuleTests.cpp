@@ -1,13 +1,13 @@
-#include "automation/com/ComError.h"
 #include "automation/com/Objects.h"
+#include "automation/com/Variant.h"
 #include "automation/com/WideText.h"
 #include "tests/library/ErrorSaid.h"
 #include "tests/library/Training.h"
 #include "tests/win32/TestWindow.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 namespace module_tests {
 
@@ -17,82 +17,64 @@ using automation::ObjectPtr;
 using automation::Value;
 using automation::com::Bstr;
 using automation::com::ComPtr;
+using automation::com::variantOf;
 using tests::errorOfCall;
 using tests::errorOfInterface;
+using tests::errorOfInvoke;
 using tests::ErrorSaid;
 using tests::UserHive;
 
 class ModuleTest : public tests::Training {
 protected:
-    /// InitQuestion must fail alike by vtable and by name.
-    void expectRefusal(std::int32_t question, const ErrorSaid& expected) {
-        EXPECT_EQ(errorOfInterface(init(question)), expected);
-        EXPECT_EQ(errorOfCall(*module_.get(), u"InitQuestion",
-                              {question, folderText(), powerPoint_.object(), std::int32_t{window_}, u""}),
-                  expected);
+    /// A service of a class must fail alike by vtable and by name.
+    void expectRaised(HRESULT status, std::u16string_view member, const std::vector<Value>& arguments,
+                      std::uint32_t number, std::u16string_view where, const std::u16string& text) {
+        const ErrorSaid expected{number, u"DLL K61027 - CLASSE " + std::u16string(where) + u" - OBJET " + text, text};
+        EXPECT_EQ(errorOfInterface(status), expected);
+        EXPECT_EQ(errorOfCall(*module_.get(), member, arguments), expected);
     }
-    void expectVerdict(std::u16string_view cause) {
-        VARIANT_BOOL isGeneral = VARIANT_TRUE;
+    /// Question 305, with the verdict of a learner who has done nothing.
+    void open305() {
+        startPowerPoint();
+        deliver(305, 4);
+        std::ofstream(fs::path(folder_ + L"17305305.doc")) << "x";
+        ASSERT_EQ(init(305), S_OK);
         Bstr said;
         ASSERT_EQ(module_->TestePoint(), S_OK);
-        EXPECT_EQ(module_->ErreurGenerale(&isGeneral), S_OK);
-        EXPECT_EQ(isGeneral, VARIANT_FALSE);
         EXPECT_EQ(module_->CauseErreur(said.receive()), S_OK);
-        EXPECT_EQ(said.text(), cause);
-    }
-    static std::u16string report(std::u16string_view where, std::u16string_view object) {
-        return u"DLL K61027 - CLASSE " + std::u16string(where) + u" - OBJET " + std::u16string(object);
+        EXPECT_EQ(said.text(), u"A");
     }
 };
 
-TEST_F(ModuleTest, RefusesAQuestionThatThereIsNot) {
+TEST_F(ModuleTest, RefusesAQuestionAlikeByVtableAndByName) {
     startPowerPoint();
-    const std::u16string text = u"Variable objet ou variable de bloc With non définie";
-    expectRefusal(399, {0x800A005BU, report(u"Module\n\r - SERVICE Nettoyage", text), text});
-    EXPECT_EQ(init(300), static_cast<HRESULT>(0x800A005BU));
-}
-
-TEST_F(ModuleTest, RefusesAQuestionWhoseFileIsMissing) {
-    startPowerPoint();
-    const std::u16string text = u"Fichier introuvable";
-    expectRefusal(314, {0x800A0035U, report(u"Module\n\r - SERVICE Renomme", text), text});
-}
-
-TEST_F(ModuleTest, RefusesAKeyThatCannotBeRead) {
-    startPowerPoint();
-    const std::u16string start =
+    const std::u16string key =
         u"Impossible d'accéder en lecture-écriture à la clé de base de registre\n\rHKEY_CURRENT_USER\\";
-    const auto expected = [&](const wchar_t* key) {
-        const std::u16string text = start + automation::com::fromWide(key);
-        return ErrorSaid{0x800403E8U, report(u"Module\n\r - SERVICE InitQuestion", text), text};
+    const struct {
+        std::int32_t question;
+        const wchar_t* missingKey;
+        std::uint32_t number;
+        std::u16string service;
+        std::u16string text;
+    } cases[] = {
+        {399, nullptr, 0x800A005BU, u"Nettoyage", u"Variable objet ou variable de bloc With non définie"},
+        {300, nullptr, 0x800A005BU, u"Nettoyage", u"Variable objet ou variable de bloc With non définie"},
+        {314, nullptr, 0x800A0035U, u"Renomme", u"Fichier introuvable"},
+        {314, shellFolders, 0x800403E8U, u"InitQuestion", key + automation::com::fromWide(shellFolders)},
+        {314, officeSettings, 0x800403E8U, u"InitQuestion", key + automation::com::fromWide(officeSettings)},
     };
-    UserHive::removeKey(shellFolders);
-    EXPECT_EQ(errorOfInterface(init(314)), expected(shellFolders));
-    UserHive::removeKey(officeSettings);
-    expectRefusal(314, expected(officeSettings));
-}
-
-TEST_F(ModuleTest, TakesNothingHoweverAHostSaysIt) {
-    startPowerPoint();
-    const LateBound module(automation::com::objectOf(module_.get()));
-    for (const Value& nothing : {Value(), Value(nullptr)}) {
-        Value application = nothing;
-        Value window = -1;
-        deliver(314, 1);
-        module.call(u"InitQuestion", 314, folderText(), Value::reference(application), Value::reference(window), u"");
-        EXPECT_TRUE(isSame(application.to<ObjectPtr>(), powerPoint_.object()));
-        EXPECT_EQ(window, Value(std::int32_t{mainWindow()}));
-        EXPECT_EQ(module_->Fermer(), S_OK);
+    for (const auto& [question, missingKey, number, service, text] : cases) {
+        if (missingKey != nullptr) {
+            UserHive::removeKey(missingKey);
+        }
+        expectRaised(init(question), u"InitQuestion",
+                     {question, folderText(), powerPoint_.object(), std::int32_t{window_}, u""}, number,
+                     u"Module\n\r - SERVICE " + service, text);
     }
-    powerPoint_ = LateBound(); // the module has taken it over, and ends it
 }
 
 TEST_F(ModuleTest, RaisesThePassingAttemptOfQuestion305) {
-    startPowerPoint();
-    deliver(305, 4);
-    std::ofstream(fs::path(folder_ + L"17305305.doc")) << "x";
-    ASSERT_EQ(init(305), S_OK);
-    expectVerdict(u"A");
+    open305();
     const LateBound texts = [&] {
         const LateBound slide(slides().call(u"Add", 5, 2).to<ObjectPtr>());
         return LateBound(slide.get(u"Shapes").to<ObjectPtr>());
@@ -106,24 +88,15 @@ TEST_F(ModuleTest, RaisesThePassingAttemptOfQuestion305) {
     write(2, u"5 à 6 mots par ligne\r5 à 6 lignes par diapositive\r"
              u"Police et Taille des caractères parfaitement lisibles\r"
              u"Fort contraste entre couleur d'arrière-plan et couleur des caractères");
-    const ErrorSaid expected{0x800A0005U, report(u"Question0305\n\r - SERVICE TestePoint", u""), u""};
-    EXPECT_EQ(errorOfInterface(module_->TestePoint()), expected);
-    EXPECT_EQ(errorOfCall(*module_.get(), u"TestePoint", {}), expected);
+    expectRaised(module_->TestePoint(), u"TestePoint", {}, 0x800A0005U, u"Question0305\n\r - SERVICE TestePoint", u"");
     EXPECT_EQ(module_->Fermer(), S_OK);
 }
 
 TEST_F(ModuleTest, GivesTheTextsOfACheckByTheHostsInterface) {
-    startPowerPoint();
-    deliver(305, 4);
-    std::ofstream(fs::path(folder_ + L"17305305.doc")) << "x";
-    ASSERT_EQ(init(305), S_OK);
-    expectVerdict(u"A");
+    open305();
     ComPtr<TableauTexte> texts;
     ASSERT_EQ(module_->Complement(texts.receive()), S_OK);
-    LONG count = 0;
     Bstr text;
-    EXPECT_EQ(texts->count(&count), S_OK);
-    EXPECT_EQ(count, 1);
     EXPECT_EQ(texts->item(1, text.receive()), S_OK);
     EXPECT_EQ(text.text(), u" 4");
     const LateBound late(automation::com::objectOf(module_.get()));
@@ -166,7 +139,13 @@ TEST_F(ModuleTest, WritesTheHostsReferencesBack) {
     ASSERT_EQ(init(314), S_OK);
     EXPECT_EQ(window_, window);
     EXPECT_EQ(application_, hosts) << "what is not replaced is left alone";
+    EXPECT_EQ(UserHive::stored(recentFolders, L"Default"), UserHive::text(folder_, 1)) << "with the NUL that follows";
+    EXPECT_EQ(UserHive::stored(recentFolders, L"PictureDir"), UserHive::text(L""));
     EXPECT_EQ(module_->Fermer(), S_OK);
+    for (const wchar_t* const name : recentNames) {
+        const std::wstring learners = std::wstring(L"C:\\\u00C9l\u00E8ve\\") + name;
+        EXPECT_EQ(UserHive::stored(recentFolders, name), UserHive::text(learners, 1));
+    }
 
     application_->Release();
     application_ = nullptr;
@@ -185,15 +164,20 @@ TEST_F(ModuleTest, WritesTheHostsReferencesBack) {
 
 TEST_F(ModuleTest, WritesThemBackToALateBoundHost) {
     startPowerPoint();
-    deliver(314, 1);
     const LateBound module(automation::com::objectOf(module_.get()));
-    Value application = nullptr;
-    Value window = std::int32_t{-1};
-    module.call(u"InitQuestion", 314, folderText(), Value::reference(application), Value::reference(window), u"");
-    EXPECT_EQ(window, Value(std::int32_t{mainWindow()}));
-    EXPECT_TRUE(isSame(application.to<ObjectPtr>(), powerPoint_.object()));
-    module.call(u"TestePoint");
-    EXPECT_EQ(module.call(u"CauseErreur"), Value(u"A"));
+    Value application;
+    Value window;
+    for (const Value& nothing : {Value(), Value(nullptr)}) {
+        application = nothing;
+        window = -1;
+        deliver(314, 1);
+        module.call(u"InitQuestion", 314, folderText(), Value::reference(application), Value::reference(window), u"");
+        EXPECT_TRUE(isSame(application.to<ObjectPtr>(), powerPoint_.object()));
+        EXPECT_EQ(window, Value(std::int32_t{mainWindow()}));
+        module.call(u"TestePoint");
+        EXPECT_EQ(module.call(u"CauseErreur"), Value(u"A"));
+        module.call(u"Fermer");
+    }
     module.call(u"Quitter", Value::reference(application), Value::reference(window));
     EXPECT_EQ(application, Value(nullptr));
     EXPECT_EQ(window, Value(std::int32_t{0}));
@@ -203,98 +187,32 @@ TEST_F(ModuleTest, WritesThemBackToALateBoundHost) {
 TEST_F(ModuleTest, WritesThemBackToVariablesOfTheirTypesAlsoWhereItRaises) {
     startPowerPoint();
     const LONG window = window_;
-    const auto call = [&](std::u16string_view member, std::vector<VARIANT> arguments) {
-        const Bstr name(member);
-        LPOLESTR asked = name.get();
-        DISPID id = DISPID_UNKNOWN;
-        EXPECT_EQ(module_->GetIDsOfNames(IID_NULL, &asked, 1, 0, &id), S_OK);
-        std::reverse(arguments.begin(), arguments.end());
-        DISPPARAMS given{arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
-        automation::com::ExceptionInfo raised;
-        const HRESULT status = module_->Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &given, nullptr, &raised, nullptr);
-        return status == DISP_E_EXCEPTION ? raised.scode : status;
-    };
     VARIANT application;
     application.vt = VT_BYREF | VT_DISPATCH;
     application.ppdispVal = &application_;
     VARIANT handle;
     handle.vt = VT_BYREF | VT_I4;
     handle.plVal = &window_;
-    const Bstr folder(folderText());
-    const auto init = [&](std::int32_t number) {
-        if (application_ != nullptr) {
-            application_->Release();
+    const auto question = variantOf(314);
+    const auto folder = variantOf(folderText());
+    const auto unused = variantOf(u"");
+    for (const std::uint32_t status : {0x800A0035U, 0U}) {
+        if (status == 0) {
+            deliver(314, 1); // its file was missing
         }
-        application_ = nullptr;
+        std::exchange(application_, nullptr)->Release();
         window_ = -1;
-        VARIANT question;
-        question.vt = VT_I4;
-        question.lVal = number;
-        VARIANT place;
-        place.vt = VT_BSTR;
-        place.bstrVal = folder.get();
-        VARIANT unused;
-        unused.vt = VT_BSTR;
-        unused.bstrVal = nullptr;
-        return call(u"InitQuestion", {question, place, application, handle, unused});
-    };
-    const auto expectWritten = [&] {
+        EXPECT_EQ(
+            errorOfInvoke(*module_.get(), u"InitQuestion", {question, folder, application, handle, unused}).number,
+            status);
         ASSERT_NE(application_, nullptr);
         EXPECT_TRUE(isSame(automation::com::objectOf(application_), powerPoint_.object()));
         EXPECT_EQ(window_, window);
-    };
-    EXPECT_EQ(static_cast<std::uint32_t>(init(314)), 0x800A0035U) << "its file is missing";
-    expectWritten();
-    deliver(314, 1);
-    EXPECT_EQ(init(314), S_OK);
-    expectWritten();
-    EXPECT_EQ(call(u"Quitter", {application, handle}), S_OK);
+    }
+    EXPECT_EQ(errorOfInvoke(*module_.get(), u"Quitter", {application, handle}).number, 0U);
     EXPECT_EQ(application_, nullptr);
     EXPECT_EQ(window_, 0);
     powerPoint_ = LateBound();
-}
-
-TEST_F(ModuleTest, LendsTheRecentFoldersToAQuestion) {
-    startPowerPoint();
-    deliver(314, 1);
-    const auto expectLearners = [&] {
-        for (const wchar_t* const name : recentNames) {
-            const std::wstring text = std::wstring(L"C:\\\u00C9l\u00E8ve\\") + name;
-            EXPECT_EQ(UserHive::stored(recentFolders, name), UserHive::text(text, 1));
-        }
-    };
-    expectLearners();
-    ASSERT_EQ(init(314), S_OK);
-    EXPECT_EQ(UserHive::stored(recentFolders, L"Default"), UserHive::text(folder_)) << "no terminating NUL is counted";
-    for (const wchar_t* const name : {L"MultimediaDir", L"PictureDir", L"TemplateDir"}) {
-        EXPECT_EQ(UserHive::stored(recentFolders, name), UserHive::text(L""));
-    }
-    EXPECT_EQ(module_->Fermer(), S_OK);
-    expectLearners();
-}
-
-TEST_F(ModuleTest, MakesTheTemplatesFolder) {
-    startPowerPoint();
-    const std::wstring usual = folder_ + L"profil\\microsoft\\mod\u00E8les\\ZOR Mod\u00E8les";
-    const struct {
-        std::optional<std::wstring> userTemplates;
-        std::wstring made;
-    } cases[] = {{std::nullopt, usual},
-                 {std::wstring(3, L'\0'), usual},
-                 {folder_ + L"Perso", folder_ + L"perso\\ZOR Mod\u00E8les"},
-                 {folder_ + L"Autre\\", folder_ + L"autre\\ZOR Mod\u00E8les"},
-                 {folder_ + L"Fait\\ZOR Mod\u00E8les", folder_ + L"fait"},
-                 {folder_ + L"Clos\\zor MOD\u00C8LES\\", folder_ + L"clos"}};
-    for (const auto& [userTemplates, made] : cases) {
-        if (userTemplates) {
-            UserHive::put(officeSettings, L"UserTemplates", *userTemplates);
-        }
-        EXPECT_FALSE(fs::exists(made));
-        EXPECT_TRUE(FAILED(init(399))) << "after the folder was made";
-        EXPECT_TRUE(fs::is_directory(made)) << fs::path(made);
-        EXPECT_FALSE(fs::exists(made + L"\\ZOR Mod\u00E8les")) << "a last name without a backslash is no folder's";
-        fs::remove_all(made);
-    }
 }
 
 } // namespace module_tests

@@ -8,15 +8,13 @@
 #include "automation/com/WideText.h"
 #include "tests/automation/com/Sample.h"
 #include "tests/support/Chance.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/Errors.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <deque>
 #include <functional>
-#include <limits>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -38,13 +36,15 @@ Value read(const VARIANT& variant) {
     return VariantReader().read(variant);
 }
 
-std::int32_t numberRaisedBy(const std::function<void()>& operation) {
-    try {
-        operation();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
+/// A reference to a variable of a type.
+VARIANT referenceTo(int type, VARIANT& variable) {
+    VARIANT reference;
+    VariantInit(&reference);
+    reference.vt = static_cast<VARTYPE>(VT_BYREF | type);
+    reference.byref = type == VT_VARIANT   ? static_cast<void*>(&variable)
+                      : type == VT_DECIMAL ? static_cast<void*>(&variable.decVal)
+                                           : static_cast<void*>(&variable.llVal);
+    return reference;
 }
 
 constexpr double beyond = 4294967296.0;
@@ -91,11 +91,7 @@ TEST(Variant, ReadsEveryType) {
             continue;
         }
         // The same behind a reference to a variable of that type, and to a VARIANT.
-        VARIANT reference;
-        VariantInit(&reference);
-        reference.vt = static_cast<VARTYPE>(VT_BYREF | variant.vt);
-        reference.byref = variant.vt == VT_DECIMAL ? const_cast<DECIMAL*>(&variant.decVal)
-                                                   : const_cast<void*>(static_cast<const void*>(&variant.llVal));
+        VARIANT reference = referenceTo(variant.vt, const_cast<Variant&>(variant));
         EXPECT_EQ(read(reference), expected) << "reference to type " << variant.vt;
         EXPECT_EQ(read(Variant::reference(reference)), expected) << "reference to a reference to type " << variant.vt;
     }
@@ -103,21 +99,11 @@ TEST(Variant, ReadsEveryType) {
 
 TEST(Variant, GivesBackWhatItWasGiven) {
     const auto sample = std::make_shared<tests::Sample>();
-    const Value values[] = {Empty(),
-                            Missing(),
-                            false,
-                            true,
-                            std::int16_t{-1},
-                            std::numeric_limits<std::int32_t>::min(),
-                            1.5F,
-                            -0.1,
-                            u"",
-                            std::u16string_view(u"a\0b\u00E9\U0001F600", 6),
-                            nullptr,
-                            sample,
-                            Array(),
-                            Array{1, u"deux", Array{sample, Empty()}, nullptr}};
-    for (const Value& value : values) {
+    constexpr std::u16string_view text(u"a\0b\u00E9\U0001F600", 6);
+    for (const Value& value :
+         {Value(), Value(Missing()), Value(false), Value(true), Value(std::int16_t{-1}), Value(INT32_MIN), Value(1.5F),
+          Value(-0.1), Value(u""), Value(text), Value(nullptr), Value(sample), Value(Array()),
+          Value(Array{1, u"deux", Array{sample, Empty()}, nullptr})}) {
         EXPECT_EQ(read(variantOf(value)), value) << toUtf8(value.display());
     }
 }
@@ -179,7 +165,7 @@ TEST(Variant, RefusesWhatCannotBeRead) {
         {Variant::reference(self), 7},
     };
     for (const auto& [variant, expected] : cases) {
-        EXPECT_EQ(numberRaisedBy([&] { static_cast<void>(read(variant)); }), expected) << "type " << variant.vt;
+        EXPECT_EQ(errorNumber([&] { static_cast<void>(read(variant)); }), expected) << "type " << variant.vt;
     }
 }
 
@@ -240,31 +226,23 @@ public:
 
 private:
     std::u16string text() {
-        static const std::vector<std::u16string> texts{u"",
-                                                       u"12",
-                                                       u"-1e309",
-                                                       u"vrai",
-                                                       std::u16string(3, u'\0'),
-                                                       std::u16string(1, u'\xD800'),
-                                                       std::u16string(3000, u'9')};
+        using namespace std::string_literals;
+        static const std::vector<std::u16string> texts{
+            u"", u"12", u"-1e309", u"vrai", u"\0\0\0"s, {u'\xD800'}, std::u16string(3000, u'9')};
         return chance_.of(texts);
     }
 
     /// A reference to what a VARIANT holds, or to it; now and then to nothing, or to itself.
     const VARIANT& reference(VARIANT& content, int depth) {
-        VARIANT& result = views_.emplace_back();
-        VariantInit(&result);
+        VARIANT& result = views_.emplace_back(referenceTo(content.vt, content));
         if (chance_.oneIn(2) || content.vt == VT_VARIANT) {
             result.vt = VT_BYREF | VT_VARIANT;
             result.pvarVal = chance_.oneIn(20)   ? nullptr
                              : chance_.oneIn(20) ? &result
                              : chance_.oneIn(2)  ? &const_cast<VARIANT&>(pick(depth + 1))
                                                  : &content;
-        } else {
-            result.vt = static_cast<VARTYPE>(content.vt | VT_BYREF);
-            result.byref = chance_.oneIn(10)          ? nullptr
-                           : content.vt == VT_DECIMAL ? static_cast<void*>(&content.decVal)
-                                                      : static_cast<void*>(&content.llVal);
+        } else if (chance_.oneIn(10)) {
+            result.byref = nullptr;
         }
         return result;
     }
@@ -305,10 +283,10 @@ private:
 
 /// True where an operation raises what the bridge says that it raises.
 bool isRefused(const std::function<void()>& operation) {
-    const std::int32_t number = numberRaisedBy(operation);
-    constexpr std::array known{0, 5, 6, 7, 13, 424, 91};
+    const std::int32_t number = errorNumber(operation);
+    constexpr std::array known{noError, 5, 6, 7, 13, 424, 91};
     EXPECT_NE(std::find(known.begin(), known.end(), number), known.end()) << number;
-    return number != 0;
+    return number != noError;
 }
 
 TEST(Variant, WithstandsWhatACarelessClientPasses) {
@@ -331,9 +309,7 @@ TEST(Variant, WithstandsWhatACarelessClientPasses) {
         VARIANT target = variant; // a pointer that the client owns, or none
         if (isReference(target) && target.vt != (VT_BYREF | VT_VARIANT)) {
             const auto type = static_cast<VARTYPE>(target.vt & ~VT_BYREF);
-            target.byref = target.byref == nullptr ? nullptr
-                           : type == VT_DECIMAL    ? static_cast<void*>(&variable.decVal)
-                                                   : static_cast<void*>(&variable.llVal);
+            target.byref = target.byref == nullptr ? nullptr : referenceTo(type, variable).byref;
             if (!isRefused([&] { assign(target, value.value_or(Empty())); })) {
                 ++assignments;
                 variable.vt = type;
@@ -356,7 +332,7 @@ TEST(Variant, WritesToVariablesOfEveryType) {
         int type;
         Value given;
         Value found;
-        int refused = 0;
+        int refused = noError;
     } cases[] = {
         {VT_I1, -5.0, std::int16_t{-5}},
         {VT_I1, 200, Empty(), 6},
@@ -393,20 +369,15 @@ TEST(Variant, WritesToVariablesOfEveryType) {
         // The variable is a VARIANT's content, so that it is cleared at the end as its type demands.
         Variant variable;
         variable.vt = static_cast<VARTYPE>(type == VT_VARIANT || type == VT_RECORD ? int{VT_EMPTY} : type);
-        VARIANT reference;
-        VariantInit(&reference);
-        reference.vt = static_cast<VARTYPE>(VT_BYREF | type);
-        reference.byref = type == VT_VARIANT   ? static_cast<void*>(&variable)
-                          : type == VT_DECIMAL ? static_cast<void*>(&variable.decVal)
-                                               : static_cast<void*>(&variable.llVal);
-        EXPECT_EQ(numberRaisedBy([&] { assign(reference, given); }), refused) << "type " << type;
-        if (refused == 0) {
+        VARIANT reference = referenceTo(type, variable);
+        EXPECT_EQ(errorNumber([&] { assign(reference, given); }), refused) << "type " << type;
+        if (refused == noError) {
             variable.vt = type == VT_VARIANT ? variable.vt : static_cast<VARTYPE>(type);
             EXPECT_EQ(read(variable), found) << "type " << type;
             assign(reference, given); // what was there is released
         }
         // A variable that refers to this one passes on what is written to it.
-        if (refused == 0 && type != VT_VARIANT) {
+        if (refused == noError && type != VT_VARIANT) {
             Variant passedOn;
             static_cast<VARIANT&>(passedOn) = reference;
             Variant outer = Variant::reference(passedOn);
@@ -416,12 +387,12 @@ TEST(Variant, WritesToVariablesOfEveryType) {
             EXPECT_EQ(read(variable), found) << "through others, type " << type;
         }
         reference.byref = nullptr;
-        EXPECT_NE(numberRaisedBy([&] { assign(reference, given); }), 0) << "null reference to type " << type;
+        EXPECT_NE(errorNumber([&] { assign(reference, given); }), noError) << "null reference to type " << type;
     }
     Variant circle;
     static_cast<VARIANT&>(circle) = Variant::reference(circle);
-    EXPECT_EQ(numberRaisedBy([&] { assign(circle, 1); }), 7);
-    EXPECT_EQ(numberRaisedBy([&] { read(circle); }), 7);
+    EXPECT_EQ(errorNumber([&] { assign(circle, 1); }), 7);
+    EXPECT_EQ(errorNumber([&] { read(circle); }), 7);
 }
 
 } // namespace variant_tests

@@ -93,7 +93,7 @@ TEST_F(WindowTest, FindsAndClosesTheDialogAboveAWindow) {
 
 TEST_F(WindowTest, DoesNotWaitLongForAWindowThatHangs) {
     const TestWindow window({.title = L"Boîte", .style = WS_OVERLAPPEDWINDOW | WS_VISIBLE});
-    window.hang(6500ms);
+    window.hang(5600ms);
     const auto start = Clock::now();
     EXPECT_EQ(windows_.title(handleOf(window)), u"Boîte");
     EXPECT_LT(Clock::now() - start, 2s) << "its thread is not asked";
