@@ -145,23 +145,6 @@ TEST(PresentationFile, KeepsEveryKind) {
     expectSame(slide->shapes(), read->slides().front()->shapes(), *read->slides().front());
 }
 
-TEST(PresentationFile, ReadsFiftySlidesQuickly) {
-    const auto presentation = std::make_shared<Presentation>();
-    for (int i = 0; i < 50; ++i) {
-        const auto slide = std::make_shared<Slide>();
-        for (int j = 0; j < 10; ++j) {
-            slide->add(richRectangle(), u"Rectangle");
-        }
-        presentation->insert(slide, 0);
-    }
-    const std::string file = powerpoint::writePresentation(*presentation);
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(powerpoint::readPresentation(file)->slides().size(), 50U);
-    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
-    std::cout << "50 slides of 10 shapes, " << file.size() << " bytes: " << taken.count() << " ms\n";
-    EXPECT_LT(taken.count(), 1000); // 50 on a machine that does nothing else, far more under sanitizers
-}
-
 /// What a file says of a presentation survives changes around it.
 TEST(PresentationFile, WritesChangesOverWhatWasRead) {
     const PresentationPtr presentation =
@@ -266,7 +249,8 @@ TEST(PresentationFile, SaysWhatIsWrongWithADamagedFile) {
     }
 }
 
-/// A slide with thousands of shapes of one number, of tags and of style runs: none is lost, none confused with another.
+/// A slide with thousands of shapes of one number, of tags and of style runs: none is lost, none confused with
+/// another, and they are read quickly.
 TEST(PresentationFile, ReadsManyShapesOfOneNumber) {
     const auto origin = powerpoint::readObjects(powerpoint::writePresentation(*richPresentation()));
     powerpoint::PersistObjects objects = origin->objects;
@@ -294,7 +278,9 @@ TEST(PresentationFile, ReadsManyShapesOfOneNumber) {
         record.children.push_back(std::move(tags));
     });
     const std::string file = powerpoint::writeObjects(objects, origin->userEdit, *origin);
+    const auto start = std::chrono::steady_clock::now();
     const PresentationPtr read = powerpoint::readPresentation(file);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2)); // 20 ms, far more under sanitizers
     EXPECT_EQ(read->slides().front()->tags.all().size(), std::size_t{many});
     EXPECT_GE(read->slides().front()->shapes().size(), std::size_t{many});
 }

@@ -12,7 +12,6 @@ using simulator::EmbeddedFiles;
 
 constexpr auto fileNotFound = static_cast<std::int32_t>(RunTimeError::FileNotFound);
 constexpr auto alreadyExists = static_cast<std::int32_t>(RunTimeError::FileAlreadyExists);
-constexpr auto permissionDenied = static_cast<std::int32_t>(RunTimeError::PermissionDenied);
 constexpr auto pathAccess = static_cast<std::int32_t>(RunTimeError::PathAccess);
 constexpr auto pathNotFound = static_cast<std::int32_t>(RunTimeError::PathNotFound);
 constexpr std::uint32_t hiddenAndSystem = platform::FileSystem::hiddenAndSystem;
@@ -104,14 +103,6 @@ TEST_F(EmbeddedFilesTest, HeedsAttributes) {
     EXPECT_EQ(errorNumber([&] { files.setAttributes(u"C:\\a\\x.ppt", 0); }), fileNotFound);
     EXPECT_EQ(errorNumber([&] { files.clearAttributes(u"C:\\a\\x.ppt"); }), fileNotFound);
     EXPECT_EQ(errorNumber([&] { files.clearAttributes(u"C:\\absent\\x.ppt"); }), pathNotFound);
-}
-
-TEST_F(EmbeddedFilesTest, LeavesOpenFilesWhereTheyAre) {
-    files.create(u"C:\\a\\x.ppt");
-    files.setIsOpen([&](const std::filesystem::path& file) { return file.filename() == "x.ppt"; });
-    EXPECT_EQ(errorNumber([&] { files.remove(u"C:\\a\\X.ppt"); }), permissionDenied);
-    EXPECT_EQ(errorNumber([&] { files.rename(u"C:\\a\\X.ppt", u"C:\\a\\y.ppt"); }), pathAccess);
-    EXPECT_TRUE(exists(u"C:\\a\\x.ppt"));
 }
 
 TEST_F(EmbeddedFilesTest, SearchesFilesOnlyAndInOrder) {
