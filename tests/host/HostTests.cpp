@@ -4,14 +4,14 @@
 #include "host/language/Words.h"
 #include "host/run/Guard.h"
 #include "host/run/Runner.h"
+#include "host/world/RealFile.h"
 #include "host/world/TemporaryFolder.h"
 #include "tests/support/Program.h"
+#include "tests/support/Script.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace host_tests {
@@ -20,6 +20,7 @@ using automation::LateBound;
 using automation::ObjectPtr;
 using host::ExitCode;
 using host::HostCall;
+using tests::ask;
 
 constexpr const char* course = "question 306\n"
                                "course\n"
@@ -86,8 +87,7 @@ TEST_F(HostTest, VerifyHoldsAFileToWhatItSaysOfItsQuestion) {
 /// The bytes of a file in a world, as a file of the real disk.
 void copyOut(host::World& world, const std::u16string& path, const std::filesystem::path& to) {
     const host::Bytes bytes = world.files().read(path);
-    std::ofstream file(to, std::ios::binary);
-    std::copy(bytes.begin(), bytes.end(), std::ostreambuf_iterator<char>(file));
+    host::writeContents(to, std::string(bytes.begin(), bytes.end()));
 }
 
 TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) {
@@ -100,26 +100,20 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     host::TrainingHost training(*world, built, 306, nobody);
     copyOut(*world, world->hostFolder() + u"07305306.ppt", folder / "07305306.ppt");
     training.initQuestion(306, world->hostFolder());
-    const LateBound application(world->powerPoint().application());
-    const LateBound working(application.get(u"ActivePresentation").to<ObjectPtr>());
+    const LateBound working = ask(LateBound(world->powerPoint().application()), u"ActivePresentation");
     const std::u16string copy = world->hostFolder() + u"copie";
     const std::vector<std::string> recheck = {"recheck", (folder / "eleve.ppt").string(), "--question", "306"};
-    const std::vector<std::string> ofTheCourse = {"--course", folder.string()};
+    std::vector<std::string> ofTheCourse = recheck;
+    ofTheCourse.insert(ofTheCourse.end(), {"--course", folder.string()});
     const auto judged = [&](const std::vector<std::string>& arguments, ExitCode expected) {
         working.call(u"SaveCopyAs", copy);
         copyOut(*world, copy + u".ppt", folder / "eleve.ppt");
         return said(arguments, expected);
     };
     EXPECT_TRUE(judged(recheck, ExitCode::FellShort).starts_with("Question 306: the letter \"A\"\n"));
-    LateBound shape(working.get(u"Slides").to<ObjectPtr>());
-    shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
-    shape = LateBound(shape.get(u"Shapes").to<ObjectPtr>());
-    shape = LateBound(shape.call(u"Item", std::int32_t{1}).to<ObjectPtr>());
-    const LateBound frame(shape.get(u"TextFrame").to<ObjectPtr>());
-    LateBound(frame.get(u"TextRange").to<ObjectPtr>()).put(u"Text", std::u16string(u"créer créer créer créer"));
-    std::vector<std::string> both = recheck;
-    both.insert(both.end(), ofTheCourse.begin(), ofTheCourse.end());
-    EXPECT_TRUE(judged(both, ExitCode::Good).starts_with("Question 306: a success with the remark \"F\"\n"));
+    const LateBound shape = ask(ask(ask(ask(working, u"Slides"), u"Item", 1), u"Shapes"), u"Item", 1);
+    ask(ask(shape, u"TextFrame"), u"TextRange").put(u"Text", u"créer créer créer créer");
+    EXPECT_TRUE(judged(ofTheCourse, ExitCode::Good).starts_with("Question 306: a success with the remark \"F\"\n"));
 
     std::ofstream(folder / "eleve.ppt") << "no presentation";
     EXPECT_NE(said(recheck, ExitCode::WrongUsage).find("eleve.ppt"), std::string::npos);
@@ -285,21 +279,18 @@ TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
 TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
     const host::WorldPtr world = host::makeEmbeddedWorld();
     world->powerPoint().start();
-    const auto presentations = [&] {
-        return LateBound(LateBound(world->powerPoint().application()).get(u"Presentations").to<ObjectPtr>());
-    };
+    const LateBound presentations = ask(LateBound(world->powerPoint().application()), u"Presentations");
     const auto findingsOf = [&](const auto& meddle) {
         host::Guard guard(*world);
         guard.calling(HostCall::TestePoint);
-        meddle(LateBound(presentations().call(u"Item", std::int32_t{1}).to<ObjectPtr>()));
+        meddle(ask(presentations, u"Item", 1));
         guard.called(HostCall::TestePoint, nullptr);
         return guard.findings();
     };
-    presentations().call(u"Add");
+    ask(presentations, u"Add");
     EXPECT_EQ(findingsOf([](const LateBound&) {}), std::vector<std::string>());
-    const std::vector<std::string> changed = findingsOf([](const LateBound& presentation) {
-        LateBound(presentation.get(u"Slides").to<ObjectPtr>()).call(u"Add", std::int32_t{1}, std::int32_t{12});
-    });
+    const std::vector<std::string> changed =
+        findingsOf([](const LateBound& presentation) { ask(ask(presentation, u"Slides"), u"Add", 1, 12); });
     ASSERT_EQ(changed.size(), 1U);
     EXPECT_TRUE(changed[0].starts_with("TestePoint changed the learner's presentation ")) << changed[0];
     const std::vector<std::string> closed =

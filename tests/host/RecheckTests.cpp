@@ -2,13 +2,12 @@
 #include "automation/Text.h"
 #include "host/command/LiveCheck.h"
 #include "host/run/Runner.h"
+#include "host/world/RealFile.h"
 #include "host/world/TemporaryFolder.h"
 #include "tests/support/Program.h"
 
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
 #include <set>
 
 namespace recheck_tests {
@@ -84,10 +83,7 @@ TEST(Recheck, JudgesASavedPresentationAsTheLiveOne) {
             if (!first.saved || !first.reading) {
                 continue;
             }
-            {
-                std::ofstream copy(file, std::ios::binary);
-                std::copy(first.saved->begin(), first.saved->end(), std::ostreambuf_iterator<char>(copy));
-            }
+            host::writeContents(file, std::string(first.saved->begin(), first.saved->end()));
             const std::string said =
                 printedBy({"recheck", file.string(), "--question", std::to_string(question)}, SCENARIOS);
             const std::string head = "Question " + std::to_string(question) + ": ";
