@@ -1,49 +1,33 @@
 #include "tests/library/ClassesKey.h"
 
-#include "automation/Unmoved.h"
 #include "library/registration/Entries.h"
+#include "platform/win32/RegistryKey.h"
 
 namespace tests {
 
+using platform::RegistryKey;
+
 namespace {
 
-/// A key that is open, or none.
-class Key : automation::Unmoved {
-public:
-    Key(HKEY root, const std::wstring& path, REGSAM view) {
-        RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | view, &key_);
-    }
-    ~Key() { RegCloseKey(key_); }
-
-    [[nodiscard]] std::wstring counts() const {
-        DWORD keys = 0;
-        DWORD values = 0;
-        const LSTATUS status = RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
-                                                nullptr, nullptr, nullptr, nullptr);
-        return status == ERROR_SUCCESS ? std::to_wstring(keys) + L" keys, " + std::to_wstring(values) + L" values"
-                                       : L"missing";
-    }
-    [[nodiscard]] std::wstring text(const std::wstring& name) const {
-        wchar_t data[1024];
-        DWORD size = sizeof(data);
-        const LSTATUS status =
-            RegGetValueW(key_, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, static_cast<void*>(data), &size);
-        return status == ERROR_SUCCESS ? L"'" + std::wstring(data) + L"'" : L"missing";
-    }
-
-private:
-    HKEY key_ = nullptr;
-};
+std::wstring counts(const RegistryKey& key) {
+    DWORD keys = 0;
+    DWORD values = 0;
+    const LSTATUS status = RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
+                                            nullptr, nullptr, nullptr, nullptr);
+    return status == ERROR_SUCCESS ? std::to_wstring(keys) + L" keys, " + std::to_wstring(values) + L" values"
+                                   : L"missing";
+}
 
 } // namespace
 
 RegistryContent classesContent(HKEY root, REGSAM view) {
     RegistryContent content;
     for (const library::Entry& entry : library::entriesFor(L"")) {
+        const auto open = [&](const std::wstring& path) { return RegistryKey::open(root, path, KEY_READ | view); };
         std::wstring path = L"Software\\Classes\\" + entry.key;
-        content[path + L'|' + entry.name] = Key(root, path, view).text(entry.name);
+        content[path + L'|' + entry.name] = open(path).find(entry.name).value_or(L"(missing)");
         for (; path != L"Software"; path.resize(path.rfind(L'\\'))) {
-            content[path] = Key(root, path, view).counts();
+            content[path] = counts(open(path));
         }
     }
     return content;

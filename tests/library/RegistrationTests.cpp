@@ -47,17 +47,12 @@ private:
     }
     static void move(HKEY fromRoot, const std::wstring& from, REGSAM fromView, HKEY toRoot, const std::wstring& to,
                      REGSAM toView) {
-        HKEY source = nullptr;
-        HKEY target = nullptr;
-        if (RegOpenKeyExW(fromRoot, from.c_str(), 0, KEY_ALL_ACCESS | fromView, &source) != ERROR_SUCCESS) {
-            return;
+        if (const auto source = RegistryKey::open(fromRoot, from, KEY_ALL_ACCESS | fromView)) {
+            const auto target = RegistryKey::create(toRoot, to, KEY_ALL_ACCESS | toView);
+            EXPECT_EQ(RegCopyTreeW(source.get(), nullptr, target.get()), ERROR_SUCCESS);
+            EXPECT_EQ(RegDeleteTreeW(source.get(), nullptr), ERROR_SUCCESS);
+            RegDeleteKeyExW(fromRoot, from.c_str(), fromView, 0);
         }
-        RegCreateKeyExW(toRoot, to.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | toView, nullptr, &target, nullptr);
-        EXPECT_EQ(RegCopyTreeW(source, nullptr, target), ERROR_SUCCESS);
-        EXPECT_EQ(RegDeleteTreeW(source, nullptr), ERROR_SUCCESS);
-        RegCloseKey(target);
-        RegCloseKey(source);
-        RegDeleteKeyExW(fromRoot, from.c_str(), fromView, 0);
     }
 };
 
@@ -118,11 +113,10 @@ protected:
     static bool findsUsersClasses() {
         return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr;
     }
-    static std::wstring textAt(HKEY root, const library::Entry& entry) {
-        wchar_t data[1024] = L"(missing)";
-        DWORD size = sizeof(data);
-        RegGetValueW(root, (classes + entry.key).c_str(), entry.name.c_str(), RRF_RT_REG_SZ, nullptr, data, &size);
-        return data;
+    static void expectWritten(HKEY root) {
+        for (const library::Entry& entry : library::entriesFor(tests::Library::path())) {
+            EXPECT_EQ(RegistryKey::open(root, classes + entry.key, KEY_QUERY_VALUE).find(entry.name), entry.text);
+        }
     }
 
     OtherBitnessAside otherBitnessAside_;
@@ -135,9 +129,7 @@ TEST_F(RegistrationTest, IsWrittenForTheMachineAndTakenBack) {
     EXPECT_NE(createByName(), S_OK);
     ASSERT_EQ(library_.registerServer(), S_OK);
     const auto registered = allClassesContent();
-    for (const library::Entry& entry : library::entriesFor(tests::Library::path())) {
-        EXPECT_EQ(textAt(HKEY_LOCAL_MACHINE, entry), entry.text);
-    }
+    expectWritten(HKEY_LOCAL_MACHINE);
     EXPECT_EQ(createByName(), S_OK);
     EXPECT_EQ(library_.install(true, nullptr), S_OK);
     EXPECT_EQ(library_.install(true, L""), S_OK);
@@ -152,9 +144,7 @@ TEST_F(RegistrationTest, IsWrittenForOneUserAndTakenBack) {
     const auto before = machine();
     ASSERT_EQ(library_.install(true, L"user"), S_OK);
     EXPECT_EQ(machine(), before);
-    for (const library::Entry& entry : library::entriesFor(tests::Library::path())) {
-        EXPECT_EQ(textAt(HKEY_CURRENT_USER, entry), entry.text);
-    }
+    expectWritten(HKEY_CURRENT_USER);
     EXPECT_EQ(createFromUsersClasses(), S_OK);
     if (findsUsersClasses()) {
         EXPECT_EQ(createByName(), S_OK);
@@ -187,20 +177,14 @@ TEST_F(RegistrationTest, LeavesAUsersKeysAsTheyWere) {
 
 TEST_F(RegistrationTest, LeavesWhatTheOtherBitnessNeeds) {
     const std::wstring path = classes + library::serverKeys().front();
-    HKEY other = nullptr;
-    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_WRITE | otherBitness, nullptr,
-                              &other, nullptr),
-              ERROR_SUCCESS);
-    RegCloseKey(other);
+    static_cast<void>(RegistryKey::create(HKEY_LOCAL_MACHINE, path, KEY_WRITE | otherBitness));
     CLSID id{};
     ASSERT_EQ(library_.registerServer(), S_OK);
     EXPECT_EQ(library_.unregisterServer(), S_OK);
     EXPECT_EQ(CLSIDFromProgID(L"K73053.Module", &id), S_OK) << "the name is that of both";
     EXPECT_NE(createByName(), S_OK);
 
-    for (std::wstring key = path; key.find(L'{') != std::wstring::npos; key.resize(key.rfind(L'\\'))) {
-        EXPECT_EQ(RegDeleteKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), otherBitness, 0), ERROR_SUCCESS);
-    }
+    RegistryKey::removeBare(HKEY_LOCAL_MACHINE, path, classes + L"CLSID", otherBitness);
     EXPECT_EQ(library_.unregisterServer(), S_OK);
     EXPECT_NE(CLSIDFromProgID(L"K73053.Module", &id), S_OK);
 }

@@ -1,5 +1,7 @@
 #include "tests/library/UserHive.h"
 
+#include "platform/win32/RegistryKey.h"
+
 #include <gtest/gtest.h>
 
 namespace tests {
@@ -29,10 +31,7 @@ void UserHive::put(const std::wstring& key, const std::wstring& name, const std:
 }
 
 void UserHive::putKey(const std::wstring& key) {
-    HKEY made = nullptr;
-    EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_READ, nullptr, &made, nullptr),
-              ERROR_SUCCESS);
-    RegCloseKey(made);
+    static_cast<void>(platform::RegistryKey::create(HKEY_CURRENT_USER, key));
 }
 
 void UserHive::removeKey(const std::wstring& key) {

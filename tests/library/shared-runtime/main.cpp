@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int times = 2000; ///< more than a process has thread-local slots
+constexpr int times = 1200; ///< more than a process has thread-local slots
 constexpr auto subscriptOutOfRange = static_cast<HRESULT>(0x800A0009);
 
 HRESULT readItemOfNone(HMODULE library) {

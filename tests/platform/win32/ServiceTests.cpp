@@ -1,5 +1,6 @@
 #include "automation/LateBound.h"
 #include "automation/com/WideText.h"
+#include "platform/win32/RegistryKey.h"
 #include "platform/win32/Win32Services.h"
 #include "tests/automation/com/TestServer.h"
 #include "tests/support/Errors.h"
@@ -33,32 +34,24 @@ TEST(Locale, GivesSizeThenText) {
 class ServerTest : public testing::Test {
 protected:
     static constexpr const char16_t* id = u"K73053Tests.Sample.11";
-    static constexpr const wchar_t* idKey = L"K73053Tests.Sample.11";
+    const std::wstring idKey = L"K73053Tests.Sample.11";
 
     void SetUp() override {
         std::array<wchar_t, 64> text{};
         StringFromGUID2(tests::serverClass, text.data(), static_cast<int>(text.size()));
         classKey_ = std::wstring(L"CLSID\\") + text.data();
-        put(std::wstring(idKey) + L"\\CLSID", text.data());
+        put(idKey + L"\\CLSID", text.data());
         put(classKey_ + L"\\LocalServer32", tests::serverCommand());
     }
     void TearDown() override {
-        remove(std::wstring(idKey) + L"\\CLSID");
-        remove(idKey);
-        remove(classKey_ + L"\\LocalServer32");
-        remove(classKey_);
+        for (const std::wstring& key : {idKey, classKey_}) {
+            EXPECT_EQ(RegDeleteTreeW(HKEY_CLASSES_ROOT, key.c_str()), ERROR_SUCCESS);
+        }
     }
 
     static void put(const std::wstring& key, const std::wstring& text) {
-        HKEY handle = nullptr;
-        ASSERT_EQ(
-            RegCreateKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &handle, nullptr),
-            ERROR_SUCCESS);
-        RegSetValueExW(handle, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                       static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-        RegCloseKey(handle);
+        platform::RegistryKey::create(HKEY_CLASSES_ROOT, key).setText(L"", text);
     }
-    static void remove(const std::wstring& key) { RegDeleteKeyW(HKEY_CLASSES_ROOT, key.c_str()); }
 
     platform::Win32Services system_;
     platform::ApplicationServers& servers_ = system_.services().servers;
