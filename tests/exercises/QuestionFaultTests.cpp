@@ -88,6 +88,9 @@ TEST_P(EachQuestion, ReportsAFailureAnywhereInTestePoint) {
             EXPECT_EQ(Object::alive(), alive);
         });
     EXPECT_EQ(calls == 0, GetParam() <= 303);
+    if (GetParam() != 304 && bench.question->BravoNuance() == 0) {
+        EXPECT_EQ(bench.question->CauseErreur(), letter) << "a passing attempt writes no letter";
+    }
     EXPECT_EQ(found, GetParam() == 304 ? u"AB" : u"");
 }
 
