@@ -3,7 +3,7 @@
 #include "host/run/Course.h"
 #include "tests/trials/command/Commands.h"
 #include "tests/trials/command/ProcessorTime.h"
-#include "tests/trials/learners/ScenarioText.h"
+#include "tests/trials/learners/Learner.h"
 #include "tests/trials/learners/Shrink.h"
 
 #include "automation/Text.h"

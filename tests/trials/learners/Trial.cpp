@@ -1,6 +1,8 @@
 #include "tests/trials/learners/Trial.h"
 
+#include "automation/Text.h"
 #include "host/language/Parser.h"
+#include "host/language/Writer.h"
 
 namespace trials::learners {
 
@@ -53,6 +55,21 @@ std::optional<std::vector<Finding>> replay(std::int32_t question, const Course& 
     }
     trial.finish();
     return findings;
+}
+
+std::string scenarioText(const language::ScenarioFile& file, const Moves& moves, const std::vector<Finding>& findings,
+                         const std::string& title) {
+    std::vector<std::u16string> statements;
+    std::size_t check = 0;
+    for (const std::u16string& move : moves) {
+        if (move == checkMove) {
+            const std::vector<std::u16string> wanted = language::checkOf(findings.at(check++).wanted);
+            statements.insert(statements.end(), wanted.begin(), wanted.end());
+        } else {
+            statements.push_back(move);
+        }
+    }
+    return language::scenarioText(file, automation::fromUtf8(title), statements);
 }
 
 } // namespace trials::learners

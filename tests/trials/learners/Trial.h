@@ -43,4 +43,8 @@ private:
 [[nodiscard]] std::optional<std::vector<Finding>> replay(std::int32_t question, const Course& course,
                                                          const Moves& moves);
 
+/// A scenario file on the course of `file` with one scenario: what a learner has done, and what its checks must read.
+[[nodiscard]] std::string scenarioText(const language::ScenarioFile& file, const Moves& moves,
+                                       const std::vector<Finding>& findings, const std::string& title);
+
 } // namespace trials::learners

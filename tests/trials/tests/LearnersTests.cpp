@@ -1,7 +1,7 @@
 #include "host/command/Library.h"
 #include "host/language/Parser.h"
 #include "host/run/Runner.h"
-#include "tests/trials/learners/ScenarioText.h"
+#include "tests/trials/learners/Learner.h"
 #include "tests/trials/learners/Shrink.h"
 
 #include <gtest/gtest.h>

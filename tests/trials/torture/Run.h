@@ -2,7 +2,6 @@
 
 #include "host/run/TrainingHost.h"
 #include "tests/trials/Host.h"
-#include "tests/trials/torture/LearnerState.h"
 #include "tests/trials/torture/Tampering.h"
 #include "tests/trials/trace/Expected.h"
 
