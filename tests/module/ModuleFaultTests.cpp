@@ -1,10 +1,5 @@
-#include "host/world/TemporaryFolder.h"
-#include "module/Module.h"
-#include "platform/observed/ObservedServices.h"
-#include "simulator/Machine.h"
 #include "simulator/process/Session.h"
-#include "tests/support/Errors.h"
-#include "tests/support/Script.h"
+#include "tests/module/ModuleBench.h"
 
 namespace module_fault_tests {
 
@@ -12,8 +7,7 @@ using automation::Access;
 using automation::Crossing;
 using automation::Value;
 using platform::Registry;
-
-constexpr std::u16string_view folder = u"C:\\Formation\\";
+using tests::folder;
 
 /// Makes every call fail that a test picks.
 class FailingCalls final : public automation::Observer {
@@ -29,29 +23,9 @@ public:
     automation::Error error{automation::RunTimeError::PathAccess};
 };
 
-/// A module on a computer with the delivered file of question 301.
-class ModuleFaults : public testing::Test {
+class ModuleFaults : public tests::ModuleBench<FailingCalls> {
 public:
-    ModuleFaults() {
-        machine.startPowerPoint();
-        machine.createFile(std::u16string(folder) + u"x");
-        const automation::LateBound deck =
-            tests::ask(tests::ask(automation::LateBound(machine.application()), u"Presentations"), u"Add");
-        tests::ask(tests::ask(deck, u"Slides"), u"Add", 1, 12);
-        tests::say(deck, u"SaveAs", std::u16string(folder) + u"07305301.ppt");
-        tests::say(deck, u"Close");
-    }
-
-    void init() { module.InitQuestion(301, std::u16string(folder), application, window, u""); }
-
-    host::TemporaryFolder root;
-    simulator::Machine machine{root.path()};
-    std::shared_ptr<FailingCalls> calls = std::make_shared<FailingCalls>();
-    platform::ObservedServices observed{machine.services(), calls};
-    exercises::API api;
-    automation::ObjectPtr application;
-    std::int32_t window = -1;
-    k73053::Module module{api, observed.services()};
+    ModuleFaults() { machine.startPowerPoint(); }
 };
 
 TEST_F(ModuleFaults, AKeyThatClosesBeforeTheFoldersChangeIsReported) {
