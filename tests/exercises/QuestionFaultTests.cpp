@@ -8,7 +8,8 @@ using automation::Error;
 using automation::FaultInjector;
 using automation::Object;
 
-const Error fault(static_cast<std::int32_t>(0x800706BEU), u"Microsoft PowerPoint", u"L'appel a échoué.");
+const Error fault(static_cast<std::int32_t>(0x800706BEU), u"Microsoft PowerPoint", u"L'appel a échoué.", u"aide.hlp",
+                  3);
 
 /// Fails call after call of an operation until it makes no more; `judge` sees the error of each. Returns the number of
 /// calls.
@@ -31,6 +32,8 @@ protected:
         ASSERT_TRUE(error);
         EXPECT_EQ(error->number(), fault.number());
         EXPECT_EQ(error->description(), fault.description());
+        EXPECT_EQ(error->helpFile(), fault.helpFile());
+        EXPECT_EQ(error->helpContext(), fault.helpContext());
         EXPECT_EQ(error->source(), u"DLL K61027 - CLASSE " + bench.className() + u"\n\r - SERVICE " +
                                        std::u16string(service) + u" - OBJET Microsoft PowerPoint");
     }

@@ -2,7 +2,6 @@
 #include "automation/observe/CallTrace.h"
 #include "module/Session.h"
 #include "module/UserSettings.h"
-#include "platform/ErrorReport.h"
 #include "tests/exercises/QuestionBench.h"
 #include "tests/support/Errors.h"
 #include "tests/support/ScarceMemory.h"
@@ -255,19 +254,6 @@ TEST(Check, ReportsWhereverMemoryRunsOut) {
         EXPECT_EQ(raised, hasStruck ? 7 : noError) << "allocation " << position;
     }
     EXPECT_GT(position, 100U);
-}
-
-TEST(ErrorReport, KeepsNumberAndDescription) {
-    const auto outer = errorOf([&] {
-        platform::reporting(u"", u"", platform::ReportedObject::Source,
-                            [] { throw automation::Error(7, u"inner", u"Mémoire", u"aide.hlp", 3); });
-    });
-    ASSERT_TRUE(outer);
-    EXPECT_EQ(outer->source(), u"DLL K61027 - CLASSE \n\r - SERVICE  - OBJET inner");
-    EXPECT_EQ(outer->number(), 7);
-    EXPECT_EQ(outer->description(), u"Mémoire");
-    EXPECT_EQ(outer->helpFile(), u"aide.hlp");
-    EXPECT_EQ(outer->helpContext(), 3);
 }
 
 } // namespace question_tests
