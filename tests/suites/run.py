@@ -21,7 +21,7 @@ TIERS = ("quick", "all", "long")
 TOTALS = re.compile(r"(\d+) passed, (\d+) failed")
 STARTED = re.compile(r" *Start +(\d+): ")
 SAID = re.compile(r"(\d+): (.*)")
-ENDED = re.compile(r" *\d+/\d+ Test +#(\d+): .*?(Passed|Failed|Not Run|Timeout|Exception|\*\*\*\w+)")
+ENDED = re.compile(r" *\d+/\d+ Test +#(\d+): .*?(Passed|\*\*\*[\w ]*?) +([\d.]+) sec")
 
 
 def listed(selection):
@@ -56,7 +56,7 @@ class Screen:
     def end(self, name):
         with self.lock:
             self.left.pop(name, None)
-            return time.monotonic() - self.running.pop(name, time.monotonic())
+            self.running.pop(name, None)
 
     def say(self, line):
         with self.lock:
@@ -94,7 +94,8 @@ def run(selection, jobs):
         elif end := ENDED.match(line):
             name = names.get(end[1]) or re.search(r"#\d+: (.*?) \.*", line)[1]
             lines = said.get(end[1], [])
-            seconds = screen.end(name)
+            seconds = float(end[3])
+            screen.end(name)
             totals = next((found for found in map(TOTALS.fullmatch, reversed(lines)) if found), None)
             good, bad = (int(totals[1]), int(totals[2])) if totals else (0, 0)
             if end[2] != "Passed" and not bad:
