@@ -2,7 +2,7 @@
 
 #include "automation/Value.h"
 #include "host/language/Expectation.h"
-#include "host/language/Place.h"
+#include "host/language/Position.h"
 
 #include <memory>
 #include <span>
@@ -36,7 +36,7 @@ struct Operation {
 };
 
 struct Expression {
-    Place place;
+    Position place;
     std::variant<Literal, Omitted, Reference, Operation> node;
 };
 
@@ -75,14 +75,14 @@ struct ExpectError {
 };
 
 struct Statement {
-    Place place;
+    Position place;
     std::u16string text; ///< the line as it is written, without blanks around it and without its comment
     std::variant<Call, Assignment, Check, ExpectValues, ExpectError> node;
 };
 
 /// What happens from one InitQuestion to the closing of the question.
 struct Scenario {
-    Place place;
+    Position place;
     std::u16string title;
     bool startsBeforeInitQuestion = false; ///< the scenario states InitQuestion itself
     std::vector<Statement> statements;
@@ -95,7 +95,7 @@ struct Scenario {
 
 /// A verdict that a question can come to, and what it says of the learner's work.
 struct Meaning {
-    Place place;
+    Position place;
     Expectation verdict; ///< a letter, a remark or a raised error
     std::u16string text; ///< in a sentence
 };

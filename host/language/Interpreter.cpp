@@ -17,11 +17,11 @@ using automation::Value;
 
 /// An error with the place of the member that raised it, on its way through an expression.
 struct Raised {
-    Place place;
+    Position place;
     Error error;
 };
 
-template <typename Step> decltype(auto) placed(Place place, const Step& step) {
+template <typename Step> decltype(auto) placed(Position place, const Step& step) {
     try {
         return step();
     } catch (const Error& error) {
@@ -154,7 +154,7 @@ Value Interpreter::valueOf(const Expression& expression) {
     return automation::Missing{};
 }
 
-Value Interpreter::valueOf(const Reference& reference, Place place) {
+Value Interpreter::valueOf(const Reference& reference, Position place) {
     const Value object = reference.object ? valueOf(*reference.object) : Value();
     std::vector<Value> arguments = argumentsOf(reference);
     return placed(place, [&] {
@@ -163,7 +163,7 @@ Value Interpreter::valueOf(const Reference& reference, Place place) {
     });
 }
 
-Value Interpreter::valueOf(const Operation& operation, Place place) {
+Value Interpreter::valueOf(const Operation& operation, Position place) {
     const Value left = valueOf(operation.operands.front());
     if (operation.operands.size() == 1) {
         return placed(place, [&] { return apply(operation.sign, Value(std::int32_t(0)), left); });

@@ -43,14 +43,14 @@ private:
     void perform(const ExpectError& expectation);
 
     automation::Value valueOf(const Expression& expression);
-    automation::Value valueOf(const Reference& reference, Place place);
-    automation::Value valueOf(const Operation& operation, Place place);
+    automation::Value valueOf(const Reference& reference, Position place);
+    automation::Value valueOf(const Operation& operation, Position place);
     std::vector<automation::Value> argumentsOf(const Reference& reference);
     automation::Value head(const Reference& reference, std::span<automation::Value> arguments);
 
     Stage& stage_;
     std::map<std::u16string, automation::Value> variables_; ///< by their names in lower case
-    Place place_;                                           ///< of the statement being performed
+    Position place_;                                        ///< of the statement being performed
 };
 
 } // namespace host::language

@@ -29,7 +29,7 @@ public:
 
     std::vector<Token> run() {
         std::vector<Token> tokens;
-        Place end = here();
+        Position end = here();
         for (skipBlanks(); !atEnd(); skipBlanks()) {
             if (tokens.size() == mostTokens) {
                 throw SyntaxError({here(), "expected a line of at most " + std::to_string(mostTokens) + " words"});
@@ -49,7 +49,7 @@ private:
         return position_ + ahead < line_.size() ? line_[position_ + ahead] : u'\0';
     }
     [[nodiscard]] bool atEnd() const { return position_ >= line_.size() || peek() == u'#' || peek() == u'\''; }
-    [[nodiscard]] Place here() const { return {number_, position_ + 1}; }
+    [[nodiscard]] Position here() const { return {number_, position_ + 1}; }
 
     void skipBlanks() {
         while (peek() == u' ' || peek() == u'\t' || peek() == u'\r' || peek() == 0x00A0 || peek() == 0xFEFF) {
@@ -66,7 +66,7 @@ private:
     }
 
     Token next() {
-        const Place place = here();
+        const Position place = here();
         const char16_t c = peek();
         if (startsName(c)) {
             return {TokenKind::Name,
@@ -92,7 +92,7 @@ private:
 
     /// A quote inside a text is doubled.
     std::u16string text() {
-        const Place opening = here();
+        const Position opening = here();
         std::u16string result;
         for (++position_; position_ < line_.size(); ++position_) {
             if (line_[position_] == u'"' && peek(1) != u'"') {
@@ -106,7 +106,7 @@ private:
     }
 
     automation::Value number() {
-        const Place place = here();
+        const Position place = here();
         std::string digits = toUtf8(take(isDigit));
         if (peek() == u'.' && isDigit(peek(1))) {
             ++position_;
@@ -119,12 +119,12 @@ private:
     }
 
     automation::Value hexadecimal() {
-        const Place place = here();
+        const Position place = here();
         position_ += 2;
         return static_cast<std::int32_t>(whole<std::uint32_t>(toUtf8(take(isHexDigit)), 16, place));
     }
 
-    template <typename Integer> static Integer whole(const std::string& digits, int base, Place place) {
+    template <typename Integer> static Integer whole(const std::string& digits, int base, Position place) {
         Integer integer = 0;
         if (std::from_chars(digits.data(), digits.data() + digits.size(), integer, base).ec != std::errc()) {
             throw SyntaxError({place, "expected a number that fits into 32 bits"});

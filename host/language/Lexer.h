@@ -1,7 +1,7 @@
 #pragma once
 
 #include "automation/Value.h"
-#include "host/language/Place.h"
+#include "host/language/Position.h"
 
 #include <string>
 
@@ -12,7 +12,7 @@ enum class TokenKind : std::uint8_t { Name, Text, Number, Symbol, End };
 /// One word, literal or sign of a line.
 struct Token {
     TokenKind kind = TokenKind::End;
-    Place place;
+    Position place;
     std::u16string text;     ///< of a name or a sign, as it is written
     automation::Value value; ///< of a literal
 

@@ -9,11 +9,11 @@ namespace {
 
 constexpr const char* expressionExpected = "expected a value: a text, a number, a constant or a name";
 
-Expression literal(Place place, automation::Value value) {
+Expression literal(Position place, automation::Value value) {
     return {place, Literal{std::move(value)}};
 }
 
-Expression operation(Place place, char16_t sign, Expression left, std::optional<Expression> right) {
+Expression operation(Position place, char16_t sign, Expression left, std::optional<Expression> right) {
     Operation node{sign, {}};
     node.operands.push_back(std::move(left));
     if (right) {
@@ -231,7 +231,7 @@ Expression LineParser::wholeExpression() {
 Expression LineParser::expression() {
     Expression left = sum();
     while (peek().isSymbol(u'&')) {
-        const Place place = take().place;
+        const Position place = take().place;
         left = operation(place, u'&', std::move(left), sum());
     }
     return left;
@@ -247,7 +247,7 @@ Expression LineParser::sum() {
 }
 
 Expression LineParser::operand() {
-    const Place place = peek().place;
+    const Position place = peek().place;
     switch (peek().kind) {
     case TokenKind::Text:
     case TokenKind::Number: return literal(place, take().value);
@@ -288,7 +288,7 @@ Expression LineParser::chain() {
             const Token& member = take();
             result = {member.place, Reference{std::move(object), member.text, parenthesized()}};
         } else {
-            const Place place = peek().place;
+            const Position place = peek().place;
             result = {place, Reference{std::move(object), {}, parenthesized()}};
         }
     }

@@ -76,7 +76,7 @@ private:
 
     void content(std::u16string_view line, const std::vector<Token>& tokens) {
         LineParser words(tokens);
-        const Place place = words.peek().place;
+        const Position place = words.peek().place;
         if (waiting_ != nullptr) {
             words.requireNoExpectation();
             ExpectError& expectation = *std::exchange(waiting_, nullptr);
@@ -89,7 +89,7 @@ private:
         }
     }
 
-    void block(LineParser& words, Place place, std::u16string_view line, const std::vector<Token>& tokens) {
+    void block(LineParser& words, Position place, std::u16string_view line, const std::vector<Token>& tokens) {
         if (file_.question == 0) {
             file_.question = unknown;
             wrong_.push_back({place, "expected 'question' and its number before anything else"});
@@ -105,7 +105,7 @@ private:
         }
     }
 
-    void question(LineParser& words, Place place) {
+    void question(LineParser& words, Position place) {
         if (file_.question > 0) {
             throw SyntaxError({place, "expected one question only"});
         }
@@ -114,7 +114,7 @@ private:
     }
 
     /// Reads a line of the contract. False where it is none.
-    bool contract(LineParser& words, Place place) {
+    bool contract(LineParser& words, Position place) {
         constexpr std::array<std::tuple<std::u16string_view, TokenKind, Expectation::Kind>, 3> verdicts{{
             {u"letter", TokenKind::Text, Expectation::Kind::Letter},
             {u"remark", TokenKind::Text, Expectation::Kind::Remark},
@@ -136,7 +136,7 @@ private:
         return true;
     }
 
-    void task(LineParser& words, Place place) {
+    void task(LineParser& words, Position place) {
         requireBeforeCourse(place, "the task");
         if (!file_.contract.task.empty()) {
             throw SyntaxError({place, "expected one task only"});
@@ -145,7 +145,7 @@ private:
         words.end();
     }
 
-    void meaning(Meaning meaning, Place place) {
+    void meaning(Meaning meaning, Position place) {
         requireBeforeCourse(place, "what a verdict means");
         if (file_.contract.meaningOf(meaning.verdict.letter) != nullptr) {
             throw SyntaxError({place, "expected one meaning only for " + inQuotes(meaning.verdict.letter)});
@@ -154,7 +154,7 @@ private:
         file_.contract.meanings.push_back(std::move(meaning));
     }
 
-    void delivered(Place place) {
+    void delivered(Position place) {
         requireBeforeCourse(place, "what must be delivered");
         if (block_ != nullptr) {
             throw SyntaxError({place, "expected 'delivered' once only"});
@@ -162,13 +162,13 @@ private:
         block_ = &file_.contract.delivered;
     }
 
-    void requireBeforeCourse(Place place, const std::string& what) const {
+    void requireBeforeCourse(Position place, const std::string& what) const {
         if (block_ != nullptr && block_ != &file_.contract.delivered) {
             throw SyntaxError({place, "expected " + what + " before the course"});
         }
     }
 
-    void course(LineParser& words, Place place) {
+    void course(LineParser& words, Position place) {
         words.end();
         if (block_ != nullptr && block_ != &file_.contract.delivered) {
             throw SyntaxError({place, "expected one course only, before the scenarios"});
@@ -176,7 +176,7 @@ private:
         block_ = &file_.course;
     }
 
-    void scenario(LineParser& words, Place place) {
+    void scenario(LineParser& words, Position place) {
         if (block_ == nullptr || block_ == &file_.contract.delivered) {
             throw SyntaxError({place, "expected 'course' before the first scenario"});
         }
@@ -190,7 +190,7 @@ private:
         block_ = &file_.scenarios.back().statements;
     }
 
-    void before(LineParser& words, Place place) {
+    void before(LineParser& words, Position place) {
         if (!words.takeWord(u"InitQuestion")) {
             throw SyntaxError({words.peek().place, "expected 'InitQuestion', found " + words.peek().display()});
         }
@@ -218,7 +218,7 @@ private:
         waiting_ = expectation != nullptr && !expectation->statement ? expectation : nullptr;
     }
 
-    void finish(Place end) const {
+    void finish(Position end) const {
         if (waiting_ != nullptr) {
             throw SyntaxError({end, "expected the statement that must raise the error"});
         }

@@ -10,7 +10,7 @@ namespace {
 using language::Remark;
 
 /// Runs a step; what it raises becomes a remark. True where it raised nothing.
-template <typename Step> bool passes(language::Place place, std::vector<Remark>& remarks, const Step& step) {
+template <typename Step> bool passes(language::Position place, std::vector<Remark>& remarks, const Step& step) {
     try {
         step();
         return true;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/language/Place.h"
+#include "host/language/Position.h"
 
 namespace host {
 

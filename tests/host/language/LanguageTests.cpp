@@ -254,7 +254,7 @@ TEST(Language, AScenarioFileHasItsParts) {
                        "  check \"A\"\n check error 0  # passes\nscenario \"two\"\n");
     EXPECT_EQ(file.question, 305);
     ASSERT_EQ(file.course.size(), 1U);
-    EXPECT_EQ(file.course[0].place, (Place{4, 3}));
+    EXPECT_EQ(file.course[0].place, (Position{4, 3}));
     ASSERT_EQ(file.scenarios.size(), 2U);
     const Scenario& one = file.scenarios[0];
     EXPECT_EQ(parse("t", "question 306\ncourse\nexpect error 5 \"X\":  # raises\n  A.B 2 ").course[0].text,

@@ -10,16 +10,16 @@
 namespace host::language {
 
 /// Where something stands in a scenario file; lines and columns count from 1, columns in characters.
-struct Place {
+struct Position {
     std::size_t line = 1;
     std::size_t column = 1;
 
-    friend bool operator==(const Place&, const Place&) = default;
+    friend bool operator==(const Position&, const Position&) = default;
 };
 
 /// Something said about a place of a scenario file, in UTF-8.
 struct Remark {
-    Place place;
+    Position place;
     std::string message;
 
     /// `file:line:column: message`
