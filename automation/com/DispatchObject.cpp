@@ -16,9 +16,9 @@ WORD flagsOf(Access access) noexcept {
     return access == Access::Put ? DISPATCH_PROPERTYPUT : DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 }
 
-/// True where it is the process that is gone, and not the object alone.
-bool isOfWholeProcess(HRESULT status) noexcept {
-    return status == remote::serverUnavailable || status == remote::callFailed;
+/// True where it is the object alone that is gone, and not its process.
+bool isOfObjectAlone(HRESULT status) noexcept {
+    return status == remote::disconnected || status == remote::objectNotConnected;
 }
 
 /// One Invoke with what it gives back.
@@ -116,7 +116,7 @@ void DispatchObject::requireAlive() const {
 void DispatchObject::require(HRESULT status) {
     if (remote::isDead(status)) {
         gone_ = status;
-        session_->isGone = session_->isGone || isOfWholeProcess(status);
+        session_->isGone = session_->isGone || !isOfObjectAlone(status);
     }
     check(status);
 }

@@ -293,7 +293,10 @@ TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
     // The end of the process is that of all its objects; an object's own end is not.
     for (const auto& [number, ofOthers] :
          {std::pair(remote::serverUnavailable, remote::serverUnavailable),
-          std::pair(remote::callFailed, remote::serverUnavailable), std::pair(remote::disconnected, noError),
+          std::pair(remote::callFailed, remote::serverUnavailable),
+          std::pair(remote::callNotExecuted, remote::serverUnavailable),
+          std::pair(remote::serverDied, remote::serverUnavailable),
+          std::pair(remote::serverDiedBefore, remote::serverUnavailable), std::pair(remote::disconnected, noError),
           std::pair(remote::objectNotConnected, noError)}) {
         connectAnew();
         const auto childServer = makeCom<Server>();
