@@ -21,9 +21,9 @@ Waiting& waiting() noexcept {
     return own;
 }
 
-std::chrono::steady_clock::duration patienceLeft() noexcept {
+bool mayWait(std::chrono::steady_clock::duration more) noexcept {
     constexpr std::chrono::seconds longest{6};
-    return waiting().depth > 0 ? longest - waiting().time : longest;
+    return waiting().depth == 0 || waiting().time + more <= longest;
 }
 
 bool isBusy(HRESULT status) noexcept {
@@ -33,18 +33,26 @@ bool isBusy(HRESULT status) noexcept {
 } // namespace
 
 HRESULT Patience::untilTaken(const std::function<HRESULT()>& call) {
-    HRESULT status = call();
-    if (!isBusy(status) || WithoutRetry::isActive()) {
-        return status;
+    for (auto wait = firstWait;; wait = std::min(wait * 2, longestWait)) {
+        const auto start = Clock::now();
+        const auto before = waiting().time;
+        const HRESULT status = call();
+        if (!isBusy(status) || WithoutRetry::isActive()) {
+            return status;
+        }
+        const auto refused = Clock::now() - start;
+        waiting().time = before + refused; // what was waited inside the call is part of it
+        const bool isLast = waited_ + refused + wait > longest || !mayWait(wait);
+        if (!isLast) {
+            std::this_thread::sleep_for(wait);
+        }
+        const auto spent = Clock::now() - start;
+        waiting().time = before + spent;
+        waited_ += spent;
+        if (isLast) {
+            return status;
+        }
     }
-    const auto start = Clock::now();
-    const auto end = std::min(end_, start + patienceLeft());
-    for (auto wait = firstWait; isBusy(status) && Clock::now() + wait <= end; wait = std::min(wait * 2, longestWait)) {
-        std::this_thread::sleep_for(wait);
-        status = call();
-    }
-    waiting().time += Clock::now() - start;
-    return status;
 }
 
 Operation::Operation() noexcept {

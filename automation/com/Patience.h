@@ -8,7 +8,8 @@
 namespace automation::com {
 
 /// How long one access to a member waits for a busy server, with all the calls that it takes: two seconds at most, not
-/// at all inside WithoutRetry, and no longer than the operation has patience left.
+/// at all inside WithoutRetry, and no longer than the operation has patience left. Only refused calls and the waits
+/// after them count, not what a call takes that the server has taken.
 class Patience {
 public:
     /// Makes a call until the other process takes it: one that it refuses because it is busy is made again after short,
@@ -21,7 +22,7 @@ private:
     static constexpr std::chrono::milliseconds longestWait{200};
     static constexpr std::chrono::milliseconds longest{2000};
 
-    Clock::time_point end_ = Clock::now() + longest;
+    Clock::duration waited_{};
 };
 
 /// For the length of a scope, one operation that a client has called, on this thread: all its accesses together wait

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <deque>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace dispatch_object_tests {
@@ -30,7 +31,9 @@ public:
                                             DISPID* ids) noexcept override {
         lookUps.emplace_back(names[0]);
         *ids = static_cast<DISPID>(names[0][0]);
-        return next(lookUpStatuses);
+        const HRESULT status = next(lookUpStatuses);
+        std::this_thread::sleep_for(status == S_OK ? lookUpTime : lookUpTime.zero());
+        return status;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale*/, WORD flags, DISPPARAMS* given,
                                      VARIANT* result, EXCEPINFO* raised, UINT* /*wrong*/) noexcept override {
@@ -67,6 +70,7 @@ public:
     std::vector<Call> calls;
     std::deque<HRESULT> lookUpStatuses; ///< one a call; S_OK when none is left
     std::deque<HRESULT> statuses;
+    std::chrono::milliseconds lookUpTime{}; ///< of those taken
     IDispatch* answer = nullptr;
     EXCEPINFO toRaise{};
     bool leavesAlone = false;
@@ -274,9 +278,13 @@ TEST_F(DispatchObjectTest, AsksABusyServerAgainForAWhile) {
 }
 
 TEST_F(DispatchObjectTest, WaitsNoLongerThanAnOperationMay) {
-    server_->statuses.assign(1000, remote::callRejected);
+    server_->lookUpStatuses = {remote::callRejected};
+    server_->lookUpTime = std::chrono::milliseconds(2100);
+    server_->statuses = {remote::callRejected};
     double waited = 0;
     const auto accessOften = [&] {
+        EXPECT_EQ(numberRaised(), noError) << "a call that is taken is none waited for";
+        server_->statuses.assign(1000, remote::callRejected);
         for (int i = 0; i < 5; ++i) {
             waited += secondsRefused();
         }
