@@ -38,6 +38,7 @@ public:
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID /*locale*/, WORD flags, DISPPARAMS* parameters,
                                      VARIANT* result, EXCEPINFO* raised, UINT* /*wrongArgument*/) noexcept override {
+        const ComPtr<IUnknown> alive = held();
         forgetError();
         return IsEqualIID(reserved, IID_NULL) ? member_dispatch::invoke(object_, id, flags, parameters, result, raised)
                                               : DISP_E_UNKNOWNINTERFACE;
@@ -47,6 +48,9 @@ public:
     }
 
 protected:
+    /// A reference for the length of a call, in which the client may drop its last one.
+    [[nodiscard]] ComPtr<IUnknown> held() noexcept { return ComPtr<IUnknown>(this->identity()); }
+
     [[nodiscard]] void* find(REFIID wanted) noexcept override {
         return IsEqualIID(wanted, __uuidof(IDispatch)) ? static_cast<First*>(this)
                                                        : ComObject<First, Others..., ISupportErrorInfo>::find(wanted);

@@ -9,6 +9,28 @@
 
 namespace library {
 
+inline void store(VARIANT_BOOL& place, bool truth) noexcept {
+    place = truth ? VARIANT_TRUE : VARIANT_FALSE;
+}
+inline void store(LONG& place, std::int32_t number) noexcept {
+    place = number;
+}
+inline void store(BSTR& place, const std::u16string& text) {
+    place = automation::com::Bstr(text).release();
+}
+/// An object by its interface; nothing is null.
+template <typename Interface> void store(Interface*& place, const automation::ObjectPtr& object) {
+    place = automation::com::dispatchOf(object).template as<Interface>().release();
+}
+
+/// What a pointer of the caller's refers to; raises E_POINTER for null.
+template <typename T> [[nodiscard]] T& required(T* place) {
+    if (place == nullptr) {
+        automation::com::check(E_POINTER);
+    }
+    return *place;
+}
+
 /// A published object with a dual interface of the type library, and others: by vtable and late-bound alike.
 template <typename Object, typename Default, typename... Others>
 class DualDispatch : public automation::com::PublishedDispatch<Default, Others...> {
@@ -42,48 +64,27 @@ public:
 protected:
     [[nodiscard]] Object& object() const noexcept { return object_; }
 
+    /// Runs an operation of an interface.
+    template <typename Operation> [[nodiscard]] HRESULT run(Operation&& operation) noexcept {
+        const auto alive = this->held();
+        return automation::com::guarded([&] {
+            std::forward<Operation>(operation)();
+            return S_OK;
+        });
+    }
+
+    /// Runs an operation of an interface and stores what it gives; nothing, where it fails.
+    template <typename Result, typename Operation>
+    [[nodiscard]] HRESULT give(Result* result, Operation&& operation) noexcept {
+        return run([&] {
+            Result& place = required(result);
+            place = Result();
+            store(place, std::forward<Operation>(operation)());
+        });
+    }
+
 private:
     Object& object_;
 };
-
-/// Runs an operation of an interface.
-template <typename Operation> [[nodiscard]] HRESULT run(Operation&& operation) noexcept {
-    return automation::com::guarded([&] {
-        std::forward<Operation>(operation)();
-        return S_OK;
-    });
-}
-
-inline void store(VARIANT_BOOL& place, bool truth) noexcept {
-    place = truth ? VARIANT_TRUE : VARIANT_FALSE;
-}
-inline void store(LONG& place, std::int32_t number) noexcept {
-    place = number;
-}
-inline void store(BSTR& place, const std::u16string& text) {
-    place = automation::com::Bstr(text).release();
-}
-/// An object by its interface; nothing is null.
-template <typename Interface> void store(Interface*& place, const automation::ObjectPtr& object) {
-    place = automation::com::dispatchOf(object).template as<Interface>().release();
-}
-
-/// What a pointer of the caller's refers to; raises E_POINTER for null.
-template <typename T> [[nodiscard]] T& required(T* place) {
-    if (place == nullptr) {
-        automation::com::check(E_POINTER);
-    }
-    return *place;
-}
-
-/// Runs an operation of an interface and stores what it gives; nothing, where it fails.
-template <typename Result, typename Operation>
-[[nodiscard]] HRESULT give(Result* result, Operation&& operation) noexcept {
-    return run([&] {
-        Result& place = required(result);
-        place = Result();
-        store(place, std::forward<Operation>(operation)());
-    });
-}
 
 } // namespace library

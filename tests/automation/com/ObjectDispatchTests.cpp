@@ -239,6 +239,33 @@ TEST_F(ObjectDispatchTest, WritesBackWhatItCanWhereItRaises) {
     EXPECT_EQ(VariantReader().read(last), Value(u"écrit"));
 }
 
+/// Lets go of the client's reference to itself in a call.
+class LastHeld final : public Published {
+public:
+    LastHeld(ComPtr<IDispatch>& client, bool& isGone) : client_(client), isGone_(isGone) {}
+    ~LastHeld() override { isGone_ = true; }
+    [[nodiscard]] const MemberTable& members() const override {
+        static const MemberTable table{method<&LastHeld::LetGo>(u"LetGo")};
+        return table;
+    }
+    [[nodiscard]] bool LetGo() const {
+        const bool& isGone = isGone_;
+        client_ = nullptr;
+        return isGone;
+    }
+
+private:
+    ComPtr<IDispatch>& client_;
+    bool& isGone_;
+};
+
+TEST_F(ObjectDispatchTest, OutlivesACallInWhichItsClientReleasesIt) {
+    bool isGone = false;
+    dispatch_ = dispatchOf(std::make_shared<LastHeld>(dispatch_, isGone));
+    EXPECT_EQ(resultOf(L"LetGo"), Value(false));
+    EXPECT_TRUE(isGone);
+}
+
 TEST_F(ObjectDispatchTest, KeepsIdentityAcrossTheBorder) {
     EXPECT_EQ(dispatchOf(sample_).get(), dispatch_.get()) << "one object, one identity";
     EXPECT_EQ(call(L"Child"), S_OK);
