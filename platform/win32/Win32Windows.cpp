@@ -82,8 +82,9 @@ bool Win32Windows::setForeground(WindowHandle window) {
         return true;
     }
     // The system refuses it to whom is not in front himself; not to whom shares the input of the thread that is.
-    const DWORD inFront = GetWindowThreadProcessId(GetForegroundWindow(), nullptr);
-    if (IsWindow(windowOf(window)) == FALSE || IsHungAppWindow(GetForegroundWindow()) != FALSE ||
+    const HWND windowInFront = GetForegroundWindow();
+    const DWORD inFront = GetWindowThreadProcessId(windowInFront, nullptr);
+    if (IsWindow(windowOf(window)) == FALSE || IsHungAppWindow(windowInFront) != FALSE ||
         AttachThreadInput(GetCurrentThreadId(), inFront, TRUE) == FALSE) {
         return false;
     }
