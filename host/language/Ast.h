@@ -68,10 +68,10 @@ struct ExpectValues {
     std::vector<Equation> equations;
 };
 
-/// A statement that must raise.
+/// Statements that must each raise.
 struct ExpectError {
     ExpectedError error;
-    std::unique_ptr<Statement> statement;
+    std::vector<Statement> statements;
 };
 
 struct Statement {

@@ -129,16 +129,18 @@ void Interpreter::perform(const ExpectValues& expectation) {
 }
 
 void Interpreter::perform(const ExpectError& expectation) {
-    try {
-        std::visit([this](const auto& node) { perform(node); }, expectation.statement->node);
-    } catch (const Raised& raised) {
-        if (expectation.error.matches(raised.error)) {
-            return;
+    for (const Statement& statement : expectation.statements) {
+        try {
+            std::visit([this](const auto& node) { perform(node); }, statement.node);
+        } catch (const Raised& raised) {
+            if (expectation.error.matches(raised.error)) {
+                continue;
+            }
+            throw Failure(
+                {raised.place, "expected " + expectation.error.display() + ", found the " + inWords(raised.error)});
         }
-        throw Failure(
-            {raised.place, "expected " + expectation.error.display() + ", found the " + inWords(raised.error)});
+        throw Failure({statement.place, "expected " + expectation.error.display() + ", nothing was raised"});
     }
-    throw Failure({place_, "expected " + expectation.error.display() + ", nothing was raised"});
 }
 
 Value Interpreter::valueOf(const Expression& expression) {

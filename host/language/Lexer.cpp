@@ -83,7 +83,7 @@ private:
         if (c == u'"') {
             return {TokenKind::Text, place, {}, text()};
         }
-        if (std::u16string_view(u".,()=&+-:").find(c) == std::u16string_view::npos) {
+        if (std::u16string_view(u".,()=&+-:;").find(c) == std::u16string_view::npos) {
             throw SyntaxError({place, "expected a statement, found '" + toUtf8({&c, 1}) + "'"});
         }
         ++position_;

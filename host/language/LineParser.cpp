@@ -74,12 +74,18 @@ std::int32_t LineParser::number(const std::string& expected) {
 }
 
 void LineParser::end() {
-    if (!atEnd()) {
+    if (peek().kind != TokenKind::End) {
         fail("expected the end of the line");
     }
 }
 
 Statement LineParser::statement() {
+    Statement result = part();
+    end();
+    return result;
+}
+
+Statement LineParser::part() {
     Statement result{peek().place, {}, Call{}};
     for (const std::u16string_view block : {u"question", u"course", u"scenario", u"before"}) {
         if (peek().isWord(block)) {
@@ -95,7 +101,6 @@ Statement LineParser::statement() {
     } else {
         result.node = callOrAssignment();
     }
-    end();
     return result;
 }
 
@@ -163,11 +168,14 @@ void LineParser::requireNoExpectation() const {
 
 decltype(Statement::node) LineParser::expectation() {
     if (takeWord(u"error")) {
-        ExpectError node{expectedError(), nullptr};
+        ExpectError node{expectedError(), {}};
         requireSymbol(u':');
-        requireNoExpectation();
-        if (!atEnd()) {
-            node.statement = std::make_unique<Statement>(statement());
+        while (peek().kind != TokenKind::End) {
+            requireNoExpectation();
+            node.statements.push_back(part());
+            if (!takeSymbol(u';')) {
+                break;
+            }
         }
         return node;
     }

@@ -11,7 +11,8 @@ public:
     explicit LineParser(std::vector<Token> tokens) : tokens_(std::move(tokens)) {}
 
     [[nodiscard]] const Token& peek() const { return tokens_[position_]; }
-    [[nodiscard]] bool atEnd() const { return peek().kind == TokenKind::End; }
+    /// True at the end of the line, and of a statement before another.
+    [[nodiscard]] bool atEnd() const { return peek().kind == TokenKind::End || peek().isSymbol(u';'); }
     /// Takes a word, its case ignored. False where something else stands.
     bool takeWord(std::u16string_view word);
     /// The same, but only where the next token is of this kind: elsewhere the word may be a variable.
@@ -38,6 +39,7 @@ private:
     bool takeSymbol(char16_t sign);
     void requireSymbol(char16_t sign);
 
+    Statement part();
     decltype(Statement::node) check();
     decltype(Statement::node) expectation();
     decltype(Statement::node) assignment(bool isSet);

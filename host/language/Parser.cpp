@@ -80,8 +80,8 @@ private:
         if (waiting_ != nullptr) {
             words.requireNoExpectation();
             ExpectError& expectation = *std::exchange(waiting_, nullptr);
-            expectation.statement = std::make_unique<Statement>(statementOf(line, tokens));
-            block_->back().text += u' ' + expectation.statement->text;
+            expectation.statements.push_back(statementOf(line, tokens));
+            block_->back().text += u' ' + expectation.statements.back().text;
         } else if (words.takeWord(u"question")) {
             question(words, place);
         } else {
@@ -215,7 +215,7 @@ private:
         }
         block_->push_back(std::move(statement));
         auto* const expectation = std::get_if<ExpectError>(&block_->back().node);
-        waiting_ = expectation != nullptr && !expectation->statement ? expectation : nullptr;
+        waiting_ = expectation != nullptr && expectation->statements.empty() ? expectation : nullptr;
     }
 
     void finish(Position end) const {

@@ -43,7 +43,7 @@ void writeBy(const std::string& verb, const std::string& name, std::string_view 
 /// True for an `expect error` whose statement is still to come.
 bool isUnfinished(const Statement& statement) {
     const auto* const expectation = std::get_if<language::ExpectError>(&statement.node);
-    return expectation != nullptr && expectation->statement == nullptr;
+    return expectation != nullptr && expectation->statements.empty();
 }
 
 } // namespace

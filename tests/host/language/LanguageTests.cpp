@@ -87,7 +87,8 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"s.Left = 3 4", "t.scn:4:12: expected the end of the line, found 4"},
         {"  s.Add(1, 2", "t.scn:4:13: expected ')', found the end of the line"},
         {"s.Text = \"créer", "t.scn:4:10: expected a closing quote for this text"},
-        {"s.Text = \"été\" ;", "t.scn:4:16: expected a statement, found ';'"},
+        {"s.Text = \"été\" !", "t.scn:4:16: expected a statement, found '!'"},
+        {"s.Text = \"été\" ;", "t.scn:4:16: expected the end of the line, found ';'"},
         {"s.Left = 9999999999", "t.scn:4:10: expected a number that fits into 32 bits"},
         {"s.AutoShapeType = msoShapeRectangel",
          "t.scn:4:19: expected a constant of PowerPoint or Office, found 'msoShapeRectangel'"},
@@ -209,7 +210,7 @@ TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
                                                 "the error 9 no such thing [SERVICE Here]"},
         {"expect error &H800403E8: Host.Fail",
          "t.scn:4:31: expected the error 800403E8, found the error 9 no such thing [SERVICE Here]"},
-        {"expect error 9: Host.Thing", "t.scn:4:1: expected the error 9, nothing was raised"},
+        {"expect error 9: Host.Fail; Host.Thing", "t.scn:4:28: expected the error 9, nothing was raised"},
     };
     for (const auto& [lines, expected] : cases) {
         FakeStage stage;
