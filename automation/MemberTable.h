@@ -96,6 +96,7 @@ public:
     void begin() noexcept {
         if constexpr (writesBack) {
             if (Value* const variable = argument_->variable()) {
+                wasEmpty_ = variable->isEmpty();
                 *variable = Value();
             }
         }
@@ -103,9 +104,11 @@ public:
 
     [[nodiscard]] P pass() { return static_cast<P>(plain_); }
 
+    /// A variable that was empty stays so where nothing comes out.
     void finish() noexcept {
         if constexpr (writesBack) {
-            if (Value* const variable = argument_->variable()) {
+            Value* const variable = argument_->variable();
+            if (variable != nullptr && !(wasEmpty_ && plain_ == Plain())) {
                 *variable = Value(std::move(plain_));
             }
         }
@@ -131,6 +134,7 @@ private:
 
     Value* argument_;
     Plain plain_;
+    bool wasEmpty_ = false;
 };
 
 /// Writes by-reference parameters back when the call ends, also where it raises: what the function has written stays.

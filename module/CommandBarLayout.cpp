@@ -3,7 +3,6 @@
 #include "platform/ErrorReport.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace k73053 {
 
@@ -41,17 +40,17 @@ template <typename Kept, typename Step> void give(Kept& kept, const Step& step) 
 void CommandBarLayout::saveVisible(const ppt::Application& application) {
     const std::int32_t count = application.CommandBars().Count();
     std::vector<ShownBar> shown;
-    std::copy_if(shown_.begin(), shown_.end(), std::back_inserter(shown),
-                 [](const ShownBar& bar) { return bar.visible.isChanged; });
     for (std::int32_t i = 1; i <= count; ++i) {
         const ppt::CommandBar bar = application.CommandBars().Item(i);
         const bool isVisible = bar.Visible();
         std::u16string name = bar.Name();
-        const bool isKept =
-            std::any_of(shown.begin(), shown.end(), [&](const ShownBar& kept) { return kept.name == name; });
-        if (!isKept) {
-            shown.push_back({std::move(name), {isVisible}});
+        const auto isNamesake = [&](const ShownBar& other) { return other.name == name; };
+        if (std::any_of(shown.begin(), shown.end(), isNamesake)) {
+            continue; // by its name the first of them is found
         }
+        const auto kept = std::find_if(shown_.begin(), shown_.end(), isNamesake);
+        const bool isKept = kept != shown_.end() && kept->visible.isChanged;
+        shown.push_back(isKept ? *kept : ShownBar{std::move(name), {isVisible}});
     }
     shown_ = std::move(shown);
 }

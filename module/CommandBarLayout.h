@@ -14,7 +14,7 @@ namespace k73053 {
 /// questions come and go; what a close could not put back stays in it for the next one.
 class CommandBarLayout {
 public:
-    /// Reads which bars are shown. Raises what PowerPoint raises.
+    /// Reads which bars are shown; one that has gone is forgotten. Raises what PowerPoint raises.
     void saveVisible(const ppt::Application& application);
 
     /// To be called before an exercise arranges the bars: reads what else it will change. What cannot be read is left

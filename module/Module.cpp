@@ -25,7 +25,10 @@ Module::Module(exercises::API& api, const platform::Services& services)
     : api_(api), services_(services), session_(services), settings_(services.registry), staging_(services.files, api) {}
 
 Module::~Module() {
-    ignoringErrors([&] { restoreLeftovers(); });
+    ignoringErrors([&] {
+        const Entry entry(u"Release");
+        restoreLeftovers();
+    });
 }
 
 void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& folder, ObjectPtr& application,
@@ -108,26 +111,30 @@ void Module::prepareQuestion(const std::u16string& folder) {
 
 void Module::TestePoint() {
     const Entry entry(u"TestePoint");
-    generalError_ = false;
-    if (!session_.PowerPointVisible()) {
-        return failGenerally(u"AK");
-    }
-    if (!session_.PowerPointRepond()) {
-        return failGenerally(u"%AL");
-    }
-    if (!session_.ActiveFenetre()) {
-        return failGenerally(u"AM");
-    }
-    if (!staging_.VerifieTravail(questionNumber_, session_.application(), causeText_)) {
-        generalError_ = true;
-        return;
-    }
-    question_.call(members::TestePoint);
+    std::u16string cause;
+    FirstError error;
+    error.attempt([&] { cause = check(); });
+    // Only now: a reader that comes in during the check answers from the last one.
+    generalError_ = !cause.empty();
+    causeText_ = std::move(cause);
+    error.raise();
 }
 
-void Module::failGenerally(std::u16string_view cause) {
-    generalError_ = true;
-    causeText_ = cause;
+std::u16string Module::check() {
+    if (!session_.PowerPointVisible()) {
+        return u"AK";
+    }
+    if (!session_.PowerPointRepond()) {
+        return u"%AL";
+    }
+    if (!session_.ActiveFenetre()) {
+        return u"AM";
+    }
+    std::u16string cause;
+    if (staging_.VerifieTravail(questionNumber_, session_.application(), cause)) {
+        question_.call(members::TestePoint);
+    }
+    return cause;
 }
 
 std::u16string Module::CauseErreur() const {
@@ -192,7 +199,7 @@ void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
     }
     ignoringErrors([&] { restoreLeftovers(); });
     error.attempt([&] {
-        if (session_.PowerPointVisible() && started_) {
+        if (session_.PowerPointVisible() && started_ && !session_.isHung()) {
             ppt::Application(application).Quit();
             window = 0;
             application = nullptr;

@@ -14,7 +14,7 @@ class Module final : public automation::Published {
 public:
     /// The variables shared by all questions, and the system's services; both must outlive this object.
     Module(exercises::API& api, const platform::Services& services);
-    /// What no close could restore is tried once more.
+    /// What no close could restore is tried once more, unless an operation of another `Module` runs.
     ~Module() override;
 
     /// Stages and prepares a question of the course in the host's folder, which ends with a backslash. The host's
@@ -34,7 +34,7 @@ public:
     /// Closes the question and restores the learner's settings; without a question, what an earlier close could not
     /// restore. Raises ObjectNotSet (91) where there is neither.
     void Fermer();
-    /// Closes a question still held, and PowerPoint where the module started it.
+    /// Closes a question still held, and PowerPoint where the module started it and it does not hang.
     void Quitter(automation::ObjectPtr& application, std::int32_t& window);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
@@ -52,7 +52,8 @@ private:
     /// Puts back what an exercise has changed and no close could restore: the bars where PowerPoint answers, and the
     /// folders.
     void restoreLeftovers();
-    void failGenerally(std::u16string_view cause);
+    /// Runs the general checks and, where they pass, the question's; the code of the one that fails, or nothing.
+    [[nodiscard]] std::u16string check();
 
     exercises::API& api_;
     platform::Services services_;

@@ -73,9 +73,14 @@ bool Session::PowerPointVisible() {
     return false;
 }
 
+bool Session::isHung() const noexcept {
+    bool isHung = true;
+    ignoringErrors([&] { isHung = services_.windows.isHung(window_); });
+    return isHung;
+}
+
 bool Session::PowerPointRepond() const noexcept {
-    // A call to a program that hangs would not come back.
-    if (services_.windows.isHung(window_)) {
+    if (isHung()) {
         return false;
     }
     const automation::WithoutRetry once;
@@ -148,6 +153,9 @@ void Session::InitCommandBar() {
 }
 
 void Session::readKeptSettings() {
+    if (isHung()) {
+        return;
+    }
     ignoringErrors([&] { taskPane_ = application_.CommandBars().Item(u"Task Pane").Visible(); });
     readStartupDialog();
 }

@@ -27,6 +27,9 @@ public:
     /// True if PowerPoint's window is visible. Otherwise an invisible PowerPoint that still answers is quit.
     [[nodiscard]] bool PowerPointVisible();
 
+    /// True if PowerPoint hangs, or where that cannot be asked: a call to it would not come back.
+    [[nodiscard]] bool isHung() const noexcept;
+
     /// True if PowerPoint answers at once: its window state can be read and written. A busy one is not waited for.
     [[nodiscard]] bool PowerPointRepond() const noexcept;
 
@@ -44,7 +47,8 @@ public:
     void InitCommandBar();
 
     /// Reads the settings to be kept from one question to the next: whether the start dialog and the "Task Pane" bar
-    /// are shown. What cannot be read stays.
+    /// are shown. What cannot be read stays, all of it where
+    /// PowerPoint hangs.
     void readKeptSettings();
 
     /// Reads whether the start dialog is shown; where it cannot be read, what was kept stays.

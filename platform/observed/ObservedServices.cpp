@@ -28,16 +28,10 @@ public:
     /// The same for a call that never raises: an observer's error becomes the failing result.
     template <typename Result, typename Call, typename... Arguments>
     Result passOr(Result failed, std::u16string_view member, const Call& call, const Arguments&... arguments) const {
-        Result result = failed;
         try {
-            pass(
-                member,
-                [&] {
-                    result = call();
-                    return Value(result);
-                },
-                arguments...);
-            return result;
+            return pass(
+                       member, [&] { return Value(call()); }, arguments...)
+                .template to<Result>();
         } catch (const automation::Error&) {
             return failed;
         }

@@ -1,3 +1,4 @@
+#include "module/Entry.h"
 #include "simulator/process/Session.h"
 #include "tests/module/ModuleBench.h"
 
@@ -16,10 +17,11 @@ public:
         if (fails && fails(crossing)) {
             throw error;
         }
-        return next();
+        return isHung && crossing.member == u"isHung" ? Value(true) : next();
     }
 
     std::function<bool(const Crossing&)> fails;
+    bool isHung = false;
     automation::Error error{automation::RunTimeError::PathAccess};
 };
 
@@ -110,6 +112,11 @@ TEST_F(ModuleFaults, NothingIsNothingHoweverTheHostSaysIt) {
     const auto start = [&] {
         host.call(u"InitQuestion", std::int32_t{301}, folder, Value::reference(brought), Value::reference(handle), u"");
     };
+    {
+        const k73053::Entry other(u"Fermer");
+        EXPECT_EQ(errorNumber(start), automation::remote::retryLater);
+        EXPECT_TRUE(brought.isEmpty());
+    }
     start();
     EXPECT_TRUE(brought.isObject());
     host.call(u"Quitter", Value::reference(brought), Value::reference(handle));
@@ -141,17 +148,61 @@ TEST_F(ModuleFaults, BarsThatNoCloseCouldPutBackComeBackAtRelease) {
         simulator::CommandBarSet& all = machine.session()->settings().commandBars;
         return all.bars[all.find(u"Task Pane")];
     };
-    ASSERT_TRUE(taskPane().visible);
-    {
-        k73053::Module closing(api, observed.services());
-        closing.InitQuestion(301, std::u16string(folder), application, window, u"");
+    for (const bool isMeanwhile : {false, true}) {
+        ASSERT_TRUE(taskPane().visible);
+        auto closing = std::make_unique<k73053::Module>(api, observed.services());
+        closing->InitQuestion(301, std::u16string(folder), application, window, u"");
         EXPECT_FALSE(taskPane().visible);
         calls->fails = [](const Crossing& crossing) { return crossing.member == u"WindowState"; };
-        closing.Fermer();
+        closing->Fermer();
         EXPECT_FALSE(taskPane().visible);
         calls->fails = nullptr;
+        {
+            const std::optional<k73053::Entry> other(isMeanwhile ? std::make_optional<k73053::Entry>(u"Fermer")
+                                                                 : std::nullopt);
+            closing.reset();
+        }
+        EXPECT_EQ(taskPane().visible, !isMeanwhile) << "not in the middle of another operation";
+        deliver();
     }
-    EXPECT_TRUE(taskPane().visible);
+}
+
+TEST_F(ModuleFaults, ABarThatHasGoneIsForgotten) {
+    init();
+    calls->fails = [](const Crossing& crossing) { return crossing.member == u"WindowState"; };
+    module.Fermer();
+    calls->fails = nullptr;
+    machine.session()->settings().commandBars.bars.pop_back();
+    deliver();
+    init();
+    module.Fermer();
+    EXPECT_EQ(errorNumber([&] { module.Fermer(); }), 91) << "nothing is kept any more";
+}
+
+TEST_F(ModuleFaults, AReaderDuringACheckAnswersFromTheLast) {
+    init();
+    calls->fails = [](const Crossing& crossing) { return crossing.member == u"WindowState"; };
+    module.TestePoint();
+    calls->fails = [&](const Crossing& crossing) {
+        EXPECT_EQ(module.CauseErreur(), u"%AL");
+        return crossing.member == u"Count";
+    };
+    EXPECT_EQ(errorNumber([&] { module.TestePoint(); }), 75);
+    calls->fails = nullptr;
+    EXPECT_FALSE(module.ErreurGenerale());
+}
+
+TEST_F(ModuleFaults, APowerPointThatHangsIsNotCalled) {
+    machine.endPowerPoint();
+    init();
+    calls->isHung = true;
+    calls->fails = [](const Crossing& crossing) {
+        EXPECT_NE(crossing.border, automation::Border::Automation);
+        return false;
+    };
+    module.Quitter(application, window);
+    calls->fails = nullptr;
+    EXPECT_TRUE(machine.isPowerPointRunning());
 }
 
 TEST_F(ModuleFaults, ABarThatComesMeanwhileShiftsNoOther) {

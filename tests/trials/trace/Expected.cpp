@@ -113,6 +113,7 @@ public:
     void close() {
         add(Phase::Looking, "Windows.isVisible((window))\n");
         add(Phase::Dialogs, "Windows.previous((window))\n");
+        hang();
         add(Phase::Closing, bar(R"("Task Pane")", "Visible") + "Application.ShowStartupDialog\n");
         ask();
         clean(1);
@@ -129,6 +130,7 @@ public:
         close();
         add(Phase::LookingEnd, "Windows.isVisible((window))\n");
         if (operation_.arrival == Arrival::Started) {
+            hang();
             add(Phase::Ending, "Application.Quit\n");
         }
     }
@@ -224,8 +226,10 @@ Registry.close
         add(Phase::Tooltips, "Application.CommandBars.DisplayTooltips = True\n");
     }
 
+    void hang() { add(Phase::Hanging, "Windows.isHung((window))\n"); }
+
     void ask() {
-        add(Phase::Hanging, "Windows.isHung((window))\n");
+        hang();
         add(Phase::Asking, "Application.WindowState\nApplication.WindowState = 3\nApplication.WindowState = 3\n");
     }
 
