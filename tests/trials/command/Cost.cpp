@@ -11,7 +11,6 @@ namespace trials {
 
 namespace {
 
-using cost::OperationCost;
 using cost::QuestionCost;
 
 constexpr int timedRuns = 5;
@@ -35,12 +34,6 @@ std::string against(std::size_t measured, const cost::PrescribedCalls& prescribe
            (prescribed.keeping == 0 ? "" : '+' + std::to_string(prescribed.keeping));
 }
 
-/// True where an operation makes the calls of its expected trace, in order.
-bool isAsPrescribed(const OperationCost& cost, const cost::PrescribedCalls& prescribed, std::ostream& out) {
-    const std::string difference = trace::differenceOf(cost.lines, prescribed.trace);
-    return holds(difference.empty(), "other calls than prescribed: " + difference, out);
-}
-
 bool printQuestions(const CostRequest& request, const CommandContext& at) {
     std::ostream& out = at.out;
     const WorldMaker& makeWorld = at.worlds.embedded;
@@ -52,7 +45,7 @@ bool printQuestions(const CostRequest& request, const CommandContext& at) {
         << "question  InitQuestion  of which Prepare  TestePoint      Fermer  names  us a call\n";
     std::set<std::u16string> names;
     std::size_t automationCalls = 0;
-    bool isGood = true;
+    Bounds bounds{out};
     for (const std::filesystem::path& path : at.library.filesOfCourse(request.questions)) {
         const language::ScenarioFile file = load(path);
         const Course course(file, makeWorld);
@@ -68,29 +61,31 @@ bool printQuestions(const CostRequest& request, const CommandContext& at) {
             << std::setw(12) << against(cost.testePoint.calls, testePoint) << std::setw(12)
             << against(cost.fermer.calls, fermer) << std::setw(7) << cost.names.size() << std::fixed
             << std::setprecision(2) << std::setw(11) << microsecondsACall(cost) << std::endl;
-        isGood = isAsPrescribed(cost.initQuestion, initQuestion, out) && isGood;
-        isGood = isAsPrescribed(cost.testePoint, testePoint, out) && isGood;
-        isGood = isAsPrescribed(cost.fermer, fermer, out) && isGood;
+        for (const auto& [measured, prescribed] :
+             {std::pair(&cost.initQuestion, &initQuestion), {&cost.testePoint, &testePoint}, {&cost.fermer, &fermer}}) {
+            const std::string difference = trace::differenceOf(measured->lines, prescribed->trace);
+            bounds.hold(difference.empty(), "other calls than prescribed: " + difference);
+        }
         names.insert(cost.names.begin(), cost.names.end());
         automationCalls += cost.automationCalls();
     }
     out << "\nIn one session: " << automationCalls << " automation calls, " << names.size() << " names stated\n\n";
-    return isGood;
+    return bounds.isGood;
 }
 
 bool printLargeDeck(const WorldMaker& makeWorld, std::ostream& out) {
     out << "Question 306's check on a large deck: 10 text shapes on a slide, 100 words in a shape, each read twice\n\n";
-    bool isGood = true;
+    Bounds bounds{out};
     const bool isFlat = printGrowth(
         {},
         [&](const language::ScenarioFile& file, std::size_t times) {
             QuestionCost cost = cost::costOf(file, Course(file, makeWorld), makeWorld, timedRuns);
             const bool isShort = times != 1 || cost.testePoint.time.count() < mostTime;
-            isGood = holds(isShort, "the check takes 50 milliseconds or more", out) && isGood;
+            bounds.hold(isShort, "the check takes 50 milliseconds or more");
             return cost;
         },
         out);
-    return isFlat && isGood;
+    return isFlat && bounds.isGood;
 }
 
 bool printLongRun(const CostRequest& request, const CommandContext& at) {
@@ -114,24 +109,22 @@ bool printLongRun(const CostRequest& request, const CommandContext& at) {
     const auto shown = [](const std::optional<std::size_t>& figure) {
         return figure ? std::to_string(*figure) : "unknown";
     };
-    bool isGood = !holdings.empty();
+    Bounds bounds{out, !holdings.empty()};
     for (const cost::Holding& holding : holdings) {
         out << std::setw(9) << holding.questions << std::setw(13) << shown(holding.use.kilobytes) << std::setw(9)
             << shown(holding.use.handles) << std::setw(14) << holding.objects << '\n';
         const cost::Holding& first = holdings.front();
-        isGood = holds(holding.objects == first.objects, "objects are left alive", out) && isGood;
-        isGood = holds(holding.use.handles.value_or(0) <= first.use.handles.value_or(0) + mostNewHandles,
-                       "handles are left open", out) &&
-                 isGood;
-        isGood = holds(static_cast<double>(holding.use.kilobytes.value_or(0)) <=
-                           static_cast<double>(first.use.kilobytes.value_or(0)) * mostMemoryGrowth,
-                       "memory grows", out) &&
-                 isGood;
+        bounds.hold(holding.objects == first.objects, "objects are left alive");
+        bounds.hold(holding.use.handles.value_or(0) <= first.use.handles.value_or(0) + mostNewHandles,
+                    "handles are left open");
+        bounds.hold(static_cast<double>(holding.use.kilobytes.value_or(0)) <=
+                        static_cast<double>(first.use.kilobytes.value_or(0)) * mostMemoryGrowth,
+                    "memory grows");
         for (const std::string& open : holding.leftOpen) {
-            isGood = holds(false, open, out);
+            bounds.hold(false, open);
         }
     }
-    return isGood;
+    return bounds.isGood;
 }
 
 /// Prints what questions cost in calls and time, and how the cost grows with a deck; or what a long run leaves behind.

@@ -13,11 +13,11 @@ constexpr double mostTimeGrowth = 2;
 
 } // namespace
 
-bool holds(bool isWithin, std::string_view what, std::ostream& out) {
+void Bounds::hold(bool isWithin, std::string_view what) {
     if (!isWithin) {
         out << "falls short: " << what << '\n';
+        isGood = false;
     }
-    return isWithin;
 }
 
 bool printGrowth(cost::DeckSize size,
@@ -27,7 +27,7 @@ bool printGrowth(cost::DeckSize size,
     const std::size_t slides = size.slides;
     double firstCalls = 0;
     double firstTime = 0;
-    bool isGood = true;
+    Bounds bounds{out};
     for (const std::size_t times : {1U, 2U, 4U, 8U}) {
         size.slides = slides * times;
         const language::ScenarioFile file = cost::largeDeck(size);
@@ -41,17 +41,16 @@ bool printGrowth(cost::DeckSize size,
             << std::setw(14) << calls << std::setprecision(1) << std::setw(14) << cost.testePoint.time.count()
             << std::setprecision(0) << std::setw(11) << time * 1e6 << std::endl;
         const Expectation* const expected = file.scenarios.front().lastExpectation();
-        isGood =
-            holds(expected->matches(cost.reading), "the check does not come to " + expected->display(), out) && isGood;
+        bounds.hold(expected->matches(cost.reading), "the check does not come to " + expected->display());
         if (times == 1) {
             firstCalls = calls;
             firstTime = time;
         }
-        isGood = holds(cost.testePoint.automationCalls == prescribed, "not the calls prescribed", out) && isGood;
-        isGood = holds(calls <= firstCalls * mostCallsGrowth, "the calls for a word grow", out) && isGood;
-        isGood = holds(time <= firstTime * mostTimeGrowth, "the time for a word grows", out) && isGood;
+        bounds.hold(cost.testePoint.automationCalls == prescribed, "not the calls prescribed");
+        bounds.hold(calls <= firstCalls * mostCallsGrowth, "the calls for a word grow");
+        bounds.hold(time <= firstTime * mostTimeGrowth, "the time for a word grows");
     }
-    return isGood;
+    return bounds.isGood;
 }
 
 } // namespace trials

@@ -13,8 +13,13 @@ struct CostRequest {
     std::size_t slides = 50;             ///< of the large deck that is checked through COM
 };
 
-/// True where a figure is within its bound; says so where it is not.
-[[nodiscard]] bool holds(bool isWithin, std::string_view what, std::ostream& out);
+/// Whether all figures are within their bounds; says where one is not.
+struct Bounds {
+    std::ostream& out;
+    bool isGood = true;
+
+    void hold(bool isWithin, std::string_view what);
+};
 
 /// Prints the check of a deck and of those of 2, 4 and 8 times its slides, as `costOf` measures them; true where the
 /// verdict is right, and calls and time of a word do not grow.

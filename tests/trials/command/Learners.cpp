@@ -65,92 +65,71 @@ struct LearnersTotals {
     std::size_t missing = 0;  ///< of them, those that no learner came to
 };
 
-/// The learners of one question.
-class Classroom {
-public:
-    Classroom(const language::ScenarioFile& file, std::uint32_t draw)
-        : file_(file), outcomesSought_(outcomesOf(file)), course_(file, makeEmbeddedWorld), draw_(draw) {}
+/// Saves the shortest scenario of a disagreement in a folder, and says what was expected and what the host reads.
+void save(const language::ScenarioFile& file, const Course& course, const Record& record, const std::string& folder,
+          std::ostream& out) {
+    const auto disagrees = [&](const Moves& moves) {
+        if (moves.empty() || moves.back() != learners::checkMove) {
+            return false;
+        }
+        const auto findings = learners::replay(file.question, course, moves);
+        return findings && !findings->back().isAgreed();
+    };
+    const bool isReproduced = disagrees(record.moves);
+    const Moves moves = isReproduced ? learners::shrunk(record.moves, disagrees) : record.moves;
+    const std::vector<Finding> findings =
+        isReproduced ? learners::replay(file.question, course, moves).value() : record.findings;
+    const std::string text = scenarioText(file, moves, findings, "what a learner did");
+    const std::string path = folder + "/learner-0" + std::to_string(file.question) + ".scn";
+    out << ": expected " << findings.back().wanted.display() << ", the host reads " << findings.back().read.display()
+        << (isReproduced ? "" : ", but not when the moves are made again") << '\n'
+        << text << (std::ofstream(path) << text ? "saved as " : "cannot be saved as ") << path << std::endl;
+}
 
-    /// Stops at the first disagreement, whose scenario is saved in `folder`. `work` is told of every learner.
-    void run(std::size_t runs, const std::string& folder, std::ostream& out,
-             const std::function<void(std::size_t run)>& work) {
-        const learners::Learner learner(file_, course_, draw_);
-        while (runs_ != runs && disagreements_ == 0) {
-            work(++runs_);
-            const Record record = learner.work();
-            for (const Finding& finding : record.findings) {
-                ++outcomes_[outcomeOf(finding.read)];
-            }
-            if (!record.isAgreed()) {
-                ++disagreements_;
-                save(record, folder, out);
-            }
+/// The learners of one question, up to the first disagreement, and a line of figures; true where all was agreed on, and
+/// more than one thing came out where more can. `onRun` is told of every learner.
+bool letLearn(const language::ScenarioFile& file, learners::Draw draw, const LearnersRequest& request,
+              const CommandContext& at, const std::function<void(std::size_t run)>& onRun, LearnersTotals& totals) {
+    const Course course(file, makeEmbeddedWorld);
+    const learners::Learner learner(file, course, draw);
+    const std::string question = "question " + std::to_string(file.question);
+    std::map<std::string, std::size_t> reached;
+    std::size_t runs = 0;
+    bool isAgreed = true;
+    while (runs != request.runs && isAgreed) {
+        onRun(++runs);
+        const Record record = learner.work();
+        for (const Finding& finding : record.findings) {
+            ++reached[outcomeOf(finding.read)];
+        }
+        totals.checks += record.findings.size();
+        isAgreed = record.isAgreed();
+        if (!isAgreed) {
+            ++totals.disagreements;
+            save(file, course, record, request.folder, at.out << question << ", run " << runs);
         }
     }
-
-    /// One line of figures; true where all was agreed on, and more than one thing came out where more can.
-    bool tell(std::ostream& out) const {
-        out << "question " << file_.question << ": " << runs_ << " runs;";
-        for (const auto& [outcome, count] : outcomes_) {
-            out << ' ' << outcome << ' ' << count << ',';
-        }
-        const std::vector<std::string> missing = outcomesMissing();
-        for (const std::string& outcome : missing) {
-            out << " no " << outcome << ',';
-        }
-        out << ' ' << disagreements_ << " disagreements\n";
-        const bool isMonotonous = outcomesSought_.size() > 1 && missing.size() + 1 >= outcomesSought_.size();
-        if (isMonotonous) {
-            out << "question " << file_.question << ": the learners do not come to enough\n";
-        }
-        return !isMonotonous && disagreements_ == 0;
+    totals.learners += runs;
+    at.progress.clear();
+    at.out << question << ": " << runs << " runs;";
+    for (const auto& [outcome, count] : reached) {
+        at.out << ' ' << outcome << ' ' << count << ',';
     }
-
-    void addTo(LearnersTotals& totals) const {
-        totals.learners += runs_;
-        for (const auto& [outcome, count] : outcomes_) {
-            totals.checks += count;
-        }
-        totals.disagreements += disagreements_;
-        totals.outcomes += outcomesSought_.size();
-        totals.missing += outcomesMissing().size();
+    std::set<std::string> missing = outcomesOf(file);
+    const std::size_t sought = missing.size();
+    std::erase_if(missing, [&](const std::string& outcome) { return reached.contains(outcome); });
+    for (const std::string& outcome : missing) {
+        at.out << " no " << outcome << ',';
     }
-
-private:
-    [[nodiscard]] std::vector<std::string> outcomesMissing() const {
-        std::vector<std::string> missing(outcomesSought_.begin(), outcomesSought_.end());
-        std::erase_if(missing, [this](const std::string& outcome) { return outcomes_.contains(outcome); });
-        return missing;
+    totals.outcomes += sought;
+    totals.missing += missing.size();
+    at.out << ' ' << (isAgreed ? 0 : 1) << " disagreements" << std::endl;
+    const bool isMonotonous = sought > 1 && missing.size() + 1 >= sought;
+    if (isMonotonous) {
+        at.out << question << ": the learners do not come to enough" << std::endl;
     }
-
-    void save(const Record& record, const std::string& folder, std::ostream& out) const {
-        const auto disagrees = [this](const Moves& moves) {
-            if (moves.empty() || moves.back() != learners::checkMove) {
-                return false;
-            }
-            const auto findings = learners::replay(file_.question, course_, moves);
-            return findings && !findings->back().isAgreed();
-        };
-        const bool isReproduced = disagrees(record.moves);
-        const Moves moves = isReproduced ? learners::shrunk(record.moves, disagrees) : record.moves;
-        const std::vector<Finding> findings =
-            isReproduced ? learners::replay(file_.question, course_, moves).value() : record.findings;
-        const std::string text = scenarioText(file_, moves, findings, "what a learner did");
-        const std::string path = folder + "/learner-0" + std::to_string(file_.question) + ".scn";
-        out << "question " << file_.question << ", run " << runs_ << ": expected " << findings.back().wanted.display()
-            << ", the host reads " << findings.back().read.display()
-            << (isReproduced ? "" : ", but not when the moves are made again") << '\n'
-            << text << (std::ofstream(path) << text ? "saved as " : "cannot be saved as ") << path << std::endl;
-    }
-
-    const language::ScenarioFile& file_;
-    std::set<std::string> outcomesSought_;
-    Course course_;
-    learners::Draw draw_;
-    std::size_t runs_ = 0;
-    std::size_t disagreements_ = 0;
-    std::map<std::string, std::size_t> outcomes_;
-};
+    return !isMonotonous && isAgreed;
+}
 
 /// Lets learners work at random on the embedded PowerPoint and compares the module's verdicts with those of judges that
 /// read the documents by themselves; prints what came out, and the shortest scenario of each disagreement.
@@ -166,15 +145,12 @@ ExitCode letLearn(const LearnersRequest& request, const CommandContext& at) {
     for (const std::filesystem::path& path : paths) {
         watch.next("the learners of " + path.string());
         const language::ScenarioFile file = load(path);
-        Classroom classroom(file, draw + static_cast<std::uint32_t>(file.question));
-        classroom.run(request.runs, request.folder, at.out, [&](std::size_t run) {
+        const auto onRun = [&](std::size_t run) {
             at.progress.at("learners of " + std::to_string(file.question), begun + run, paths.size() * request.runs);
-        });
+        };
+        const learners::Draw ofQuestion(draw + static_cast<std::uint32_t>(file.question));
+        ++(letLearn(file, ofQuestion, request, at, onRun, totals) ? passed : failed);
         begun += request.runs;
-        at.progress.clear();
-        ++(classroom.tell(at.out) ? passed : failed);
-        classroom.addTo(totals);
-        at.out << std::flush;
     }
     at.out << totals.learners << " learners, " << totals.checks << " checks, " << totals.disagreements
            << " disagreements, " << totals.missing << " of " << totals.outcomes << " outcomes never reached, "

@@ -1,6 +1,5 @@
 #include "tests/trials/command/CostParts.h"
 
-#include "automation/LateBound.h"
 #include "automation/Text.h"
 #include "tests/trials/ScriptHost.h"
 #include "tests/trials/StandIn.h"
@@ -15,7 +14,6 @@ namespace {
 
 using cost::Milliseconds;
 using cost::QuestionCost;
-using Clock = std::chrono::steady_clock;
 
 /// Most that the check may take of the time of the same check as a script.
 constexpr double mostOfScript = 0.6;
@@ -29,9 +27,9 @@ struct ScriptRun {
 };
 
 template <typename Step> Milliseconds timeOf(const Step& step) {
-    const Clock::time_point begun = Clock::now();
+    const auto begun = std::chrono::steady_clock::now();
     step();
-    return Clock::now() - begun;
+    return std::chrono::steady_clock::now() - begun;
 }
 
 void printFirstAnswer(const language::ScenarioFile& file, const Worlds& worlds, std::ostream& out) {
@@ -55,36 +53,32 @@ bool printRemoteQuestions(const CostRequest& request, const CommandContext& at) 
     out << "Calls that reach PowerPoint, names looked up in them and names that they state, and time by the clock\n\n"
            "question  InitQuestion  TestePoint  Fermer  look-ups  names  ms InitQuestion  ms TestePoint  us a call"
         << std::endl;
-    bool isGood = true;
+    Bounds bounds{out};
     for (const std::filesystem::path& path : at.library.filesOfCourse(request.questions)) {
         const language::ScenarioFile file = load(path);
         const Course course(file, at.worlds.embedded);
         const QuestionCost here = cost::costOf(file, course, at.worlds.embedded, 0);
         const QuestionCost cost = cost::remoteCostOf(file, course, at.worlds.remote);
         out << std::setw(8) << file.question << std::setw(14) << cost.initQuestion.calls << std::setw(12)
-            << cost.testePoint.calls << std::setw(8) << cost.fermer.calls << std::setw(10) << cost.lookUps
+            << cost.testePoint.calls << std::setw(8) << cost.fermer.calls << std::setw(10) << cost.lookUps()
             << std::setw(7) << here.names.size() << std::fixed << std::setprecision(1) << std::setw(17)
             << cost.initQuestion.time.count() << std::setw(15) << cost.testePoint.time.count() << std::setprecision(0)
             << std::setw(11) << 1000 * cost.time().count() / static_cast<double>(cost.automationCalls()) << std::endl;
         const bool isSame = cost.initQuestion.calls == here.initQuestion.automationCalls &&
                             cost.testePoint.calls == here.testePoint.automationCalls &&
                             cost.fermer.calls == here.fermer.automationCalls;
-        isGood = holds(isSame, "not as many calls as in this process", out) && isGood;
-        isGood = holds(cost.lookUps <= here.names.size(), "a name is looked up twice", out) && isGood;
+        bounds.hold(isSame, "not as many calls as in this process");
+        bounds.hold(cost.lookUps() <= here.names.size(), "a name is looked up twice");
     }
-    return isGood;
+    return bounds.isGood;
 }
 
 ScriptRun runCheck(const std::filesystem::path& script) {
-    const automation::LateBound standIn = trials::standIn();
-    const auto counted = [&](std::u16string_view name) {
-        return static_cast<std::size_t>(standIn.get(name).to<std::int32_t>());
-    };
-    ScriptRun run{{}, 0, counted(u"Calls"), counted(u"LookUps")};
+    ScriptRun run{{}, 0, countOfStandIn(u"Calls"), countOfStandIn(u"LookUps")};
     std::istringstream said(runScript(script, {u"faire", u"cr\u00E9er"}));
     said >> run.letter >> run.milliseconds;
-    run.calls = counted(u"Calls") - run.calls;
-    run.lookUps = counted(u"LookUps") - run.lookUps;
+    run.calls = countOfStandIn(u"Calls") - run.calls;
+    run.lookUps = countOfStandIn(u"LookUps") - run.lookUps;
     return run;
 }
 
@@ -106,15 +100,16 @@ bool printBesideScript(const CostRequest& request, const CommandContext& at) {
     const QuestionCost cost = cost::remoteCostOf(file, Course(file, at.worlds.embedded), at.worlds.remote, [&] {
         script = runCheck(at.library.folder() / "../tests/trials/cost/0306.vbs");
     });
-    print("library ", cost.testePoint.calls, cost.lookUps, cost.testePoint.time.count());
+    print("library ", cost.testePoint.calls, cost.lookUps(), cost.testePoint.time.count());
     print("script  ", script.calls, script.lookUps, script.milliseconds);
     const double ratio = cost.testePoint.time.count() / script.milliseconds;
     out << std::setprecision(2) << "the library takes " << ratio << " of the script's time\n\n";
     const Expectation* const expected = file.scenarios.front().lastExpectation();
-    bool isGood = holds(expected->matches(cost.reading), "the check does not come to " + expected->display(), out);
-    isGood = holds(script.letter == automation::toUtf8(cost.reading.causeErreur), "the script judges otherwise", out) &&
-             isGood;
-    return holds(ratio <= mostOfScript, "that is more than 0.6", out) && isGood;
+    Bounds bounds{out};
+    bounds.hold(expected->matches(cost.reading), "the check does not come to " + expected->display());
+    bounds.hold(script.letter == automation::toUtf8(cost.reading.causeErreur), "the script judges otherwise");
+    bounds.hold(ratio <= mostOfScript, "that is more than 0.6");
+    return bounds.isGood;
 }
 
 } // namespace

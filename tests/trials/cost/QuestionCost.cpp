@@ -1,6 +1,5 @@
 #include "tests/trials/cost/QuestionCost.h"
 
-#include "automation/LateBound.h"
 #include "host/run/FirstMoves.h"
 #include "tests/trials/StandIn.h"
 #include "tests/trials/trace/TraceLog.h"
@@ -11,16 +10,8 @@ namespace trials::cost {
 
 namespace {
 
-/// What has been counted and what time it is.
-struct Reckoning {
-    std::size_t calls = 0;
-    std::size_t automationCalls = 0;
-    std::size_t lookUps = 0;
-    Milliseconds time{};
-    std::vector<std::string> lines{}; ///< written since the last reckoning
-};
-
-using Meter = std::function<Reckoning()>;
+/// What has been counted up to now and what time it is; the lines are those since it was asked last.
+using Meter = std::function<OperationCost()>;
 
 /// Processor time of this process: what else the machine has to do does not count.
 Milliseconds processorTime() {
@@ -56,12 +47,14 @@ public:
 
 private:
     template <typename Step> OperationCost measure(const Step& step) {
-        const Reckoning before = meter_();
+        const OperationCost before = meter_();
         step();
-        Reckoning after = meter_();
-        cost.lookUps += after.lookUps - before.lookUps;
-        return {after.calls - before.calls, after.automationCalls - before.automationCalls, after.time - before.time,
-                std::move(after.lines)};
+        OperationCost taken = meter_();
+        taken.calls -= before.calls;
+        taken.automationCalls -= before.automationCalls;
+        taken.lookUps -= before.lookUps;
+        taken.time -= before.time;
+        return taken;
     }
 
     Meter meter_;
@@ -69,7 +62,7 @@ private:
 
 QuestionCost observedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
     const auto log = std::make_shared<trace::TraceLog>();
-    const Meter meter = [&] { return Reckoning{log->calls, log->automationCalls, 0, {}, log->takeLines()}; };
+    const Meter meter = [&] { return OperationCost{log->calls, log->automationCalls, 0, {}, log->takeLines()}; };
     QuestionCost cost = MeasuredRun(file, course, *makeWorld(log), meter).cost;
     cost.names = log->names;
     return cost;
@@ -88,7 +81,7 @@ PrescribedCalls::PrescribedCalls(std::int32_t question, HostCall operation)
 
 QuestionCost costOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld, int runs) {
     QuestionCost cost = observedCostOf(file, course, makeWorld);
-    const Meter timer = [] { return Reckoning{0, 0, 0, processorTime(), {}}; };
+    const Meter timer = [] { return OperationCost{0, 0, 0, processorTime(), {}}; };
     for (int i = 0; i < runs; ++i) {
         const QuestionCost unobserved = MeasuredRun(file, course, *makeWorld(nullptr), timer).cost;
         for (const auto operation : {&QuestionCost::initQuestion, &QuestionCost::testePoint, &QuestionCost::fermer}) {
@@ -104,12 +97,8 @@ QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& cour
                           const OnChecked& onChecked) {
     const WorldPtr world = makeRemoteWorld(nullptr);
     const Meter meter = [] {
-        const automation::LateBound standIn = trials::standIn();
-        const auto counted = [&](std::u16string_view name) {
-            return static_cast<std::size_t>(standIn.get(name).to<std::int32_t>());
-        };
-        const std::size_t calls = counted(u"Calls");
-        return Reckoning{calls, calls, counted(u"LookUps"), clockTime(), {}};
+        const std::size_t calls = countOfStandIn(u"Calls");
+        return OperationCost{calls, calls, countOfStandIn(u"LookUps"), clockTime(), {}};
     };
     return MeasuredRun(file, course, *world, meter, onChecked).cost;
 }

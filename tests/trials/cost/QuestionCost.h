@@ -16,8 +16,9 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 struct OperationCost {
     std::size_t calls = 0;           ///< that leave the module
     std::size_t automationCalls = 0; ///< of them, those to PowerPoint
+    std::size_t lookUps = 0;         ///< of names, by a PowerPoint in a process of its own
     Milliseconds time{};
-    std::vector<std::string> lines; ///< of its trace, where calls are observed
+    std::vector<std::string> lines{}; ///< of its trace, where calls are observed
 };
 
 /// Calls that an operation takes where each step is taken as it is described, and none beside: those of its expected
@@ -37,11 +38,13 @@ struct QuestionCost {
     OperationCost testePoint;
     OperationCost fermer;
     std::set<std::u16string> names; ///< of PowerPoint's members called
-    std::size_t lookUps = 0;        ///< of names, by a PowerPoint in a process of its own
     Reading reading;                ///< after the first moves of the scenario file
 
     [[nodiscard]] std::size_t automationCalls() const noexcept {
         return initQuestion.automationCalls + testePoint.automationCalls + fermer.automationCalls;
+    }
+    [[nodiscard]] std::size_t lookUps() const noexcept {
+        return initQuestion.lookUps + testePoint.lookUps + fermer.lookUps;
     }
     [[nodiscard]] Milliseconds time() const noexcept { return initQuestion.time + testePoint.time + fermer.time; }
 };

@@ -117,54 +117,50 @@ std::u16string several(const Hand& hand) {
 /// What a word in braces stands for; others in braces may stand in it.
 struct Placeholder {
     std::u16string_view name;
-    std::u16string (*meaning)(const Hand&);
+    std::u16string_view meaning;
+    std::u16string (*draw)(const Hand&) = nullptr; ///< gives the meaning where it depends on the hand
 };
 
 constexpr auto placeholders = std::to_array<Placeholder>({
-    {u"shapes", shapesOf},
+    {u"shapes", {}, shapesOf},
     {u"shape",
+     {},
      // One that cannot exist where there is none.
      [](const Hand& hand) {
          return u"{shapes}(" + decimal(hand.draw.between(1, std::max<std::size_t>(shapesOn(hand), 1))) + u")";
      }},
-    {u"several", several},
+    {u"several", {}, several},
     {u"slide",
+     {},
      [](const Hand& hand) {
          const simulator::Presentation* const active = hand.scene.active();
          return decimal(hand.draw.between(1, active != nullptr ? active->slides().size() + 1 : 1));
      }},
     {u"length", // in points: round, or on the edge of what a question asks for
+     {},
      [](const Hand& hand) -> std::u16string {
          return hand.draw.percent(60) ? decimal(hand.draw.below(80) * 5)
                                       : u"{56.5|56.625|56.75|105|128|149.875|150|195|260|35|311.625|481.625|57.875|"
                                         u"368.375}";
      }},
-    {u"frame", [](const Hand&) -> std::u16string { return u"{length}, {length}, {2-20}0, {2-20}0"; }},
+    {u"frame", u"{length}, {length}, {2-20}0, {2-20}0"},
     {u"kind",
+     {},
      [](const Hand& hand) -> std::u16string {
          return hand.draw.percent(80) ? u"{1|1|5|9|32|33|61|62|65|66}" : u"{1-137}";
      }},
-    {u"node",
-     [](const Hand&) -> std::u16string {
-         return u"{msoSegmentLine|msoSegmentCurve}, msoEditingAuto, {30-35}0, {25-40}0";
-     }},
-    {u"color",
-     [](const Hand&) -> std::u16string { return u"RGB({255, 0, 0|0, 0, 255|0, 0, 0|128, 128, 128|255, 255, 255})"; }},
+    {u"node", u"{msoSegmentLine|msoSegmentCurve}, msoEditingAuto, {30-35}0, {25-40}0"},
+    {u"color", u"RGB({255, 0, 0|0, 0, 255|0, 0, 0|128, 128, 128|255, 255, 255})"},
     {u"part", // the text of a shape, or a part of it
+     {},
      [](const Hand& hand) {
          return u"{shape}.TextFrame.TextRange" + std::u16string(hand.draw.percent(60) ? u".Paragraphs({1-4})" : u"") +
                 (hand.draw.percent(50) ? u".Words({1-6})" : u"");
      }},
     {u"word",
-     [](const Hand&) -> std::u16string {
-         return u"{faire|créer|Régles|Règles|parfaitement|tout à fait|lisibles|Conseils|Faire|creer|à|ligne|Taille|"
-                u"caractères}";
-     }},
+     u"{faire|créer|Régles|Règles|parfaitement|tout à fait|lisibles|Conseils|Faire|creer|à|ligne|Taille|caractères}"},
     {u"phrase", // a text of a word or two with the marks that words end at
-     [](const Hand&) -> std::u16string {
-         return u"\"{||||| }{word}{\"| \"|  \"|,\"|\" & vbCr|\" & vbVerticalTab & \"faire\"|\" & vbTab|\u00A0\"| "
-                u"Faire\"}";
-     }},
+     u"\"{||||| }{word}{\"| \"|  \"|,\"|\" & vbCr|\" & vbVerticalTab & \"faire\"|\" & vbTab|\u00A0\"| Faire\"}"},
 });
 
 /// What is drawn for what stands in braces.
@@ -172,7 +168,7 @@ std::u16string drawn(std::u16string_view choice, const Hand& hand) {
     const auto placeholder = std::find_if(placeholders.begin(), placeholders.end(),
                                           [&](const Placeholder& each) { return each.name == choice; });
     if (placeholder != placeholders.end()) {
-        return placeholder->meaning(hand);
+        return placeholder->draw != nullptr ? placeholder->draw(hand) : std::u16string(placeholder->meaning);
     }
     if (choice.find(u'|') == std::u16string_view::npos) {
         const std::string range = automation::toUtf8(choice);

@@ -20,7 +20,7 @@ constexpr std::u16string_view registryText =
     u"Impossible d'accéder en lecture-écriture à la clé de base de registre\n\r";
 
 /// What an error report gives as its object.
-enum class Object : std::uint8_t { None, Description, Source };
+enum class Object : std::uint8_t { Description, Source };
 
 /// What becomes of a failed call of a phase; what no rule names is passed over.
 struct Rule {
@@ -30,29 +30,25 @@ struct Rule {
     Answer answer;
     std::u16string_view className = {}; ///< that of the question where it is empty
     std::u16string_view service = {};
-    Object object = Object::None;
+    Object object = Object::Description;
 };
 
 constexpr std::array rules{
     Rule{Phase::Obtaining, Border::Automation, u"attach", Answer::Silence},
     Rule{Phase::Obtaining, Border::Automation, u"ShowStartupDialog", Answer::Silence},
-    Rule{Phase::Obtaining, Border::Automation, {}, Answer::Reported, u"Module", u"GetApplication", Object::Description},
-    Rule{Phase::Saving, Border::Automation, {}, Answer::Reported, u"Module", u"RestaureParamUser", Object::Description},
-    Rule{Phase::Saving, Border::Registry, u"open", Answer::Reported, u"Module", u"RestaureParamUser",
-         Object::Description},
-    Rule{Phase::Saving, Border::Registry, u"query", Answer::Reported, u"Module", u"RestaureParamUser",
-         Object::Description},
-    Rule{Phase::Cleaning, Border::Automation, {}, Answer::Reported, u"Module", u"Nettoyage", Object::Description},
-    Rule{Phase::Restoring, Border::Registry, u"open", Answer::Reported, u"Module", u"RestaureParamUser",
-         Object::Description},
-    Rule{Phase::Creating, Border::Registry, u"open", Answer::Reported, u"Module", u"InitQuestion", Object::Description},
-    Rule{Phase::Creating, Border::Registry, u"query", Answer::Reported, u"Module", u"InitQuestion",
-         Object::Description},
-    Rule{Phase::Staging, Border::File, {}, Answer::Reported, u"Module", u"Renomme", Object::Description},
+    Rule{Phase::Obtaining, Border::Automation, {}, Answer::Reported, u"Module", u"GetApplication"},
+    Rule{Phase::Saving, Border::Automation, {}, Answer::Reported, u"Module", u"RestaureParamUser"},
+    Rule{Phase::Saving, Border::Registry, u"open", Answer::Reported, u"Module", u"RestaureParamUser"},
+    Rule{Phase::Saving, Border::Registry, u"query", Answer::Reported, u"Module", u"RestaureParamUser"},
+    Rule{Phase::Cleaning, Border::Automation, {}, Answer::Reported, u"Module", u"Nettoyage"},
+    Rule{Phase::Restoring, Border::Registry, u"open", Answer::Reported, u"Module", u"RestaureParamUser"},
+    Rule{Phase::Creating, Border::Registry, u"open", Answer::Reported, u"Module", u"InitQuestion"},
+    Rule{Phase::Creating, Border::Registry, u"query", Answer::Reported, u"Module", u"InitQuestion"},
+    Rule{Phase::Staging, Border::File, {}, Answer::Reported, u"Module", u"Renomme"},
     Rule{Phase::Tooltips, Border::Automation, {}, Answer::Straight},
     Rule{Phase::Preparing, Border::Automation, {}, Answer::Reported, {}, u"Prepare", Object::Source},
     Rule{Phase::Preparing, Border::Locale, {}, Answer::Reported, {}, u"Prepare", Object::Source},
-    Rule{Phase::Pointing, Border::Registry, u"open", Answer::Reported, u"Module", u"ChangeDir", Object::Description},
+    Rule{Phase::Pointing, Border::Registry, u"open", Answer::Reported, u"Module", u"ChangeDir"},
     Rule{Phase::Fronting, Border::Automation, {}, Answer::Straight},
     Rule{Phase::Examining, Border::Automation, {}, Answer::Straight},
     Rule{Phase::Checking, Border::Automation, {}, Answer::Reported, {}, u"TestePoint", Object::Source},

@@ -1,12 +1,11 @@
 #include "tests/trials/torture/Tampering.h"
 
-#include "automation/LateBound.h"
 #include "tests/trials/StandIn.h"
 
 namespace trials::torture {
 
 void RemoteCalls::begin(World& /*world*/) {
-    before_ = standIn().get(u"Calls").to<std::int32_t>();
+    before_ = countOfStandIn(u"Calls");
     if (fault_ != nullptr) {
         fault_->arm(position_);
     }
@@ -14,7 +13,7 @@ void RemoteCalls::begin(World& /*world*/) {
 
 std::size_t RemoteCalls::calls(World& /*world*/) {
     try {
-        return static_cast<std::size_t>(standIn().get(u"Calls").to<std::int32_t>() - before_);
+        return countOfStandIn(u"Calls") - before_;
     } catch (const automation::Error&) {
         return 0;
     }

@@ -60,7 +60,7 @@ public:
 private:
     const Fault* fault_ = nullptr;
     std::size_t position_ = 0;
-    std::int32_t before_ = 0;
+    std::size_t before_ = 0;
 };
 
 } // namespace trials::torture

@@ -105,7 +105,7 @@ void Torture::run(const Ground& ground, std::span<const Fault> faults, const Str
         }
     }
     const Checker checker(file_.question, operation, flawless, route);
-    for (std::size_t n = firstPosition(); n <= positions.size(); n += every_) {
+    for (std::size_t n = 1 + random_() % every_; n <= positions.size(); n += every_) {
         const Call& call = route[positions[n - 1]];
         for (const Fault& fault : faults) {
             if (!fault.fits(call.border)) {
@@ -122,10 +122,6 @@ void Torture::run(const Ground& ground, std::span<const Fault> faults, const Str
             }
         }
     }
-}
-
-std::size_t Torture::firstPosition() const {
-    return 1 + random_() % every_;
 }
 
 } // namespace trials::torture

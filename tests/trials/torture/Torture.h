@@ -51,7 +51,6 @@ private:
     };
 
     void run(const Ground& ground, std::span<const Fault> faults, const Struck& struck, const Audience& audience) const;
-    [[nodiscard]] std::size_t firstPosition() const;
 
     const language::ScenarioFile& file_;
     Course course_;

@@ -60,13 +60,10 @@ std::string folders(const std::string& access, const std::vector<std::pair<std::
     return lines;
 }
 
-/// A place in a list, each number once.
-std::string places(int last, const std::string& before, const std::string& after) {
-    std::string lines;
-    for (int i = 1; i <= last; ++i) {
-        lines += before + std::to_string(i) + after;
-    }
-    return lines;
+/// What is read of each of the first presentations open.
+std::string openOnes(int last, const std::string& member) {
+    return upTo(last,
+                [&](int i) { return "Application.Presentations.Item(" + std::to_string(i) + ")." + member + '\n'; });
 }
 
 class Trace {
@@ -103,9 +100,8 @@ public:
         add(Phase::Looking, "Windows.isVisible((window))\n");
         ask();
         bringToFront();
-        std::string examining = "Application.Presentations.Count\n";
-        examining += places(presentations(), "Application.Presentations.Item(", ").Name\n");
-        add(Phase::Examining, examining + "Application.Presentations.Item(" + std::to_string(presentations()) +
+        add(Phase::Examining, "Application.Presentations.Count\n" + openOnes(presentations(), "Name") +
+                                  "Application.Presentations.Item(" + std::to_string(presentations()) +
                                   ").FullName\nApplication.ActivePresentation.FullName\n" + marksRead(slides));
         add(Phase::Checking, check);
     }
@@ -167,7 +163,7 @@ Application.ShowStartupDialog
 
     void save() {
         add(Phase::Saving, "Application.CommandBars.Count\n" +
-                               places(bars, "Application.CommandBars.Item(", ").Visible\nCommandBar.Name\n") +
+                               upTo(bars, [](int i) { return bar(std::to_string(i), "Visible\nCommandBar.Name"); }) +
                                folders("query", {{"Default", ", 255"},
                                                  {"MultimediaDir", ", 255"},
                                                  {"PictureDir", ", 255"},
@@ -196,8 +192,7 @@ Registry.close
             const std::string path = "(\"" + std::string(folder) + file.name + "\")\n";
             if (file.name.ends_with(".ppt")) {
                 const int others = presentations() - 1;
-                std::string lines = "Application.Presentations.Count\n";
-                lines += places(others + open, "Application.Presentations.Item(", ").FullName\n");
+                std::string lines = "Application.Presentations.Count\n" + openOnes(others + open, "FullName");
                 if (open != 0) {
                     const std::string own = "Application.Presentations.Item(" + std::to_string(others + open) + ").";
                     lines += own + "Saved = -1\n" + own + "Close\n";

@@ -76,6 +76,15 @@ using Texts = std::vector<std::vector<int>>;
 /// How the lines of an operation differ from those expected, in words; empty where they do not.
 [[nodiscard]] std::string differenceOf(const std::vector<std::string>& lines, const std::vector<Line>& expected);
 
+/// What is read of things that have numbers, from 1.
+template <typename Lines> [[nodiscard]] std::string upTo(int last, const Lines& lines) {
+    std::string all;
+    for (int i = 1; i <= last; ++i) {
+        all += lines(i);
+    }
+    return all;
+}
+
 /// The calls of a question's Prepare and those of its check, each line ending with a line feed. Raise
 /// std::out_of_range where nothing is known of the question.
 ///@{

@@ -79,15 +79,6 @@ std::string each(const std::string& object, std::initializer_list<const char*> m
     return lines;
 }
 
-/// What is read of things that have numbers, from 1.
-template <typename Lines> std::string upTo(int last, const Lines& lines) {
-    std::string all;
-    for (int i = 1; i <= last; ++i) {
-        all += lines(i);
-    }
-    return all;
-}
-
 std::string mark(const std::string& marked, const std::string& value) {
     return marked + ".Tags.Add(\"Identite\", \"" + value + "\")\n";
 }

@@ -12,14 +12,20 @@ const simulator::Frame& frameOf(const Work& work, std::u16string_view mark) noex
     return work.find(mark)->shape->frame();
 }
 
+/// The letter of two shapes that must stand by themselves, the second where the picture stands.
+std::u16string_view besidePicture(const Work& work, std::u16string_view moved, std::u16string_view picture) {
+    return work.misses(moved)                                 ? u"A"
+           : work.isInGroup(moved) || work.isInGroup(picture) ? u"Z"
+           : work.misses(picture)                             ? u"B"
+           : !stands(work.find(picture), sun)                 ? u"C"
+                                                              : u"";
+}
+
 } // namespace
 
 std::u16string_view moving(const Work& work) {
-    return work.misses(u"ZOR2")                                                                 ? u"A"
-           : work.isInGroup(u"ZOR2")                                                            ? u"Z"
-           : work.misses(u"ZOR1")                                                               ? u"B"
-           : work.isInGroup(u"ZOR1")                                                            ? u"Z"
-           : !stands(work.find(u"ZOR1"), sun)                                                   ? u"C"
+    const std::u16string_view letter = besidePicture(work, u"ZOR2", u"ZOR1");
+    return !letter.empty()                                                                      ? letter
            : frameOf(work, u"ZOR2").width != 444.5F || frameOf(work, u"ZOR2").height != 40.875F ? u"D"
            : frameOf(work, u"ZOR2").top == 35 && frameOf(work, u"ZOR2").left == 57.875F         ? u"E"
            : !isBetween(frameOf(work, u"ZOR2").top, 128, 260) || !isBetween(frameOf(work, u"ZOR2").left, 105, 195)
@@ -47,11 +53,8 @@ std::u16string_view sizing(const Work& work) {
 }
 
 std::u16string_view sizingAndMoving(const Work& work) {
-    return work.misses(u"ZOR4")                                                                  ? u"A"
-           : work.isInGroup(u"ZOR4")                                                             ? u"Z"
-           : work.misses(u"ZOR2")                                                                ? u"B"
-           : work.isInGroup(u"ZOR2")                                                             ? u"Z"
-           : !stands(work.find(u"ZOR2"), sun)                                                    ? u"C"
+    const std::u16string_view letter = besidePicture(work, u"ZOR4", u"ZOR2");
+    return !letter.empty()                                                                       ? letter
            : frameOf(work, u"ZOR4").width != 56.625F || frameOf(work, u"ZOR4").height != 56.625F ? u"D"
            : frameOf(work, u"ZOR4").top != 311.625F                                              ? u"F"
            : frameOf(work, u"ZOR4").left != 311.625F                                             ? u"E"
