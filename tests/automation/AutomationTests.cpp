@@ -148,9 +148,8 @@ TEST(Observers, StandAroundEveryObjectHandedOut) {
 
     EXPECT_EQ(counter->count(), 3U);
     ASSERT_EQ(calls.size(), 3U);
-    EXPECT_EQ(calls[0], u"Sample.Child -> <object>");
-    EXPECT_EQ(calls[1], u"Number = 3 -> Empty");
-    EXPECT_EQ(calls[2].substr(0, 20), u"Nothing -> error 438");
+    EXPECT_EQ(calls[0] + u", " + calls[1], u"Sample.Child -> <object>, Number = 3 -> Empty");
+    EXPECT_TRUE(calls[2].starts_with(u"Nothing -> error 438"));
     EXPECT_TRUE(isSame(sample.object(), inner));
     EXPECT_TRUE(isSame(inner, sample.object()));
     EXPECT_EQ(unobserved(sample.object()), inner);
