@@ -1,6 +1,8 @@
 #include "host/language/Parser.h"
 
 #include "automation/Text.h"
+#include "exercises/Catalogue.h"
+#include "host/language/Encoding.h"
 #include "host/language/LineParser.h"
 #include "host/language/Words.h"
 
@@ -30,14 +32,8 @@ class FileParser {
 public:
     explicit FileParser(std::string fileName) { file_.name = std::move(fileName); }
 
-    ScenarioFile run(std::u16string_view text) {
-        std::size_t number = 1;
-        for (std::size_t start = 0; start <= text.size(); ++number) {
-            const std::size_t stop = std::min(text.find(u'\n', start), text.size());
-            line(text.substr(start, stop - start), number);
-            start = stop + 1;
-        }
-        guarded([&] { finish({number - 1, 1}); });
+    ScenarioFile run(std::string_view bytes) {
+        guarded([&] { lines(textOf(bytes)); });
         if (!wrong_.empty()) {
             throw WrongLines(file_.name, std::move(wrong_));
         }
@@ -51,6 +47,16 @@ private:
         } catch (const SyntaxError& error) {
             wrong_.push_back(error.remark);
         }
+    }
+
+    void lines(std::u16string_view text) {
+        std::size_t number = 1;
+        for (std::size_t start = 0; start <= text.size(); ++number) {
+            const std::size_t stop = std::min(text.find(u'\n', start), text.size());
+            line(text.substr(start, stop - start), number);
+            start = stop + 1;
+        }
+        finish({number - 1, 1});
     }
 
     void line(std::u16string_view line, std::size_t number) {
@@ -109,7 +115,15 @@ private:
         if (file_.question > 0) {
             throw SyntaxError({place, "expected one question only"});
         }
-        file_.question = words.number("the number of the question");
+        const std::string expected = "a question of the course, " + std::to_string(exercises::firstQuestion) + " to " +
+                                     std::to_string(exercises::lastQuestion);
+        const Token& number = words.peek();
+        file_.question = unknown;
+        const std::int32_t named = words.number(expected);
+        if (named < exercises::firstQuestion || named > exercises::lastQuestion) {
+            throw SyntaxError({number.place, "expected " + expected + ", found " + number.display()});
+        }
+        file_.question = named;
         words.end();
     }
 
@@ -218,12 +232,28 @@ private:
         waiting_ = expectation != nullptr && expectation->statements.empty() ? expectation : nullptr;
     }
 
-    void finish(Position end) const {
+    void finish(Position end) {
         if (waiting_ != nullptr) {
             throw SyntaxError({end, "expected the statement that must raise the error"});
         }
         if (wrong_.empty() && file_.question == 0) {
             throw SyntaxError({end, "expected 'question' and its number"});
+        }
+        if (wrong_.empty()) {
+            requireExpectations();
+        }
+    }
+
+    /// A scenario must say what comes of its moves.
+    void requireExpectations() {
+        const auto expects = [](const Statement& statement) {
+            return !std::holds_alternative<Call>(statement.node) && !std::holds_alternative<Assignment>(statement.node);
+        };
+        for (const Scenario& scenario : file_.scenarios) {
+            if (std::none_of(scenario.statements.begin(), scenario.statements.end(), expects)) {
+                wrong_.push_back({scenario.place,
+                                  "expected a 'check' or an 'expect' in this scenario, which passes whatever happens"});
+            }
         }
     }
 
@@ -237,8 +267,8 @@ private:
 
 } // namespace
 
-ScenarioFile parse(std::string fileName, std::string_view text) {
-    return FileParser(std::move(fileName)).run(automation::fromUtf8(text));
+ScenarioFile parse(std::string fileName, std::string_view bytes) {
+    return FileParser(std::move(fileName)).run(bytes);
 }
 
 Statement parseStatement(std::u16string_view line) {

@@ -7,7 +7,7 @@
 
 namespace host::language {
 
-/// Reads a scenario file given as UTF-8 text. Raises WrongLines with every wrong line of it.
+/// Reads a scenario file in UTF-8, or in UTF-16 with its mark. Raises WrongLines with every wrong line of it.
 ///
 ///     question 306                    the question that the file is about
 ///
@@ -44,7 +44,7 @@ namespace host::language {
 ///
 /// and `expect x = y` asks for a value, `expect x = y, z = 3` for several, `expect error 91 "SERVICE X": statement` for
 /// a raised error (the statement may also stand on the next line).
-[[nodiscard]] ScenarioFile parse(std::string fileName, std::string_view text);
+[[nodiscard]] ScenarioFile parse(std::string fileName, std::string_view bytes);
 
 /// One statement, as it is typed at a prompt. Raises SyntaxError.
 [[nodiscard]] Statement parseStatement(std::u16string_view line);

@@ -49,18 +49,18 @@ private:
 TEST_F(HostTest, VerifyNamesEveryScenarioThatFallsShort) {
     write(std::string(course) + success +
           "scenario \"a wrong letter\"\n check \"B\"\n"
-          "scenario \"a move that raises\"\n  ActivePresentation.Slides(9).Delete\n"
-          "scenario \"a working file left\"\nHost.Fermer\nFiles.Create \"Méthodologie.ppt\"\n"
-          "scenario \"a folder changed\"\nHost.Fermer\nRegistry.RecentFolder(\"Default\") = \"D:\\\"\n"
-          "scenario \"PowerPoint gone\"\nPowerPoint.Close\nPresentations.Add\n");
+          "scenario \"a move that raises\"\n  ActivePresentation.Slides(9).Delete\n  check success\n"
+          "scenario \"a working file left\"\nHost.Fermer\nFiles.Create \"Méthodologie.ppt\"\nexpect 1 = 1\n"
+          "scenario \"a folder changed\"\nHost.Fermer\nRegistry.RecentFolder(\"Default\") = \"D:\\\"\nexpect 1 = 1\n"
+          "scenario \"PowerPoint gone\"\nPowerPoint.Close\nPresentations.Add\ncheck success\n");
     const std::string out = said({"verify"}, ExitCode::FellShort);
     EXPECT_NE(
         out.find(file() + ":10:2: expected the letter \"B\", the host reads the letter \"A\" (\"a wrong letter\")"),
         std::string::npos);
     EXPECT_NE(out.find(file() + ":12:22: error "), std::string::npos);
-    EXPECT_NE(out.find(file() + ":13:1: the working file Méthodologie.ppt is left"), std::string::npos);
-    EXPECT_NE(out.find(file() + ":16:1: the learner's folder Default was \""), std::string::npos);
-    EXPECT_NE(out.find(file() + ":21:1: error 429 PowerPoint does not run"), std::string::npos);
+    EXPECT_NE(out.find(file() + ":14:1: the working file Méthodologie.ppt is left"), std::string::npos);
+    EXPECT_NE(out.find(file() + ":18:1: the learner's folder Default was \""), std::string::npos);
+    EXPECT_NE(out.find(file() + ":24:1: error 429 PowerPoint does not run"), std::string::npos);
     EXPECT_TRUE(out.ends_with("\n1 passed, 5 failed\n")) << out;
 }
 
@@ -159,7 +159,7 @@ TEST_F(HostTest, NoReportOfEarlierWorkIsLeftWhileScenariosRun) {
 }
 
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
-    write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\n");
+    write("question 306\ncourse\nPresentations.Ad\nscenario \"a\"\ncheck success\nscenario \"b\"\ncheck success\n");
     const std::string out = said({"verify"}, ExitCode::FellShort);
     EXPECT_TRUE(out.starts_with(file() + ":3:15: error 438")) << out;
     EXPECT_TRUE(out.ends_with("\n0 passed, 2 failed\n")) << out;

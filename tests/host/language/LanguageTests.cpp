@@ -64,7 +64,7 @@ public:
 
 /// What a scenario of these lines fails with; empty where it passes.
 std::string outcomeOf(FakeStage& stage, const std::string& lines) {
-    const ScenarioFile file = parse("t.scn", "question 306\ncourse\nscenario \"t\"\n" + lines);
+    const ScenarioFile file = parse("t.scn", "question 306\ncourse\nscenario \"t\"\n" + lines + "\nexpect 1 = 1");
     Interpreter interpreter(stage);
     try {
         for (const Statement& statement : file.scenarios.front().statements) {
@@ -132,10 +132,23 @@ TEST(Language, NamesWhatIsWrongWithAWholeFile) {
         return std::to_string(line) + ":" + std::to_string(column) +
                ": expected 'expect', or a variable to be set: what is delivered is looked at, not changed";
     };
-    const std::vector<std::pair<const char*, std::vector<std::string>>> files = {
+    const std::vector<std::pair<std::string_view, std::vector<std::string>>> files = {
         {"", {"1:1: expected 'question' and its number"}},
         {"course\nscenario \"a\"\n", {"1:1: expected 'question' and its number before anything else"}},
-        {"question three", {"1:10: expected the number of the question, found 'three'"}},
+        {"question three", {"1:10: expected a question of the course, 301 to 323, found 'three'"}},
+        {"question 399\ncourse\nscenario \"a\"\n A.B\nscenario \"b\"\n check success",
+         {"1:10: expected a question of the course, 301 to 323, found 399"}},
+        {"question 306\ncourse\nscenario \"a\"\n A.B\nscenario \"b\"\n x = 3\n' the end",
+         {"3:1: expected a 'check' or an 'expect' in this scenario, which passes whatever happens",
+          "5:1: expected a 'check' or an 'expect' in this scenario, which passes whatever happens"}},
+        {"question 306\n' cr\xE9\xE9",
+         {"2:5: expected text in UTF-8, found the byte E9: open the file in its editor and save "
+          "it with the encoding UTF-8"}},
+        {std::string_view("q\0u\0", 4),
+         {"1:2: expected text in UTF-8, found the byte 00: open the file in its editor and "
+          "save it with the encoding UTF-8"}},
+        {std::string_view("\xFF\xFE\x27\0\x0A\0\x0A", 7),
+         {"2:1: expected text in UTF-16, found half of a character: the file is cut short"}},
         {"question 306\nPresentations.Add", {"2:1: expected 'course' or 'scenario' before the first statement"}},
         {"question 306\nscenario \"a\"", {"2:1: expected 'course' before the first scenario"}},
         {"question 306\nletter \"A\" 3\nremark \"\" \"x\"\nerror 0 \"X\" \"x\"\ntask \"a\"\nletter \"B\" \"x\"\ntask "
@@ -252,7 +265,7 @@ TEST(Language, ChecksTellVerdictsApart) {
 TEST(Language, AScenarioFileHasItsParts) {
     const ScenarioFile file =
         parse("t.scn", "' heading\nQuestion 305\nCourse\n  A.B\n\nScenario \"one\"\nbefore initquestion\n"
-                       "  check \"A\"\n check error 0  # passes\nscenario \"two\"\n");
+                       "  check \"A\"\n check error 0  # passes\nscenario \"two\"\nexpect 1 = 1\n");
     EXPECT_EQ(file.question, 305);
     ASSERT_EQ(file.course.size(), 1U);
     EXPECT_EQ(file.course[0].place, (Position{4, 3}));
@@ -267,6 +280,19 @@ TEST(Language, AScenarioFileHasItsParts) {
     EXPECT_EQ(file.scenarios[1].lastExpectation(), nullptr);
 }
 
+TEST(Language, AFileMayBeUtf16WithItsMark) {
+    const std::u16string text = u"\uFEFF' créée\r\nquestion 306\ncourse\nscenario \"é\"\n expect \"é\" = \"é\"\n";
+    for (const unsigned low : {0U, 8U}) {
+        std::string bytes;
+        for (const char16_t unit : text) {
+            bytes += {static_cast<char>(unit >> low), static_cast<char>(unit >> (8 - low))};
+        }
+        const ScenarioFile file = parse("t.scn", bytes);
+        EXPECT_EQ(file.heading, u"créée");
+        EXPECT_EQ(file.scenarios.at(0).title, u"é");
+    }
+}
+
 TEST(Language, AFileKeepsItsContractWhenItIsWritten) {
     const std::string text = "question 305\n\ntask \"say \"\"so\"\"\"\nletter \"A\" \"a \"\"word\"\"\"\n"
                              "remark \"F\" \"four\"\nerror 0 \"CLASSE X\" \"SERVICE Y\": \"right\"\n"
@@ -278,7 +304,7 @@ TEST(Language, AFileKeepsItsContractWhenItIsWritten) {
     EXPECT_EQ(file.contract.letters(), (std::vector<std::u16string>{u"A", u"F"}));
     EXPECT_EQ(file.contract.meaningOf(u"A")->text, u"a \"word\"");
     EXPECT_EQ(file.contract.success().kind, host::Expectation::Kind::Remark);
-    EXPECT_EQ(parse("t.scn", "question 1\nletter \"A\" \"x\"").contract.success().kind,
+    EXPECT_EQ(parse("t.scn", "question 301\nletter \"A\" \"x\"").contract.success().kind,
               host::Expectation::Kind::Success);
 }
 
