@@ -1,5 +1,6 @@
 #include "host/command/CommandLine.h"
 #include "host/command/Options.h"
+#include "host/world/MachineFault.h"
 #include "host/world/RealFile.h"
 
 namespace host {
@@ -62,10 +63,24 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
         for (const language::Remark& remark : wrong.remarks) {
             output.error << remark.in(wrong.file) << '\n';
         }
+    } catch (const MachineFault& fault) {
+        output.error << asked.app.get_name() << ": " << fault.what() << '\n';
+        return ExitCode::Machine;
     } catch (const std::exception& error) {
         output.error << asked.app.get_name() << ": " << error.what() << '\n';
     }
     return ExitCode::WrongUsage;
+}
+
+/// Reads the command line, and does what it says.
+ExitCode obey(CommandLine& line, const std::vector<std::string>& arguments, const WorldMaker& makeWorld,
+              const ComWorldsMaker& makeComWorlds, const LineReaderMaker& makeLines, Output output) {
+    try {
+        line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::ParseError& error) {
+        return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
+    }
+    return perform(line, makeWorld, makeComWorlds, makeLines, output);
 }
 
 } // namespace
@@ -74,15 +89,10 @@ ExitCode runCommandLine(const Program& program, const std::vector<std::string>& 
                         const std::filesystem::path& scenarios, const std::string& version, const WorldMaker& makeWorld,
                         Output output, const LineReaderMaker& makeLines, const ComWorldsMaker& makeComWorlds) {
     CommandLine line(program, scenarios, version);
-    try {
-        line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-    } catch (const CLI::ParseError& error) {
-        return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
-    }
-    const ExitCode code = perform(line, makeWorld, makeComWorlds, makeLines, output);
+    const ExitCode code = obey(line, arguments, makeWorld, makeComWorlds, makeLines, output);
     if (!output.out.flush()) {
-        output.error << program.name << ": the output could not be written\n";
-        return ExitCode::WrongUsage;
+        output.error << program.name << ": the output could not be written: is the disk full?\n";
+        return ExitCode::Machine;
     }
     return code;
 }

@@ -23,8 +23,9 @@ constexpr const char* examples = R"(Examples:
   exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
 
-Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a scenario file, 3 a
-scenario hung.)";
+Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a
+scenario file, 3 a scenario hung, 4 the computer had no room on its disk or no
+folder for temporary files.)";
 
 constexpr std::array commands{
     Command{"run", "Tell the whole road of one question, and what the host reads last", addRun, true},

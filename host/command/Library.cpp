@@ -3,7 +3,6 @@
 #include "exercises/Catalogue.h"
 #include "host/language/Parser.h"
 #include "host/world/RealFile.h"
-#include "simulator/files/WholeFile.h"
 
 #include <algorithm>
 #include <numeric>
@@ -61,11 +60,11 @@ std::vector<fs::path> Library::filesOfCourse(const std::vector<std::int32_t>& qu
 }
 
 language::ScenarioFile load(const fs::path& path) {
-    const auto text = simulator::files::wholeFile(path);
-    if (!text) {
+    if (std::error_code failed; !fs::exists(path, failed)) {
         throw UsageError("no scenario file: " + path.string());
     }
-    return language::parse(path.string(), *text);
+    const Bytes content = contentsOf(path);
+    return language::parse(path.string(), std::string(content.begin(), content.end()));
 }
 
 Course courseOf(const language::ScenarioFile& file, const std::string& folder, const WorldMaker& makeWorld) {

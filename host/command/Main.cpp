@@ -5,6 +5,7 @@
 #ifdef _WIN32
 #include "host/win32/ComWorld.h"
 #include "host/win32/OwnLines.h"
+#include "host/win32/OwnTerminal.h"
 
 #include <io.h>
 #include <windows.h>
@@ -12,6 +13,7 @@
 #include <shellapi.h>
 #else
 #include "host/posix/OwnLines.h"
+#include "host/posix/OwnTerminal.h"
 
 #include <unistd.h>
 #endif
@@ -66,6 +68,7 @@ std::filesystem::path scenarioFolder(const std::filesystem::path& ofSources) {
 
 int host::runMain(const Program& program, const char* version, const std::filesystem::path& scenarios, int argc,
                   char** argv) {
+    const OwnTerminal terminal;
     return static_cast<int>(runCommandLine(program, givenArguments(argc, argv), scenarioFolder(scenarios), version,
                                            makeEmbeddedWorld, {std::cout, std::cerr, isTerminal()}, makeOwnLines,
                                            comWorlds));

@@ -7,6 +7,7 @@
 #include "host/picture/Camera.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
+#include "host/world/OutputFile.h"
 #include "host/world/RealFile.h"
 
 #include "automation/Text.h"
@@ -51,6 +52,9 @@ void printValues(const Reading& reading, std::ostream& out) {
         << "\nComplement: " << inQuotes(reading.complement) << '\n';
 }
 
+/// What a drawing of this command's begins with.
+constexpr const char* drawn = "<!-- exercise-host run -->\n";
+
 /// Writes what there is of a slide before and after into a folder, and answers with the files.
 std::vector<std::string> written(const BeforeAfter& slide, const std::filesystem::path& folder) {
     std::error_code failed;
@@ -59,7 +63,10 @@ std::vector<std::string> written(const BeforeAfter& slide, const std::filesystem
     for (const auto& [name, picture] : {std::pair("before", &slide.before), std::pair("after", &slide.after)}) {
         if (!picture->bytes.empty()) {
             const std::filesystem::path file = folder / (std::string(name) + "." + picture->extension);
-            writeContents(file, picture->bytes);
+            const std::string mark = picture->extension == "svg" ? drawn : "";
+            const OutputFile output(toUtf8(file.u16string()), mark.empty() ? std::nullopt : std::optional(mark),
+                                    "another folder");
+            output.write(mark + picture->bytes);
             files.push_back(file.string());
         }
     }

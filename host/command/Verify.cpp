@@ -9,6 +9,7 @@
 #include "host/report/Recorder.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
+#include "host/world/OutputFile.h"
 #include "host/world/RealFile.h"
 
 #include "automation/Text.h"
@@ -151,27 +152,39 @@ std::string now() {
            twoDigits(time.minutes().count()) + " UTC";
 }
 
-void write(const VerifyRequest& request, const Report& report) {
-    if (!request.page.empty()) {
-        writeContents(pathOf(request.page), report::asPage(report, now()));
+/// A report that is asked for.
+struct Wanted {
+    OutputFile file;
+    std::function<std::string(const Report&)> form;
+};
+
+std::vector<Wanted> wantedReports(const VerifyRequest& request) {
+    const auto asPage = [](const Report& report) { return report::asPage(report, now()); };
+    std::vector<Wanted> all;
+    const auto add = [&](const std::string& name, std::string_view beginning, const auto& form) {
+        if (!name.empty()) {
+            all.push_back({OutputFile(name, std::string(beginning)), form});
+        }
+    };
+    add(request.page, report::pageBeginning, asPage);
+    add(request.junit, report::junitBeginning, report::asJUnit);
+    add(request.json, report::jsonBeginning, report::asJson);
+    return all;
+}
+
+void prepare(const std::vector<Wanted>& reports, const std::vector<std::filesystem::path>& inputs) {
+    std::vector<OutputFile> files;
+    for (const Wanted& report : reports) {
+        files.push_back(report.file);
     }
-    if (!request.junit.empty()) {
-        writeContents(pathOf(request.junit), report::asJUnit(report));
-    }
-    if (!request.json.empty()) {
-        writeContents(pathOf(request.json), report::asJson(report));
-    }
+    OutputFile::prepare(files, inputs);
 }
 
 /// Runs all scenarios, prints what falls short and writes the reports asked for.
 ExitCode verify(const VerifyRequest& request, const CommandContext& at) {
-    for (const std::string& file : {request.page, request.junit, request.json}) {
-        if (!file.empty()) {
-            clearForWriting(pathOf(file));
-        }
-    }
     Files files;
-    for (const std::filesystem::path& path : named(request, at.library)) {
+    const std::vector<std::filesystem::path> paths = named(request, at.library);
+    for (const std::filesystem::path& path : paths) {
         files.push_back(load(path));
     }
     if (request.sample) {
@@ -180,8 +193,12 @@ ExitCode verify(const VerifyRequest& request, const CommandContext& at) {
     if (std::all_of(files.begin(), files.end(), [](const auto& file) { return file.scenarios.empty(); })) {
         throw UsageError("no scenario to verify");
     }
+    const std::vector<Wanted> reports = wantedReports(request);
+    prepare(reports, paths);
     const Report report = Verification(request, at).run(files);
-    write(request, report);
+    for (const Wanted& wanted : reports) {
+        wanted.file.write(wanted.form(report));
+    }
     const report::Totals totals(report);
     at.out << totals.passed << " passed, " << totals.failed << " failed\n";
     return totals.failed == 0 ? ExitCode::Good : ExitCode::FellShort;

@@ -1,6 +1,7 @@
 #include "host/command/Watch.h"
 
 #include "host/command/ExitCode.h"
+#include "host/world/TemporaryFolder.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -42,6 +43,7 @@ void Watch::run() {
         const bool isInTime = changed_.wait_for(lock, patience, [&] { return isOver_ || count_ != watched; });
         if (!isInTime && !name_.empty()) {
             out_ << "hung: " << name_ << std::endl;
+            TemporaryFolder::removeAll();
             std::_Exit(static_cast<int>(ExitCode::Hung));
         }
     }

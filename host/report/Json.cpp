@@ -64,7 +64,8 @@ std::string asJson(const Report& report) {
     for (const FileResult& file : report) {
         files.push_back(toJson(file));
     }
-    const ordered_json all{{"passed", totals.passed},
+    const ordered_json all{{"program", "exercise-host verify"},
+                           {"passed", totals.passed},
                            {"failed", totals.failed},
                            {"calls", totals.calls},
                            {"milliseconds", milliseconds(totals.time)},

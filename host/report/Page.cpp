@@ -55,7 +55,7 @@ public:
     explicit Writer(const Report& report) : report_(report), totals_(report) {}
 
     std::string page(const std::string& when) {
-        out_.raw("<!DOCTYPE html>\n");
+        out_.raw(pageBeginning);
         {
             const Markup::Element html = out_.element("html", {{"lang", "en"}});
             writeHead();

@@ -90,6 +90,9 @@ Course::Course(const std::filesystem::path& folder, std::int32_t question) : isB
             others_.emplace_back(name, std::move(content));
         }
     }
+    if (failure) {
+        throw std::runtime_error(folder.string() + " cannot be read: " + failure.message());
+    }
     if (!isFound) {
         throw std::runtime_error("there is no " + automation::toUtf8(wanted) + " in " + folder.string());
     }

@@ -2,6 +2,8 @@
 
 #include "host/run/Guard.h"
 #include "host/run/Witnesses.h"
+#include "host/world/MachineFault.h"
+#include "host/world/TemporaryFolder.h"
 
 namespace host {
 
@@ -14,6 +16,8 @@ template <typename Step> bool passes(language::Position place, std::vector<Remar
     try {
         step();
         return true;
+    } catch (const MachineFault&) {
+        throw;
     } catch (const language::Failure& failure) {
         remarks.push_back(failure.remark);
     } catch (const automation::Error& error) {
@@ -37,7 +41,9 @@ void performAll(Exercise& exercise, const language::Scenario& scenario) {
 
 Runner::Runner(const language::ScenarioFile& file, WorldMaker makeWorld)
     : file_(file), makeWorld_(std::move(makeWorld)) {
-    passes({}, courseFailures_, [&] { course_.emplace(file, makeWorld_); });
+    if (!passes({}, courseFailures_, [&] { course_.emplace(file, makeWorld_); })) {
+        requireTemporaryFiles();
+    }
 }
 
 Outcome Runner::run(const language::Scenario& scenario, const WitnessMaker& makeWitness,
@@ -52,6 +58,9 @@ Outcome Runner::run(const language::Scenario& scenario, const WitnessMaker& make
     if (outcome.failures.empty() && aliveAfter != aliveBefore) {
         outcome.failures.push_back(
             {scenario.place, std::to_string(aliveAfter - aliveBefore) + " automation objects left alive"});
+    }
+    if (!outcome.failures.empty()) {
+        requireTemporaryFiles();
     }
     return outcome;
 }

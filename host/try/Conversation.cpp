@@ -10,6 +10,7 @@
 #include "host/try/Immediate.h"
 #include "host/try/Trouble.h"
 #include "host/try/Verdict.h"
+#include "host/world/OutputFile.h"
 #include "host/world/RealFile.h"
 
 #include <iomanip>
@@ -31,13 +32,9 @@ std::string trimmed(const std::string& text) {
     return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
 }
 
-/// Writes a file by a verb, which replaces one that is there already only where it ends with an exclamation mark.
-void writeBy(const std::string& verb, const std::string& name, std::string_view content) {
-    const fs::path path = pathOf(name);
-    if (!verb.ends_with('!') && fs::exists(path)) {
-        throw std::runtime_error(name + " is there already: name another file, or say " + verb + "! to replace it");
-    }
-    writeContents(path, content);
+/// A file that a verb writes, which replaces one that is there already only where it ends with an exclamation mark.
+OutputFile outputOf(const std::string& verb, const std::string& name) {
+    return {name, verb.ends_with('!') ? std::optional(std::string()) : std::nullopt, "say " + verb + "! to replace it"};
 }
 
 /// True for an `expect error` whose statement is still to come.
@@ -245,7 +242,7 @@ void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     }
     const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
                                                       : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    writeBy(verb, name, language::scenarioText(file_, title, open_->statements()));
+    outputOf(verb, name).write(language::scenarioText(file_, title, open_->statements()));
     out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << counted(open_->moves(), "move")
          << " and " << counted(open_->checks(), "check") << ".\n";
     if (open_->checks() == 0) {
@@ -259,7 +256,7 @@ void Conversation::saveBy(const std::string& verb, const std::string& rest) {
 
 void Conversation::exportBy(const std::string& verb, const std::string& file) {
     const Bytes content = open_->presentation();
-    writeBy(verb, file, std::string(content.begin(), content.end()));
+    outputOf(verb, file).write(std::string(content.begin(), content.end()));
     out_ << "The presentation is in " << file << ".\n";
 }
 

@@ -7,7 +7,6 @@
 
 #include <array>
 #include <atomic>
-#include <cstdio>
 #include <iostream>
 
 namespace host {
@@ -47,12 +46,9 @@ public:
         state().thread = Handle(OpenThread(THREAD_TERMINATE, FALSE, GetCurrentThreadId()));
         state().done = Handle(CreateEventW(nullptr, TRUE, FALSE, nullptr));
         SetConsoleCtrlHandler(interrupt, TRUE);
-        SetConsoleOutputCP(CP_UTF8);
-        // The console translates each write by itself; one byte of a letter alone says nothing.
-        static_cast<void>(std::setvbuf(stdout, nullptr, _IOFBF, BUFSIZ));
     }
     ~ConsoleLines() override {
-        SetConsoleOutputCP(codePage_);
+        SetConsoleCtrlHandler(interrupt, FALSE);
         SetEvent(state().done.get());
     }
 
@@ -71,9 +67,6 @@ public:
         const std::wstring_view line(typed.data(), length);
         return automation::toUtf8(automation::com::fromWide(line.substr(0, line.find_last_not_of(L"\r\n") + 1)));
     }
-
-private:
-    UINT codePage_ = GetConsoleOutputCP();
 };
 
 } // namespace

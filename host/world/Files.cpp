@@ -32,8 +32,7 @@ Bytes Files::read(std::u16string_view path) const {
 
 void Files::write(std::u16string_view path, const Bytes& content) {
     prepareToWrite(path);
-    std::ofstream file(realPath(path), std::ios::binary | std::ios::trunc);
-    std::copy(content.begin(), content.end(), std::ostreambuf_iterator<char>(file));
+    writeContents(realPath(path), {reinterpret_cast<const char*>(content.data()), content.size()});
 }
 
 void Files::remove(std::u16string_view path) {

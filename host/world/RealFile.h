@@ -2,19 +2,16 @@
 
 #include "host/world/Files.h"
 
-/// Files of this computer itself, as its user names them. All raise std::runtime_error, in words for him.
+/// Files of this computer itself, as its user names them.
 namespace host {
 
 /// A file as a text in UTF-8 names it.
 [[nodiscard]] std::filesystem::path pathOf(const std::string& name);
 
+/// Raises std::runtime_error, in words for the user: there may be no such file, or none that can be read.
 [[nodiscard]] Bytes contentsOf(const std::filesystem::path& path);
 
-/// Writes a file anew.
+/// Writes a file anew. Raises MachineFault where it cannot be written to its end.
 void writeContents(const std::filesystem::path& path, std::string_view content);
-
-/// Makes sure that a file can be written, and removes what it holds of earlier work: where the work that it is to tell
-/// of does not come to its end, nobody takes the old for its outcome.
-void clearForWriting(const std::filesystem::path& path);
 
 } // namespace host
