@@ -19,7 +19,8 @@ constexpr const char* examples = R"(Examples:
   exercise-host verify --file mine.scn   a scenario file of your own
   exercise-host verify --report F.html   a page of all scenarios, with pictures of the slides
   exercise-host run 315 --picture DIR    the slide before and after, as SVG
-  exercise-host run 306 --course DIR     on the course's own files; so do try and recheck
+  exercise-host run 306 --course DIR     on the course's own files; so do try, verify, recheck
+  exercise-host deliver 311 DIR          presentation and files for question 311, to start from
   exercise-host recheck Méthodologie.ppt --question 306
   exercise-host list                     the questions and their scenarios
 
@@ -32,6 +33,7 @@ constexpr std::array commands{
     Command{"try", "Talk: state a learner's moves, see values, ask for the verdict", addTry, true},
     Command{"verify", "Run scenarios and print what falls short", addVerify, true},
     Command{"recheck", "Judge a saved working presentation, without a live PowerPoint", addRecheck, false},
+    Command{"deliver", "Write what the course delivers for a question, to start from", addDeliver, false},
     Command{"list", "List questions and scenarios", addList, false},
 };
 

@@ -2,6 +2,8 @@
 
 #include "exercises/Catalogue.h"
 #include "host/language/Parser.h"
+#include "host/language/Words.h"
+#include "host/reason/Delivery.h"
 #include "host/world/RealFile.h"
 
 #include <algorithm>
@@ -75,6 +77,18 @@ Course courseOf(const language::ScenarioFile& file, const std::string& folder, c
     } catch (const std::runtime_error& error) {
         throw UsageError(error.what());
     }
+}
+
+std::string shortfallOf(const Course& course, const language::ScenarioFile& file, const WorldMaker& makeWorld) {
+    std::string lines;
+    for (const language::Remark& remark : reason::shortcomingsOf(course, file, makeWorld)) {
+        std::string message = remark.message;
+        replaceAll(message, "; ", ";\n    ");
+        lines += "  " + message + '\n';
+    }
+    return lines.empty() ? lines
+                         : "The presentation delivered is not what question " + std::to_string(file.question) +
+                               " needs:\n" + lines;
 }
 
 } // namespace host

@@ -35,6 +35,11 @@ private:
 [[nodiscard]] Course courseOf(const language::ScenarioFile& file, const std::string& folder,
                               const WorldMaker& makeWorld);
 
+/// What the presentation lacks of what the scenario file says that it must hold, in lines for its author; empty where
+/// nothing is amiss.
+[[nodiscard]] std::string shortfallOf(const Course& course, const language::ScenarioFile& file,
+                                      const WorldMaker& makeWorld);
+
 /// A command line that asks for something that does not exist, in words for its user.
 struct UsageError : std::exception {
     explicit UsageError(std::string text) : message(std::move(text)) {}

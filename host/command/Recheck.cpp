@@ -60,6 +60,7 @@ Reading judge(World& world, const Course& course, const RecheckRequest& request)
 ExitCode recheck(const RecheckRequest& request, const CommandContext& at) {
     const language::ScenarioFile file = load(at.library.fileOf(request.question));
     const Course course = courseOf(file, request.course, at.worlds.embedded);
+    at.out << shortfallOf(course, file, at.worlds.embedded);
     const WorldPtr world = at.worlds.embedded(nullptr);
     const Reading reading = judge(*world, course, request);
     at.out << "Question " << request.question << ": " << reading.display() << '\n';

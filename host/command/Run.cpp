@@ -106,8 +106,15 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
             ? std::make_shared<automation::CallTrace>([&](const automation::TracedCall& call) { story.call(call); })
             : nullptr;
 
-    const Runner runner = request.course.empty() ? Runner(file, makeWorld)
-                                                 : Runner(file, courseOf(file, request.course, makeWorld), makeWorld);
+    std::optional<Course> course;
+    if (!request.course.empty()) {
+        course = courseOf(file, request.course, makeWorld);
+        if (const std::string shortfall = shortfallOf(*course, file, makeWorld); !shortfall.empty()) {
+            out << shortfall;
+            return ExitCode::FellShort;
+        }
+    }
+    const Runner runner = course ? Runner(file, std::move(*course), makeWorld) : Runner(file, makeWorld);
     if (!request.asJson) {
         out << "Question " << file.question << ": " << toUtf8(scenario.title) << "\n\n";
     }

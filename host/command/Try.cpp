@@ -16,7 +16,9 @@ ExitCode talk(const TryRequest& request, const CommandContext& at) {
     const language::ScenarioFile file = load(at.library.fileOf(request.question));
     const WorldMaker& makeWorld = at.worlds.chosen();
     const std::unique_ptr<LineReader> lines = at.makeLines();
-    Conversation conversation(file, courseOf(file, request.course, makeWorld), makeWorld, *lines, at.out);
+    Course course = courseOf(file, request.course, makeWorld);
+    at.out << shortfallOf(course, file, makeWorld);
+    Conversation conversation(file, std::move(course), makeWorld, *lines, at.out);
     return conversation.run() ? ExitCode::Good : ExitCode::FellShort;
 }
 

@@ -2,6 +2,7 @@
 #include "host/command/Options.h"
 #include "host/command/Watch.h"
 #include "host/picture/Camera.h"
+#include "host/reason/Delivery.h"
 #include "host/report/JUnit.h"
 #include "host/report/Json.h"
 #include "host/report/Letters.h"
@@ -35,6 +36,7 @@ using Files = std::vector<language::ScenarioFile>;
 struct VerifyRequest {
     std::vector<std::int32_t> questions;
     std::vector<std::string> files;
+    std::string course;                ///< folder of the course's own files; empty for those that the files build
     std::string page;                  ///< file for a report as a page; empty for none
     std::string junit;                 ///< file for a report as build servers read it; empty for none
     std::string json;                  ///< file for a report as JSON; empty for none
@@ -78,21 +80,37 @@ private:
             file.name, file.question, toUtf8(file.subject()), file.contract.meanings, {}, request_.sample.has_value()};
         Watch watch(at_.out);
         watch.next(file.name + ", its course");
-        const Runner runner(file, at_.worlds.chosen());
+        const WorldMaker& makeWorld = at_.worlds.chosen();
+        const Runner runner = request_.course.empty()
+                                  ? Runner(file, makeWorld)
+                                  : Runner(file, courseOf(file, request_.course, makeWorld), makeWorld);
+        std::vector<language::Remark> amiss = shortcomingsOf(runner, file);
+        if (!amiss.empty() && !request_.course.empty()) {
+            // What scenarios say of a presentation that is not the one they are about would puzzle only.
+            return withAmiss("what the course delivers", std::move(amiss), std::move(result));
+        }
         for (const language::Scenario& scenario : file.scenarios) {
             const std::string place = file.name + " \"" + toUtf8(scenario.title) + "\"";
             watch.next(place);
             at_.progress.at(result.name() + ", " + toUtf8(scenario.title), ++scenario_, scenarios_);
             add(run(runner, scenario), result);
         }
-        std::vector<language::Remark> amiss = runner.shortcomings();
         if (result.failed() == 0) {
             const std::vector<language::Remark> letters = report::lettersAmiss(result);
             amiss.insert(amiss.end(), letters.begin(), letters.end());
         }
+        return withAmiss("what the file says of its question", std::move(amiss), std::move(result));
+    }
+
+    std::vector<language::Remark> shortcomingsOf(const Runner& runner, const language::ScenarioFile& file) const {
+        return runner.course() == nullptr ? std::vector<language::Remark>()
+                                          : reason::shortcomingsOf(*runner.course(), file, at_.worlds.chosen());
+    }
+
+    FileResult withAmiss(const std::string& title, std::vector<language::Remark> amiss, FileResult result) const {
         if (!amiss.empty()) {
             const std::size_t line = amiss.front().place.line;
-            add({"what the file says of its question", line, {}, std::move(amiss), 0, {}}, result);
+            add({title, line, {}, std::move(amiss), 0, {}}, result);
         }
         return result;
     }
@@ -210,6 +228,7 @@ Action addVerify(CLI::App& command) {
     const auto request = std::make_shared<VerifyRequest>();
     addQuestions(command, request->questions);
     command.add_option("--file", request->files, "A scenario file");
+    addCourse(command, request->course);
     auto* const sample =
         command.add_option("--sample", request->sample, "Run so many scenarios of each file, at random");
     command.add_option("--draw", request->draw, "What --sample draws by (at random)")->needs(sample);

@@ -172,6 +172,26 @@ std::optional<Value> findConstant(std::u16string_view name) {
     return findInTable(runs, name);
 }
 
+std::optional<std::u16string> nameOfConstant(std::u16string_view stem, std::int32_t value) {
+    for (const Run& run : runs) {
+        if (run.stem == stem && value >= run.first) {
+            std::u16string_view rest = run.words;
+            for (std::int32_t at = run.first; at != value && !rest.empty(); ++at) {
+                rest.remove_prefix(std::min(std::min(rest.find(u' '), rest.size()) + 1, rest.size()));
+            }
+            if (!rest.empty()) {
+                return std::u16string(stem).append(rest.substr(0, rest.find(u' ')));
+            }
+        }
+    }
+    for (const Numbered& family : numbered) {
+        if (family.stem == stem && value >= family.firstValue && value < family.firstValue + family.last) {
+            return std::u16string(stem) + automation::decimal(value - family.firstValue + 1);
+        }
+    }
+    return std::nullopt;
+}
+
 bool looksLikeConstant(std::u16string_view name) {
     return isFormedFrom(u"mso", name) || isFormedFrom(u"pp", name) || isFormedFrom(u"vb", name);
 }

@@ -3,12 +3,17 @@
 #include "automation/Value.h"
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace host::language {
 
 /// The value of a named constant (PowerPoint's, Office's, a control character, True, False, Nothing), its case ignored.
 [[nodiscard]] std::optional<automation::Value> findConstant(std::u16string_view name);
+
+/// The name with this beginning of a number: `msoGroup` for "mso" and 6; nothing where there is none. Of several the
+/// first in the table, so that the beginning has to say what is meant.
+[[nodiscard]] std::optional<std::u16string> nameOfConstant(std::u16string_view stem, std::int32_t value);
 
 /// True for names formed as constants are (`msoSomething`, `ppSomething`, `vbSomething`).
 [[nodiscard]] bool looksLikeConstant(std::u16string_view name);

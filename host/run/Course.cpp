@@ -16,27 +16,13 @@ namespace {
 constexpr std::u16string_view courseNumber = u"07305";
 constexpr std::u16string_view builtName = u"cours.ppt";
 
+std::u16string nameFor(std::int32_t question) {
+    return std::u16string(courseNumber) + automation::decimal(question) + u".ppt";
+}
+
 automation::LateBound activePresentation(World& world) {
     const automation::LateBound application(world.powerPoint().application());
     return automation::LateBound(application.get(u"ActivePresentation").to<automation::ObjectPtr>());
-}
-
-/// What the active presentation lacks of these expectations. A variable that cannot be set ends them.
-std::vector<language::Remark> shortcomingsIn(World& world, const std::vector<language::Statement>& expectations) {
-    WorldStage stage(world);
-    language::Interpreter interpreter(stage);
-    std::vector<language::Remark> remarks;
-    for (const language::Statement& statement : expectations) {
-        try {
-            interpreter.execute(statement);
-        } catch (const language::Failure& failure) {
-            remarks.push_back(failure.remark);
-            if (std::holds_alternative<language::Assignment>(statement.node)) {
-                break;
-            }
-        }
-    }
-    return remarks;
 }
 
 } // namespace
@@ -53,13 +39,6 @@ Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) 
     }
     interpreter.forget();
     activePresentation(*world).call(u"SaveAs", built);
-    if (!file.contract.delivered.empty()) {
-        // It is looked at as it lies in its file.
-        activePresentation(*world).call(u"Close");
-        const automation::LateBound application(world->powerPoint().application());
-        automation::LateBound(application.get(u"Presentations").to<automation::ObjectPtr>()).call(u"Open", built);
-        shortcomings_ = shortcomingsIn(*world, file.contract.delivered);
-    }
     activePresentation(*world).call(u"Close");
     world->powerPoint().close();
     for (const std::u16string& name : world->files().namesIn(folder)) {
@@ -74,7 +53,7 @@ Course::Course(const language::ScenarioFile& file, const WorldMaker& makeWorld) 
 
 Course::Course(const std::filesystem::path& folder, std::int32_t question) : isBuilt_(false) {
     const std::u16string number = automation::decimal(question);
-    const std::u16string wanted = std::u16string(courseNumber) + number + u".ppt";
+    const std::u16string wanted = nameFor(question);
     bool isFound = false;
     std::error_code failure;
     for (const std::filesystem::directory_entry& entry : std::filesystem::directory_iterator(folder, failure)) {
@@ -99,13 +78,17 @@ Course::Course(const std::filesystem::path& folder, std::int32_t question) : isB
     std::sort(others_.begin(), others_.end());
 }
 
+std::vector<std::pair<std::u16string, Bytes>> Course::filesFor(std::int32_t question) const {
+    std::vector<std::pair<std::u16string, Bytes>> files{{nameFor(question), presentation_}};
+    files.insert(files.end(), others_.begin(), others_.end());
+    return files;
+}
+
 std::vector<std::u16string> Course::deliver(World& world, std::int32_t question) const {
-    std::u16string name = std::u16string(courseNumber) + automation::decimal(question) + u".ppt";
-    world.files().write(world.hostFolder() + name, presentation_);
-    std::vector<std::u16string> names{std::move(name)};
-    for (const auto& [other, content] : others_) {
-        world.files().write(world.hostFolder() + other, content);
-        names.push_back(other);
+    std::vector<std::u16string> names;
+    for (const auto& [name, content] : filesFor(question)) {
+        world.files().write(world.hostFolder() + name, content);
+        names.push_back(name);
     }
     return names;
 }

@@ -17,20 +17,18 @@ public:
     /// std::runtime_error where there is no presentation.
     Course(const std::filesystem::path& folder, std::int32_t question);
 
-    /// What the presentation built lacks of what the scenario file says of it.
-    [[nodiscard]] const std::vector<language::Remark>& shortcomings() const noexcept { return shortcomings_; }
     /// True for files that a scenario file builds, false for the course's own.
     [[nodiscard]] bool isBuilt() const noexcept { return isBuilt_; }
 
-    /// Puts the files into the host's folder, the presentation under its name for a question: "07305" and the number.
-    /// Returns their names.
+    /// The presentation under its name for a question, "07305" and the number, and the other files.
+    [[nodiscard]] std::vector<std::pair<std::u16string, Bytes>> filesFor(std::int32_t question) const;
+    /// Puts these files into the host's folder. Returns their names.
     std::vector<std::u16string> deliver(World& world, std::int32_t question) const;
 
 private:
     bool isBuilt_;
     Bytes presentation_;
     std::vector<std::pair<std::u16string, Bytes>> others_;
-    std::vector<language::Remark> shortcomings_;
 };
 
 } // namespace host

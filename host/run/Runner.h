@@ -22,10 +22,8 @@ public:
     Runner(const language::ScenarioFile& file, Course course, WorldMaker makeWorld)
         : file_(file), makeWorld_(std::move(makeWorld)), course_(std::move(course)) {}
 
-    /// What the course built lacks of what the file says of it.
-    [[nodiscard]] std::vector<language::Remark> shortcomings() const {
-        return course_ ? course_->shortcomings() : std::vector<language::Remark>();
-    }
+    /// The course's files; null where they could not be built.
+    [[nodiscard]] const Course* course() const noexcept { return course_ ? &*course_ : nullptr; }
 
     /// Makes the witness of a scenario, which sees its world.
     using WitnessMaker = std::function<std::unique_ptr<Witness>(World&)>;

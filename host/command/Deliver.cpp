@@ -1,0 +1,47 @@
+#include "host/command/Commands.h"
+#include "host/command/Options.h"
+#include "host/world/RealFile.h"
+
+#include "automation/Text.h"
+
+#include <ostream>
+
+namespace host {
+
+namespace {
+
+struct DeliverRequest {
+    std::int32_t question = 0;
+    std::string folder;
+};
+
+/// Writes the files that a question's scenario file builds. A file that is there already is never touched, nor is
+/// anything written then.
+ExitCode deliver(const DeliverRequest& request, const CommandContext& at) {
+    const language::ScenarioFile file = load(at.library.fileOf(request.question));
+    const auto files = courseOf(file, {}, at.worlds.embedded).filesFor(request.question);
+    const std::filesystem::path folder = pathOf(request.folder);
+    for (const auto& [name, content] : files) {
+        if (std::filesystem::exists(folder / name)) {
+            throw UsageError((folder / name).string() + " is there already: name another folder, or move it away");
+        }
+    }
+    std::error_code failed;
+    std::filesystem::create_directories(folder, failed);
+    for (const auto& [name, content] : files) {
+        writeContents(folder / name, std::string(content.begin(), content.end()));
+        at.out << (folder / name).string() << '\n';
+    }
+    return ExitCode::Good;
+}
+
+} // namespace
+
+Action addDeliver(CLI::App& command) {
+    const auto request = std::make_shared<DeliverRequest>();
+    addQuestion(command, "question", request->question)->required();
+    command.add_option("folder", request->folder, "Folder for the files; made where it is not there")->required();
+    return [request](const CommandContext& at) { return deliver(*request, at); };
+}
+
+} // namespace host
