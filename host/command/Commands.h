@@ -39,6 +39,7 @@ using Action = std::function<ExitCode(const CommandContext&)>;
 [[nodiscard]] Action addRun(CLI::App& command);
 [[nodiscard]] Action addTry(CLI::App& command);
 [[nodiscard]] Action addVerify(CLI::App& command);
+[[nodiscard]] Action addConform(CLI::App& command);
 [[nodiscard]] Action addRecheck(CLI::App& command);
 [[nodiscard]] Action addDeliver(CLI::App& command);
 [[nodiscard]] Action addList(CLI::App& command);

@@ -22,6 +22,7 @@ constexpr const char* examples = R"(Examples:
   exercise-host run 306 --course DIR     on the course's own files; so do try, verify, recheck
   exercise-host deliver 311 DIR          presentation and files for question 311, to start from
   exercise-host recheck Méthodologie.ppt --question 306
+  exercise-host conform                  what the verdicts rest on: does PowerPoint keep it?
   exercise-host list                     the questions and their scenarios
 
 Exit codes: 0 good, 1 a scenario fell short, 2 wrong usage or a wrong line in a
@@ -32,6 +33,7 @@ constexpr std::array commands{
     Command{"run", "Tell the whole road of one question, and what the host reads last", addRun, true},
     Command{"try", "Talk: state a learner's moves, see values, ask for the verdict", addTry, true},
     Command{"verify", "Run scenarios and print what falls short", addVerify, true},
+    Command{"conform", "Ask PowerPoint whether it keeps what the verdicts rest on", addConform, true},
     Command{"recheck", "Judge a saved working presentation, without a live PowerPoint", addRecheck, false},
     Command{"deliver", "Write what the course delivers for a question, to start from", addDeliver, false},
     Command{"list", "List questions and scenarios", addList, false},

@@ -13,7 +13,12 @@ namespace {
 ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out) {
     for (const std::filesystem::path& path : questions.empty() ? library.files() : library.filesOf(questions)) {
         const language::ScenarioFile file = load(path);
-        out << path.filename().string() << ": question " << file.question << '\n';
+        out << path.filename().string() << ": ";
+        if (file.className.empty()) {
+            out << "question " << file.question << '\n';
+        } else {
+            out << "PowerPoint's class " << automation::toUtf8(file.className) << '\n';
+        }
         for (const language::Scenario& scenario : file.scenarios) {
             out << "    " << automation::toUtf8(scenario.title) << '\n';
         }

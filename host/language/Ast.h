@@ -80,12 +80,18 @@ struct Statement {
     std::variant<Call, Assignment, Check, ExpectValues, ExpectError> node;
 };
 
-/// What happens from one InitQuestion to the closing of the question.
+/// On what grounds a promise of PowerPoint's stands: its documentation says so, or nobody has found that it does, or it
+/// does but the module's questions are described otherwise.
+enum class Grounds : std::uint8_t { Documented, Assumed, Contested };
+
+/// What happens from one InitQuestion to the closing of the question; in a file about a class, a promise of it.
 struct Scenario {
     Position place;
     std::u16string title;
     bool startsBeforeInitQuestion = false; ///< the scenario states InitQuestion itself
     std::vector<Statement> statements;
+    Grounds grounds = Grounds::Documented; ///< of a promise
+    std::u16string decides;                ///< the questions and letters that hang on a promise; may be empty
 
     /// What happens before the first check; everything where there is none.
     [[nodiscard]] std::span<const Statement> firstMoves() const;
@@ -118,7 +124,8 @@ struct Contract {
 struct ScenarioFile {
     std::string name;
     std::int32_t question = 0;
-    std::u16string heading; ///< what the comment above the question says
+    std::u16string className; ///< of PowerPoint's, in a file of promises, which has no question
+    std::u16string heading;   ///< what the comment above the question says
     Contract contract;
     std::vector<Statement> course; ///< statements that build the presentation delivered
     std::vector<Scenario> scenarios;

@@ -64,7 +64,7 @@ private:
             const std::vector<Token> tokens = tokenize(line, number);
             if (tokens.size() > 1) {
                 content(line, tokens);
-            } else if (file_.question == 0) {
+            } else if (!isHeaded()) {
                 heading(line);
             }
         });
@@ -90,13 +90,16 @@ private:
             block_->back().text += u' ' + expectation.statements.back().text;
         } else if (words.takeWord(u"question")) {
             question(words, place);
+        } else if (!isHeaded() && words.takeWordBefore(TokenKind::Text, u"class")) {
+            file_.className = words.sentence("the name of the class, in quotes");
+            words.end();
         } else {
             block(words, place, line, tokens);
         }
     }
 
     void block(LineParser& words, Position place, std::u16string_view line, const std::vector<Token>& tokens) {
-        if (file_.question == 0) {
+        if (!isHeaded()) {
             file_.question = unknown;
             wrong_.push_back({place, "expected 'question' and its number before anything else"});
         }
@@ -106,13 +109,15 @@ private:
             scenario(words, place);
         } else if (words.takeWord(u"before")) {
             before(words, place);
-        } else if (!contract(words, place)) {
+        } else if (!grounds(words, place) && !contract(words, place)) {
             add(statementOf(line, tokens));
         }
     }
 
+    [[nodiscard]] bool isHeaded() const { return file_.question != 0 || !file_.className.empty(); }
+
     void question(LineParser& words, Position place) {
-        if (file_.question > 0) {
+        if (isHeaded()) {
             throw SyntaxError({place, "expected one question only"});
         }
         const std::string expected = "a question of the course, " + std::to_string(exercises::firstQuestion) + " to " +
@@ -194,7 +199,7 @@ private:
         if (block_ == nullptr || block_ == &file_.contract.delivered) {
             throw SyntaxError({place, "expected 'course' before the first scenario"});
         }
-        Scenario scenario{place, words.text("the title of the scenario, in quotes"), false, {}};
+        Scenario scenario{place, words.text("the title of the scenario, in quotes"), false, {}, {}, {}};
         words.end();
         const auto isSame = [&](const Scenario& other) { return other.title == scenario.title; };
         if (std::any_of(file_.scenarios.begin(), file_.scenarios.end(), isSame)) {
@@ -213,6 +218,25 @@ private:
             throw SyntaxError({place, "expected 'before InitQuestion' right after the title of a scenario"});
         }
         file_.scenarios.back().startsBeforeInitQuestion = true;
+    }
+
+    /// Reads the line below the title of a promise that says why it is believed, and what hangs on it. False where it
+    /// is none.
+    bool grounds(LineParser& words, Position place) {
+        constexpr std::array<std::pair<std::u16string_view, Grounds>, 3> all{
+            {{u"documented", Grounds::Documented}, {u"assumed", Grounds::Assumed}, {u"contested", Grounds::Contested}}};
+        for (const auto& [word, grounds] : all) {
+            if (words.takeWordBefore(TokenKind::Text, word)) {
+                if (file_.className.empty() || file_.scenarios.empty() || !block_->empty()) {
+                    throw SyntaxError({place, "expected the grounds of a promise right after its title"});
+                }
+                file_.scenarios.back().grounds = grounds;
+                file_.scenarios.back().decides = words.text("the questions that hang on it, in quotes");
+                words.end();
+                return true;
+            }
+        }
+        return false;
     }
 
     void add(Statement statement) {
@@ -236,7 +260,7 @@ private:
         if (waiting_ != nullptr) {
             throw SyntaxError({end, "expected the statement that must raise the error"});
         }
-        if (wrong_.empty() && file_.question == 0) {
+        if (wrong_.empty() && !isHeaded()) {
             throw SyntaxError({end, "expected 'question' and its number"});
         }
         if (wrong_.empty()) {

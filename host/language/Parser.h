@@ -42,6 +42,12 @@ namespace host::language {
 ///     check general "AK"              a general error
 ///     check error 0 "SERVICE X"       TestePoint raises a number, with parts that its source contains
 ///
+/// A file of promises says `class "TextRange"` in the place of the question. Its scenarios are what PowerPoint
+/// promises; `documented`, `assumed` or `contested`, with the letters that hang on it, may stand below a title:
+///
+///     scenario "Words: punctuation is a word of its own"
+///       contested "0308 D"
+///
 /// and `expect x = y` asks for a value, `expect x = y, z = 3` for several, `expect error 91 "SERVICE X": statement` for
 /// a raised error (the statement may also stand on the next line).
 [[nodiscard]] ScenarioFile parse(std::string fileName, std::string_view bytes);

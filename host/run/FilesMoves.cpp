@@ -32,10 +32,12 @@ bool FilesMoves::exists(const std::u16string& name) {
 
 const automation::MemberTable& FilesMoves::members() const {
     using automation::method;
+    using automation::property;
     static const automation::MemberTable table{
         method<&FilesMoves::create>(u"Create"),         method<&FilesMoves::copy>(u"Copy"),
         method<&FilesMoves::remove>(u"Delete"),         method<&FilesMoves::makeReadOnly>(u"MakeReadOnly"),
         method<&FilesMoves::makeHidden>(u"MakeHidden"), method<&FilesMoves::exists>(u"Exists"),
+        property<&FilesMoves::folder>(u"Folder"),
     };
     return table;
 }

@@ -12,6 +12,7 @@ namespace host {
 ///     Files.Delete "07305306.ppt"
 ///     Files.MakeReadOnly "07305306.ppt"
 ///     Files.MakeHidden "Plan exo 3.rtf"
+///     ActivePresentation.SaveAs Files.Folder & "Plan"     the host's folder
 ///     expect Files.Exists("Méthodologie.ppt") = True
 class FilesMoves final : public automation::Published {
 public:
@@ -24,6 +25,7 @@ public:
     void makeReadOnly(const std::u16string& name);
     void makeHidden(const std::u16string& name);
     [[nodiscard]] bool exists(const std::u16string& name);
+    [[nodiscard]] std::u16string folder() const { return world_.hostFolder(); }
 
     [[nodiscard]] std::u16string className() const override { return u"Files"; }
     [[nodiscard]] const automation::MemberTable& members() const override;

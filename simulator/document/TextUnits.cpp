@@ -89,18 +89,19 @@ std::size_t countUnits(const TextStory& story, Span range, TextUnit unit) {
 
 Span spanOfUnits(const TextStory& story, Span range, TextUnit unit, std::size_t first, std::size_t count) {
     if (unit == TextUnit::Character) {
-        const std::size_t skipped = std::min(first, range.length);
+        const std::size_t skipped = std::min(first, range.length == 0 ? 0 : range.length - 1);
         return {range.start + skipped, std::min(count, range.length - skipped)};
     }
     return withUnits(story, range, unit, [&](std::span<const Span> units) -> Span {
-        if (first >= units.size() || range.length == 0) {
+        if (units.empty() || range.length == 0) {
             return {range.end(), 0};
         }
-        const std::size_t start = std::max(units[first].start, range.start);
+        const std::size_t found = std::min(first, units.size() - 1);
+        const std::size_t start = std::max(units[found].start, range.start);
         if (count == 0) {
             return {start, 0};
         }
-        const std::size_t last = first + std::min(count, units.size() - first) - 1;
+        const std::size_t last = found + std::min(count, units.size() - found) - 1;
         return {start, std::min(units[last].end(), range.end()) - start};
     });
 }

@@ -14,8 +14,8 @@ enum class TextUnit : std::uint8_t { Range, Character, Word, Sentence, Line, Par
 /// Number of units in a range of a story, those that reach past its borders included.
 [[nodiscard]] std::size_t countUnits(const TextStory& story, Span range, TextUnit unit);
 
-/// The stretch of a range from its unit `first` (from 0), `count` units long or up to the end of the range; empty, at
-/// the end of the range, where it has no such unit.
+/// The stretch of a range from its unit `first` (from 0), or its last where it has fewer, `count` units long or up to
+/// the end of the range; empty, at the end of the range, where it has no units.
 [[nodiscard]] Span spanOfUnits(const TextStory& story, Span range, TextUnit unit, std::size_t first, std::size_t count);
 
 } // namespace simulator

@@ -125,10 +125,6 @@ TextRangeObject::Pointer TextRangeObject::trimText() const {
         while (span.length != 0 && TextStory::isBlank(story.text()[span.end() - 1])) {
             --span.length;
         }
-        while (span.length != 0 && TextStory::isBlank(story.text()[span.start])) {
-            ++span.start;
-            --span.length;
-        }
         return span;
     }));
 }

@@ -91,6 +91,21 @@ void copyOut(host::World& world, const std::u16string& path, const std::filesyst
     host::writeContents(to, std::string(bytes.begin(), bytes.end()));
 }
 
+TEST_F(HostTest, ConformTellsWhatPowerPointDoesOtherwiseAndWhatHangsOnIt) {
+    write("class \"Slides\"\ncourse\nPresentations.Add\nscenario \"kept\"\nexpect Presentations.Count = 1\n"
+          "scenario \"broken\"\nassumed \"0306 B\"\nexpect Presentations.Count = 2\nActivePresentation.Fly\n"
+          "expect Presentations.Count = 1\nscenario \"described otherwise\"\ncontested \"0308 D\"\n"
+          "expect Presentations.Count = 9, Windows.Count = 1\n");
+    const std::string out = said({"conform", "slides"}, ExitCode::FellShort);
+    EXPECT_NE(out.find(":8:22: expected 2, found 1 (assumed: \"broken\")"), std::string::npos) << out;
+    EXPECT_NE(out.find(":10:1: line 9 raises error 438"), std::string::npos) << out;
+    EXPECT_NE(out.find("    this decides 0306 B\nSlides: 1 agree, 2 differ, 1 cannot be told\n"), std::string::npos)
+        << out;
+    EXPECT_EQ(out.find("0308"), std::string::npos) << out;
+    static_cast<void>(said({"conform", "Shapes"}, ExitCode::WrongUsage));
+    static_cast<void>(said({"verify"}, ExitCode::WrongUsage));
+}
+
 TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) {
     write(std::string(course) + success);
     const std::filesystem::path folder = std::filesystem::path(file()).parent_path();
