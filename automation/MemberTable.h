@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "automation/Object.h"
+#include "automation/ObjectVariable.h"
 #include "automation/Unmoved.h"
 
 #include <initializer_list>
@@ -91,24 +92,11 @@ public:
     Parameter(std::span<Value> arguments, std::size_t position)
         : argument_(position < arguments.size() ? &arguments[position] : nullptr), plain_(convert(argument_)) {}
 
-    /// The caller's variable lets go of what is passed, until it is written back: an object that the function drops is
-    /// gone at once.
-    void begin() noexcept {
-        if constexpr (writesBack) {
-            if (Value* const variable = argument_->variable()) {
-                wasEmpty_ = variable->isEmpty();
-                *variable = Value();
-            }
-        }
-    }
-
     [[nodiscard]] P pass() { return static_cast<P>(plain_); }
 
-    /// A variable that was empty stays so where nothing comes out.
     void finish() noexcept {
         if constexpr (writesBack) {
-            Value* const variable = argument_->variable();
-            if (variable != nullptr && !(wasEmpty_ && plain_ == Plain())) {
+            if (Value* const variable = argument_->variable()) {
                 *variable = Value(std::move(plain_));
             }
         }
@@ -134,16 +122,32 @@ private:
 
     Value* argument_;
     Plain plain_;
-    bool wasEmpty_ = false;
+};
+
+/// An object variable is written while the function runs.
+template <> class Parameter<ObjectVariable&> {
+public:
+    static constexpr bool required = true;
+
+    Parameter(std::span<Value> arguments, std::size_t position) : variable_(arguments[position]) {
+        if (arguments[position].isMissing()) {
+            raise(RunTimeError::ArgumentNotOptional);
+        }
+        static_cast<void>(variable_.get()); // what is no object is refused before anything is done
+    }
+
+    [[nodiscard]] ObjectVariable& pass() noexcept { return variable_; }
+    void finish() noexcept {}
+
+private:
+    ObjectVariable variable_;
 };
 
 /// Writes by-reference parameters back when the call ends, also where it raises: what the function has written stays.
 template <typename... Parameters> struct Finisher : automation::Unmoved {
     std::tuple<Parameter<Parameters>...>& parameters;
 
-    explicit Finisher(std::tuple<Parameter<Parameters>...>& all) : parameters(all) {
-        std::apply([](auto&... each) { (each.begin(), ...); }, parameters);
-    }
+    explicit Finisher(std::tuple<Parameter<Parameters>...>& all) noexcept : parameters(all) {}
     ~Finisher() {
         std::apply([](auto&... each) { (each.finish(), ...); }, parameters);
     }

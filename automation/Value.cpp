@@ -61,7 +61,7 @@ double number(const Value& value) {
         [](const std::u16string& text) { return parse(text); },
         [](const ObjectPtr& object) { return defaultNumber(object); },
         [](const Array&) -> double { raise(RunTimeError::TypeMismatch); },
-        [](Value* variable) { return number(*variable); },
+        [](const Reference& by) { return number(*by.variable); },
         [](auto plain) { return static_cast<double>(plain); },
     });
 }
@@ -104,20 +104,32 @@ Value& Value::operator=(const Value& other) {
     return *this = std::move(copy);
 }
 
-Value Value::reference(Value& variable) {
+Value Value::reference(Value& variable, Original* original) noexcept {
     Value result;
-    result.storage_ = variable.variable() != nullptr ? variable.variable() : &variable;
+    const auto* const further = std::get_if<Reference>(&variable.storage_);
+    result.storage_ = further != nullptr ? *further : Reference{&variable, original};
     return result;
 }
 
 const Value& Value::target() const noexcept {
-    const auto* const variable = std::get_if<Value*>(&storage_);
-    return variable != nullptr ? **variable : *this;
+    const Value* const behind = variable();
+    return behind != nullptr ? *behind : *this;
 }
 
 Value* Value::variable() const noexcept {
-    const auto* const variable = std::get_if<Value*>(&storage_);
-    return variable != nullptr ? *variable : nullptr;
+    const auto* const reference = std::get_if<Reference>(&storage_);
+    return reference != nullptr ? reference->variable : nullptr;
+}
+
+void Value::write(Value value) {
+    if (const auto* const reference = std::get_if<Reference>(&storage_)) {
+        *reference->variable = std::move(value);
+        if (reference->original != nullptr) {
+            reference->original->follow();
+        }
+    } else {
+        *this = std::move(value);
+    }
 }
 
 template <> bool Value::to<bool>() const {
@@ -170,7 +182,7 @@ template <> std::u16string Value::to<std::u16string>() const {
             return required(object)->invoke(defaultMember, Access::GetOrCall, {}).to<std::u16string>();
         },
         [](const Array&) -> std::u16string { raise(RunTimeError::TypeMismatch); },
-        [](Value* variable) { return variable->to<std::u16string>(); },
+        [](const Reference& by) { return by.variable->to<std::u16string>(); },
         [](auto integer) { return decimal(integer); },
     });
 }
@@ -202,7 +214,7 @@ std::u16string Value::display() const {
             }
             return u"Array(" + text + u")";
         },
-        [](Value* variable) { return variable->display(); },
+        [](const Reference& by) { return by.variable->display(); },
         [](auto plain) { return Value(plain).to<std::u16string>(); },
     });
 }

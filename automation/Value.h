@@ -28,6 +28,24 @@ struct Missing {
     friend bool operator==(Missing, Missing) = default;
 };
 
+/// What a variable is a copy of, kept by the caller in another form.
+class Original {
+public:
+    /// The copy has been written, and the original is to be what it is now already.
+    virtual void follow() noexcept = 0;
+
+protected:
+    ~Original() = default;
+};
+
+/// What an argument passed by reference holds: a variable, and the original of it if it is a copy.
+struct Reference {
+    Value* variable;
+    Original* original;
+
+    friend bool operator==(const Reference&, const Reference&) = default;
+};
+
 template <typename T>
 concept Enumeration = std::is_enum_v<T>;
 
@@ -61,15 +79,18 @@ public:
     Value& operator=(Value&&) noexcept = default;
     ~Value() = default;
 
-    /// An argument passed by reference: reading it reads `variable`, and what the callee writes lands there.
-    /// `variable` must outlive the call.
-    static Value reference(Value& variable);
+    /// An argument passed by reference: reading it reads `variable`, and what the callee writes lands there. Where that
+    /// is a copy, what is written at once is passed on to its original. Both must outlive the call.
+    static Value reference(Value& variable, Original* original = nullptr) noexcept;
 
     /// The value itself, or the variable behind a by-reference argument.
     [[nodiscard]] const Value& target() const noexcept;
 
     /// The variable behind a by-reference argument; null for a value.
     [[nodiscard]] Value* variable() const noexcept;
+
+    /// Writes the variable behind a by-reference argument, and its original, before the call ends; a value itself.
+    void write(Value value);
 
     template <typename T> [[nodiscard]] bool is() const noexcept {
         return std::holds_alternative<T>(target().storage_);
@@ -105,7 +126,7 @@ public:
 
 private:
     using Storage = std::variant<Empty, Missing, bool, std::int16_t, std::int32_t, float, double, std::u16string,
-                                 ObjectPtr, Array, Value*>;
+                                 ObjectPtr, Array, Reference>;
 
     Storage storage_;
 };

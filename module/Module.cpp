@@ -12,6 +12,7 @@ namespace k73053 {
 using automation::FirstError;
 using automation::LateBound;
 using automation::ObjectPtr;
+using automation::ObjectVariable;
 using automation::Value;
 using platform::ignoringErrors;
 
@@ -31,7 +32,7 @@ Module::~Module() {
     });
 }
 
-void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& folder, ObjectPtr& application,
+void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& folder, ObjectVariable& application,
                           std::int32_t& window, const std::u16string& /*unused*/) {
     const Entry entry(u"InitQuestion");
     settings_.createKey();
@@ -65,38 +66,38 @@ void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& fol
     session_.ActiveFenetre();
 }
 
-void Module::forgetClosedPowerPoint(ObjectPtr& application, std::int32_t& window) {
+void Module::forgetClosedPowerPoint(ObjectVariable& application, std::int32_t& window) {
     if (window != unknownWindow && !services_.windows.className(window)) {
-        application = nullptr;
+        application.set(nullptr);
         window = unknownWindow;
         session_.forget();
     }
 }
 
-void Module::obtainPowerPoint(ObjectPtr& application, std::int32_t& window) {
-    if (!application) {
+void Module::obtainPowerPoint(ObjectVariable& application, std::int32_t& window) {
+    if (!application.get()) {
         return startPowerPoint(application, window);
     }
-    const bool isAnother = !automation::isSame(application, session_.application().object());
+    const bool isAnother = !automation::isSame(application.get(), session_.application().object());
     if (isAnother) {
         started_ = false;
     }
     // For what it does, not for its answer: a PowerPoint of an earlier question that has become invisible is quit
     // before the host's takes its place.
     static_cast<void>(session_.PowerPointVisible());
-    session_.adopt(application, window);
+    session_.adopt(application.get(), window);
     if (!session_.PowerPointVisible()) {
-        application = nullptr;
+        application.set(nullptr);
         startPowerPoint(application, window);
     } else if (isAnother) {
         session_.readStartupDialog();
     }
 }
 
-void Module::startPowerPoint(ObjectPtr& application, std::int32_t& window) {
+void Module::startPowerPoint(ObjectVariable& application, std::int32_t& window) {
     session_.GetApplication();
     started_ = true;
-    application = session_.application().object();
+    application.set(session_.application().object());
     window = session_.window();
 }
 
@@ -191,7 +192,7 @@ void Module::Fermer() {
     FermeQuestion();
 }
 
-void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
+void Module::Quitter(ObjectVariable& application, std::int32_t& window) {
     const Entry entry(u"Quitter");
     FirstError error;
     if (question_) {
@@ -200,9 +201,9 @@ void Module::Quitter(ObjectPtr& application, std::int32_t& window) {
     ignoringErrors([&] { restoreLeftovers(); });
     error.attempt([&] {
         if (session_.PowerPointVisible() && started_ && !session_.isHung()) {
-            ppt::Application(application).Quit();
+            ppt::Application(application.get()).Quit();
             window = 0;
-            application = nullptr;
+            application.set(nullptr);
         }
     });
     session_.forget();

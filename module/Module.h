@@ -19,8 +19,8 @@ public:
 
     /// Stages and prepares a question of the course in the host's folder, which ends with a backslash. The host's
     /// PowerPoint and window handle (-1 unknown) are replaced by those in use. The last argument is not used.
-    void InitQuestion(std::int32_t questionNumber, const std::u16string& folder, automation::ObjectPtr& application,
-                      std::int32_t& window, const std::u16string& unused);
+    void InitQuestion(std::int32_t questionNumber, const std::u16string& folder,
+                      automation::ObjectVariable& application, std::int32_t& window, const std::u16string& unused);
     /// Checks the learner's work; the verdict is read through the next four.
     void TestePoint();
     /// True when the last check did not reach the question's own.
@@ -35,16 +35,16 @@ public:
     /// restore. Raises ObjectNotSet (91) where there is neither.
     void Fermer();
     /// Closes a question still held, and PowerPoint where the module started it and it does not hang.
-    void Quitter(automation::ObjectPtr& application, std::int32_t& window);
+    void Quitter(automation::ObjectVariable& application, std::int32_t& window);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
 private:
     /// Lets go of a host's PowerPoint whose window no longer exists.
-    void forgetClosedPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
+    void forgetClosedPowerPoint(automation::ObjectVariable& application, std::int32_t& window);
     /// Makes sure that a visible PowerPoint answers: the host's, or one attached to or started.
-    void obtainPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
-    void startPowerPoint(automation::ObjectPtr& application, std::int32_t& window);
+    void obtainPowerPoint(automation::ObjectVariable& application, std::int32_t& window);
+    void startPowerPoint(automation::ObjectVariable& application, std::int32_t& window);
     /// The question may put another PowerPoint in the place of the one in use.
     void prepareQuestion(const std::u16string& folder);
     void FermeQuestion();

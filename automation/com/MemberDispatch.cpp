@@ -1,6 +1,7 @@
 #include "automation/com/MemberDispatch.h"
 
 #include "automation/FirstError.h"
+#include "automation/com/ClientVariable.h"
 #include "automation/com/ComError.h"
 #include "automation/com/Variant.h"
 #include "automation/com/VariantReader.h"
@@ -65,18 +66,14 @@ HRESULT refusal(const DISPPARAMS* parameters, Access access) noexcept {
 /// The arguments of one call from outside, as values in their order.
 class GivenArguments {
 public:
-    explicit GivenArguments(const DISPPARAMS& parameters)
-        : given_(parameters.rgvarg, parameters.cArgs), before_(given_.size()), variables_(given_.size()),
-          arguments_(given_.size()) {
+    explicit GivenArguments(const DISPPARAMS& parameters) : variables_(parameters.cArgs), arguments_(parameters.cArgs) {
+        const std::span<const VARIANT> given(parameters.rgvarg, parameters.cArgs); // the last one first
         VariantReader reader;
-        for (std::size_t i = 0; i < given_.size(); ++i) {
-            Value value = reader.read(given(i));
-            if (isReference(given(i))) {
-                before_[i] = value;
-                variables_[i] = std::move(value);
-                arguments_[i] = Value::reference(variables_[i]);
-            } else {
-                arguments_[i] = std::move(value);
+        for (std::size_t i = 0; i < given.size(); ++i) {
+            const VARIANT& each = given[given.size() - 1 - i];
+            arguments_[i] = reader.read(each);
+            if (isReference(each)) {
+                arguments_[i] = variables_[i].emplace(each, std::move(arguments_[i])).argument();
             }
         }
     }
@@ -85,18 +82,18 @@ public:
 
     /// Writes the variables that were changed back to where the caller has them: all that take it, then the first
     /// error.
-    void writeBack() const {
+    void writeBack() {
         FirstError error;
-        for (std::size_t i = 0; i < given_.size(); ++i) {
-            if (isReference(given(i)) && !(variables_[i] == before_[i])) {
-                error.attempt([&] { assign(given(i), variables_[i]); });
+        for (std::optional<ClientVariable>& variable : variables_) {
+            if (variable) {
+                error.attempt([&] { variable->writeBack(); });
             }
         }
         error.raise();
     }
 
     /// The same where the member has raised: its error is the one that counts.
-    void tryWriteBack() const noexcept {
+    void tryWriteBack() noexcept {
         try {
             writeBack();
         } catch (...) {
@@ -105,11 +102,7 @@ public:
     }
 
 private:
-    [[nodiscard]] const VARIANT& given(std::size_t i) const noexcept { return given_[given_.size() - 1 - i]; }
-
-    std::span<const VARIANT> given_; ///< the last one first
-    std::vector<Value> before_;
-    std::vector<Value> variables_;
+    std::vector<std::optional<ClientVariable>> variables_; ///< those that refer to one
     std::vector<Value> arguments_;
 };
 

@@ -63,7 +63,7 @@ public:
             fill(elements, create({elements.size()}), 1);
         }
     }
-    void operator()(Value* variable) const { variable->visit(*this); }
+    void operator()(const Reference& by) const { by.variable->visit(*this); }
 
 private:
     /// Number of numbers that every element of a table holds, such as the pairs of a list of points; 0 for no table.
@@ -154,8 +154,7 @@ void storeVariant(VARIANT* place, const Value& value, int depth) {
         return assignAt(stored, value, depth + 1);
     }
     Variant content = variantOf(value);
-    VariantClear(&stored);
-    stored = content.release();
+    std::swap(stored, static_cast<VARIANT&>(content)); // what it held is released when it holds the new value
 }
 
 void storeArray(SAFEARRAY** place, const Value& value) {

@@ -1,49 +1,42 @@
 #include "library/classes/ModuleDispatch.h"
 
 #include "automation/Unmoved.h"
-#include "automation/com/Variant.h"
+#include "automation/com/ClientVariable.h"
 
 namespace library {
 
 namespace {
 
-using automation::ObjectPtr;
 using automation::com::Bstr;
 
-/// The host's PowerPoint and window handle as the module takes them, for the length of one operation. What it leaves
-/// there goes back to the host however it ends.
+/// The host's PowerPoint and window handle as the module takes them, for the length of one operation. The module's
+/// changes reach the host however it ends, nothing in the place of its PowerPoint at once.
 class HostReferences : automation::Unmoved {
 public:
     HostReferences(IDispatch*& hostsApplication, LONG& hostsWindow)
-        : hostsApplication_(hostsApplication), hostsWindow_(hostsWindow),
-          given_(automation::com::objectOf(hostsApplication)), application_(given_), window_(hostsWindow) {}
+        : hostsWindow_(hostsWindow), client_(reference(hostsApplication), automation::com::objectOf(hostsApplication)),
+          argument_(client_.argument()), application_(argument_), window_(hostsWindow) {}
     ~HostReferences() {
         hostsWindow_ = window_;
-        if (!automation::isSame(application_, given_)) {
-            giveBackApplication();
-        }
+        client_.follow(); // where it cannot, the host keeps what it has
     }
 
-    [[nodiscard]] ObjectPtr& application() noexcept { return application_; }
+    [[nodiscard]] automation::ObjectVariable& application() noexcept { return application_; }
     [[nodiscard]] std::int32_t& window() noexcept { return window_; }
 
 private:
-    void giveBackApplication() const noexcept {
-        VARIANT place;
-        VariantInit(&place);
-        place.vt = VT_BYREF | VT_DISPATCH;
-        place.ppdispVal = &hostsApplication_;
-        try {
-            automation::com::assign(place, application_);
-        } catch (...) {
-            return; // the host keeps what it has
-        }
+    static VARIANT reference(IDispatch*& place) noexcept {
+        VARIANT result;
+        VariantInit(&result);
+        result.vt = VT_BYREF | VT_DISPATCH;
+        result.ppdispVal = &place;
+        return result;
     }
 
-    IDispatch*& hostsApplication_;
     LONG& hostsWindow_;
-    ObjectPtr given_;
-    ObjectPtr application_;
+    automation::com::ClientVariable client_;
+    automation::Value argument_;
+    automation::ObjectVariable application_;
     std::int32_t window_;
 };
 

@@ -7,7 +7,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <utility>
+#include <vector>
 
 namespace module_tests {
 
@@ -213,6 +215,65 @@ TEST_F(ModuleTest, WritesThemBackToVariablesOfTheirTypesAlsoWhereItRaises) {
     EXPECT_EQ(application_, nullptr);
     EXPECT_EQ(window_, 0);
     powerPoint_ = LateBound();
+}
+
+/// A PowerPoint that was closed while the host still has a reference to it.
+class Closed final : public automation::Published {
+public:
+    explicit Closed(std::vector<bool>& goneFirst) : goneFirst_(goneFirst) {}
+    ~Closed() override { goneFirst_.push_back(FindWindowW(L"PP11FrameClass", nullptr) == nullptr); }
+    [[nodiscard]] const automation::MemberTable& members() const override {
+        static const automation::MemberTable none{};
+        return none;
+    }
+
+private:
+    std::vector<bool>& goneFirst_;
+};
+
+TEST_F(ModuleTest, LetsGoOfAClosedPowerPointBeforeItLooksForAnother) {
+    const auto question = variantOf(314);
+    const auto folder = variantOf(folderText());
+    const auto unused = variantOf(u"");
+    automation::com::Variant variable;
+    VARIANT application;
+    VARIANT handle;
+    handle.vt = VT_BYREF | VT_I4;
+    handle.plVal = &window_;
+    const auto byName = [&] {
+        return errorOfInvoke(*module_.get(), u"InitQuestion", {question, folder, application, handle, unused}).number;
+    };
+    const std::function<std::uint32_t()> forms[] = {
+        [&] { return static_cast<std::uint32_t>(init(314)); },
+        [&] {
+            application.vt = VT_BYREF | VT_DISPATCH;
+            application.ppdispVal = &application_;
+            return byName();
+        },
+        [&] {
+            variable.vt = VT_DISPATCH;
+            variable.pdispVal = std::exchange(application_, nullptr);
+            application.vt = VT_BYREF | VT_VARIANT;
+            application.pvarVal = &variable;
+            const std::uint32_t status = byName();
+            application_ = variable.release().pdispVal;
+            return status;
+        },
+    };
+    std::vector<bool> goneFirst;
+    for (const auto& form : forms) {
+        application_ = automation::com::dispatchOf(std::make_shared<Closed>(goneFirst)).release();
+        window_ = 1;
+        EXPECT_EQ(form(), 0x800A0035U) << "its file is missing";
+        EXPECT_EQ(window_, mainWindow());
+        EXPECT_NE(window_, 0);
+        EXPECT_EQ(module_->Quitter(&application_, &window_), S_OK);
+        EXPECT_EQ(application_, nullptr);
+        for (int wait = 0; wait < 500 && mainWindow() != 0; ++wait) {
+            Sleep(10);
+        }
+    }
+    EXPECT_EQ(goneFirst, std::vector<bool>(std::size(forms), true));
 }
 
 } // namespace module_tests

@@ -37,7 +37,8 @@ public:
     std::shared_ptr<Observer> calls = std::make_shared<Observer>();
     platform::ObservedServices observed{machine.services(), calls};
     exercises::API api;
-    automation::ObjectPtr application;
+    automation::Value hosts;
+    automation::ObjectVariable application{hosts};
     std::int32_t window = -1;
     k73053::Module module{api, observed.services()};
 };

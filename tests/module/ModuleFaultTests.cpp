@@ -60,7 +60,8 @@ TEST_F(ModuleFaults, AKeyThatClosesBeforeTheFoldersChangeIsReported) {
 
 TEST_F(ModuleFaults, EveryOperationIsRefusedInEveryCallOfEveryOther) {
     k73053::Module another(api, observed.services());
-    automation::ObjectPtr nothing;
+    Value unset;
+    automation::ObjectVariable nothing(unset);
     std::int32_t unknown = -1;
     std::size_t entered = 0;
     bool isProbing = false;

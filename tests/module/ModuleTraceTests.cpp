@@ -8,7 +8,7 @@ class ModuleTrace : public tests::ModuleBench<trials::trace::TraceLog> {
 protected:
     void bringPowerPoint() {
         machine.startPowerPoint();
-        application = automation::observed(machine.application(), calls);
+        application.set(automation::observed(machine.application(), calls));
         window = machine.mainWindow();
     }
 
