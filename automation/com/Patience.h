@@ -25,8 +25,8 @@ private:
     Clock::duration waited_{};
 };
 
-/// For the length of a scope, one operation that a client has called, on this thread: all its accesses together wait
-/// for six seconds at most. A scope inside another is part of it.
+/// For the length of a scope, one operation that a client has called: all its accesses together wait for six seconds at
+/// most. A scope inside another is part of it.
 class Operation {
 public:
     Operation() noexcept;
