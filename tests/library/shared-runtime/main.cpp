@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <stdexcept>
+#include <string>
 
 // shared-runtime LIBRARY: a host that shares the compiler's runtime, as programs of mingw-w64 usually do, and loads and
 // frees the library again and again. Each time the library raises an error inside.
@@ -9,7 +10,14 @@
 namespace {
 
 constexpr int times = 1200; ///< more than a process has thread-local slots
+constexpr DWORD spare = 20; ///< handles that the system may keep, whatever is loaded
 constexpr auto subscriptOutOfRange = static_cast<HRESULT>(0x800A0009);
+
+DWORD handles() {
+    DWORD count = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &count);
+    return count;
+}
 
 HRESULT readItemOfNone(HMODULE library) {
     IClassFactory* factory = nullptr;
@@ -27,6 +35,7 @@ HRESULT readItemOfNone(HMODULE library) {
 }
 
 void run(const char* path) {
+    const DWORD before = handles();
     for (int done = 0; done < times; ++done) {
         HMODULE library = LoadLibraryA(path);
         if (library == nullptr) {
@@ -39,6 +48,9 @@ void run(const char* path) {
         if (GetModuleHandleA(path) != nullptr) {
             throw std::runtime_error("it stays loaded");
         }
+    }
+    if (handles() > before + spare) {
+        throw std::runtime_error(std::to_string(handles() - before) + " handles stay open");
     }
 }
 
