@@ -28,11 +28,12 @@ void write(HKEY root, const Entry& entry) {
     RegistryKey::create(root, pathOf(entry.key)).setText(entry.name, entry.text);
 }
 
-void remove(HKEY root, const Entry& entry) {
+/// Removes an entry, and what this leaves bare of its key and those above it, up to one that stays.
+void remove(HKEY root, const Entry& entry, const std::wstring& staying = classesKey) {
     if (const auto key = RegistryKey::open(root, pathOf(entry.key), KEY_SET_VALUE)) {
         key.deleteValue(entry.name);
     }
-    RegistryKey::removeBare(root, pathOf(entry.key), classesKey);
+    RegistryKey::removeBare(root, pathOf(entry.key), staying);
 }
 
 bool isOtherRegistered(HKEY root) {
@@ -41,22 +42,31 @@ bool isOtherRegistered(HKEY root) {
     });
 }
 
-/// An entry with the text that was there before; nothing where there was none.
+/// An entry with what was there before it.
 struct Written {
-    Entry entry;
-    std::optional<std::wstring> former;
-};
+    Written(HKEY root, const Entry& written) : entry(written), standing(pathOf(entry.key)) {
+        if (const auto key = RegistryKey::open(root, standing, KEY_QUERY_VALUE)) {
+            former = key.value(entry.name);
+        }
+        while (standing.size() > classesKey.size() && !RegistryKey::open(root, standing, KEY_QUERY_VALUE)) {
+            standing.resize(standing.rfind(L'\\'));
+        }
+    }
 
-std::optional<std::wstring> textOf(HKEY root, const Entry& entry) {
-    const auto key = RegistryKey::open(root, pathOf(entry.key), KEY_QUERY_VALUE);
-    return key ? key.find(entry.name) : std::nullopt;
-}
+    Entry entry;
+    std::optional<platform::RegistryValue> former;
+    std::wstring standing; ///< of its key and those above, the first that was there
+};
 
 /// Where a registration has failed: its error is the one that counts.
 void tryToTakeBack(HKEY root, const Written& written) noexcept {
     try {
-        const auto& [entry, former] = written;
-        former ? write(root, {entry.key, entry.name, *former}) : remove(root, entry);
+        const auto& [entry, former, standing] = written;
+        if (former) {
+            RegistryKey::create(root, pathOf(entry.key)).setValue(entry.name, *former);
+        } else {
+            remove(root, entry, standing);
+        }
     } catch (...) {
         return;
     }
@@ -69,7 +79,7 @@ void registerLibrary(Scope scope, const std::wstring& libraryPath) {
     std::vector<Written> written;
     try {
         for (const Entry& entry : entriesFor(libraryPath)) {
-            written.push_back({entry, textOf(root, entry)});
+            written.emplace_back(root, entry);
             write(root, entry);
         }
     } catch (...) {

@@ -3,6 +3,7 @@
 #include "automation/com/ComError.h"
 
 #include <algorithm>
+#include <array>
 
 namespace platform {
 
@@ -51,20 +52,47 @@ void RegistryKey::removeBare(HKEY root, std::wstring path, const std::wstring& s
     }
 }
 
-std::optional<std::wstring> RegistryKey::find(const std::wstring& name) const {
-    DWORD type = REG_NONE;
+void RegistryKey::removeTree(HKEY root, const std::wstring& path, REGSAM view) {
+    if (const auto key = open(root, path, KEY_ENUMERATE_SUB_KEYS | view)) {
+        constexpr DWORD longestName = 256; // with its NUL
+        std::array<wchar_t, longestName> name{};
+        for (DWORD size = longestName;
+             RegEnumKeyExW(key.get(), 0, name.data(), &size, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+             size = longestName) {
+            removeTree(root, path + L'\\' + name.data(), view);
+        }
+        checkRegistry(deleteKey(root, path, view));
+    }
+}
+
+std::optional<RegistryValue> RegistryKey::value(const std::wstring& name) const {
+    RegistryValue value;
     DWORD size = 0;
-    if (RegQueryValueExW(key_, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS || type != REG_SZ) {
+    const LSTATUS status = RegQueryValueExW(key_, name.c_str(), nullptr, &value.type, nullptr, &size);
+    if (status == ERROR_FILE_NOT_FOUND) {
         return std::nullopt;
     }
-    std::wstring text((size + 1) / sizeof(wchar_t), L'\0');
-    checkRegistry(RegQueryValueExW(key_, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()), &size));
+    checkRegistry(status);
+    value.bytes.resize(size);
+    checkRegistry(RegQueryValueExW(key_, name.c_str(), nullptr, &value.type, value.bytes.data(), &size));
+    value.bytes.resize(size);
+    return value;
+}
+
+std::wstring RegistryKey::text(const std::wstring& name) const {
+    const std::optional<RegistryValue> found = value(name);
+    if (!found || found->type != REG_SZ) {
+        return {};
+    }
+    std::wstring text((found->bytes.size() + 1) / sizeof(wchar_t), L'\0');
+    std::ranges::copy(found->bytes, reinterpret_cast<BYTE*>(text.data()));
     text.resize(std::min(text.find(L'\0'), text.size()));
     return text;
 }
 
-std::wstring RegistryKey::text(const std::wstring& name) const {
-    return find(name).value_or(std::wstring());
+void RegistryKey::setValue(const std::wstring& name, const RegistryValue& value) const {
+    checkRegistry(
+        RegSetValueExW(key_, name.c_str(), 0, value.type, value.bytes.data(), static_cast<DWORD>(value.bytes.size())));
 }
 
 void RegistryKey::setText(const std::wstring& name, const std::wstring& text) const {

@@ -5,8 +5,15 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace platform {
+
+/// A value as the registry has it.
+struct RegistryValue {
+    DWORD type = REG_NONE;
+    std::vector<BYTE> bytes;
+};
 
 /// An open registry key, or none.
 class RegistryKey {
@@ -30,15 +37,21 @@ public:
     /// the registry, or 0 for that of this program. Raises the error of the system.
     static void removeBare(HKEY root, std::wstring path, const std::wstring& staying, REGSAM view = 0);
 
+    /// Removes a key with all that stands below it; one that is missing is as good as removed. Raises the error of the
+    /// system.
+    static void removeTree(HKEY root, const std::wstring& path, REGSAM view = 0);
+
     [[nodiscard]] HKEY get() const noexcept { return key_; }
     [[nodiscard]] explicit operator bool() const noexcept { return key_ != nullptr; }
 
-    /// A text without its terminating NUL; nothing where it is missing, or no text.
-    [[nodiscard]] std::optional<std::wstring> find(const std::wstring& name) const;
+    /// A value of any type; nothing where it is missing. Raises any other error of the system.
+    [[nodiscard]] std::optional<RegistryValue> value(const std::wstring& name) const;
     /// A text without its terminating NUL; empty where it is missing, or no text.
     [[nodiscard]] std::wstring text(const std::wstring& name) const;
     /// Writes a text; raises the error of the system.
     void setText(const std::wstring& name, const std::wstring& text) const;
+    /// Writes a value; raises the error of the system.
+    void setValue(const std::wstring& name, const RegistryValue& value) const;
     /// Removes a value; one that is missing is as good as removed. Raises any other error of the system.
     void deleteValue(const std::wstring& name) const;
     /// True for a key with neither values nor keys below it. Raises the error of the system.

@@ -51,14 +51,6 @@ void write(const std::wstring& key, const std::wstring& text, REGSAM view) {
     RegistryKey::create(HKEY_LOCAL_MACHINE, key, KEY_SET_VALUE | view).setText(L"", text);
 }
 
-void removeTree(const std::wstring& key, REGSAM view) {
-    constexpr REGSAM access = DELETE | KEY_ENUMERATE_SUB_KEYS | KEY_QUERY_VALUE | KEY_SET_VALUE;
-    if (const auto opened = RegistryKey::open(HKEY_LOCAL_MACHINE, key, access | view)) {
-        platform::checkRegistry(RegDeleteTreeW(opened.get(), nullptr));
-        platform::checkRegistry(RegDeleteKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), view, 0));
-    }
-}
-
 /// The class that a name of PowerPoint's stands for; empty where it is not known.
 std::wstring classBehind(const wchar_t* name) {
     return textAt(HKEY_CLASSES_ROOT, std::wstring(name) + L"\\CLSID");
@@ -93,7 +85,7 @@ void registerServer(View view) {
 
 void unregisterServer(View view) {
     constexpr REGSAM views[] = {KEY_WOW64_32KEY, KEY_WOW64_64KEY};
-    removeTree(classKey(), viewFlag(view));
+    RegistryKey::removeTree(HKEY_LOCAL_MACHINE, classKey(), viewFlag(view));
     for (const REGSAM each : views) {
         if (!textAt(HKEY_LOCAL_MACHINE, classKey(), each).empty()) {
             return;
@@ -102,7 +94,7 @@ void unregisterServer(View view) {
     for (const wchar_t* const name : programmaticIds) {
         for (const REGSAM each : views) { // Windows has the names once, Wine in each part
             if (textAt(HKEY_LOCAL_MACHINE, classes + name + L"\\CLSID", each) == textOf(applicationClass)) {
-                removeTree(classes + name, each);
+                RegistryKey::removeTree(HKEY_LOCAL_MACHINE, classes + name, each);
             }
         }
     }

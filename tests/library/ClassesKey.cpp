@@ -18,6 +18,12 @@ std::wstring counts(const RegistryKey& key) {
                                    : L"missing";
 }
 
+std::wstring valueAt(const RegistryKey& key, const std::wstring& name) {
+    const auto value = key ? key.value(name) : std::nullopt;
+    return value ? std::to_wstring(value->type) + L": " + std::wstring(value->bytes.begin(), value->bytes.end())
+                 : L"(missing)";
+}
+
 } // namespace
 
 RegistryContent classesContent(HKEY root, REGSAM view) {
@@ -25,7 +31,7 @@ RegistryContent classesContent(HKEY root, REGSAM view) {
     for (const library::Entry& entry : library::entriesFor(L"")) {
         const auto open = [&](const std::wstring& path) { return RegistryKey::open(root, path, KEY_READ | view); };
         std::wstring path = L"Software\\Classes\\" + entry.key;
-        content[path + L'|' + entry.name] = open(path).find(entry.name).value_or(L"(missing)");
+        content[path + L'|' + entry.name] = valueAt(open(path), entry.name);
         for (; path != L"Software"; path.resize(path.rfind(L'\\'))) {
             content[path] = counts(open(path));
         }

@@ -115,7 +115,7 @@ protected:
     }
     static void expectWritten(HKEY root) {
         for (const library::Entry& entry : library::entriesFor(tests::Library::path())) {
-            EXPECT_EQ(RegistryKey::open(root, classes + entry.key, KEY_QUERY_VALUE).find(entry.name), entry.text);
+            EXPECT_EQ(RegistryKey::open(root, classes + entry.key, KEY_QUERY_VALUE).text(entry.name), entry.text);
         }
     }
 
@@ -204,6 +204,9 @@ TEST_F(RegistrationTest, LeavesAnEarlierOneWhereItFails) {
     for (const library::Entry& entry : entries) {
         RegistryKey::create(HKEY_CURRENT_USER, classes + entry.key).setText(entry.name, entry.text);
     }
+    const auto name = RegistryKey::open(HKEY_CURRENT_USER, classes + L"K73053.Module", KEY_ALL_ACCESS);
+    name.setValue(L"", {REG_EXPAND_SZ, {L'%', 0, L'K', 0}});
+    RegistryKey::open(HKEY_CURRENT_USER, classes + L"K73053.Module\\CLSID", KEY_SET_VALUE).deleteValue(L"");
     const auto before = tests::classesContent(HKEY_CURRENT_USER, 0);
     {
         const NoRights none(HKEY_CURRENT_USER, classes + entries.back().key);
