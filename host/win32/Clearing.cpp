@@ -93,7 +93,7 @@ const Clearing keeping{&keepAll, &keepContent};
 
 fs::path freeNameBeside(const fs::path& place) {
     const std::string addition = "-" + std::to_string(GetCurrentProcessId()) + "-";
-    for (ULONGLONG number = GetTickCount64();; ++number) {
+    for (DWORD number = GetTickCount();; ++number) {
         fs::path name = place.stem();
         name += addition + std::to_string(number);
         name += place.extension();

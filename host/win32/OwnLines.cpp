@@ -28,11 +28,20 @@ ConsoleState& state() {
     return one;
 }
 
+/// Looked up, since Windows XP does not have it: there the reading ends with the line that is being typed.
+void cancelReading() noexcept {
+    void* const found =
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "CancelSynchronousIo"));
+    if (found != nullptr) {
+        reinterpret_cast<decltype(&CancelSynchronousIo)>(found)(state().thread.get());
+    }
+}
+
 BOOL WINAPI interrupt(DWORD event) {
     if (state().isInterrupted.exchange(true)) {
         return FALSE;
     }
-    CancelSynchronousIo(state().thread.get());
+    cancelReading();
     if (event >= CTRL_CLOSE_EVENT) {
         WaitForSingleObject(state().done.get(), untilDone); // the program ends when this returns
     }

@@ -1,5 +1,6 @@
 #include "host/win32/Standby.h"
 
+#include "platform/win32/RegistryKey.h"
 #include "simulator/win32/Registration.h"
 #include "simulator/win32/StandInIdentity.h"
 
@@ -23,11 +24,8 @@ std::wstring registeredProgram() {
     std::array<wchar_t, 40> text{};
     StringFromGUID2(standin::applicationClass, text.data(), static_cast<int>(text.size()));
     const std::wstring key = L"CLSID\\" + std::wstring(text.data()) + L"\\LocalServer32";
-    std::array<wchar_t, 1024> program{};
-    DWORD size = sizeof(program);
-    const LSTATUS status =
-        RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, program.data(), &size);
-    return status == ERROR_SUCCESS ? program.data() : std::wstring();
+    const auto opened = platform::RegistryKey::open(HKEY_CLASSES_ROOT, key, KEY_QUERY_VALUE);
+    return opened ? opened.text(L"") : std::wstring();
 }
 
 Handle jobThatEndsItsProcesses() {
