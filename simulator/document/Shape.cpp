@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 namespace simulator {
 
@@ -58,6 +59,22 @@ private:
     Frame to_;
 };
 
+/// What a shape covers, turned about its middle.
+Frame extentOf(const Shape& shape) noexcept {
+    const Frame straight = liesOnItsSide(shape.rotation) ? onItsSide(shape.frame()) : shape.frame();
+    const double lean = std::remainder(static_cast<double>(shape.rotation), 90.0) * std::numbers::pi / 180;
+    if (lean == 0) {
+        return straight;
+    }
+    const double width = straight.width * std::cos(lean) + straight.height * std::abs(std::sin(lean));
+    const double height = straight.height * std::cos(lean) + straight.width * std::abs(std::sin(lean));
+    const auto edge = [](float start, float length, double wanted) {
+        return toMasterUnits(static_cast<float>(start + (length - wanted) / 2));
+    };
+    return {edge(straight.left, straight.width, width), edge(straight.top, straight.height, height),
+            toMasterUnits(static_cast<float>(width)), toMasterUnits(static_cast<float>(height))};
+}
+
 bool endsMeet(const std::vector<Node>& nodes) noexcept {
     return nodes.size() > 2 && nodes.front().x == nodes.back().x && nodes.front().y == nodes.back().y;
 }
@@ -68,10 +85,20 @@ float toMasterUnits(float points) noexcept {
     return std::round(points * masterUnitsPerPoint) / masterUnitsPerPoint + 0.0F; // the sum turns -0 into 0
 }
 
+bool liesOnItsSide(float rotation) noexcept {
+    const double turn = std::fmod(std::fmod(static_cast<double>(rotation), 180.0) + 180.0, 180.0);
+    return turn >= 45 && turn < 135;
+}
+
+Frame onItsSide(const Frame& frame) noexcept {
+    const float shift = std::trunc((frame.width - frame.height) * masterUnitsPerPoint / 2) / masterUnitsPerPoint;
+    return {frame.left + shift, frame.top - shift, frame.height, frame.width};
+}
+
 Frame boundsOf(const std::vector<ShapePtr>& shapes) noexcept {
     Bounds bounds;
     for (const ShapePtr& shape : shapes) {
-        const Frame& frame = shape->frame();
+        const Frame frame = extentOf(*shape);
         bounds.include(frame.left, frame.top);
         bounds.include(frame.left + frame.width, frame.top + frame.height);
     }
@@ -92,12 +119,19 @@ void Shape::setFrame(const Frame& frame) {
     refitGroups();
 }
 
+void Shape::turnTo(float degrees) {
+    rotation = degrees;
+    refitGroups();
+}
+
 void Shape::place(const Frame& frame) {
     frame_ = frame;
     if (!items_.empty()) {
         const Mapping mapping(boundsOf(items_), frame);
         for (const ShapePtr& item : items_) {
-            item->place(mapping.frame(item->frame_));
+            const bool lies = liesOnItsSide(item->rotation);
+            const Frame moved = mapping.frame(lies ? onItsSide(item->frame_) : item->frame_);
+            item->place(lies ? onItsSide(moved) : moved);
         }
         frame_ = boundsOf(items_);
     }

@@ -34,6 +34,12 @@ struct Frame {
 /// A length in points as a document keeps it: to the nearest eighth of a point.
 [[nodiscard]] float toMasterUnits(float points) noexcept;
 
+/// True where a turn by so many degrees is nearer to lying than to standing: where such a shape has its place, width and
+/// height have changed parts.
+[[nodiscard]] bool liesOnItsSide(float rotation) noexcept;
+/// A frame turned by a quarter about its middle. Halves of a master unit fall the same way there and back.
+[[nodiscard]] Frame onItsSide(const Frame& frame) noexcept;
+
 /// One corner of a freeform, in points on the slide.
 struct Node {
     float x = 0;
@@ -73,6 +79,8 @@ public:
     [[nodiscard]] const Frame& frame() const noexcept { return frame_; }
     /// Moves and resizes; the items of a group and the corners of a freeform follow. Lengths are kept in master units.
     void setFrame(const Frame& frame);
+    /// Turns it to an angle in degrees; its frame stays what it is without the turn.
+    void turnTo(float degrees);
     /// Gives a freeform its corners, in master units, and takes its frame from them. A curve whose ends meet is
     /// closed; one that was closed without them staying so is left closed.
     void setNodes(std::vector<Node> corners);
@@ -115,7 +123,7 @@ private:
     std::weak_ptr<Shape> group_;
 };
 
-/// The smallest frame around some shapes, or around the corners of a freeform.
+/// The smallest frame around some shapes as they lie there, turned; or around the corners of a freeform.
 [[nodiscard]] Frame boundsOf(const std::vector<ShapePtr>& shapes) noexcept;
 [[nodiscard]] Frame boundsOf(const std::vector<Node>& nodes) noexcept;
 

@@ -66,7 +66,7 @@ float ShapeGeometry::rotation() const {
 }
 
 void ShapeGeometry::setRotation(float degrees) {
-    nodes().change([degrees](Shape& shape) { shape.rotation = turned(degrees); });
+    nodes().change([degrees](Shape& shape) { shape.turnTo(turned(degrees)); });
 }
 
 MsoTriState ShapeGeometry::lockAspectRatio() const {
@@ -86,7 +86,7 @@ MsoTriState ShapeGeometry::verticalFlip() const {
 }
 
 void ShapeGeometry::incrementRotation(float degrees) {
-    nodes().change([degrees](Shape& shape) { shape.rotation = turned(shape.rotation + degrees); });
+    nodes().change([degrees](Shape& shape) { shape.turnTo(turned(shape.rotation + degrees)); });
 }
 
 void ShapeGeometry::flip(MsoFlipCmd command) {

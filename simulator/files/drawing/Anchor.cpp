@@ -27,26 +27,11 @@ double scale(double from, double to) noexcept {
     return from == 0 ? 1 : to / from;
 }
 
-bool liesOnItsSide(float rotation) noexcept {
-    const double turn = std::fmod(std::fmod(static_cast<double>(rotation), 180.0) + 180.0, 180.0);
-    return turn >= 45 && turn < 135;
-}
-
-/// Turns a place by a quarter about its middle. Halves of a unit fall the same way there and back.
-Place turned(const Place& place) noexcept {
-    const std::int64_t width = std::int64_t{place.right} - place.left;
-    const std::int64_t height = std::int64_t{place.bottom} - place.top;
-    const std::int64_t shift = (width - height) / 2;
-    const auto within = [](std::int64_t number) { return nearest(static_cast<double>(number)); };
-    return {within(place.left + shift), within(place.top - shift), within(place.left + shift + height),
-            within(place.top - shift + width)};
-}
-
-Place placeOf(const Frame& frame, float rotation) noexcept {
+Place placeOf(const Frame& straight, float rotation) noexcept {
+    const Frame frame = liesOnItsSide(rotation) ? onItsSide(straight) : straight;
     const auto unit = [](double points) { return nearest(points * masterUnitsPerPoint); };
-    const Place place{unit(frame.left), unit(frame.top), unit(double{frame.left} + double{frame.width}),
-                      unit(double{frame.top} + double{frame.height})};
-    return liesOnItsSide(rotation) ? turned(place) : place;
+    return {unit(frame.left), unit(frame.top), unit(double{frame.left} + double{frame.width}),
+            unit(double{frame.top} + double{frame.height})};
 }
 
 bool isShort(std::int32_t number) noexcept {
@@ -106,12 +91,12 @@ Edges coordinatesOf(const Record& shape) {
 }
 
 Frame frameOf(const Edges& edges, float rotation) noexcept {
-    const Place straight{nearest(std::min(edges.left, edges.right)), nearest(std::min(edges.top, edges.bottom)),
-                         nearest(std::max(edges.left, edges.right)), nearest(std::max(edges.top, edges.bottom))};
-    const Place place = liesOnItsSide(rotation) ? turned(straight) : straight;
+    const Place place{nearest(std::min(edges.left, edges.right)), nearest(std::min(edges.top, edges.bottom)),
+                      nearest(std::max(edges.left, edges.right)), nearest(std::max(edges.top, edges.bottom))};
     const auto points = [](double units) { return static_cast<float>(units / masterUnitsPerPoint); };
-    return {points(place.left), points(place.top), points(static_cast<double>(place.right) - place.left),
-            points(static_cast<double>(place.bottom) - place.top)};
+    const Frame frame{points(place.left), points(place.top), points(static_cast<double>(place.right) - place.left),
+                      points(static_cast<double>(place.bottom) - place.top)};
+    return liesOnItsSide(rotation) ? onItsSide(frame) : frame;
 }
 
 Record clientAnchor(const Frame& frame, float rotation) {
