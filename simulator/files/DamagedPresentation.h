@@ -10,4 +10,15 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Reads something that a presentation can do without: what was read before the damage holds. False where there is
+/// some.
+template <typename Read> bool asFarAsSound(const Read& read) {
+    try {
+        read();
+        return true;
+    } catch (const DamagedPresentation&) {
+        return false;
+    }
+}
+
 } // namespace simulator

@@ -20,6 +20,7 @@ struct Header {
     std::uint32_t fatSectors = 0;
     std::uint32_t directory = 0;
     std::uint32_t miniFat = 0;
+    std::uint32_t miniFatSectors = 0;
     std::uint32_t difat = 0;
     std::vector<std::uint32_t> fat; ///< the first sectors of the allocation table
 };
@@ -50,7 +51,7 @@ Header readHeader(std::string_view file) {
         throw DamagedPresentation("the header of the compound file has an unknown limit of short streams");
     }
     header.miniFat = in.read<std::uint32_t>();
-    in.skip(4);
+    header.miniFatSectors = in.read<std::uint32_t>();
     header.difat = in.read<std::uint32_t>();
     in.skip(4);
     for (std::size_t i = 0; i < headerFatSectors; ++i) {
@@ -114,10 +115,9 @@ Entry readEntry(std::string_view bytes, bool hasLongSizes) {
     if (entry.kind == EntryKind::Unused) {
         return entry;
     }
-    if (nameBytes < 2 || nameBytes > nameUnits * 2 || nameBytes % 2 != 0) {
-        throw DamagedPresentation("a directory entry has a name of " + std::to_string(nameBytes) + " bytes");
+    if (nameBytes >= 2) {
+        entry.name = files::utf16Text(name.substr(0, nameBytes - 2U));
     }
-    entry.name = files::utf16Text(name.substr(0, nameBytes - 2U));
     in.skip(1);
     entry.left = in.read<std::uint32_t>();
     entry.right = in.read<std::uint32_t>();
@@ -131,7 +131,7 @@ Entry readEntry(std::string_view bytes, bool hasLongSizes) {
     return entry;
 }
 
-/// Walks the directory, every entry once.
+/// Walks the directory, every entry once; one that is referred to and does not exist, or a second time, is left out.
 class Directory {
 public:
     Directory(const Header& header, SectorTable& sectors)
@@ -144,25 +144,20 @@ public:
             throw DamagedPresentation("the directory does not begin with its root");
         }
         seen_.resize(entries_.size());
-        miniStream_ = sectors.chain(entries_[0].first, entries_[0].size, "the short streams");
-        mini_ = SectorTable(miniStream_, miniSectorSize, "short sector");
-        if (!miniStream_.empty()) {
-            mini_.setNext(numbersOf(sectors.chain(header.miniFat, "the table of short sectors")));
-        }
+        asFarAsSound([&] {
+            miniStream_ = sectors.chain(entries_[0].first, entries_[0].size, "the short streams");
+            mini_ = SectorTable(miniStream_, miniSectorSize, "short sector");
+            const std::uint64_t size = std::uint64_t{header.miniFatSectors} * header.sectorSize;
+            mini_.setNext(numbersOf(sectors.chain(header.miniFat, size, "the table of short sectors")));
+        });
     }
 
-    [[nodiscard]] Storage root() { return storage(claim(0), 0); }
+    [[nodiscard]] Storage root() {
+        seen_[0] = true;
+        return storage(entries_[0], 0);
+    }
 
 private:
-    const Entry& claim(std::uint32_t number) {
-        if (number >= entries_.size() || seen_[number]) {
-            throw DamagedPresentation("directory entry " + hex(number) +
-                                      (number >= entries_.size() ? " does not exist" : " stands in two places"));
-        }
-        seen_[number] = true;
-        return entries_[number];
-    }
-
     Storage storage(const Entry& entry, int depth) {
         if (depth > deepestStorage) {
             throw DamagedPresentation("the directory is nested too deeply");
@@ -172,10 +167,11 @@ private:
         while (!pending.empty()) {
             const std::uint32_t number = pending.back();
             pending.pop_back();
-            if (number == noEntry) {
+            if (number >= entries_.size() || seen_[number]) {
                 continue;
             }
-            const Entry& member = claim(number);
+            seen_[number] = true;
+            const Entry& member = entries_[number];
             add(member, storage, depth);
             pending.push_back(member.left);
             pending.push_back(member.right);
@@ -189,10 +185,12 @@ private:
         } else if (member.kind == EntryKind::Stream) {
             const std::string what = "the stream \"" + automation::toUtf8(member.name) + "\"";
             SectorTable& table = member.size < miniStreamLimit ? mini_ : sectors_;
-            storage.streams.push_back({member.name, table.chain(member.first, member.size, what)});
-        } else {
-            throw DamagedPresentation("directory entry \"" + automation::toUtf8(member.name) +
-                                      "\" is of no known kind");
+            storage.streams.push_back({member.name, {}, {}});
+            try {
+                storage.streams.back().bytes = table.chain(member.first, member.size, what);
+            } catch (const DamagedPresentation& damage) { // only who needs this stream minds
+                storage.streams.back().damage = damage.what();
+            }
         }
     }
 

@@ -54,8 +54,10 @@ private:
     void addMembers(std::size_t owner, const Storage& storage) {
         const std::size_t first = entries_.size();
         for (const Stream& stream : storage.streams) {
-            entries_.push_back({stream.name, EntryKind::Stream, false, noEntry, noEntry, noEntry, nullptr,
-                                &stream.bytes, endOfChain, stream.bytes.size()});
+            if (stream.damage.empty()) {
+                entries_.push_back({stream.name, EntryKind::Stream, false, noEntry, noEntry, noEntry, nullptr,
+                                    &stream.bytes, endOfChain, stream.bytes.size()});
+            }
         }
         for (const Storage& inner : storage.storages) {
             entries_.push_back({inner.name, EntryKind::Storage, false, noEntry, noEntry, noEntry, &inner});

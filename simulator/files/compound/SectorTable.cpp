@@ -3,6 +3,8 @@
 #include "simulator/files/Bytes.h"
 #include "simulator/files/compound/Layout.h"
 
+#include <limits>
+
 namespace simulator::compound {
 
 void SectorTable::fail(std::uint32_t sector, std::string_view purpose, std::string_view why) const {
@@ -22,8 +24,12 @@ std::string_view SectorTable::claim(std::uint32_t sector, std::string_view purpo
 }
 
 std::string SectorTable::chain(std::uint32_t first, std::string_view purpose) {
+    return chainUpTo(first, std::numeric_limits<std::uint64_t>::max(), purpose);
+}
+
+std::string SectorTable::chainUpTo(std::uint32_t first, std::uint64_t size, std::string_view purpose) {
     std::string bytes;
-    for (std::uint32_t sector = first; sector != endOfChain;) {
+    for (std::uint32_t sector = first; sector != endOfChain && bytes.size() < size;) {
         bytes += claim(sector, purpose);
         if (sector >= next_.size()) {
             fail(sector, purpose, "is not in the allocation table");
@@ -34,10 +40,7 @@ std::string SectorTable::chain(std::uint32_t first, std::string_view purpose) {
 }
 
 std::string SectorTable::chain(std::uint32_t first, std::uint64_t size, std::string_view purpose) {
-    if (size == 0) {
-        return {};
-    }
-    std::string bytes = chain(first, purpose);
+    std::string bytes = chainUpTo(first, size, purpose);
     if (bytes.size() < size) {
         throw DamagedPresentation("the chain of " + std::string(purpose) + " has " + std::to_string(bytes.size()) +
                                   " bytes, " + std::to_string(size) + " are said to be there");

@@ -26,6 +26,8 @@ public:
     [[nodiscard]] std::string chain(std::uint32_t first, std::uint64_t size, std::string_view purpose);
 
 private:
+    /// As many sectors of a chain as hold so many bytes; where it goes on behind them does not matter.
+    [[nodiscard]] std::string chainUpTo(std::uint32_t first, std::uint64_t size, std::string_view purpose);
     [[noreturn]] void fail(std::uint32_t sector, std::string_view purpose, std::string_view why) const;
 
     std::string_view sectors_;

@@ -12,6 +12,7 @@ namespace simulator::compound {
 struct Stream {
     std::u16string name;
     std::string bytes;
+    std::string damage; ///< why the file does not give its bytes; empty for a sound one
 };
 
 /// A folder in a compound file; the file as a whole is one.
@@ -33,15 +34,24 @@ struct Storage {
         }
         return nullptr;
     }
+    /// The storage of a name; null where there is none.
+    [[nodiscard]] Storage* storage(std::u16string_view wanted) noexcept {
+        for (Storage& each : storages) {
+            if (each.name == wanted) {
+                return &each;
+            }
+        }
+        return nullptr;
+    }
     /// Gives the stream of a name its bytes, a new one where there is none.
     void put(std::u16string_view wanted, std::string bytes) {
         for (Stream& each : streams) {
             if (each.name == wanted) {
-                each.bytes = std::move(bytes);
+                each = {each.name, std::move(bytes), {}};
                 return;
             }
         }
-        streams.push_back({std::u16string(wanted), std::move(bytes)});
+        streams.push_back({std::u16string(wanted), std::move(bytes), {}});
     }
 };
 

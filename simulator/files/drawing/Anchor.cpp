@@ -77,13 +77,15 @@ Edges Mapping::onSlide(const Edges& edges) const noexcept {
 }
 
 std::optional<Edges> edgesOf(const Record& shape, const Mapping& mapping) {
-    if (const Record* const child = shape.find(type::ArtChildAnchor)) {
-        return mapping.onSlide(leftTopRightBottom(*child, "the place of a shape in its group"));
-    }
-    if (const Record* const client = shape.find(type::ArtClientAnchor)) {
-        return clientEdges(*client);
-    }
-    return std::nullopt;
+    std::optional<Edges> edges;
+    asFarAsSound([&] {
+        if (const Record* const child = shape.find(type::ArtChildAnchor)) {
+            edges = mapping.onSlide(leftTopRightBottom(*child, "the place of a shape in its group"));
+        } else if (const Record* const client = shape.find(type::ArtClientAnchor)) {
+            edges = clientEdges(*client);
+        }
+    });
+    return edges;
 }
 
 Edges coordinatesOf(const Record& shape) {

@@ -44,17 +44,22 @@ ArrayHead::ArrayHead(files::ByteReader& in) : count(in.read<std::uint16_t>()) {
 
 PropertyTable::PropertyTable(const records::Record& record) {
     files::ByteReader in(record.data, "a table of drawing properties");
-    for (std::size_t i = 0; i < record.instance; ++i) {
-        const auto head = in.read<std::uint16_t>();
-        const auto value = in.read<std::uint32_t>();
-        properties_.push_back(
-            {static_cast<std::uint16_t>(head & idMask), (head & pictureBit) != 0, (head & complexBit) != 0, value, {}});
-    }
-    for (Property& property : properties_) {
-        if (property.isComplex) {
-            property.bytes = in.take(bytesOf(property, std::string_view(record.data).substr(in.place())));
+    asFarAsSound([&] {
+        for (std::size_t i = 0; i < record.instance; ++i) {
+            const auto head = in.read<std::uint16_t>();
+            const auto value = in.read<std::uint32_t>();
+            properties_.push_back({static_cast<std::uint16_t>(head & idMask),
+                                   (head & pictureBit) != 0,
+                                   (head & complexBit) != 0,
+                                   value,
+                                   {}});
         }
-    }
+    });
+    std::erase_if(properties_, [&](Property& property) {
+        return property.isComplex && !asFarAsSound([&] {
+                   property.bytes = in.take(bytesOf(property, std::string_view(record.data).substr(in.place())));
+               });
+    });
     rest_ = in.take(in.left());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/files/Bytes.h"
+#include "simulator/files/drawing/DrawingIds.h"
 #include "simulator/files/records/Record.h"
 #include "simulator/files/records/RecordTypes.h"
 
@@ -20,5 +21,12 @@ struct ShapeHead {
     std::uint32_t number = 0;
     std::uint32_t flags = 0;
 };
+
+/// The id of a drawing's background; nothing where it has none.
+[[nodiscard]] inline std::optional<std::int32_t> backgroundId(const records::Record& drawing, const DrawingIds& ids) {
+    const records::Record* const shape = drawing.find(records::type::ArtShape);
+    const bool isShape = shape != nullptr && shape->find(records::type::ArtShapeAtom) != nullptr;
+    return isShape ? ids.idOf(ShapeHead(*shape).number) : std::nullopt;
+}
 
 } // namespace simulator::drawing

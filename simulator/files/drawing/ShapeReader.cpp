@@ -32,9 +32,9 @@ std::optional<PpPlaceholderType> placeholderIn(const Record& record) {
     if (atom == nullptr) {
         return std::nullopt;
     }
-    files::ByteReader in(atom->data, "the record of a placeholder");
-    in.skip(4);
-    return placeholderOf(in.read<std::uint8_t>());
+    constexpr std::size_t codePlace = 4;
+    return atom->data.size() > codePlace ? placeholderOf(static_cast<std::uint8_t>(atom->data[codePlace]))
+                                         : std::nullopt;
 }
 
 MsoShapeType typeOf(std::uint16_t kind, const Looks& looks) {
@@ -50,6 +50,11 @@ MsoShapeType typeOf(std::uint16_t kind, const Looks& looks) {
     case kind::freeform: return looks.own(property::vertices) != nullptr ? msoFreeform : msoAutoShape;
     default: return msoAutoShape;
     }
+}
+
+/// What has no record of its own is no shape.
+bool isShape(const Record& record) noexcept {
+    return record.is(type::ArtShape) && record.find(type::ArtShapeAtom) != nullptr;
 }
 
 /// Gives a group its items, which go on knowing the groups that they were taken out of.
@@ -84,9 +89,10 @@ std::vector<ShapePtr> ShapeReader::members(const Record& group, const Mapping& m
     for (std::size_t place = 1; place < group.children.size(); ++place) {
         const Record& record = group.children[place];
         records::within(record, [&] {
-            if (record.is(type::ArtShapeGroup)) {
+            if (record.is(type::ArtShapeGroup) && !record.children.empty() && isShape(record.children.front()) &&
+                record.children.front().find(type::ArtShapeGroupAtom) != nullptr) {
                 shapes.push_back(this->group(record, mapping, groupId));
-            } else if (record.is(type::ArtShape) && (ShapeHead(record).flags & shapeFlag::deleted) == 0) {
+            } else if (isShape(record) && (ShapeHead(record).flags & shapeFlag::deleted) == 0) {
                 shapes.push_back(single(record, mapping, groupId));
             }
         });
@@ -95,9 +101,6 @@ std::vector<ShapePtr> ShapeReader::members(const Record& group, const Mapping& m
 }
 
 ShapePtr ShapeReader::group(const Record& record, const Mapping& mapping, std::int32_t groupId) {
-    if (record.children.empty() || !record.children.front().is(type::ArtShape)) {
-        throw DamagedPresentation("a group of shapes does not begin with its own record");
-    }
     const Record& own = record.children.front();
     const PropertyTable properties = propertiesOf(own);
     auto shape = std::make_shared<Shape>();

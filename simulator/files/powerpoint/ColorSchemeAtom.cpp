@@ -16,9 +16,11 @@ std::string colorBytes(const ColorScheme& scheme) {
 ColorScheme readColors(const records::Record& atom) {
     files::ByteReader in(atom.data, "a colour scheme");
     ColorScheme scheme;
-    for (std::int32_t& color : scheme.colors) {
-        color = files::directColor(in.read<std::uint32_t>()).rgb;
-    }
+    asFarAsSound([&] {
+        for (std::int32_t& color : scheme.colors) {
+            color = files::directColor(in.read<std::uint32_t>()).rgb;
+        }
+    });
     return scheme;
 }
 

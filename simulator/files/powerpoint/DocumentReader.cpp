@@ -55,7 +55,11 @@ public:
         origin_->colors = presentation->colors;
         presentation->origin = origin_;
         for (SlideEntry& entry : entriesIn(document_, slideList::slides)) {
-            const Record& record = demandObject(entry.object(), type::Slide, "a slide", entry.persist);
+            const Record* const found = origin_->objects.find(entry.object());
+            if (found == nullptr || !found->is(type::Slide)) {
+                continue; // a slide that is not in the file is none
+            }
+            const Record& record = *found;
             const SlidePtr slide = records::within(record, [&] { return readSlide(record, std::move(entry)); });
             presentation->insert(slide, presentation->slides().size());
         }
@@ -79,7 +83,7 @@ private:
         for (const SlideEntry& entry : entriesIn(document_, slideList::masters)) {
             const Record* const master = origin_->objects.find(entry.object());
             if (master == nullptr) {
-                throw DamagedRecord(entry.persist.offset, "master " + hex(entry.id()) + " does not exist");
+                continue;
             }
             masters_.emplace(entry.id(), master);
             objectsTaken_.insert(entry.object());
@@ -102,9 +106,8 @@ private:
     void collect(const Record& container) {
         for (const Record& child : container.children) {
             if (child.is(type::ArtShape)) {
-                records::within(child, [&] {
-                    masterShapes_.emplace(drawing::ShapeHead(child).number, drawing::MasterShape(child));
-                });
+                asFarAsSound(
+                    [&] { masterShapes_.emplace(drawing::ShapeHead(child).number, drawing::MasterShape(child)); });
             } else if (child.is(type::ArtDrawing) || child.is(type::ArtShapeGroup)) {
                 collect(child);
             }
@@ -127,7 +130,7 @@ private:
         auto found = styles_.find(master);
         const auto title = masters_.find(master);
         if (found == styles_.end() && title != masters_.end()) {
-            found = styles_.find(SlideAtom(*title->second).master);
+            asFarAsSound([&] { found = styles_.find(SlideAtom(*title->second).master); });
         }
         return found == styles_.end() ? styles_.begin()->second : found->second;
     }
@@ -166,10 +169,7 @@ private:
         for (const ShapePtr& shape : drawing::ShapeReader(context).read(drawing)) {
             slide.insert(shape, slide.shapes().size());
         }
-        slide.keepIds(1);
-        if (const Record* const background = art.find(type::ArtShape)) {
-            slide.keepIds(ids.idOf(drawing::ShapeHead(*background).number).value_or(1));
-        }
+        slide.keepIds(drawing::backgroundId(art, ids).value_or(1));
     }
 
     static constexpr std::uint32_t slideIdMask = 0x7FFFFFFF;

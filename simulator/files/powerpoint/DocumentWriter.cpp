@@ -97,8 +97,12 @@ private:
         std::set<std::uint32_t> goneNotes;
         for (const SlideEntry& entry : entriesIn(document(), slideList::slides)) {
             if (!kept.contains(entry.object())) {
+                const Record* const slide = objects_.find(entry.object());
+                if (slide == nullptr || !slide->is(type::Slide)) {
+                    continue;
+                }
                 gone.insert(entry.object());
-                if (const std::uint32_t notes = SlideAtom(*objects_.find(entry.object())).notes; notes != 0) {
+                if (const std::uint32_t notes = SlideAtom(*slide).notes; notes != 0) {
                     goneNotes.insert(notes);
                 }
             }

@@ -30,6 +30,9 @@ const std::string& demandStream(const compound::Storage& file, std::u16string_vi
     if (stream == nullptr) {
         throw DamagedPresentation("the stream \"" + automation::toUtf8(name) + "\" is missing");
     }
+    if (!stream->damage.empty()) {
+        throw DamagedPresentation(stream->damage);
+    }
     return stream->bytes;
 }
 
@@ -135,7 +138,8 @@ private:
     std::uint32_t document_ = 0;
 };
 
-/// Reads the objects in the order of their places; no two may share bytes.
+/// Reads the objects in the order of their places. No two share bytes: one that begins within another does not exist,
+/// nor does one that is no record; whoever needs it will say so.
 PersistObjects readAll(const std::string& stream, const std::map<std::uint32_t, std::uint32_t>& places) {
     std::vector<std::pair<std::uint32_t, std::uint32_t>> ordered;
     ordered.reserve(places.size());
@@ -147,10 +151,12 @@ PersistObjects readAll(const std::string& stream, const std::map<std::uint32_t, 
     std::size_t end = 0;
     for (const auto& [offset, id] : ordered) {
         if (offset < end) {
-            throw DamagedRecord(offset, "object " + std::to_string(id) + " begins within the one before it");
+            continue;
         }
-        end = offset + records::sizeOfRecord(stream, offset);
-        objects.append(id, records::readRecord(stream, offset));
+        asFarAsSound([&, place = offset, number = id] {
+            objects.append(number, records::readRecord(stream, place));
+            end = place + records::sizeOfRecord(stream, place);
+        });
     }
     return objects;
 }
@@ -160,6 +166,9 @@ PersistObjects readAll(const std::string& stream, const std::map<std::uint32_t, 
 std::shared_ptr<PresentationOrigin> readObjects(std::string_view bytes) {
     auto origin = std::make_shared<PresentationOrigin>();
     origin->file = compound::read(bytes);
+    if (compound::Storage* const inner = origin->file.storage(dualStorage)) {
+        origin->file = compound::Storage(std::move(*inner));
+    }
     refuseWhatIsEncrypted(origin->file);
     const std::string& currentUser = demandStream(origin->file, currentUserStream);
     const std::string& stream = demandStream(origin->file, documentStream);

@@ -23,7 +23,7 @@ std::vector<SlideEntry> entriesOf(const Record& list) {
             }
             entries.push_back({child, {}, {}});
         } else if (entries.empty()) {
-            throw records::DamagedRecord(list.offset, "a list of slides does not begin with a slide");
+            continue; // of no slide
         } else if (child.is(type::TextHeaderAtom)) {
             entries.back().texts.push_back({child});
         } else if (entries.back().texts.empty()) {

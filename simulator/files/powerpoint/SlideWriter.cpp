@@ -41,8 +41,7 @@ void renumberDrawing(Record& art, const DrawingIds& former, const DrawingIds& id
     art.find(type::ArtDrawingAtom)->instance = static_cast<std::uint16_t>(ids.drawing);
     renumber(art.find(type::ArtShapeGroup)->children.front(), ids.shapeOf(0));
     if (Record* const background = art.find(type::ArtShape)) {
-        const std::int32_t id = former.idOf(drawing::ShapeHead(*background).number).value_or(backgroundShape);
-        renumber(*background, ids.shapeOf(id));
+        renumber(*background, ids.shapeOf(drawing::backgroundId(art, former).value_or(backgroundShape)));
     }
 }
 
@@ -103,8 +102,8 @@ WrittenSlide writeSlide(const Slide& slide, const SlideOrigin* origin, bool isCo
     DrawingIds ids = isNew ? target.drawings.add() : former;
     Record& art = *written.record.find(type::Drawing)->find(type::ArtDrawing);
     std::int32_t highest = highestId(slide.shapes());
-    if (const Record* const background = isNew ? art.find(type::ArtShape) : nullptr) {
-        highest = std::max(highest, former.idOf(drawing::ShapeHead(*background).number).value_or(0));
+    if (isNew) {
+        highest = std::max(highest, drawing::backgroundId(art, former).value_or(0));
     }
     target.drawings.reserve(ids, highest);
     if (isNew) {

@@ -9,6 +9,8 @@ namespace simulator::powerpoint {
 
 inline constexpr std::u16string_view currentUserStream = u"Current User";
 inline constexpr std::u16string_view documentStream = u"PowerPoint Document";
+/// The storage of a file for PowerPoint 95 too, in which that of PowerPoint 97 stands.
+inline constexpr std::u16string_view dualStorage = u"PP97_DUALSTORAGE";
 /// Where the stream of the current user says where the last edit stands.
 inline constexpr std::size_t lastEditPlace = 16;
 inline constexpr std::uint32_t plainToken = 0xE391C05F;

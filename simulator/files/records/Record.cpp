@@ -16,7 +16,7 @@ template <typename Children, typename Match> auto* firstOf(Children& children, c
 }
 
 std::size_t lengthOf(const Record& record) noexcept {
-    std::size_t length = record.data.size();
+    std::size_t length = record.data.size() + record.tail.size();
     for (const Record& child : record.children) {
         length += headerSize + lengthOf(child);
     }
@@ -62,6 +62,7 @@ void append(std::string& out, const Record& record) {
     for (const Record& child : record.children) {
         append(out, child);
     }
+    out += record.tail;
 }
 
 std::string bytesOf(const Record& record) {

@@ -15,17 +15,18 @@ struct Record {
     std::uint8_t version = 0;
     std::string data;
     std::vector<Record> children;
+    std::string tail;       ///< bytes behind the last child that are no record
     std::size_t offset = 0; ///< where it was read in its stream; no part of what it says
 
     static constexpr std::uint8_t containerVersion = 0xF;
 
     [[nodiscard]] static Record atom(std::uint16_t type, std::string data, std::uint16_t instance = 0,
                                      std::uint8_t version = 0) {
-        return {type, instance, version, std::move(data), {}, 0};
+        return {type, instance, version, std::move(data), {}, {}, 0};
     }
     [[nodiscard]] static Record container(std::uint16_t type, std::vector<Record> children,
                                           std::uint16_t instance = 0) {
-        return {type, instance, containerVersion, {}, std::move(children), 0};
+        return {type, instance, containerVersion, {}, std::move(children), {}, 0};
     }
 
     [[nodiscard]] bool is(std::uint16_t wanted) const noexcept { return type == wanted; }
@@ -43,7 +44,7 @@ struct Record {
     /// Same bytes in a file.
     friend bool operator==(const Record& left, const Record& right) {
         return left.type == right.type && left.instance == right.instance && left.version == right.version &&
-               left.data == right.data && left.children == right.children;
+               left.data == right.data && left.children == right.children && left.tail == right.tail;
     }
 };
 

@@ -16,7 +16,7 @@ using files::hex;
 
 constexpr int deepestRecord = 128;
 
-/// Containers that are looked into, and so must be sound.
+/// Containers that are looked into. Where something in one cannot be a record, what stands before it holds.
 constexpr std::array lookedInto{
     type::Document,      type::Slide,         type::Environment,      type::MainMaster,     type::SlideViewInfo,
     type::DrawingGroup,  type::Drawing,       type::DocInfoList,      type::FontCollection, type::SlideListWithText,
@@ -67,16 +67,20 @@ std::optional<Fault> readInto(Record& record, std::string_view body, std::size_t
     if (depth > deepestRecord) {
         return Fault{offset, "record " + hex(record.type) + " is nested too deeply"};
     }
-    const bool mustBeSound = std::find(lookedInto.begin(), lookedInto.end(), record.type) != lookedInto.end();
+    const bool isLookedInto = std::find(lookedInto.begin(), lookedInto.end(), record.type) != lookedInto.end();
     for (std::size_t place = 0; place < body.size();) {
         Header header;
         std::optional<Fault> fault = check(body.substr(place), offset + place, header);
         header.record.offset = offset + place;
+        if (fault && isLookedInto) {
+            record.tail = body.substr(place);
+            return std::nullopt;
+        }
         if (!fault) {
             fault = readInto(header.record, body.substr(place + headerSize, header.length), offset + place + headerSize,
                              depth + 1);
         }
-        if (fault && mustBeSound) {
+        if (fault && isLookedInto) {
             return fault;
         }
         if (fault) {

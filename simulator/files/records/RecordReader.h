@@ -5,8 +5,7 @@
 namespace simulator::records {
 
 /// The record at an offset of a stream, with all that it contains. Raises DamagedPresentation, which names the record
-/// and its offset, where one of those that must be understood reaches past its container; one that need not be
-/// understood is kept as it is.
+/// and its offset, where it reaches past the end. Inside it, what cannot be read as a record is kept as it is.
 [[nodiscard]] Record readRecord(std::string_view stream, std::size_t offset);
 
 /// Length of the record at an offset of a stream, with its header. Raises DamagedPresentation where it reaches past the

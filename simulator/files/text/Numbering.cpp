@@ -44,10 +44,12 @@ void skipRest(files::ByteReader& in) {
 Numbering readNumbering(std::string_view data) {
     Numbering formats;
     files::ByteReader in(data, "the numbering of a text");
-    while (in.left() != 0) {
-        formats.push_back(readParagraphPart(in));
-        skipRest(in);
-    }
+    asFarAsSound([&] {
+        while (in.left() != 0) {
+            formats.push_back(readParagraphPart(in));
+            skipRest(in);
+        }
+    });
     return formats;
 }
 

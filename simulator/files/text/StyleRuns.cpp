@@ -11,10 +11,16 @@ std::vector<StyleRun> readRuns(files::ByteReader& in, std::size_t length, bool o
     std::size_t covered = 0;
     while (covered < length && in.left() != 0) {
         StyleRun run;
-        run.length = std::min<std::size_t>(in.read<std::uint32_t>(), length - covered);
-        run.level = ofParagraphs ? in.read<std::uint16_t>() : std::uint16_t{0};
-        run.exception =
-            ofParagraphs ? TextException::read(in, paragraph::fields) : TextException::read(in, character::fields);
+        const bool isSound = asFarAsSound([&] {
+            run.length = std::min<std::size_t>(in.read<std::uint32_t>(), length - covered);
+            run.level = ofParagraphs ? in.read<std::uint16_t>() : std::uint16_t{0};
+            run.exception =
+                ofParagraphs ? TextException::read(in, paragraph::fields) : TextException::read(in, character::fields);
+        });
+        if (!isSound) {
+            in.skip(in.left());
+            break;
+        }
         covered += run.length;
         if (run.length != 0) {
             runs.push_back(std::move(run));

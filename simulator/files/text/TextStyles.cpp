@@ -21,12 +21,14 @@ TextStyles::TextStyles(const records::Record* master, const records::Record* env
     if (environment != nullptr) {
         if (const records::Record* const defaults = environment->find(type::TextCharacterDefaults)) {
             files::ByteReader in(defaults->data, "the character defaults");
-            overlay(TextException::read(in, character::fields), fonts, common.character);
+            asFarAsSound([&] { overlay(TextException::read(in, character::fields), fonts, common.character); });
         }
         if (const records::Record* const defaults = environment->find(type::TextParagraphDefaults)) {
             files::ByteReader in(defaults->data, "the paragraph defaults");
-            in.skip(2);
-            overlay(TextException::read(in, paragraph::fields), common.paragraph);
+            asFarAsSound([&] {
+                in.skip(2);
+                overlay(TextException::read(in, paragraph::fields), common.paragraph);
+            });
         }
     }
     for (std::size_t each = 0; each < kind::count; ++each) {
@@ -37,7 +39,8 @@ TextStyles::TextStyles(const records::Record* master, const records::Record* env
         const auto instance = static_cast<std::uint16_t>(each);
         for (const records::Record* const source : {environment, master}) {
             if (source != nullptr && source->find(type::TextMasterStyleAtom, instance) != nullptr) {
-                apply(*source->find(type::TextMasterStyleAtom, instance), fonts, styles_.at(each));
+                asFarAsSound(
+                    [&] { apply(*source->find(type::TextMasterStyleAtom, instance), fonts, styles_.at(each)); });
             }
         }
     }

@@ -80,12 +80,7 @@ TEST(CompoundFile, SaysWhatIsWrongWithADamagedFile) {
         {patched(sound, 44, 0x7FFFFFFF), "allocation table is said to have"},
         {patched(sound, 44, 110), "allocation table"},
         {patched(sound, 48, 0x00FFFFFF), "of the directory lies past the end"},
-        {patched(sound, fat, 0), "is used twice"},
-        {patched(sound, directory + 0x40, 0x05010000), "has a name of"},
         {patched(sound, directory + 0x42, 0x01000102), "does not begin with its root"},
-        {patched(sound, directory + 0x4C, 0), "stands in two places"},
-        {patched(sound, directory + 0x4C, 0x12345), "does not exist"},
-        {patched(sound, directory + 0x78, 0x7FFFFFFF), "are said to be there"},
     };
     for (const auto& [bytes, wanted] : cases) {
         try {
@@ -94,6 +89,20 @@ TEST(CompoundFile, SaysWhatIsWrongWithADamagedFile) {
         } catch (const DamagedPresentation& damage) {
             EXPECT_NE(std::string(damage.what()).find(wanted), std::string::npos) << damage.what() << " / " << wanted;
         }
+    }
+    // Only who needs a stream minds that it is damaged; what is referred to in vain, or twice, is left out.
+    for (const auto& [bytes, wanted] : std::vector<std::pair<std::string, std::string>>{
+             {patched(sound, fat, 0), "is used twice"},
+             {patched(sound, directory + 0x78, 0x7FFFFFFF), "lies past the end"},
+             {patched(sound, directory + 0x4C, 0), ""},
+             {patched(sound, directory + 0x4C, 0x12345), ""},
+         }) {
+        const Storage damaged = read(bytes);
+        const bool isTold = std::any_of(damaged.streams.begin(), damaged.streams.end(), [&](const Stream& each) {
+            return !each.damage.empty() && each.damage.find(wanted) != std::string::npos;
+        });
+        EXPECT_EQ(isTold, !wanted.empty()) << wanted;
+        EXPECT_LT(contentsOf(read(write(damaged))).size(), contentsOf(read(sound)).size()) << wanted;
     }
 }
 

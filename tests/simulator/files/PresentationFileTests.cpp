@@ -228,14 +228,9 @@ TEST(PresentationFile, SaysWhatIsWrongWithADamagedFile) {
         {inEdit(16, 99), "object 99, the document, does not exist"},
         {inEdit(16, 2), "object 2, the document, is a record 0x3f8"},
         {inDocument([](std::string& bytes) { files::putNumber(bytes, 4, 0x7FFFFFFF); }),
-         "offset 0x0: record 0x3e8 says 2147483647 bytes"},
-        {inDocument([](std::string& bytes) { files::putNumber(bytes, 12, 39); }), "PowerPoint Document, offset 0x37"},
+         "object 1, the document, does not exist"},
+        {inDocument([](std::string& bytes) { files::putNumber(bytes, 12, 39); }), "0x3e8 holds no record 0x40b"},
         {inDocument([](std::string& bytes) { bytes.resize(bytes.size() / 2); }), "the stream ends"},
-        {withRecord(sound, type::ColorSchemeAtom, 0), ": a colour scheme ends at byte 0"},
-        {withRecord(sound, type::ArtShapeAtom, 3), ": the record of a shape ends at byte 3"},
-        {withRecord(sound, type::ArtProperties, 9), ": a table of drawing properties ends at byte 9"},
-        {withRecord(sound, type::PlaceholderAtom, 4), ": the record of a placeholder ends at byte 4"},
-        {withRecord(sound, type::StyleTextPropAtom, 5), ": the style record of a text ends at byte 5"},
         {withRecord(sound, type::SlidePersistAtom, 8), ": the record of a slide in a list is too short"},
     };
     for (const auto& [bytes, wanted] : cases) {
@@ -246,6 +241,30 @@ TEST(PresentationFile, SaysWhatIsWrongWithADamagedFile) {
             EXPECT_NE(std::string(damage.what()).find(wanted), std::string::npos) << damage.what() << " / " << wanted;
             EXPECT_TRUE(wanted[0] != ':' || std::string(damage.what()).starts_with("PowerPoint Document, offset 0x"));
         }
+    }
+}
+
+/// What a presentation can do without is read as far as it is sound, and the rest is saved.
+TEST(PresentationFile, ReadsWhatIsSoundInADamagedFile) {
+    const PresentationPtr rich = richPresentation();
+    const std::string sound = powerpoint::writePresentation(*rich);
+    const std::uint32_t edit = files::numberAt(compound::read(sound).stream(u"Current User")->bytes, 16);
+    std::vector<std::string> cases{
+        withStream(sound, u"PowerPoint Document", // the last record of the document
+                   [](std::string& bytes) { files::putNumber(bytes, files::numberAt(bytes, 4) + 4, 0xFFFF); }),
+        withStream(sound, u"PowerPoint Document", // where the last object stands, a slide
+                   [edit](std::string& bytes) { files::putNumber(bytes, edit - 4, 0x00FFFFF0); }),
+    };
+    for (const std::uint16_t each :
+         {type::ColorSchemeAtom, type::ArtShapeAtom, type::ArtProperties, type::ArtClientAnchor, type::PlaceholderAtom,
+          type::StyleTextPropAtom, type::TextMasterStyleAtom}) {
+        cases.push_back(withRecord(sound, each, 3));
+    }
+    for (const std::string& bytes : cases) {
+        const PresentationPtr read = powerpoint::readPresentation(bytes);
+        EXPECT_GE(read->slides().size() + 1, rich->slides().size());
+        EXPECT_EQ(powerpoint::readPresentation(powerpoint::writePresentation(*read))->slides().size(),
+                  read->slides().size());
     }
 }
 
@@ -317,7 +336,7 @@ TEST(PresentationFile, WithstandsWrongBytes) {
             ++refused;
         }
     }
-    EXPECT_GT(refused, rounds / 20);
+    EXPECT_GT(refused, rounds / 40);
     EXPECT_LT(refused, rounds);
 }
 
