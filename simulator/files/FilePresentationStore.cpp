@@ -1,6 +1,7 @@
 #include "simulator/files/FilePresentationStore.h"
 
 #include "automation/Text.h"
+#include "automation/Unmoved.h"
 #include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/Outline.h"
 #include "simulator/files/WholeFile.h"
@@ -25,13 +26,31 @@ namespace {
                            std::u16string(path) + u" ».");
 }
 
-/// Writes a file beside the one that it is to replace.
-bool writeWhole(const std::filesystem::path& file, const std::string& bytes) {
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    stream.close();
-    return stream.good();
-}
+/// A file beside the one that it is to replace; where it has not, it is gone at the end of the scope.
+class FreshFile : automation::Unmoved {
+public:
+    explicit FreshFile(const std::filesystem::path& file) : old_(file), fresh_(file) { fresh_ += ".new"; }
+    ~FreshFile() {
+        std::error_code failure;
+        std::filesystem::remove(fresh_, failure);
+    }
+
+    [[nodiscard]] bool write(const std::string& bytes) const {
+        std::ofstream stream(fresh_, std::ios::binary | std::ios::trunc);
+        stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        stream.close();
+        return stream.good();
+    }
+    [[nodiscard]] bool replace() const {
+        std::error_code failure;
+        std::filesystem::rename(fresh_, old_, failure);
+        return !failure;
+    }
+
+private:
+    std::filesystem::path old_;
+    std::filesystem::path fresh_;
+};
 
 } // namespace
 
@@ -70,16 +89,8 @@ bool FilePresentationStore::isReadOnly(std::u16string_view path) {
 }
 
 void FilePresentationStore::write(const std::string& bytes, std::u16string_view path) {
-    const std::filesystem::path file = locate_(path);
-    std::filesystem::path fresh = file;
-    fresh += ".new";
-    std::error_code failure;
-    if (isReadOnly(path) || !writeWhole(fresh, bytes)) {
-        cannotSave(path);
-    }
-    std::filesystem::rename(fresh, file, failure);
-    if (failure) {
-        std::filesystem::remove(fresh, failure);
+    const FreshFile fresh(locate_(path));
+    if (isReadOnly(path) || !fresh.write(bytes) || !fresh.replace()) {
         cannotSave(path);
     }
 }

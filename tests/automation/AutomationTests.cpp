@@ -6,7 +6,7 @@
 #include "automation/observe/CallTrace.h"
 #include "automation/observe/FaultInjector.h"
 #include "tests/support/Errors.h"
-#include "tests/support/ScarceMemory.h"
+#include "tests/trials/memory/ScarceMemory.h"
 
 #include <limits>
 
@@ -80,13 +80,13 @@ TEST(Value, StaysWholeWhereMemoryRunsOut) {
         for (std::size_t position = 1; hasStruck; ++position) {
             Value assigned(u"as it was");
             {
-                const tests::ScarceMemory scarce(position);
+                const trials::ScarceMemory scarce(position);
                 try {
                     const Value copy(original);
                     assigned = copy;
                 } catch (const std::bad_alloc&) {
                 }
-                hasStruck = tests::ScarceMemory::hasStruck();
+                hasStruck = trials::ScarceMemory::hasStruck();
             }
             EXPECT_EQ(assigned, hasStruck ? Value(u"as it was") : original);
         }

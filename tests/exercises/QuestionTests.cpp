@@ -4,7 +4,7 @@
 #include "module/UserSettings.h"
 #include "tests/exercises/QuestionBench.h"
 #include "tests/support/Errors.h"
-#include "tests/support/ScarceMemory.h"
+#include "tests/trials/memory/ScarceMemory.h"
 
 namespace question_tests {
 
@@ -247,9 +247,9 @@ TEST(Check, ReportsWhereverMemoryRunsOut) {
     while (hasStruck) {
         std::int32_t raised = noError;
         {
-            const tests::ScarceMemory scarce(++position);
+            const trials::ScarceMemory scarce(++position);
             raised = errorNumber([&] { bench.question->TestePoint(); });
-            hasStruck = tests::ScarceMemory::hasStruck();
+            hasStruck = trials::ScarceMemory::hasStruck();
         }
         EXPECT_EQ(raised, hasStruck ? 7 : noError) << "allocation " << position;
     }

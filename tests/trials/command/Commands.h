@@ -8,6 +8,7 @@ namespace trials {
 /// Each adds the options of a command, and answers with what the command does.
 ///@{
 [[nodiscard]] host::Action addTorture(CLI::App& command);
+[[nodiscard]] host::Action addMemory(CLI::App& command);
 [[nodiscard]] host::Action addLearners(CLI::App& command);
 [[nodiscard]] host::Action addCost(CLI::App& command);
 ///@}

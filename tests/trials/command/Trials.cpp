@@ -10,11 +10,13 @@ namespace {
 
 using host::Command;
 
-constexpr const char* purpose = "Tries the module harder than scenarios do: with every call failing, with learners at "
-                                "random, and by what it costs.";
+constexpr const char* purpose =
+    "Tries the module harder than scenarios do: with every call and every allocation failing, with "
+    "learners at random, and by what it costs.";
 
 constexpr const char* examples = R"(Examples:
   trials torture 306           every call of question 306 made to fail in every way
+  trials memory 306            every allocation of its operations made to fail
   trials learners 306          random learners, judged by the module and by a second judge
   trials cost                  what the questions cost in calls and time
 
@@ -24,6 +26,7 @@ hung.)";
 constexpr std::array commands{
     Command{"torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong",
             addTorture, true},
+    Command{"memory", "Make every allocation fail, and see the same", addMemory, false},
     Command{"learners", "Let learners work at random, and judge them a second time", addLearners, false},
     Command{"cost", "Measure calls, time and memory", addCost, true},
 };

@@ -15,13 +15,13 @@ bool isSameError(const std::optional<Error>& left, const std::optional<Error>& r
            (!left || (left->number() == right->number() && left->source() == right->source()));
 }
 
+} // namespace
+
 bool isSameVerdict(const Reading& left, const Reading& right) {
     return isSameError(left.error, right.error) && left.erreurGenerale == right.erreurGenerale &&
            left.causeErreur == right.causeErreur && left.bravoNuance == right.bravoNuance &&
            left.complement == right.complement;
 }
-
-} // namespace
 
 Assessment Checker::assess(const Outcome& outcome, std::size_t position, const Fault& fault) const {
     const Expected expected = expectedFor(question_, operation_, route_, position, fault);

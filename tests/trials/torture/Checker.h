@@ -11,6 +11,9 @@ struct Assessment {
     std::vector<std::string> findings; ///< what is wrong; empty where all is as it must be
 };
 
+/// True where a host reads the same, and the same error is raised.
+[[nodiscard]] bool isSameVerdict(const Reading& left, const Reading& right);
+
 /// Assesses how an operation went in which a call had failed.
 class Checker {
 public:

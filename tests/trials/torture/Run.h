@@ -9,6 +9,17 @@ namespace trials::torture {
 
 using trace::Operation;
 
+/// The operations in which something is made to fail.
+inline constexpr std::array operations{
+    Operation{HostCall::InitQuestion, Operation::Arrival::Brought},
+    Operation{HostCall::InitQuestion, Operation::Arrival::Started},
+    Operation{HostCall::TestePoint, Operation::Arrival::Brought},
+    Operation{HostCall::Fermer, Operation::Arrival::Brought},
+    Operation{HostCall::Quitter, Operation::Arrival::Brought},
+    Operation{HostCall::Quitter, Operation::Arrival::Started},
+    Operation{HostCall::InitQuestion, Operation::Arrival::Brought, true},
+};
+
 /// What an operation came to, and what the course of the question after it left amiss.
 struct Outcome {
     std::optional<automation::Error> error; ///< what the operation raised

@@ -12,16 +12,6 @@ using automation::Border;
 using automation::toUtf8;
 using Arrival = Operation::Arrival;
 
-constexpr std::array operations{
-    Operation{HostCall::InitQuestion, Arrival::Brought},
-    Operation{HostCall::InitQuestion, Arrival::Started},
-    Operation{HostCall::TestePoint, Arrival::Brought},
-    Operation{HostCall::Fermer, Arrival::Brought},
-    Operation{HostCall::Quitter, Arrival::Brought},
-    Operation{HostCall::Quitter, Arrival::Started},
-    Operation{HostCall::InitQuestion, Arrival::Brought, true},
-};
-
 /// An operation with the calls that leave the module in it.
 struct Rehearsal {
     Outcome outcome;
@@ -111,7 +101,7 @@ void Torture::run(const Ground& ground, std::span<const Fault> faults, const Str
             if (!fault.fits(call.border)) {
                 continue;
             }
-            progress(operation, n, positions.size());
+            progress(operation.display(), n, positions.size());
             const Assessment assessment = checker.assess(struck(fault, n), positions[n - 1], fault);
             ++totals.failed;
             ++totals.outcomes.at(static_cast<std::size_t>(assessment.answer));

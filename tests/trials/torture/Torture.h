@@ -13,14 +13,14 @@ struct Totals {
     std::size_t findings = 0;
 };
 
+/// Told of what is wrong, in words.
+using Report = std::function<void(const std::string&)>;
+/// Told where it has come to: the operation, the number of what fails in it, and how many there are.
+using Progress = std::function<void(const std::string&, std::size_t, std::size_t)>;
+
 /// Makes every call of every operation of one question fail in every way that fits it.
 class Torture {
 public:
-    /// Told of what is wrong, in words.
-    using Report = std::function<void(const std::string&)>;
-    /// Told where the torture has come to: the operation, the call's number, and how many there are.
-    using Progress = std::function<void(const Operation&, std::size_t, std::size_t)>;
-
     /// Of the calls of an operation one in `every` is made to fail, beginning with one that `random` picks. All must
     /// outlive this object.
     Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every, std::mt19937& random);
