@@ -38,6 +38,7 @@ using Action = std::function<ExitCode(const CommandContext&)>;
 ///@{
 [[nodiscard]] Action addRun(CLI::App& command);
 [[nodiscard]] Action addTry(CLI::App& command);
+[[nodiscard]] Action addPlay(CLI::App& command);
 [[nodiscard]] Action addVerify(CLI::App& command);
 [[nodiscard]] Action addConform(CLI::App& command);
 [[nodiscard]] Action addRecheck(CLI::App& command);

@@ -14,6 +14,7 @@ constexpr const char* examples = R"(Examples:
   exercise-host run 307 --json           the same of 307, as one JSON object
   exercise-host run 306 --scenario "one occurrence forgotten" --trace
   exercise-host try 306                  a conversation: your moves, the verdict, saved as a scenario
+  exercise-host play 306                 a page in the browser: the same with mouse and keyboard
   exercise-host verify                   all scenarios of all questions
   exercise-host verify 306 307
   exercise-host verify --file mine.scn   a scenario file of your own
@@ -32,6 +33,7 @@ folder for temporary files.)";
 constexpr std::array commands{
     Command{"run", "Tell the whole road of one question, and what the host reads last", addRun, true},
     Command{"try", "Talk: state a learner's moves, see values, ask for the verdict", addTry, true},
+    Command{"play", "Open a page on which you do with the mouse what a learner does in PowerPoint", addPlay, false},
     Command{"verify", "Run scenarios and print what falls short", addVerify, true},
     Command{"conform", "Ask PowerPoint whether it keeps what the verdicts rest on", addConform, true},
     Command{"recheck", "Judge a saved working presentation, without a live PowerPoint", addRecheck, false},

@@ -79,16 +79,20 @@ std::vector<std::u16string> checkOf(const Reading& reading) {
     return statements;
 }
 
-std::string scenarioText(const ScenarioFile& file, std::u16string_view title,
-                         const std::vector<std::u16string>& statements) {
-    std::u16string text = file.heading.empty() ? file.heading : u"# " + file.heading + u'\n';
-    text += u"question " + automation::decimal(file.question) + u'\n' + textOf(file.contract);
-    text += u"\ncourse\n" + linesOf(file.course);
-    text += u"\nscenario " + literal(title) + u'\n';
+std::string scenarioBlock(std::u16string_view title, const std::vector<std::u16string>& statements) {
+    std::u16string text = u"scenario " + literal(title) + u'\n';
     for (const std::u16string& statement : statements) {
         text += u"  " + statement + u'\n';
     }
     return automation::toUtf8(text);
+}
+
+std::string scenarioText(const ScenarioFile& file, std::u16string_view title,
+                         const std::vector<std::u16string>& statements) {
+    std::u16string text = file.heading.empty() ? file.heading : u"# " + file.heading + u'\n';
+    text += u"question " + automation::decimal(file.question) + u'\n' + textOf(file.contract);
+    text += u"\ncourse\n" + linesOf(file.course) + u'\n';
+    return automation::toUtf8(text) + scenarioBlock(title, statements);
 }
 
 } // namespace host::language
