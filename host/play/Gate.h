@@ -16,8 +16,10 @@ public:
     [[nodiscard]] std::string address() const { return origin_ + path_; }
     /// Why a request may not pass; nothing for one that may.
     [[nodiscard]] std::optional<HttpResponse> refusal(const HttpRequest& request) const;
-    /// What a request that may pass asks for, behind the secret.
-    [[nodiscard]] std::string nameIn(const HttpRequest& request) const { return request.target.substr(path_.size()); }
+    /// What a request that may pass asks for: what stands behind the secret, its query left out.
+    [[nodiscard]] std::string nameIn(const HttpRequest& request) const {
+        return request.target.substr(path_.size(), request.target.find('?') - path_.size());
+    }
 
 private:
     std::string host_;   ///< "127.0.0.1:port"

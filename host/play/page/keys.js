@@ -9,6 +9,7 @@ import { Kind, screen, selectedShapes, selectionKind, shownSlide } from "./state
 import { reframing, selecting } from "./statements.js";
 import { edit, isEditing } from "./text.js";
 import { tool } from "./tools.js";
+import { inTurn } from "./turns.js";
 
 const arrows = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1] };
 const strip = document.getElementById("strip");
@@ -29,25 +30,24 @@ function nudge([x, y], event) {
   perform(...reframing(shapes, before, { ...before, left: before.left + x * step, top: before.top + y * step }));
 }
 
-/** Goes from shape to shape, and at the end on to what follows the slide. */
-function walk(step) {
-  const shapes = shownSlide().shapes.filter((shape) => shape.visible);
+/** The shape to which Tab leads from the one selected; null at the end, where it leads on to what follows the slide. */
+function leads(event) {
+  const shapes = (shownSlide()?.shapes ?? []).filter((shape) => shape.visible);
   const current = selectedShapes()[0];
+  const step = event.shiftKey ? -1 : 1;
   const place = current ? shapes.findIndex((shape) => shape.path[0] === current.path[0]) + step : step > 0 ? 0 : shapes.length - 1;
-  if (place < 0 || place >= shapes.length) {
-    return false;
-  }
-  perform(selecting([shapes[place]]));
-  return true;
+  return shapes[place] ?? null;
 }
+
+const onlyOnSlide = new Set(["Tab", "Escape", "Enter"]);
 
 /** Keys of the slide alone; true where one was for it. */
 function onSlide(event) {
   const [first] = selectedShapes();
   if (arrows[event.key] && first && selectionKind() === Kind.shapes) {
     nudge(arrows[event.key], event);
-  } else if (event.key === "Tab" && shownSlide()) {
-    return walk(event.shiftKey ? -1 : 1);
+  } else if (event.key === "Tab" && leads(event)) {
+    perform(selecting([leads(event)]));
   } else if (event.key === "Escape") {
     const isIdle = !tool();
     cancel();
@@ -64,19 +64,29 @@ function onSlide(event) {
   return true;
 }
 
-addEventListener("keydown", (event) => {
-  const target = event.target;
-  const isWritten = target.matches("input, select, textarea") || target.closest("dialog");
-  if (event.defaultPrevented || isWritten || (isEditing() && !event.ctrlKey)) {
-    return;
+const onKey = inTurn((event) => {
+  if (event.target !== slide || !onSlide(event)) {
+    const command = byKey.get(keyOf(event));
+    if (command) {
+      run(command);
+    }
   }
-  const command = byKey.get(keyOf(event));
-  const isOfSlide = slide.contains(target) || target === strip || event.ctrlKey || event.key === "F2";
-  if (slide === target && onSlide(event)) {
+});
+
+/** True for a key that the page takes for itself. */
+function isTaken(event) {
+  const { target } = event;
+  if (event.defaultPrevented || isEditing() || target.matches("input, select, textarea") || target.closest("dialog")) {
+    return false;
+  }
+  const isOfSlide = target === slide || target === strip;
+  return byKey.has(keyOf(event)) ? isOfSlide || event.ctrlKey || event.metaKey || event.key === "F2" : target === slide && (event.key in arrows || onlyOnSlide.has(event.key));
+}
+
+addEventListener("keydown", (event) => {
+  if (isTaken(event) && !(event.key === "Tab" && leads(event) === null)) {
     event.preventDefault();
-  } else if (command && isOfSlide && (!isEditing() || command.keepsTyping)) {
-    event.preventDefault();
-    run(command);
+    onKey(event);
   }
 });
 

@@ -56,8 +56,8 @@ const after = (act) => async () => {
 
 bar(element("judging"), words.judging, [
   button("check", after(() => order("check"))),
-  button("reset", after(() => order("reset"))),
-  button("next", after(() => order("open", { question: state().question.next }))),
+  button("reset", after(() => order("reset").then(() => element("slide").focus()))),
+  button("next", after(() => order("open", { question: state().question.next }).then(() => element("slide").focus()))),
 ]);
 bar(element("keeping"), words.keeping, [button("undo", after(() => order("undo"))), button("save", after(save))]);
 element("moves").textContent = say(words.moves);

@@ -7,10 +7,11 @@ import { Kind, screen, selectedShapes, selectionKind, shapeOf, shownSlide } from
 import { reframing, selecting, shapeText } from "./statements.js";
 import { edit } from "./text.js";
 import { pick, tool } from "./tools.js";
+import { inTurn } from "./turns.js";
 
 const stillness = 3; // pixels that a hand shakes
 
-let gesture = null; // { move(point, event), end(point, event) }
+let gesture = null; // { move(point, event), end() }
 let corners = []; // of a freeform that is being drawn
 
 const snaps = (event) => screen().snapToGrid && !event.altKey;
@@ -183,37 +184,47 @@ function begin(event) {
   return hit ? press(hit, start, event) : marquee(start, event.shiftKey ? selectedShapes() : []);
 }
 
-slide.addEventListener("pointerdown", (event) => {
-  if (event.button !== 0 || event.target.closest(".editor")) {
-    return;
-  }
-  slide.focus({ preventScroll: true });
-  event.preventDefault();
+function down(event) {
   gesture = begin(event);
-  if (gesture) {
-    slide.setPointerCapture(event.pointerId);
-  }
-});
-slide.addEventListener("pointermove", (event) => {
+}
+
+function move(event) {
   if (gesture) {
     gesture.move(pointOf(event), event);
   } else if (corners.length > 0) {
     drawCorners(pointOf(event));
   }
-});
-slide.addEventListener("pointerup", (event) => {
+}
+
+function up() {
   const ended = gesture;
   gesture = null;
-  ended?.end(pointOf(event), event);
-});
-slide.addEventListener("pointercancel", cancel);
-slide.addEventListener("dblclick", (event) => {
-  if (tool()?.isFreeform || corners.length > 0) {
+  ended?.end();
+}
+
+function double(event) {
+  if (tool()?.isFreeform) {
     finishFreeform();
     return;
   }
-  const shape = !event.target.closest(".editor") && shapeAt(event);
+  const shape = shapeAt(event);
   if (shape?.text) {
     edit(shape, event);
   }
+}
+
+const begun = inTurn(down);
+const doubled = inTurn(double);
+
+slide.addEventListener("pointerdown", (event) => {
+  if (event.button === 0 && !event.target.closest(".editor")) {
+    slide.focus({ preventScroll: true });
+    slide.setPointerCapture(event.pointerId);
+    event.preventDefault();
+    begun(event);
+  }
 });
+slide.addEventListener("pointermove", inTurn(move, false));
+slide.addEventListener("pointerup", inTurn(up, false));
+slide.addEventListener("pointercancel", inTurn(cancel, false));
+slide.addEventListener("dblclick", (event) => !event.target.closest(".editor") && doubled(event));

@@ -4,6 +4,7 @@ import { setState } from "./state.js";
 
 let seat = "";
 let last = Promise.resolve();
+let waiting = 0; // orders that are not done
 const listeners = { said: () => {}, lost: () => {} };
 
 /** Says what to do with words of the server's, and with the loss of it. */
@@ -28,6 +29,8 @@ export async function sit(takesOver = false) {
 
 /** Has something done, and shows what has become of it. Answers with false where it could not be done. */
 export function order(name, body) {
+  waiting += 1;
+  document.body.ariaBusy = "true";
   const done = last.then(async () => {
     try {
       const answer = await post(name, body);
@@ -39,17 +42,23 @@ export function order(name, body) {
     } catch (error) {
       listeners.lost(error);
       return false;
+    } finally {
+      waiting -= 1;
+      document.body.ariaBusy = String(waiting > 0);
     }
   });
   last = done;
   return done;
 }
 
-/** Makes a gesture: one statement, or a few that belong together. */
-export const perform = (...statements) => order("do", { statements });
+/** True while an answer is awaited. */
+export const isBusy = () => waiting > 0;
 
 /** Once all that was ordered is done. */
 export const settled = () => last;
+
+/** Makes a gesture: one statement, or a few that belong together. */
+export const perform = (...statements) => order("do", { statements });
 
 const heartbeat = 30_000;
 setInterval(() => seat && post("beat").catch(listeners.lost), heartbeat);

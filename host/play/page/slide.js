@@ -148,9 +148,10 @@ function draw() {
   slide.style.aspectRatio = `${screen().width} / ${screen().height}`;
   slide.style.setProperty("--ratio", screen().width / screen().height);
   overlay.setAttribute("viewBox", `0 0 ${screen().width} ${screen().height}`);
-  if (drawn !== shown.picture) {
-    drawn = shown.picture;
-    picture.replaceChildren(pictureOf(drawn));
+  const next = pictureOf(shown.picture);
+  if (drawn !== next.outerHTML) {
+    drawn = next.outerHTML;
+    picture.replaceChildren(next);
   }
   label(picture.firstElementChild, shown.shapes);
   drawOptions(shown.shapes);

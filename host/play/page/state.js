@@ -4,7 +4,7 @@ const watchers = [];
 let current = null;
 
 export const state = () => current;
-export const screen = () => current.screen;
+export const screen = () => current?.screen;
 
 export function onState(watcher) {
   watchers.push(watcher);

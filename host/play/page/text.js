@@ -10,7 +10,7 @@ const names = { editor: ["Texte de {0}", "Text of {0}"] };
 const alignments = { 2: "center", 3: "right", 4: "justify" };
 const anchors = { 3: "center", 4: "flex-end" };
 
-let session = null; // { shape, slide, editor, stored, typed, pending }
+let session = null; // { shape, slide, editor, stored, typed, cursor, pending: { start, length, text } }
 
 export const isEditing = () => Boolean(session);
 
@@ -128,17 +128,30 @@ function difference(before, after) {
   return { start, length: before.length - start - end, text: after.slice(start, after.length - end) };
 }
 
+/** The same, where the cursor tells it: what stands behind it was there before, and what stood before it where it was. */
+function changeAt(cursor, from, before, after) {
+  const start = Math.min(from, cursor);
+  const length = before.length - (after.length - cursor) - start;
+  const fits = length >= 0 && before.slice(0, start) === after.slice(0, start) && before.slice(start + length) === after.slice(cursor);
+  return fits ? { start, length, text: after.slice(start, cursor) } : difference(before, after);
+}
+
 /** Takes what was typed; where it goes on from what has been typed before it is one stretch with it. */
 function take() {
   const typed = read(session.editor);
-  const change = difference(session.typed, typed);
+  const change = changeAt(chosen().start, session.cursor, session.typed, typed);
   const { pending } = session;
-  const goesOn = pending && change.start <= pending.start + pending.text.length && change.start + change.length >= pending.start;
-  if (pending && !goesOn) {
+  const end = change.start + change.length;
+  if (pending && change.start <= pending.start + pending.text.length && end >= pending.start) {
+    const start = Math.min(pending.start, change.start);
+    const last = Math.max(pending.start + pending.text.length, end);
+    const stood = last - pending.text.length + pending.length - start;
+    session.pending = { start, length: stood, text: typed.slice(start, last + change.text.length - change.length) };
+  } else {
     flush();
+    session.pending = change;
   }
   session.typed = typed;
-  session.pending = difference(session.stored, typed);
 }
 
 /** Tells the server what has been typed so far. */
@@ -180,9 +193,10 @@ function hideDrawing() {
 export function finish() {
   if (session) {
     const done = flush();
-    session.editor.remove();
-    drawingOf(session.shape)?.querySelectorAll("text").forEach((row) => (row.style.visibility = ""));
-    session = null;
+    const { editor, shape } = session;
+    session = null; // taking the editor away makes it lose the focus
+    editor.remove();
+    drawingOf(shape)?.querySelectorAll("text").forEach((row) => (row.style.visibility = ""));
     return done;
   }
   return Promise.resolve(true);
@@ -208,6 +222,7 @@ export function edit(shape, event) {
   const { start, length } = chosen();
   const isWhole = start === 0 && length === session.stored.length;
   perform(`${shapeText(shape)}.TextFrame.TextRange${isWhole ? "" : `.Characters(${start + 1}, ${length})`}.Select`);
+  editor.addEventListener("beforeinput", () => (session.cursor = chosen().start));
   editor.addEventListener("input", take);
   editor.addEventListener("keydown", obey);
   editor.addEventListener("paste", pastePlain);
