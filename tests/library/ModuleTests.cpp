@@ -1,6 +1,7 @@
 #include "automation/com/Objects.h"
 #include "automation/com/Variant.h"
 #include "automation/com/WideText.h"
+#include "simulator/win32/StandInIdentity.h"
 #include "tests/library/ErrorSaid.h"
 #include "tests/library/Training.h"
 #include "tests/win32/TestWindow.h"
@@ -274,6 +275,61 @@ TEST_F(ModuleTest, LetsGoOfAClosedPowerPointBeforeItLooksForAnother) {
         }
     }
     EXPECT_EQ(goneFirst, std::vector<bool>(std::size(forms), true));
+}
+
+/// A PowerPoint of the host's that tells when it is called first.
+class Telling final : public automation::Published {
+public:
+    explicit Telling(std::function<void()> called) : called_(std::move(called)) {}
+    [[nodiscard]] const automation::MemberTable& members() const override {
+        static const automation::MemberTable table{
+            automation::property<&Telling::ShowStartupDialog>(u"ShowStartupDialog")};
+        return table;
+    }
+    [[nodiscard]] bool ShowStartupDialog() const {
+        called_();
+        return false;
+    }
+
+private:
+    std::function<void()> called_;
+};
+
+TEST_F(ModuleTest, OutlivesAnOperationInWhichItsHostReleasesIt) {
+    const tests::TestWindow window({.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE});
+    bool isHeld = false;
+    application_ = automation::com::dispatchOf(std::make_shared<Telling>([&] {
+                       module_ = nullptr;
+                       isHeld = !library_.canUnload();
+                   })).release();
+    window_ = static_cast<LONG>(reinterpret_cast<std::intptr_t>(window.handle()));
+    EXPECT_NE(init(314), S_OK) << "it has no command bars";
+    EXPECT_TRUE(isHeld);
+    EXPECT_FALSE(module_);
+    EXPECT_TRUE(library_.canUnload());
+}
+
+TEST_F(ModuleTest, HasPatienceForSixSecondsWhereEachCommandBarIsRefused) {
+    startPowerPoint();
+    ComPtr<IUnknown> running;
+    ASSERT_EQ(GetActiveObject(simulator::standin::controlClass, nullptr, running.receive()), S_OK);
+    const LateBound controls(automation::com::objectOf(running.as<IDispatch>().get()));
+    std::int32_t untilTheBars = 0; // the calls that it makes until the file is missing
+    for (int i = 0; i < 2; ++i) {  // the first has to get to know PowerPoint
+        const auto before = controls.get(u"Calls").to<std::int32_t>();
+        EXPECT_EQ(static_cast<std::uint32_t>(init(314)), 0x800A0035U);
+        untilTheBars = controls.get(u"Calls").to<std::int32_t>() - before;
+        EXPECT_EQ(module_->Fermer(), S_OK);
+    }
+    deliver(314, 1);
+    controls.call(u"RefuseAtCall", untilTheBars + 8, 0);
+    const DWORD start = GetTickCount();
+    EXPECT_EQ(static_cast<std::uint32_t>(init(314)), 0x80010001U);
+    const DWORD taken = GetTickCount() - start;
+    controls.put(u"Busy", false);
+    EXPECT_GT(taken, 5500U) << "more than one access was refused";
+    EXPECT_LT(taken, 9000U);
+    EXPECT_EQ(module_->Fermer(), S_OK);
 }
 
 } // namespace module_tests
