@@ -1,5 +1,6 @@
 #include <K73053.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -9,14 +10,15 @@
 
 namespace {
 
-constexpr int times = 1200; ///< more than a process has thread-local slots
-constexpr DWORD spare = 20; ///< handles that the system may keep, whatever is loaded
+constexpr int times = 1200;          ///< more than a process has thread-local slots
+constexpr std::uintptr_t spare = 20; ///< handles that the system may keep, whatever is loaded
 constexpr auto subscriptOutOfRange = static_cast<HRESULT>(0x800A0009);
 
-DWORD handles() {
-    DWORD count = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &count);
-    return count;
+/// The number that a new handle has, which grows with those that stay open.
+std::uintptr_t nextHandle() {
+    const HANDLE fresh = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    CloseHandle(fresh);
+    return reinterpret_cast<std::uintptr_t>(fresh) / 4;
 }
 
 HRESULT readItemOfNone(HMODULE library) {
@@ -35,7 +37,7 @@ HRESULT readItemOfNone(HMODULE library) {
 }
 
 void run(const char* path) {
-    const DWORD before = handles();
+    const std::uintptr_t before = nextHandle();
     for (int done = 0; done < times; ++done) {
         HMODULE library = LoadLibraryA(path);
         if (library == nullptr) {
@@ -49,8 +51,8 @@ void run(const char* path) {
             throw std::runtime_error("it stays loaded");
         }
     }
-    if (handles() > before + spare) {
-        throw std::runtime_error(std::to_string(handles() - before) + " handles stay open");
+    if (const std::uintptr_t after = nextHandle(); after > before + spare) {
+        throw std::runtime_error(std::to_string(after - before) + " handles stay open");
     }
 }
 
