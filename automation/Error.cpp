@@ -52,6 +52,7 @@ std::u16string_view describe(RunTimeError error) noexcept {
     case RunTimeError::ObjectNotSet: return u"Variable objet ou variable de bloc With non définie";
     case RunTimeError::ObjectRequired: return u"Objet requis";
     case RunTimeError::CannotCreateObject: return u"Un composant ActiveX ne peut pas créer d'objet";
+    case RunTimeError::NamedArgumentNotFound: return u"Argument nommé introuvable";
     case RunTimeError::MemberNotFound: return u"Propriété ou méthode non gérée par cet objet";
     case RunTimeError::ArgumentNotOptional: return u"Argument non facultatif";
     case RunTimeError::WrongNumberOfArguments:

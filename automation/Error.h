@@ -25,6 +25,7 @@ enum class RunTimeError : std::int32_t {
     ObjectRequired = 424,
     CannotCreateObject = 429,
     MemberNotFound = 438,
+    NamedArgumentNotFound = 448,
     ArgumentNotOptional = 449,
     WrongNumberOfArguments = 450,
 };

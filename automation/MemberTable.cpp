@@ -49,6 +49,10 @@ Value MemberTable::invoke(Object& object, const Name& name, Access access, std::
     if (member == nullptr || !member->answers(access)) {
         raise(RunTimeError::MemberNotFound);
     }
+    if (!name.parameters().empty()) {
+        std::vector<Value> ordered = parameters::inOrder(member->parameters, name.parameters(), access, arguments);
+        return (access == Access::Put ? member->write : member->read)(object, ordered);
+    }
     if (access == Access::Put) {
         return member->write(object, arguments);
     }

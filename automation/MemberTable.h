@@ -3,8 +3,10 @@
 #include "automation/Error.h"
 #include "automation/Object.h"
 #include "automation/ObjectVariable.h"
+#include "automation/Parameters.h"
 #include "automation/Unmoved.h"
 
+#include <cassert>
 #include <initializer_list>
 #include <optional>
 #include <tuple>
@@ -22,6 +24,7 @@ struct Member {
     Thunk write = nullptr;    ///< the property's setter
     bool isIndexable = false; ///< a getter without arguments: arguments given go to the default member of its result
     bool isDefault = false;
+    std::u16string_view parameters{}; ///< their names with blanks between; empty where arguments are not named
 
     /// True where the member can be reached so.
     [[nodiscard]] constexpr bool answers(Access access) const noexcept {
@@ -192,9 +195,12 @@ template <auto function> using SignatureOf = decltype(signatureOf(function));
 
 /// A method of the table's class. Parameters are taken as the C++ function declares them: plain types by value,
 /// `std::optional` for an optional argument, a reference to non-const for one that is written back, `Value` for a
-/// variant.
-template <auto function> constexpr Member method(std::u16string_view name) noexcept {
-    return {.name = name, .isMethod = true, .read = &detail::SignatureOf<function>::template thunk<function>};
+/// variant. Where arguments can be named, `parameters` has all their names with blanks between.
+template <auto function>
+constexpr Member method(std::u16string_view name, std::u16string_view parameters = {}) noexcept {
+    using Signature = detail::SignatureOf<function>;
+    assert(parameters.empty() || parameters::count(parameters) == Signature::count);
+    return {.name = name, .isMethod = true, .read = &Signature::template thunk<function>, .parameters = parameters};
 }
 
 /// A property that can be read; its getter may take arguments.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace automation {
@@ -10,13 +11,16 @@ namespace automation {
 class Name {
 public:
     /// `scope` is the class that publishes the member, where the caller knows it: a bridge to another process looks a
-    /// scoped name up once and remembers it. Both texts must outlive the name (literals do).
-    constexpr Name(std::u16string_view text, std::u16string_view scope = {}) noexcept
-        : text_(text), scope_(scope), hash_(hashOf(text)) {}
+    /// scoped name up once and remembers it. `parameters` names the last arguments of the call. All texts must outlive
+    /// the name (literals do).
+    constexpr Name(std::u16string_view text, std::u16string_view scope = {},
+                   std::span<const std::u16string_view> parameters = {}) noexcept
+        : text_(text), scope_(scope), parameters_(parameters), hash_(hashOf(text)) {}
     constexpr Name(const char16_t* text) noexcept : Name(std::u16string_view(text)) {}
 
     [[nodiscard]] constexpr std::u16string_view text() const noexcept { return text_; }
     [[nodiscard]] constexpr std::u16string_view scope() const noexcept { return scope_; }
+    [[nodiscard]] constexpr std::span<const std::u16string_view> parameters() const noexcept { return parameters_; }
     [[nodiscard]] constexpr std::uint32_t hash() const noexcept { return hash_; }
     [[nodiscard]] constexpr bool isDefault() const noexcept { return text_.empty(); }
 
@@ -46,6 +50,7 @@ private:
 
     std::u16string_view text_;
     std::u16string_view scope_;
+    std::span<const std::u16string_view> parameters_;
     std::uint32_t hash_;
 };
 

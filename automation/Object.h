@@ -23,9 +23,10 @@ public:
     Object() noexcept;
     virtual ~Object();
 
-    /// Reaches a member with its arguments in order; `Missing` stands for an optional one left out. Arguments passed by
-    /// reference may be written back. Raises MemberNotFound (438) for a name that the object does not publish, and
-    /// whatever the member raises.
+    /// Reaches a member with its arguments in order; `Missing` stands for an optional one left out. Those that `name`
+    /// names come behind, but before the new value of a property. Arguments passed by reference may be written back.
+    /// Raises MemberNotFound (438) for a name that the object does not publish, NamedArgumentNotFound (448) for an
+    /// argument that the member does not, and whatever the member raises.
     virtual Value invoke(const Name& name, Access access, std::span<Value> arguments) = 0;
 
     /// True when both stand for the same object.

@@ -1,10 +1,12 @@
 #include "automation/com/DispatchObject.h"
 
-#include "automation/Error.h"
+#include "automation/Elements.h"
 #include "automation/com/ComError.h"
 #include "automation/com/PassedArguments.h"
 #include "automation/com/VariantReader.h"
 #include "automation/com/WideText.h"
+
+#include <algorithm>
 
 namespace automation::com {
 
@@ -52,8 +54,9 @@ DispatchObject::DispatchObject(ComPtr<IDispatch> dispatch, ComPtr<IUnknown> iden
 Value DispatchObject::invoke(const Name& name, Access access, std::span<Value> arguments) {
     requireAlive();
     Patience patience;
-    const DISPID id = idOf(name, patience);
-    PassedArguments passed(arguments, access);
+    std::vector<DISPID> named(name.parameters().size());
+    const DISPID id = named.empty() ? idOf(name, patience) : lookUp(name, patience, named);
+    PassedArguments passed(arguments, access, named);
     Call call(patience);
     HRESULT status = call.make(*dispatch_.get(), id, flagsOf(access), passed.parameters());
     if (status == DISP_E_MEMBERNOTFOUND && access == Access::Put && arguments.back().isObject()) {
@@ -89,22 +92,36 @@ DISPID DispatchObject::idOf(const Name& name, Patience& patience) {
     if (name.isDefault()) {
         return DISPID_VALUE;
     }
+    if (name.matches(newEnum)) {
+        return DISPID_NEWENUM;
+    }
     MemberIds& ids = name.scope().empty() ? ownIds_ : session_->ids;
     if (const auto id = ids.find(name)) {
         return *id;
     }
-    const DISPID id = lookUp(name, patience);
+    const DISPID id = lookUp(name, patience, {});
     ids.remember(name, id);
     return id;
 }
 
-DISPID DispatchObject::lookUp(const Name& name, Patience& patience) {
-    std::wstring text(name.text().begin(), name.text().end());
-    LPOLESTR asked = text.data();
-    DISPID id = DISPID_UNKNOWN;
-    require(
-        patience.untilTaken([&] { return dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id); }));
-    return id;
+DISPID DispatchObject::lookUp(const Name& name, Patience& patience, std::span<DISPID> named) {
+    std::vector<std::wstring> texts{std::wstring(name.text().begin(), name.text().end())};
+    for (const std::u16string_view parameter : name.parameters()) {
+        texts.emplace_back(parameter.begin(), parameter.end());
+    }
+    std::vector<LPOLESTR> asked(texts.size());
+    std::transform(texts.begin(), texts.end(), asked.begin(), [](std::wstring& text) { return text.data(); });
+    std::vector<DISPID> ids(texts.size(), DISPID_UNKNOWN);
+    const HRESULT status = patience.untilTaken([&] {
+        return dispatch_->GetIDsOfNames(IID_NULL, asked.data(), static_cast<UINT>(asked.size()), LOCALE_USER_DEFAULT,
+                                        ids.data());
+    });
+    if (status == DISP_E_UNKNOWNNAME && !named.empty() && ids.front() != DISPID_UNKNOWN) {
+        raise(RunTimeError::NamedArgumentNotFound);
+    }
+    require(status);
+    std::copy(ids.begin() + 1, ids.end(), named.begin());
+    return ids.front();
 }
 
 void DispatchObject::requireAlive() const {

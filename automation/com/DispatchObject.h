@@ -8,7 +8,7 @@
 namespace automation::com {
 
 /// An object that lives behind an IDispatch, usually in another process: one call, one Invoke. What it hands out shares
-/// its session; names without a scope are looked up once per object.
+/// its session; names without a scope are looked up once per object, those that name arguments at each call.
 ///
 /// An error of the server keeps its number (0x800A0000 + n is n), source, description and help. Once the object
 /// is gone, every further call fails with the same error, without being made; once the process behind it is, no object
@@ -31,7 +31,8 @@ public:
 
 private:
     [[nodiscard]] DISPID idOf(const Name& name, Patience& patience);
-    [[nodiscard]] DISPID lookUp(const Name& name, Patience& patience);
+    /// The id of a member; `named` takes those of the arguments that its name names.
+    [[nodiscard]] DISPID lookUp(const Name& name, Patience& patience, std::span<DISPID> named);
     void requireAlive() const;
     /// Raises the error of a failing status, and remembers it where the process behind the object is gone.
     void require(HRESULT status);

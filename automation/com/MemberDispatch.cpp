@@ -1,5 +1,6 @@
 #include "automation/com/MemberDispatch.h"
 
+#include "automation/Elements.h"
 #include "automation/FirstError.h"
 #include "automation/com/ClientVariable.h"
 #include "automation/com/ComError.h"
@@ -7,6 +8,7 @@
 #include "automation/com/VariantReader.h"
 #include "automation/com/WideText.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -18,17 +20,19 @@ constexpr WORD putFlags = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 constexpr WORD readFlags = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 constexpr UINT mostArguments = 255;
 
-DISPID idOf(const MemberTable& members, const Name& name) noexcept {
-    const Member* const member = name.isDefault() ? nullptr : members.find(name);
+DISPID idOf(const MemberTable& members, const Member* member) noexcept {
     if (member == nullptr) {
         return DISPID_UNKNOWN;
+    }
+    if (member->name.matches(newEnum)) {
+        return DISPID_NEWENUM;
     }
     return member->isDefault ? DISPID_VALUE : static_cast<DISPID>(member - members.members().data() + 1);
 }
 
 const Member* memberOf(const MemberTable& members, DISPID id) noexcept {
-    if (id == DISPID_VALUE) {
-        return members.find(defaultMember);
+    if (id == DISPID_VALUE || id == DISPID_NEWENUM) {
+        return members.find(id == DISPID_VALUE ? defaultMember : newEnum);
     }
     const bool known = id > 0 && static_cast<std::size_t>(id) <= members.members().size();
     return known ? &members.members()[static_cast<std::size_t>(id) - 1] : nullptr;
@@ -54,26 +58,55 @@ HRESULT refusal(const DISPPARAMS* parameters, Access access) noexcept {
     if (parameters->cArgs > mostArguments || (access == Access::Put && parameters->cArgs == 0)) {
         return DISP_E_BADPARAMCOUNT;
     }
-    const UINT named = access == Access::Put ? 1 : 0;
-    if (parameters->cNamedArgs > named) {
-        return DISP_E_NONAMEDARGS;
+    const bool areNamed = parameters->cNamedArgs == 0 || parameters->rgdispidNamedArgs != nullptr;
+    return areNamed && parameters->cNamedArgs <= parameters->cArgs ? S_OK : E_INVALIDARG;
+}
+
+/// Where the arguments of a call stand, in their order; null for one left out.
+using Order = std::vector<const VARIANT*>;
+
+/// Puts the named arguments behind those that stand in their places; the new value of a property is the last of all.
+HRESULT putInOrder(const DISPPARAMS& given, const Member& member, Access access, Order& order) {
+    for (UINT i = given.cArgs; i > given.cNamedArgs; --i) {
+        order.push_back(&given.rgvarg[i - 1]);
     }
-    const bool isNewValue = parameters->cNamedArgs == 0 || (parameters->rgdispidNamedArgs != nullptr &&
-                                                            *parameters->rgdispidNamedArgs == DISPID_PROPERTYPUT);
-    return isNewValue ? S_OK : DISP_E_NONAMEDARGS;
+    const VARIANT* newValue = nullptr;
+    for (UINT i = 0; i < given.cNamedArgs; ++i) {
+        const DISPID id = given.rgdispidNamedArgs[i];
+        if (access == Access::Put && id == DISPID_PROPERTYPUT) {
+            newValue = &given.rgvarg[i];
+            continue;
+        }
+        if (member.parameters.empty()) {
+            return DISP_E_NONAMEDARGS;
+        }
+        const auto place = static_cast<std::size_t>(id);
+        if (id < 0 || place >= parameters::count(member.parameters) ||
+            (place < order.size() && order[place] != nullptr)) {
+            return DISP_E_PARAMNOTFOUND;
+        }
+        order.resize(std::max(order.size(), place + 1));
+        order[place] = &given.rgvarg[i];
+    }
+    if (newValue != nullptr) {
+        order.push_back(newValue);
+    }
+    return S_OK;
 }
 
 /// The arguments of one call from outside, as values in their order.
 class GivenArguments {
 public:
-    explicit GivenArguments(const DISPPARAMS& parameters) : variables_(parameters.cArgs), arguments_(parameters.cArgs) {
-        const std::span<const VARIANT> given(parameters.rgvarg, parameters.cArgs); // the last one first
+    explicit GivenArguments(const Order& given) : variables_(given.size()), arguments_(given.size()) {
         VariantReader reader;
         for (std::size_t i = 0; i < given.size(); ++i) {
-            const VARIANT& each = given[given.size() - 1 - i];
-            arguments_[i] = reader.read(each);
-            if (isReference(each)) {
-                arguments_[i] = variables_[i].emplace(each, std::move(arguments_[i])).argument();
+            if (given[i] == nullptr) {
+                arguments_[i] = Missing();
+                continue;
+            }
+            arguments_[i] = reader.read(*given[i]);
+            if (isReference(*given[i])) {
+                arguments_[i] = variables_[i].emplace(*given[i], std::move(arguments_[i])).argument();
             }
         }
     }
@@ -122,13 +155,16 @@ HRESULT getIdsOfNames(const MemberTable& members, LPOLESTR* names, UINT count, D
         return E_INVALIDARG;
     }
     return guarded([&] {
-        // Only the member has a name here, its arguments have none.
         std::fill_n(ids, count, DISPID_UNKNOWN);
-        if (names[0] != nullptr) {
-            const std::u16string name = fromWide(names[0]);
-            ids[0] = idOf(members, Name(name));
+        const std::u16string name = names[0] == nullptr ? u"" : fromWide(names[0]);
+        const Member* const member = name.empty() ? nullptr : members.find(Name(name));
+        ids[0] = idOf(members, member);
+        for (UINT i = 1; i < count && member != nullptr; ++i) {
+            const std::u16string parameter = names[i] == nullptr ? u"" : fromWide(names[i]);
+            const auto place = parameters::placeOf(member->parameters, Name(parameter));
+            ids[i] = place ? static_cast<DISPID>(*place) : DISPID_UNKNOWN;
         }
-        return count == 1 && ids[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
+        return std::find(ids, ids + count, DISPID_UNKNOWN) == ids + count ? S_OK : DISP_E_UNKNOWNNAME;
     });
 }
 
@@ -143,7 +179,11 @@ HRESULT invoke(Published& object, DISPID id, WORD flags, const DISPPARAMS* param
         if (const HRESULT refused = refusal(parameters, *access); FAILED(refused)) {
             return refused;
         }
-        GivenArguments arguments(*parameters);
+        Order order;
+        if (const HRESULT refused = putInOrder(*parameters, *member, *access, order); FAILED(refused)) {
+            return refused;
+        }
+        GivenArguments arguments(order);
         const Value value = valueOf(object, *member, *access, arguments);
         Variant answer = variantOf(value);
         arguments.writeBack();

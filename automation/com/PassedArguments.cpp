@@ -17,8 +17,9 @@ bool holdsStill(const Variant& variable, const Value& value) {
 
 } // namespace
 
-PassedArguments::PassedArguments(std::span<Value> arguments, Access access)
-    : arguments_(arguments), variables_(arguments.size()), passed_(arguments.size()) {
+PassedArguments::PassedArguments(std::span<Value> arguments, Access access, std::span<const DISPID> named)
+    : arguments_(arguments), variables_(arguments.size()), passed_(arguments.size()),
+      named_(named.rbegin(), named.rend()) {
     if (access == Access::Put && arguments.empty()) {
         raise(RunTimeError::WrongNumberOfArguments);
     }
@@ -35,9 +36,10 @@ PassedArguments::PassedArguments(std::span<Value> arguments, Access access)
     parameters_.rgvarg = passed_.data();
     parameters_.cArgs = static_cast<UINT>(passed_.size());
     if (access == Access::Put) {
-        parameters_.rgdispidNamedArgs = &newValue_;
-        parameters_.cNamedArgs = 1;
+        named_.insert(named_.begin(), DISPID_PROPERTYPUT);
     }
+    parameters_.rgdispidNamedArgs = named_.empty() ? nullptr : named_.data();
+    parameters_.cNamedArgs = static_cast<UINT>(named_.size());
 }
 
 void PassedArguments::writeBack(const ServerSessionPtr& session) {

@@ -12,8 +12,9 @@ namespace automation::com {
 /// The arguments of one call to an IDispatch, in its order (the last one first).
 class PassedArguments {
 public:
-    /// Those passed by reference refer to variables held here.
-    PassedArguments(std::span<Value> arguments, Access access);
+    /// Those passed by reference refer to variables held here. `named` has the ids of the last arguments but for the
+    /// new value of a property.
+    PassedArguments(std::span<Value> arguments, Access access, std::span<const DISPID> named = {});
 
     [[nodiscard]] DISPPARAMS& parameters() noexcept { return parameters_; }
 
@@ -28,7 +29,7 @@ private:
     std::vector<Variant> variables_; ///< contents of the by-reference arguments, in the order of `arguments_`
     std::vector<Variant> passed_;
     DISPPARAMS parameters_{};
-    DISPID newValue_ = DISPID_PROPERTYPUT;
+    std::vector<DISPID> named_; ///< the last one first
 };
 
 } // namespace automation::com

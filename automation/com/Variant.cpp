@@ -2,8 +2,10 @@
 
 #include "automation/Error.h"
 #include "automation/com/ComError.h"
+#include "automation/com/Elements.h"
 #include "automation/com/Objects.h"
 #include "automation/com/WideText.h"
+#include "automation/observe/Observer.h"
 
 #include <algorithm>
 #include <cstring>
@@ -50,6 +52,11 @@ public:
         out_.vt = VT_BSTR;
     }
     void operator()(const ObjectPtr& object) const {
+        if (auto elements = std::dynamic_pointer_cast<Elements>(unobserved(object))) {
+            out_.punkVal = enumVariantOf(std::move(elements)).release();
+            out_.vt = VT_UNKNOWN;
+            return;
+        }
         out_.pdispVal = dispatchOf(object).release();
         out_.vt = VT_DISPATCH;
     }

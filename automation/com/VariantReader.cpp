@@ -3,6 +3,7 @@
 #include "automation/Error.h"
 #include "automation/Unmoved.h"
 #include "automation/com/ComError.h"
+#include "automation/com/Elements.h"
 #include "automation/com/Objects.h"
 #include "automation/com/Variant.h"
 #include "automation/com/WideText.h"
@@ -146,6 +147,9 @@ Value VariantReader::readReference(const VARIANT& reference) {
 
 Value VariantReader::readObject(IUnknown* object) {
     const auto dispatch = queryFor<IDispatch>(object);
+    if (auto elements = dispatch ? nullptr : queryFor<IEnumVARIANT>(object)) {
+        return elementsOf(std::move(elements), session_);
+    }
     if (object != nullptr && !dispatch) {
         raise(RunTimeError::TypeMismatch);
     }

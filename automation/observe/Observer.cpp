@@ -12,7 +12,7 @@ public:
     Observed(ObjectPtr inner, ObserverPtr observer) : inner_(std::move(inner)), observer_(std::move(observer)) {}
 
     Value invoke(const Name& name, Access access, std::span<Value> arguments) override {
-        const Crossing crossing{Border::Automation, name.scope(), name.text(), access, arguments};
+        const Crossing crossing{Border::Automation, name.scope(), name.text(), access, arguments, name.parameters()};
         return wrap(observer_->around(crossing, [&] { return pass(name, access, arguments); }));
     }
 
@@ -92,8 +92,11 @@ std::u16string Crossing::display() const {
     const auto shown = writes ? arguments.first(arguments.size() - 1) : arguments;
     if (!shown.empty()) {
         text += u'(';
+        const std::size_t firstNamed = shown.size() - parameters.size();
         for (std::size_t i = 0; i < shown.size(); ++i) {
-            text += (i == 0 ? u"" : u", ") + shown[i].display();
+            text += i == 0 ? u"" : u", ";
+            text += i < firstNamed ? u"" : std::u16string(parameters[i - firstNamed]) + u":=";
+            text += shown[i].display();
         }
         text += u')';
     }

@@ -21,9 +21,10 @@ struct Crossing {
     std::u16string_view member;
     Access access;
     std::span<const Value> arguments;
+    std::span<const std::u16string_view> parameters{}; ///< names of the last arguments but for a new value
 
-    /// The call as a macro would state it: `Slides.Item(2)`, `Application.Visible = -1`; `(default)` where no member is
-    /// named.
+    /// The call as a macro would state it: `Slides.Item(2)`, `Application.Visible = -1`, `Slides.Add(2, Layout:=12)`;
+    /// `(default)` where no member is named.
     [[nodiscard]] std::u16string display() const;
 };
 

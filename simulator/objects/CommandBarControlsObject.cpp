@@ -11,6 +11,7 @@ const automation::MemberTable& CommandBarControlsObject::members() const {
     static const automation::MemberTable table{
         property<&This::parent>(u"Parent"),
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::item>(u"Item").asDefault(),
     };
     return table;

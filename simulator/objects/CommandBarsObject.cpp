@@ -13,6 +13,7 @@ const automation::MemberTable& CommandBarsObject::members() const {
         property<&This::application>(u"Parent"),
         property<&This::activeMenuBar>(u"ActiveMenuBar"),
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::displayTooltips, &This::setDisplayTooltips>(u"DisplayTooltips"),
         property<&This::item>(u"Item").asDefault(),
     };

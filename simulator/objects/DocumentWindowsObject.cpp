@@ -11,9 +11,10 @@ const automation::MemberTable& DocumentWindowsObject::members() const {
     using This = DocumentWindowsObject;
     static const automation::MemberTable table{
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::application>(u"Application"),
         property<&This::application>(u"Parent"),
-        method<&This::item>(u"Item").asDefault(),
+        method<&This::item>(u"Item", u"Index").asDefault(),
     };
     return table;
 }

@@ -10,7 +10,7 @@ const automation::MemberTable& FreeformBuilderObject::members() const {
     using automation::method;
     using This = FreeformBuilderObject;
     static const automation::MemberTable table{
-        method<&This::addNodes>(u"AddNodes"),
+        method<&This::addNodes>(u"AddNodes", u"SegmentType EditingType X1 Y1 X2 Y2 X3 Y3"),
         method<&This::convertToShape>(u"ConvertToShape"),
     };
     return table;

@@ -9,8 +9,9 @@ const automation::MemberTable& GroupShapesObject::members() const {
     using automation::property;
     using This = GroupShapesObject;
     static const automation::MemberTable table{
-        method<&This::item>(u"Item").asDefault(),
+        method<&This::item>(u"Item", u"Index").asDefault(),
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::parent>(u"Parent"),
     };
     return table;

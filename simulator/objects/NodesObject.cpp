@@ -55,9 +55,13 @@ const automation::MemberTable& NodesObject::members() const {
     using automation::property;
     using This = NodesObject;
     static const automation::MemberTable table{
-        property<&This::count>(u"Count"),           method<&This::item>(u"Item").asDefault(),
-        method<&This::remove>(u"Delete"),           method<&This::insert>(u"Insert"),
-        method<&This::setPosition>(u"SetPosition"), method<&This::setSegmentType>(u"SetSegmentType"),
+        property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
+        method<&This::item>(u"Item", u"Index").asDefault(),
+        method<&This::remove>(u"Delete", u"Index"),
+        method<&This::insert>(u"Insert", u"Index SegmentType EditingType X1 Y1 X2 Y2 X3 Y3"),
+        method<&This::setPosition>(u"SetPosition", u"Index X1 Y1"),
+        method<&This::setSegmentType>(u"SetSegmentType", u"Index SegmentType"),
     };
     return table;
 }

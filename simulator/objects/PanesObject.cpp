@@ -10,8 +10,9 @@ const automation::MemberTable& PanesObject::members() const {
     using This = PanesObject;
     static const automation::MemberTable table{
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::parent>(u"Parent"),
-        method<&This::item>(u"Item").asDefault(),
+        method<&This::item>(u"Item", u"Index").asDefault(),
     };
     return table;
 }

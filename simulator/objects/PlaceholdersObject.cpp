@@ -23,8 +23,9 @@ const automation::MemberTable& PlaceholdersObject::members() const {
     using automation::property;
     using This = PlaceholdersObject;
     static const automation::MemberTable table{
-        method<&This::item>(u"Item").asDefault(),
+        method<&This::item>(u"Item", u"Index").asDefault(),
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
     };
     return table;
 }

@@ -1,8 +1,37 @@
 #include "simulator/objects/PowerPointObject.h"
 
+#include "automation/LateBound.h"
+
 #include <typeinfo>
 
 namespace simulator {
+
+namespace {
+
+class ItemsByPlace final : public automation::Elements {
+public:
+    /// `member` must outlive this object.
+    ItemsByPlace(automation::ObjectPtr collection, std::u16string_view member) noexcept
+        : collection_(std::move(collection)), member_(member) {}
+
+    automation::Value next() override {
+        if (last_ >= collection_.get(u"Count").to<std::int32_t>()) {
+            return automation::Missing();
+        }
+        return collection_.call(member_, ++last_);
+    }
+
+private:
+    automation::LateBound collection_;
+    std::u16string_view member_;
+    std::int32_t last_ = 0;
+};
+
+} // namespace
+
+std::shared_ptr<automation::Elements> PowerPointObject::elementsBy(std::u16string_view member) {
+    return std::make_shared<ItemsByPlace>(shared_from_this(), member);
+}
 
 std::u16string PowerPointObject::className() const {
     // However a compiler decorates the name, the class is the run of letters before the last "Object".

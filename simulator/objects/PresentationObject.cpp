@@ -45,8 +45,8 @@ const automation::MemberTable& PresentationObject::members() const {
         property<&This::snapToGrid, &This::setSnapToGrid>(u"SnapToGrid"),
         method<&This::close>(u"Close"),
         method<&This::save>(u"Save"),
-        method<&This::saveAs>(u"SaveAs"),
-        method<&This::saveCopyAs>(u"SaveCopyAs"),
+        method<&This::saveAs>(u"SaveAs", u"FileName FileFormat EmbedTrueTypeFonts"),
+        method<&This::saveCopyAs>(u"SaveCopyAs", u"FileName FileFormat EmbedTrueTypeFonts"),
     };
     return table;
 }

@@ -11,11 +11,12 @@ const automation::MemberTable& PresentationsObject::members() const {
     using This = PresentationsObject;
     static const automation::MemberTable table{
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::application>(u"Application"),
         property<&This::application>(u"Parent"),
-        method<&This::item>(u"Item").asDefault(),
-        method<&This::add>(u"Add"),
-        method<&This::open>(u"Open"),
+        method<&This::item>(u"Item", u"Index").asDefault(),
+        method<&This::add>(u"Add", u"WithWindow"),
+        method<&This::open>(u"Open", u"FileName ReadOnly Untitled WithWindow"),
     };
     return table;
 }

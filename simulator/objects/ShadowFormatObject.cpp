@@ -29,8 +29,8 @@ const automation::MemberTable& ShadowFormatObject::members() const {
     using automation::property;
     using This = ShadowFormatObject;
     static const automation::MemberTable table{
-        method<&This::increment<&Shadow::offsetX>>(u"IncrementOffsetX"),
-        method<&This::increment<&Shadow::offsetY>>(u"IncrementOffsetY"),
+        method<&This::increment<&Shadow::offsetX>>(u"IncrementOffsetX", u"Increment"),
+        method<&This::increment<&Shadow::offsetY>>(u"IncrementOffsetY", u"Increment"),
         property<&This::color<&Shadow::color>>(u"ForeColor"),
         property<&This::get<&Shadow::obscured>, &This::turn<&Shadow::obscured>>(u"Obscured"),
         property<&This::get<&Shadow::offsetX>, &This::set<&Shadow::offsetX>>(u"OffsetX"),

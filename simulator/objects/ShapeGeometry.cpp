@@ -43,12 +43,12 @@ const automation::MemberTable& ShapeGeometry::geometryMembers() {
     constexpr auto width = &Frame::width;
     constexpr auto height = &Frame::height;
     static const automation::MemberTable table{
-        method<&This::flip>(u"Flip"),
-        method<&This::moveBy<left>>(u"IncrementLeft"),
-        method<&This::incrementRotation>(u"IncrementRotation"),
-        method<&This::moveBy<top>>(u"IncrementTop"),
-        method<&This::scale<height>>(u"ScaleHeight"),
-        method<&This::scale<width>>(u"ScaleWidth"),
+        method<&This::flip>(u"Flip", u"FlipCmd"),
+        method<&This::moveBy<left>>(u"IncrementLeft", u"Increment"),
+        method<&This::incrementRotation>(u"IncrementRotation", u"Increment"),
+        method<&This::moveBy<top>>(u"IncrementTop", u"Increment"),
+        method<&This::scale<height>>(u"ScaleHeight", u"Factor RelativeToOriginalSize fScale"),
+        method<&This::scale<width>>(u"ScaleWidth", u"Factor RelativeToOriginalSize fScale"),
         property<&This::length<height>, &This::resizeTo<height>>(u"Height"),
         property<&This::horizontalFlip>(u"HorizontalFlip"),
         property<&This::length<left>, &This::moveTo<left>>(u"Left"),

@@ -14,12 +14,13 @@ const automation::MemberTable& ShapeRangeObject::members() const {
     using automation::property;
     using This = ShapeRangeObject;
     static const automation::MemberTable table = sharedMembers().with({
-        method<&This::item>(u"Item").asDefault(),
+        method<&This::item>(u"Item", u"Index").asDefault(),
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         method<&This::group>(u"Group"),
         method<&This::regroup>(u"Regroup"),
-        method<&This::align>(u"Align"),
-        method<&This::distribute>(u"Distribute"),
+        method<&This::align>(u"Align", u"AlignCmd RelativeTo"),
+        method<&This::distribute>(u"Distribute", u"DistributeCmd RelativeTo"),
     });
     return table;
 }

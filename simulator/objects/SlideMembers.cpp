@@ -29,8 +29,8 @@ const automation::MemberTable& SlideMembers::sharedMembers() {
         property<&This::tags>(u"Tags"),
         property<&This::slideIndex>(u"SlideIndex"),
         property<&This::slideIndex>(u"SlideNumber"),
-        method<&This::moveTo>(u"MoveTo"),
-        method<&This::exportTo>(u"Export"),
+        method<&This::moveTo>(u"MoveTo", u"ToPos"),
+        method<&This::exportTo>(u"Export", u"FileName FilterName ScaleWidth ScaleHeight"),
     };
     return table;
 }

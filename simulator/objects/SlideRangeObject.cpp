@@ -9,8 +9,9 @@ const automation::MemberTable& SlideRangeObject::members() const {
     using automation::property;
     using This = SlideRangeObject;
     static const automation::MemberTable table = sharedMembers().with({
-        method<&This::item>(u"Item").asDefault(),
+        method<&This::item>(u"Item", u"Index").asDefault(),
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
     });
     return table;
 }

@@ -16,14 +16,15 @@ const automation::MemberTable& SlidesObject::members() const {
     using This = SlidesObject;
     static const automation::MemberTable table{
         property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::application>(u"Application"),
         property<&This::parent>(u"Parent"),
-        method<&This::item>(u"Item").asDefault(),
-        method<&This::findBySlideId>(u"FindBySlideID"),
-        method<&This::add>(u"Add"),
-        method<&This::insertFromFile>(u"InsertFromFile"),
-        method<&This::range>(u"Range"),
-        method<&This::paste>(u"Paste"),
+        method<&This::item>(u"Item", u"Index").asDefault(),
+        method<&This::findBySlideId>(u"FindBySlideID", u"SlideID"),
+        method<&This::add>(u"Add", u"Index Layout"),
+        method<&This::insertFromFile>(u"InsertFromFile", u"FileName Index SlideStart SlideEnd"),
+        method<&This::range>(u"Range", u"Index"),
+        method<&This::paste>(u"Paste", u"Index"),
     };
     return table;
 }

@@ -31,8 +31,13 @@ const automation::MemberTable& TagsObject::members() const {
     using automation::property;
     using This = TagsObject;
     static const automation::MemberTable table{
-        method<&This::item>(u"Item").asDefault(), property<&This::count>(u"Count"), method<&This::add>(u"Add"),
-        method<&This::remove>(u"Delete"),         method<&This::name>(u"Name"),     method<&This::value>(u"Value"),
+        method<&This::item>(u"Item", u"Name").asDefault(),
+        property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
+        method<&This::add>(u"Add", u"Name Value"),
+        method<&This::remove>(u"Delete", u"Name"),
+        method<&This::name>(u"Name", u"Index"),
+        method<&This::value>(u"Value", u"Index"),
     };
     return table;
 }

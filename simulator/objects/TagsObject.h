@@ -16,6 +16,8 @@ public:
     [[nodiscard]] bool isSame(const Object& other) const noexcept override;
 
     [[nodiscard]] std::int32_t count() const;
+    /// The values.
+    [[nodiscard]] std::shared_ptr<automation::Elements> elements() { return elementsBy(u"Value"); }
     /// Value of a tag; empty where there is none of this name.
     [[nodiscard]] std::u16string item(const std::u16string& name) const;
     /// Name and value of a tag by its place from 1.

@@ -52,6 +52,8 @@ const automation::MemberTable& TextRangeObject::members() const {
     using This = TextRangeObject;
     static const automation::MemberTable table{
         property<&This::count>(u"Count"),
+        method<&This::item>(u"_Index", u"Index"),
+        property<&This::elements>(automation::newEnum.text()),
         property<&This::parent>(u"Parent"),
         property<&This::start>(u"Start"),
         property<&This::length>(u"Length"),
@@ -59,16 +61,16 @@ const automation::MemberTable& TextRangeObject::members() const {
         property<&This::bound<&Frame::top>>(u"BoundTop"),
         property<&This::bound<&Frame::width>>(u"BoundWidth"),
         property<&This::bound<&Frame::height>>(u"BoundHeight"),
-        method<&This::units<TextUnit::Paragraph>>(u"Paragraphs"),
-        method<&This::units<TextUnit::Sentence>>(u"Sentences"),
-        method<&This::units<TextUnit::Word>>(u"Words"),
-        method<&This::units<TextUnit::Character>>(u"Characters"),
-        method<&This::units<TextUnit::Line>>(u"Lines"),
-        method<&This::units<TextUnit::Run>>(u"Runs"),
+        method<&This::units<TextUnit::Paragraph>>(u"Paragraphs", u"Start Length"),
+        method<&This::units<TextUnit::Sentence>>(u"Sentences", u"Start Length"),
+        method<&This::units<TextUnit::Word>>(u"Words", u"Start Length"),
+        method<&This::units<TextUnit::Character>>(u"Characters", u"Start Length"),
+        method<&This::units<TextUnit::Line>>(u"Lines", u"Start Length"),
+        method<&This::units<TextUnit::Run>>(u"Runs", u"Start Length"),
         method<&This::trimText>(u"TrimText"),
         property<&This::text, &This::setText>(u"Text").asDefault(),
-        method<&This::insertAfter>(u"InsertAfter"),
-        method<&This::insertBefore>(u"InsertBefore"),
+        method<&This::insertAfter>(u"InsertAfter", u"NewText"),
+        method<&This::insertBefore>(u"InsertBefore", u"NewText"),
         property<&This::font>(u"Font"),
         property<&This::paragraphFormat>(u"ParagraphFormat"),
         property<&This::indentLevel, &This::setIndentLevel>(u"IndentLevel"),
@@ -77,9 +79,9 @@ const automation::MemberTable& TextRangeObject::members() const {
         method<&This::copy>(u"Copy"),
         method<&This::remove>(u"Delete"),
         method<&This::paste>(u"Paste"),
-        method<&This::changeCase>(u"ChangeCase"),
-        method<&This::find>(u"Find"),
-        method<&This::replace>(u"Replace"),
+        method<&This::changeCase>(u"ChangeCase", u"Type"),
+        method<&This::find>(u"Find", u"FindWhat After MatchCase WholeWords"),
+        method<&This::replace>(u"Replace", u"FindWhat ReplaceWhat After MatchCase WholeWords"),
     };
     return table;
 }
@@ -104,6 +106,10 @@ std::int32_t TextRangeObject::count() const {
     return part_.read([this](const TextStory& story, Span span) {
         return static_cast<std::int32_t>(countUnits(story, span, unit_));
     });
+}
+
+TextRangeObject::Pointer TextRangeObject::item(std::int32_t index) const {
+    return unitsFrom(unit_, index, 1);
 }
 
 TextRangeObject::Pointer TextRangeObject::unitsFrom(TextUnit unit, std::int32_t start, std::int32_t length) const {

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] std::int32_t length() const;
     /// Number of the units that the range was asked as; 1 for a range asked as none.
     [[nodiscard]] std::int32_t count() const;
+    /// One of them, by its place from 1.
+    [[nodiscard]] Pointer item(std::int32_t index) const;
+    [[nodiscard]] std::shared_ptr<automation::Elements> elements() { return elementsBy(u"_Index"); }
 
     /// Units `start` (from 1) to `start + length - 1` of the range. Both left out (or -1): the whole range; one left
     /// out: from the first, or one unit. A start past the last unit gives an empty range at the end. Raises an

@@ -12,7 +12,7 @@ const automation::MemberTable& ThreeDFormatObject::members() const {
     using automation::property;
     using This = ThreeDFormatObject;
     static const automation::MemberTable table{
-        method<&This::setThreeDFormat>(u"SetThreeDFormat"),
+        method<&This::setThreeDFormat>(u"SetThreeDFormat", u"PresetThreeDFormat"),
         property<&This::get<&ThreeD::depth>, &This::setDepth>(u"Depth"),
         property<&This::get<&ThreeD::preset>>(u"PresetThreeDFormat"),
         property<&This::get<&ThreeD::visible>, &This::setVisible>(u"Visible"),

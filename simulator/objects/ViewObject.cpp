@@ -24,7 +24,7 @@ const automation::MemberTable& ViewObject::members() const {
         property<&This::zoom, &This::setZoom>(u"Zoom"),
         method<&This::paste>(u"Paste"),
         property<&This::slide, &This::setSlide>(u"Slide"),
-        method<&This::gotoSlide>(u"GotoSlide"),
+        method<&This::gotoSlide>(u"GotoSlide", u"Index"),
     };
     return table;
 }

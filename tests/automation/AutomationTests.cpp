@@ -38,7 +38,7 @@ public:
             method<&Sample::item>(u"Item").asDefault(),
             property<&Sample::child>(u"Child"),
             method<&Sample::swap>(u"Swap"),
-            method<&Sample::add>(u"Add"),
+            method<&Sample::add>(u"Add", u"Left Right"),
         };
         return table;
     }
@@ -108,6 +108,25 @@ TEST(MemberTable, ReachesMembersByNameWhateverTheirCase) {
     EXPECT_EQ(sample.call(u"add", 1, Missing()).to<std::int32_t>(), 11);
     EXPECT_EQ(sample.call(defaultMember, 3).to<std::u16string>(), u"item 3");
     EXPECT_EQ(sample.get(u"Child", 4).to<std::u16string>(), u"item 4") << "arguments go to the default member";
+}
+
+TEST(MemberTable, TakesArgumentsByName) {
+    std::vector<std::u16string> calls;
+    const auto trace = std::make_shared<CallTrace>(
+        [&](const TracedCall& call) { calls.push_back(call.call + u" -> " + call.outcome.substr(0, 9)); });
+    const ObjectPtr sample = observed(std::make_shared<Sample>(), trace);
+    const auto add = [&](std::vector<Value> arguments, std::vector<std::u16string_view> names) {
+        errorNumber([&] { sample->invoke(Name(u"Add", {}, names), Access::Call, arguments); });
+    };
+    add({2, 1}, {u"RIGHT", u"Left"});
+    add({1, 2}, {u"right"});
+    add({1}, {u"Left"});
+    add({1}, {u"Right"});
+    add({1, 2}, {u"Left"});
+    add({1}, {u"Middle"});
+    EXPECT_EQ(calls, (std::vector<std::u16string>{u"Add(RIGHT:=2, Left:=1) -> 3", u"Add(1, right:=2) -> 3",
+                                                  u"Add(Left:=1) -> 11", u"Add(Right:=1) -> error 449",
+                                                  u"Add(1, Left:=2) -> error 448", u"Add(Middle:=1) -> error 448"}));
 }
 
 TEST(MemberTable, RefusesWhatIsNotPublished) {

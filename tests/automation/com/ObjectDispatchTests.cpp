@@ -66,6 +66,12 @@ protected:
         EXPECT_EQ(call(name, std::forward<Arguments>(arguments)...), S_OK);
         return VariantReader().read(result_);
     }
+    static std::vector<Variant> two(Variant first, Variant second) {
+        std::vector<Variant> list;
+        list.push_back(std::move(first));
+        list.push_back(std::move(second));
+        return list;
+    }
     static std::vector<Variant> one(const Value& value) {
         std::vector<Variant> list;
         list.push_back(variantOf(value));
@@ -97,9 +103,14 @@ TEST_F(ObjectDispatchTest, NumbersItsMembers) {
     std::wstring texts[] = {L"Add", L"left"};
     LPOLESTR names[] = {texts[0].data(), texts[1].data()};
     DISPID ids[] = {0, 0};
+    EXPECT_EQ(dispatch_->GetIDsOfNames(IID_NULL, names, 2, 0, ids), S_OK);
+    EXPECT_EQ(ids[0], 6);
+    EXPECT_EQ(ids[1], 0);
+    texts[1] = L"lift";
     EXPECT_EQ(dispatch_->GetIDsOfNames(IID_NULL, names, 2, 0, ids), DISP_E_UNKNOWNNAME);
     EXPECT_EQ(ids[0], 6);
     EXPECT_EQ(ids[1], DISPID_UNKNOWN);
+    EXPECT_EQ(idOf(L"_newenum"), DISPID_NEWENUM);
     EXPECT_EQ(dispatch_->GetIDsOfNames(IID_NULL, nullptr, 1, 0, ids), E_INVALIDARG);
     EXPECT_EQ(dispatch_->GetIDsOfNames(IID_IDispatch, names, 1, 0, ids), DISP_E_UNKNOWNINTERFACE);
 }
@@ -111,6 +122,10 @@ TEST_F(ObjectDispatchTest, ReachesEveryKindOfMember) {
     EXPECT_EQ(resultOf(L"Item", v(3)), Value(u"Élément 3"));
     EXPECT_EQ(resultOf(L"Add", v(1), v(Missing())), Value(101));
     EXPECT_EQ(resultOf(L"Add", v(1), v(2)), Value(3));
+    EXPECT_EQ(invoke(6, both, two(v(3), v(1)), {0, 1}), S_OK) << "named arguments come the last one first";
+    EXPECT_EQ(VariantReader().read(result_), Value(4));
+    EXPECT_EQ(invoke(6, both, one(1), {0}), S_OK);
+    EXPECT_EQ(VariantReader().read(result_), Value(101));
     EXPECT_EQ(resultOf(L"Child", v(2)), Value(u"Élément 2")) << "arguments go to the default member of what it answers";
 }
 
@@ -123,15 +138,18 @@ TEST_F(ObjectDispatchTest, RefusesCleanly) {
         HRESULT expected;
     } cases[] = {
         {99, both, 0, {}, DISP_E_MEMBERNOTFOUND},
-        {DISPID_NEWENUM, both, 0, {}, DISP_E_MEMBERNOTFOUND},
         {1, DISPATCH_METHOD, 0, {}, DISP_E_MEMBERNOTFOUND},
         {6, DISPATCH_PROPERTYGET, 0, {}, DISP_E_MEMBERNOTFOUND},
         {3, DISPATCH_PROPERTYPUT, 1, {DISPID_PROPERTYPUT}, DISP_E_MEMBERNOTFOUND},
         {1, 0, 0, {}, DISP_E_MEMBERNOTFOUND},
         {1, DISPATCH_PROPERTYPUT, 0, {}, DISP_E_BADPARAMCOUNT},
         {6, both, 1000, {}, DISP_E_BADPARAMCOUNT},
-        {6, both, 1, {0}, DISP_E_NONAMEDARGS},
+        {5, both, 1, {0}, DISP_E_NONAMEDARGS},
         {1, DISPATCH_PROPERTYPUT, 1, {1}, DISP_E_NONAMEDARGS},
+        {6, both, 1, {2}, DISP_E_PARAMNOTFOUND},
+        {6, both, 1, {-1}, DISP_E_PARAMNOTFOUND},
+        {6, both, 2, {0}, DISP_E_PARAMNOTFOUND},
+        {6, both, 0, {0}, E_INVALIDARG},
     };
     for (const auto& [id, flags, arguments, named, expected] : cases) {
         EXPECT_EQ(invoke(id, flags, std::vector<Variant>(static_cast<std::size_t>(arguments)), named), expected)

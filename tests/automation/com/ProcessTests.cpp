@@ -1,3 +1,4 @@
+#include "automation/Elements.h"
 #include "automation/LateBound.h"
 #include "automation/WithoutRetry.h"
 #include "automation/com/Objects.h"
@@ -39,6 +40,11 @@ TEST_F(ProcessTest, PassesValuesErrorsAndObjects) {
     remote_.put(u"Number", 9);
     EXPECT_EQ(remote_.get(u"Number"), Value(9));
     EXPECT_EQ(remote_.call(u"Add", 1, Missing()), Value(101));
+    const std::u16string_view names[] = {u"Right", u"Left"};
+    std::vector<Value> named{3, 1};
+    EXPECT_EQ(remote_.object()->invoke(Name(u"Add", {}, names), Access::Call, named), Value(4));
+    EXPECT_EQ(remote_.object()->invoke(Name(u"Add", {}, std::span(names, 1)), Access::Call, named), Value(4));
+    EXPECT_EQ(errorNumber([&] { remote_.object()->invoke(Name(u"Echo", {}, names), Access::Call, named); }), 448);
     EXPECT_EQ(remote_.call(defaultMember, 2), Value(u"Élément 2"));
     const Array values{1.5F, u"é", true, nullptr};
     EXPECT_EQ(remote_.call(u"Echo", values), Value(values));
@@ -54,6 +60,12 @@ TEST_F(ProcessTest, PassesValuesErrorsAndObjects) {
     EXPECT_EQ(error->helpFile(), Sample::helpFile);
     EXPECT_EQ(error->helpContext(), Sample::helpContext);
     EXPECT_EQ(errorNumber([&] { remote_.get(u"Absent"); }), 438);
+
+    const LateBound elements(remote_.get(newEnum).to<ObjectPtr>());
+    for (std::int32_t left = 9; left > 0; --left) {
+        EXPECT_EQ(elements.call(u"Next"), Value(left));
+    }
+    EXPECT_EQ(elements.call(u"Next"), Value(Missing()));
 
     const ObjectPtr child = remote_.get(u"Child").to<ObjectPtr>();
     EXPECT_TRUE(isSame(child, remote_.get(u"Child").to<ObjectPtr>()));

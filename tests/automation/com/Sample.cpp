@@ -1,5 +1,6 @@
 #include "tests/automation/com/Sample.h"
 
+#include "automation/Elements.h"
 #include "automation/Text.h"
 #include "tests/automation/com/TestServer.h"
 
@@ -19,12 +20,13 @@ const MemberTable& Sample::members() const {
         property<&Sample::Child>(u"Child"),
         method<&Sample::Item>(u"Item").asDefault(),
         method<&Sample::Echo>(u"Echo"),
-        method<&Sample::Add>(u"Add"),
+        method<&Sample::Add>(u"Add", u"Left Right"),
         method<&Sample::Change>(u"Change"),
         method<&Sample::Fail>(u"Fail"),
         method<&Sample::FailStrangely>(u"FailStrangely"),
         method<&Sample::Die>(u"Die"),
         method<&Sample::BeBusy>(u"BeBusy"),
+        property<&Sample::Elements>(automation::newEnum.text()),
     };
     return table;
 }
@@ -38,6 +40,20 @@ ObjectPtr Sample::Child() {
 
 std::u16string Sample::Item(std::int32_t index) const {
     return u"Élément " + automation::decimal(index);
+}
+
+ObjectPtr Sample::Elements() const {
+    class Items final : public automation::Elements {
+    public:
+        explicit Items(std::int32_t count) noexcept : left_(count) {}
+        automation::Value next() override {
+            return left_ == 0 ? automation::Value(automation::Missing()) : automation::Value(left_--);
+        }
+
+    private:
+        std::int32_t left_;
+    };
+    return std::make_shared<Items>(number_);
 }
 
 std::int32_t Sample::Add(std::int32_t left, std::optional<std::int32_t> right) const {

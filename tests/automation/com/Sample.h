@@ -17,6 +17,8 @@ public:
     void PutTarget(automation::ObjectPtr target) { target_ = std::move(target); }
     [[nodiscard]] automation::ObjectPtr Child();
     [[nodiscard]] std::u16string Item(std::int32_t index) const;
+    /// The numbers from `Number` down to 1.
+    [[nodiscard]] automation::ObjectPtr Elements() const;
     [[nodiscard]] automation::Value Echo(automation::Value value) const { return value; }
     [[nodiscard]] std::int32_t Add(std::int32_t left, std::optional<std::int32_t> right) const;
     void Change(automation::Value& variable, automation::Value value) const { variable = std::move(value); }
