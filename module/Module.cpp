@@ -37,11 +37,16 @@ void Module::InitQuestion(std::int32_t questionNumber, const std::u16string& fol
     const Entry entry(u"InitQuestion");
     settings_.createKey();
     forgetClosedPowerPoint(application, window);
-    obtainPowerPoint(application, window);
-    if (!question_) {
-        ignoringErrors([&] { restoreLeftovers(); });
+    try {
+        obtainPowerPoint(application, window);
+        if (!question_) {
+            ignoringErrors([&] { restoreLeftovers(); });
+        }
+        settings_.SauveParamUser(session_.application());
+    } catch (const automation::Error& error) {
+        session_.closeWhatRefuses(error);
+        throw;
     }
-    settings_.SauveParamUser(session_.application());
     session_.FermeDialogues(session_.window());
     if (question_) {
         FermeQuestion();

@@ -126,6 +126,17 @@ void Session::FermeDialogues(WindowHandle handle) {
     }
 }
 
+void Session::closeWhatRefuses(const automation::Error& error) {
+    const bool isRefused =
+        error.number() == automation::remote::callRejected || error.number() == automation::remote::retryLater;
+    if (isRefused) {
+        ignoringErrors([&] {
+            const WindowHandle window = window_ != 0 ? window_ : services_.windows.findWindow(mainWindowClass);
+            FermeDialogues(window);
+        });
+    }
+}
+
 void Session::InitCommandBar() {
     // Every step reaches its bar afresh, and what it refuses does not stop the next.
     const auto on = [this](std::u16string_view name, const auto& step) {

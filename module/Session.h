@@ -42,6 +42,10 @@ public:
     /// Closes the first modal dialog that belongs to a window, and first those that belong to the dialog.
     void FermeDialogues(platform::WindowHandle handle);
 
+    /// After a call that PowerPoint has refused as busy: closes a dialog that would make it refuse the next one, too,
+    /// so that the host need only try again.
+    void closeWhatRefuses(const automation::Error& error);
+
     /// Shows the command bars "standard", "formatting" and "Drawing" in their places and gives "Task Pane" the
     /// visibility kept. What a bar refuses is passed over.
     void InitCommandBar();

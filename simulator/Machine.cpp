@@ -159,6 +159,21 @@ std::size_t Machine::dialogs() const {
     return count;
 }
 
+void Machine::closeDialog() {
+    parts_->onMainWindow([](MainWindow& window) { window.closeDialog(); });
+}
+
+void Machine::answerSaving(std::u16string_view answer) {
+    parts_->settings.savePrompt.answer = SavePrompt::answerOf(answer);
+    if (!parts_->settings.savePrompt.answer) {
+        automation::raise(automation::RunTimeError::InvalidProcedureCall);
+    }
+}
+
+const std::vector<std::u16string>& Machine::droppedUnasked() const noexcept {
+    return parts_->settings.savePrompt.unanswered;
+}
+
 void Machine::uninstallPowerPoint() {
     parts_->process.uninstall();
 }

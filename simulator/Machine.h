@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace simulator {
 
@@ -52,6 +53,13 @@ public:
     /// Opens a modal dialog above PowerPoint's main window, or above the dialog opened last.
     void openDialog(std::u16string_view title);
     [[nodiscard]] std::size_t dialogs() const;
+    /// The user closes the dialog opened last.
+    void closeDialog();
+    /// Says how the user answers where PowerPoint asks what is to be saved: "save", "discard" or "cancel". Raises
+    /// InvalidProcedureCall (5) for anything else.
+    void answerSaving(std::u16string_view answer);
+    /// The presentations whose changes were dropped since nobody had said how the user answers.
+    [[nodiscard]] const std::vector<std::u16string>& droppedUnasked() const noexcept;
     /// Makes starting PowerPoint fail from now on, as where it is not installed.
     void uninstallPowerPoint();
 

@@ -15,6 +15,8 @@ const automation::MemberTable& PowerPointMoves::members() const {
         method<&PowerPointMoves::stopAnswering>(u"StopAnswering"),
         method<&PowerPointMoves::answerAgain>(u"AnswerAgain"),
         method<&PowerPointMoves::openDialog>(u"OpenDialog"),
+        method<&PowerPointMoves::closeDialog>(u"CloseDialog"),
+        method<&PowerPointMoves::answerSaving>(u"AnswerSaving"),
         method<&PowerPointMoves::uninstall>(u"Uninstall"),
         property<&PowerPointMoves::isRunning>(u"IsRunning"),
         property<&PowerPointMoves::dialogs>(u"Dialogs"),

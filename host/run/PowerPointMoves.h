@@ -16,6 +16,8 @@ namespace host {
 ///     PowerPoint.StopAnswering           it refuses calls from now on
 ///     PowerPoint.AnswerAgain
 ///     PowerPoint.OpenDialog "Police"     a dialog opens above its window, or above the dialog opened last
+///     PowerPoint.CloseDialog             its user closes the dialog opened last
+///     PowerPoint.AnswerSaving "save"     how its user answers where it asks what is to be saved: "discard", "cancel"
 ///     PowerPoint.Uninstall               it cannot be started any more
 ///     expect PowerPoint.IsRunning = True
 ///     expect PowerPoint.Dialogs = 0      number of dialogs open
@@ -34,6 +36,8 @@ public:
     void stopAnswering() { powerPoint_.setBusy(true); }
     void answerAgain() { powerPoint_.setBusy(false); }
     void openDialog(const std::u16string& title) { powerPoint_.openDialog(title); }
+    void closeDialog() { powerPoint_.closeDialog(); }
+    void answerSaving(const std::u16string& answer) { powerPoint_.answerSaving(answer); }
     void uninstall() { powerPoint_.uninstall(); }
     [[nodiscard]] bool isRunning() { return powerPoint_.application() != nullptr; }
     [[nodiscard]] std::int32_t dialogs() { return static_cast<std::int32_t>(powerPoint_.dialogs()); }

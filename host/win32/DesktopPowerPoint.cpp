@@ -141,6 +141,14 @@ void DesktopPowerPoint::openDialog(std::u16string_view title) {
     standIn().call(u"OpenDialog", std::u16string(title));
 }
 
+void DesktopPowerPoint::closeDialog() {
+    standIn().call(u"CloseDialog");
+}
+
+void DesktopPowerPoint::answerSaving(std::u16string_view answer) {
+    standIn().call(u"AnswerSaving", std::u16string(answer));
+}
+
 void DesktopPowerPoint::uninstall() {
     if (!standin::isRegistered()) {
         refuse(u"only the stand-in is uninstalled for a scenario");

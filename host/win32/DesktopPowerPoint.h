@@ -26,6 +26,8 @@ public:
     void openDialog(std::u16string_view title) override;
     [[nodiscard]] std::size_t dialogs() override;
     /// Until the journal gives everything back.
+    void closeDialog() override;
+    void answerSaving(std::u16string_view answer) override;
     void uninstall() override;
     /// Has it go without waiting for its process; kills it where it does not listen.
     void dismiss();

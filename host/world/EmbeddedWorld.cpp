@@ -36,6 +36,8 @@ public:
     void setBusy(bool busy) override { machine_.setBusy(busy); }
     void openDialog(std::u16string_view title) override { machine_.openDialog(title); }
     std::size_t dialogs() override { return machine_.dialogs(); }
+    void closeDialog() override { machine_.closeDialog(); }
+    void answerSaving(std::u16string_view answer) override { machine_.answerSaving(answer); }
     void uninstall() override { machine_.uninstallPowerPoint(); }
 
 private:
@@ -101,8 +103,15 @@ public:
     const simulator::Machine& machine() const noexcept override { return machine_; }
 
     std::vector<std::string> leftOpen() override {
-        const std::size_t keys = machine_.openRegistryKeys();
-        return keys == 0 ? std::vector<std::string>() : std::vector{std::to_string(keys) + " registry keys not closed"};
+        std::vector<std::string> left;
+        if (const std::size_t keys = machine_.openRegistryKeys(); keys != 0) {
+            left.push_back(std::to_string(keys) + " registry keys not closed");
+        }
+        for (const std::u16string& name : machine_.droppedUnasked()) {
+            left.push_back("PowerPoint asks whether " + automation::toUtf8(name) +
+                           " is to be saved: say before what is answered (PowerPoint.AnswerSaving \"discard\")");
+        }
+        return left;
     }
 
 private:

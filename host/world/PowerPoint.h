@@ -29,6 +29,10 @@ public:
     /// Opens a modal dialog above its main window, or above the dialog opened last.
     virtual void openDialog(std::u16string_view title) = 0;
     [[nodiscard]] virtual std::size_t dialogs() = 0;
+    /// Its user closes the dialog opened last.
+    virtual void closeDialog() = 0;
+    /// How its user answers where it asks what is to be saved: "save", "discard" or "cancel".
+    virtual void answerSaving(std::u16string_view answer) = 0;
     virtual void uninstall() = 0;
 };
 

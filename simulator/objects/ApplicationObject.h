@@ -44,8 +44,8 @@ public:
     [[nodiscard]] MsoTriState showStartupDialog() const;
     void setShowStartupDialog(MsoTriState shown) const;
 
-    /// Ends PowerPoint; what was not saved is lost.
-    void quit() const { session()->end(); }
+    /// Ends PowerPoint, as Session::quit does.
+    void quit() const { session()->quit(); }
 };
 
 } // namespace simulator

@@ -29,6 +29,10 @@ Session::Session(MainWindow& window, PresentationStore& store, Settings& setting
 void Session::admit() const {
     switch (state_) {
     case State::Running:
+        if (window_.dialogs() != 0) {
+            throw automation::Error(automation::remote::retryLater, {},
+                                    u"L'application est occupée : une boîte de dialogue est ouverte.");
+        }
         if (onCall_) {
             onCall_();
         }
@@ -44,6 +48,24 @@ void Session::setBusy(bool busy) noexcept {
     if (state_ != State::Gone) {
         state_ = busy ? State::Busy : State::Running;
     }
+}
+
+void Session::quit() {
+    SavePrompt& prompt = settings_.savePrompt;
+    const std::vector<PresentationPtr> open = presentations_;
+    for (const PresentationPtr& presentation : open) {
+        if (presentation->saved) {
+            continue;
+        }
+        if (!prompt.answer) {
+            prompt.unanswered.push_back(presentation->name);
+        } else if (*prompt.answer == SavePrompt::Answer::Cancel) {
+            return;
+        } else if (*prompt.answer == SavePrompt::Answer::Save) {
+            save(presentation);
+        }
+    }
+    end();
 }
 
 void Session::end() {

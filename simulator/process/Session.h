@@ -3,6 +3,7 @@
 #include "simulator/process/CommandBarSet.h"
 #include "simulator/process/DocumentWindow.h"
 #include "simulator/process/MainWindow.h"
+#include "simulator/process/SavePrompt.h"
 
 #include <functional>
 
@@ -26,6 +27,7 @@ public:
 struct Settings {
     CommandBarSet commandBars;
     bool showStartupDialog = true;
+    SavePrompt savePrompt;
     /// Where a file lies that is named without a folder.
     std::u16string documentsFolder = u"C:\\Documents and Settings\\Eleve\\Mes documents";
 };
@@ -47,11 +49,14 @@ public:
     /// The window, the store and the settings must outlive the session.
     Session(MainWindow& window, PresentationStore& store, Settings& settings);
 
-    /// To be called before every automation call: raises CallRejected while PowerPoint is busy, ServerUnavailable once
-    /// it has ended.
+    /// To be called before every automation call: raises CallRejected while PowerPoint is busy, RetryLater while a
+    /// dialog waits for its user, ServerUnavailable once it has ended.
     void admit() const;
     [[nodiscard]] State state() const noexcept { return state_; }
     void setBusy(bool busy) noexcept;
+    /// Asks what becomes of each presentation that has changed since it was saved, and ends the run; stays where the
+    /// user cancels.
+    void quit();
     /// Ends the run: documents are dropped unsaved, the window and its dialogs closed. Harmless when it has ended.
     void end();
     /// Called for every automation call that is let in.

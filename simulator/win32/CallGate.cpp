@@ -15,6 +15,10 @@ DWORD CallGate::HandleInComingCall(DWORD /*type*/, HTASK /*task*/, DWORD /*tick*
     if (!isAutomation || identityOf(call->pUnk).get() == always_) {
         return SERVERCALL_ISHANDLED;
     }
+    if (isModal_()) {
+        ++refused_;
+        return SERVERCALL_RETRYLATER;
+    }
     if (!isBusy()) {
         lookUps_ += call->wMethod == getIdsOfNames ? 1 : 0;
         return SERVERCALL_ISHANDLED;

@@ -2,6 +2,7 @@
 
 #include "automation/com/ComObject.h"
 
+#include <functional>
 #include <limits>
 
 namespace simulator::standin {
@@ -12,8 +13,9 @@ class CallGate final : public automation::com::ComObject<IMessageFilter> {
 public:
     static constexpr std::int32_t withoutEnd = std::numeric_limits<std::int32_t>::max();
 
-    /// `always` is the object whose calls are never refused; it must outlive this object.
-    explicit CallGate(IUnknown* always) noexcept : always_(always) {}
+    /// `always` is the object whose calls are never refused; it must outlive this object. `isModal` says whether a
+    /// dialog waits for its user, who is asked first.
+    CallGate(IUnknown* always, std::function<bool()> isModal) : always_(always), isModal_(std::move(isModal)) {}
 
     /// Refuses so many calls from now on.
     void refuse(std::int32_t calls) noexcept { refusals_ = calls; }
@@ -32,6 +34,7 @@ public:
 
 private:
     IUnknown* always_;
+    std::function<bool()> isModal_;
     std::int32_t refusals_ = 0;
     std::int32_t refused_ = 0;
     std::int32_t lookUps_ = 0;

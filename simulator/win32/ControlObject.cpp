@@ -36,6 +36,18 @@ std::int32_t ControlObject::dialogs() const {
     return static_cast<std::int32_t>(window_.dialogs());
 }
 
+void ControlObject::closeDialog() const {
+    requireRunning();
+    window_.closeDialog();
+}
+
+void ControlObject::answerSaving(const std::u16string& answer) const {
+    prompt_.answer = SavePrompt::answerOf(answer);
+    if (!prompt_.answer) {
+        automation::raise(automation::RunTimeError::InvalidProcedureCall);
+    }
+}
+
 std::int32_t ControlObject::slowness() const {
     requireRunning();
     return troubles_.slowness();
@@ -93,7 +105,8 @@ const automation::MemberTable& ControlObject::members() const {
         property<&This::escapes>(u"Escapes"),           property<&This::bits>(u"Bits"),
         property<&This::lookUps>(u"LookUps"),           method<&This::refuseAtCall>(u"RefuseAtCall"),
         method<&This::delayCall>(u"DelayCall"),         property<&This::refused>(u"Refused"),
-        property<&This::delayed>(u"Delayed"),
+        property<&This::delayed>(u"Delayed"),           method<&This::closeDialog>(u"CloseDialog"),
+        method<&This::answerSaving>(u"AnswerSaving"),
     };
     return table;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/MemberTable.h"
+#include "simulator/process/SavePrompt.h"
 #include "simulator/win32/CallGate.h"
 #include "simulator/win32/FrameWindow.h"
 #include "simulator/win32/Troubles.h"
@@ -11,8 +12,9 @@ namespace simulator::standin {
 /// `controlClass`, and answers when PowerPoint is busy, too.
 class ControlObject final : public automation::Published {
 public:
-    /// Both must outlive the calls of this object.
-    ControlObject(FrameWindow& window, Troubles& troubles) noexcept : window_(window), troubles_(troubles) {}
+    /// All must outlive the calls of this object.
+    ControlObject(FrameWindow& window, SavePrompt& prompt, Troubles& troubles) noexcept
+        : window_(window), prompt_(prompt), troubles_(troubles) {}
 
     /// The gate through which calls come; none until it is given.
     void setGate(automation::com::ComPtr<CallGate> gate) noexcept { gate_ = std::move(gate); }
@@ -33,6 +35,9 @@ public:
     [[nodiscard]] std::int32_t delayed() const;
     void openDialog(const std::u16string& title) const;
     [[nodiscard]] std::int32_t dialogs() const;
+    void closeDialog() const;
+    /// As Machine::answerSaving.
+    void answerSaving(const std::u16string& answer) const;
     [[nodiscard]] std::int32_t slowness() const;
     void setSlowness(std::int32_t milliseconds) const;
     /// The n-th call from now takes so many milliseconds more.
@@ -50,6 +55,7 @@ private:
     void requireRunning() const;
 
     FrameWindow& window_;
+    SavePrompt& prompt_;
     Troubles& troubles_;
     automation::com::ComPtr<CallGate> gate_;
     bool isOver_ = false;

@@ -35,9 +35,10 @@ std::u16string documentsFolder() {
 PowerPointRun::PowerPointRun(const Options& options, std::function<void()> onEnd)
     : store_(onDisk), window_([this] { session_->end(); }),
       session_(std::make_shared<Session>(window_, store_, settings_)),
-      control_(std::make_shared<ControlObject>(window_, troubles_)), controlDispatch_(dispatchOf(control_)),
-      application_(dispatchOf(std::make_shared<ApplicationObject>(session_))),
-      gate_(automation::com::makeCom<CallGate>(identityOf(controlDispatch_.get()).get())) {
+      control_(std::make_shared<ControlObject>(window_, settings_.savePrompt, troubles_)),
+      controlDispatch_(dispatchOf(control_)), application_(dispatchOf(std::make_shared<ApplicationObject>(session_))),
+      gate_(automation::com::makeCom<CallGate>(identityOf(controlDispatch_.get()).get(),
+                                               [this] { return window_.dialogs() != 0; })) {
     settings_.documentsFolder = documentsFolder();
     troubles_.setSlowness(options.slowness);
     troubles_.dieAtCall(options.deadlyCall);

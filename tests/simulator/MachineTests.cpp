@@ -65,7 +65,11 @@ TEST_F(MachineTest, RefusesCallsWhileBusyAndOnceEnded) {
         void (*end)(MachineTest&);
     };
     for (const auto& [name, end] : std::initializer_list<Ending>{
-             {"Quit", [](MachineTest& test) { say(test.powerPoint(), u"Quit"); }},
+             {"Quit",
+              [](MachineTest& test) {
+                  test.machine.closeDialog();
+                  say(test.powerPoint(), u"Quit");
+              }},
              {"the user", [](MachineTest& test) { test.machine.endPowerPoint(); }},
              {"WM_CLOSE",
               [](MachineTest& test) {
@@ -87,6 +91,7 @@ TEST_F(MachineTest, RefusesCallsWhileBusyAndOnceEnded) {
         EXPECT_EQ(services.windows.title(machine.mainWindow()), u"Microsoft PowerPoint - [Présentation1]");
 
         machine.openDialog(u"Ouvrir");
+        expectBoth(remote::retryLater);
         end(*this);
         EXPECT_FALSE(machine.isPowerPointRunning());
         expectBoth(remote::serverUnavailable);

@@ -44,6 +44,9 @@ std::u16string_view Examiner::general(const Scene& scene) {
     if (!scene.isPowerPointThere()) {
         return u"AK";
     }
+    if (scene.hasDialog()) {
+        return u"%AL";
+    }
     if (scene.presentations().empty()) {
         return u"A";
     }

@@ -49,6 +49,9 @@ Record Learner::work() const {
             return record;
         }
         if (draw_.percent(60) && checks != 1) {
+            while (trial.scene().hasDialog()) {
+                perform(u"PowerPoint.CloseDialog", trial, record.moves);
+            }
             perform(u"Host.InitQuestion", trial, record.moves);
         }
     }

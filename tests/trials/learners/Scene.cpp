@@ -11,6 +11,7 @@ Scene::Scene(EmbeddedWorld& world) : folder_(world.hostFolder()), files_(world.f
         return;
     }
     isThere_ = session->window().isVisible();
+    hasDialog_ = session->window().dialogs() != 0;
     presentations_ = session->presentations();
     window_ = session->activeWindow();
     active_ = window_ ? window_->presentation.lock() : nullptr;

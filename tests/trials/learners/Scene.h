@@ -14,6 +14,8 @@ public:
 
     /// False where PowerPoint has been closed or hidden.
     [[nodiscard]] bool isPowerPointThere() const noexcept { return isThere_; }
+    /// True while a dialog waits for the learner.
+    [[nodiscard]] bool hasDialog() const noexcept { return hasDialog_; }
     /// Open presentations, in the order in which they were opened.
     [[nodiscard]] const std::vector<simulator::PresentationPtr>& presentations() const noexcept {
         return presentations_;
@@ -29,6 +31,7 @@ public:
 
 private:
     bool isThere_ = false;
+    bool hasDialog_ = false;
     std::vector<simulator::PresentationPtr> presentations_;
     simulator::DocumentWindowPtr window_;
     simulator::PresentationPtr active_;

@@ -47,6 +47,7 @@ struct LearnerState {
 /// PowerPoint as the learner has left it: a presentation not saved yet, bars arranged by hand.
 void settleIn(World& world) {
     world.powerPoint().start();
+    world.powerPoint().answerSaving(u"discard");
     const LateBound application(world.powerPoint().application());
     const LateBound presentation(memberOf(application, u"Presentations").call(u"Add").to<ObjectPtr>());
     memberOf(presentation, u"Slides").call(u"Add", 1, 12);
