@@ -134,7 +134,7 @@ protected:
     /// A file with one scenario, named on the command line.
     [[nodiscard]] std::wstring scenario(const std::string& moves) const {
         std::ofstream(file_) << "question 305\ncourse\n  Presentations.Add\nscenario \"one\"\n  before InitQuestion\n"
-                             << moves;
+                             << moves << "  expect PowerPoint.IsRunning = True\n";
         return L"verify --powerpoint --file \"" + file_.wstring() + L"\"";
     }
 
