@@ -125,23 +125,21 @@ void Shape::turnTo(float degrees) {
 }
 
 void Shape::place(const Frame& frame) {
-    frame_ = frame;
     if (!items_.empty()) {
-        const Mapping mapping(boundsOf(items_), frame);
+        const Mapping mapping(frame_, frame);
         for (const ShapePtr& item : items_) {
             const bool lies = liesOnItsSide(item->rotation);
             const Frame moved = mapping.frame(lies ? onItsSide(item->frame_) : item->frame_);
             item->place(lies ? onItsSide(moved) : moved);
         }
-        frame_ = boundsOf(items_);
     }
     if (!nodes.empty()) {
         const Mapping mapping(boundsOf(nodes), frame);
         for (Node& node : nodes) {
             node = {mapping.x(node.x), mapping.y(node.y), node.curve};
         }
-        frame_ = boundsOf(nodes);
     }
+    frame_ = nodes.empty() ? frame : boundsOf(nodes);
 }
 
 void Shape::refitGroups() const {
@@ -162,13 +160,18 @@ void Shape::setNodes(std::vector<Node> corners) {
 }
 
 void Shape::adopt(const ShapePtr& group, std::vector<ShapePtr> items) {
+    const Frame frame = boundsOf(items);
+    adopt(group, std::move(items), frame);
+}
+
+void Shape::adopt(const ShapePtr& group, std::vector<ShapePtr> items, const Frame& frame) {
     for (const ShapePtr& item : items) {
         item->group_ = group;
         item->settle(group->slide);
         item->formerGroup = 0;
     }
     group->items_ = std::move(items);
-    group->frame_ = boundsOf(group->items_);
+    group->frame_ = frame;
     group->refitGroups();
 }
 

@@ -87,8 +87,9 @@ public:
 
     /// Items of a group, from back to front; empty for any other shape.
     [[nodiscard]] const std::vector<ShapePtr>& items() const noexcept { return items_; }
-    /// Gives a group its items and takes its frame from them.
+    /// Gives a group its items and takes its frame from them, or gives it the frame that it is known to have with them.
     static void adopt(const ShapePtr& group, std::vector<ShapePtr> items);
+    static void adopt(const ShapePtr& group, std::vector<ShapePtr> items, const Frame& frame);
     /// Takes the items out of a group.
     [[nodiscard]] std::vector<ShapePtr> release();
     /// Takes one item out of a group, whose frame shrinks to the others.

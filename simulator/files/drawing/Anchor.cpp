@@ -92,6 +92,12 @@ Edges coordinatesOf(const Record& shape) {
     return leftTopRightBottom(shape.demand(type::ArtShapeGroupAtom), "the coordinates of a group");
 }
 
+Edges edgesOf(const Frame& frame) noexcept {
+    const Place place = placeOf(frame, 0);
+    return {static_cast<double>(place.left), static_cast<double>(place.top), static_cast<double>(place.right),
+            static_cast<double>(place.bottom)};
+}
+
 Frame frameOf(const Edges& edges, float rotation) noexcept {
     const Place place{nearest(std::min(edges.left, edges.right)), nearest(std::min(edges.top, edges.bottom)),
                       nearest(std::max(edges.left, edges.right)), nearest(std::max(edges.top, edges.bottom))};

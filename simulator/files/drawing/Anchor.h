@@ -34,6 +34,7 @@ private:
 /// The coordinates of a group, from the record of the group as a shape.
 [[nodiscard]] Edges coordinatesOf(const records::Record& shape);
 
+[[nodiscard]] Edges edgesOf(const Frame& frame) noexcept;
 /// The frame of a shape that stands between edges: a shape turned on its side lies there turned back.
 [[nodiscard]] Frame frameOf(const Edges& edges, float rotation) noexcept;
 

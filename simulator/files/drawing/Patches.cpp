@@ -18,17 +18,16 @@ namespace type = records::type;
 
 constexpr std::array tables{type::ArtProperties, type::ArtSecondaryProperties, type::ArtTertiaryProperties};
 
-/// Properties that hold flags: only those that have changed are carried over.
-constexpr bool areFlags(std::uint16_t id) noexcept {
-    constexpr std::uint16_t lastOfSet = 0x3F;
-    return (id & lastOfSet) == lastOfSet;
+/// The flags of a property that have changed: only those are carried over.
+std::uint32_t changedFlags(const Property* before, const Property& now) noexcept {
+    return before == nullptr ? now.value >> 16U : (before->value ^ now.value) & 0xFFFFU;
 }
 
 Property combined(const Property& raw, const Property* before, const Property& now) {
-    if (!areFlags(now.id)) {
+    if (!property::areFlags(now.id)) {
         return now;
     }
-    const std::uint32_t changed = before == nullptr ? now.value >> 16U : (before->value ^ now.value) & 0xFFFFU;
+    const std::uint32_t changed = changedFlags(before, now);
     Property property = raw;
     property.value = (raw.value & ~changed) | (now.value & changed) | (changed << 16U);
     return property;
@@ -110,6 +109,13 @@ void patchProperties(Record& record, const PropertyTable& before, const Property
         const Property* const there = holder.find(property.id);
         const Property none{property.id, false, false, 0, {}};
         holder.put(combined(there == nullptr ? none : *there, was, property));
+        for (auto& [child, table] : raw) {
+            const Property* const also = &table == &holder ? nullptr : table.find(property.id);
+            if (also != nullptr && property::areFlags(property.id)) { // says nothing more of what has changed
+                const std::uint32_t changed = changedFlags(was, property);
+                table.set(property.id, also->value & ~(changed | changed << 16U));
+            }
+        }
     }
     for (const Property& property : before.all()) {
         if (now.find(property.id) == nullptr) {

@@ -69,6 +69,12 @@ enum : std::uint16_t {
     groupFlags = 0x03BF,
 };
 
+/// Properties that hold flags, each with a bit above it that makes it count.
+constexpr bool areFlags(std::uint16_t id) noexcept {
+    constexpr std::uint16_t lastOfSet = 0x3F;
+    return (id & lastOfSet) == lastOfSet;
+}
+
 } // namespace property
 
 /// Bits of the properties that are flags; each counts where the bit sixteen places above it is set.

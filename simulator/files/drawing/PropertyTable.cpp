@@ -85,7 +85,13 @@ void PropertyTable::merge(const PropertyTable& other) {
     std::map<std::uint16_t, Property> merged;
     for (const PropertyTable* const table : {static_cast<const PropertyTable*>(this), &other}) {
         for (const Property& property : table->properties_) {
-            merged[property.id] = property;
+            const auto [place, isNew] = merged.emplace(property.id, property);
+            if (!isNew && property::areFlags(property.id)) {
+                const std::uint32_t said = property.value & 0xFFFF0000U;
+                place->second.value = (place->second.value & ~(said >> 16U)) | said | (property.value & said >> 16U);
+            } else {
+                place->second = property;
+            }
         }
     }
     properties_.clear();

@@ -65,7 +65,8 @@ void adopt(const ShapePtr& group, std::vector<ShapePtr> items) {
     std::vector<std::int32_t> formerGroups;
     std::transform(items.begin(), items.end(), std::back_inserter(formerGroups),
                    [](const ShapePtr& item) { return item->formerGroup; });
-    Shape::adopt(group, std::move(items));
+    const Frame frame = group->frame(); // PowerPoint's own, which need not be exactly what the items cover
+    Shape::adopt(group, std::move(items), frame);
     for (std::size_t i = 0; i < formerGroups.size(); ++i) {
         group->items()[i]->formerGroup = formerGroups[i];
     }
@@ -108,9 +109,10 @@ ShapePtr ShapeReader::group(const Record& record, const Mapping& mapping, std::i
     shape->autoShapeType = msoShapeMixed;
     readIdentity(own, Looks({&properties}), *shape);
     const Edges inner = coordinatesOf(own);
-    const Edges outer = edgesOf(own, mapping).value_or(inner);
+    const Edges said = edgesOf(own, mapping).value_or(inner);
+    const Edges outer = liesOnItsSide(shape->rotation) ? edgesOf(frameOf(said, shape->rotation)) : said;
     std::vector<ShapePtr> items = members(record, Mapping(inner, outer), shape->id);
-    shape->setFrame(items.empty() ? frameOf(outer, 0) : boundsOf(items));
+    shape->setFrame(frameOf(outer, 0));
 
     const auto origin = std::make_shared<ShapeOrigin>();
     origin->document = context_.document;

@@ -11,6 +11,8 @@ namespace trials {
 [[nodiscard]] host::Action addMemory(CLI::App& command);
 [[nodiscard]] host::Action addLearners(CLI::App& command);
 [[nodiscard]] host::Action addCost(CLI::App& command);
+[[nodiscard]] host::Action addHistories(CLI::App& command);
+[[nodiscard]] host::Action addDecks(CLI::App& command);
 ///@}
 
 } // namespace trials

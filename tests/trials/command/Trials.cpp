@@ -29,6 +29,8 @@ constexpr std::array commands{
     Command{"memory", "Make every allocation fail, and see the same", addMemory, false},
     Command{"learners", "Let learners work at random, and judge them a second time", addLearners, false},
     Command{"cost", "Measure calls, time and memory", addCost, true},
+    Command{"histories", "Have presentations of random histories read by another program", addHistories, false},
+    Command{"decks", "Compare what PowerPoint sees in a folder's presentations with another program", addDecks, false},
 };
 
 constexpr host::Program trials{"trials", purpose, examples, commands};

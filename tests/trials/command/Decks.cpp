@@ -1,0 +1,98 @@
+#include "simulator/files/DamagedPresentation.h"
+#include "simulator/files/WholeFile.h"
+#include "simulator/files/powerpoint/DocumentReader.h"
+#include "simulator/files/powerpoint/DocumentWriter.h"
+#include "tests/trials/command/Commands.h"
+#include "tests/trials/histories/SecondReader.h"
+#include "tests/trials/histories/View.h"
+
+#include <algorithm>
+#include <ostream>
+
+namespace trials {
+
+namespace {
+
+using histories::SecondReader;
+using simulator::PresentationPtr;
+
+struct DecksRequest {
+    std::filesystem::path folder;
+    std::filesystem::path reader;
+};
+
+void rename(simulator::Shape& shape) {
+    shape.name += u"!";
+    for (const simulator::ShapePtr& item : shape.items()) {
+        rename(*item);
+    }
+}
+
+/// What is wrong with how a presentation is read and saved; empty where nothing is.
+std::string faultOf(const std::filesystem::path& deck, SecondReader& reader, const std::filesystem::path& scratch,
+                    bool& isOpened) {
+    const std::vector<std::string> theirs = reader.view(deck);
+    isOpened = theirs.empty() || !theirs.front().starts_with("refused");
+    PresentationPtr read;
+    try {
+        read = simulator::powerpoint::readPresentation(simulator::files::wholeFile(deck).value());
+    } catch (const simulator::DamagedPresentation& damage) {
+        return isOpened ? std::string("ours:   refused, ") + damage.what() + '\n' : std::string();
+    }
+    if (!isOpened) {
+        return {};
+    }
+    if (const std::string difference = histories::differenceOf(histories::viewOf(*read), theirs); !difference.empty()) {
+        return difference;
+    }
+    // As it is, and with every shape's record written anew.
+    for (const char* const how : {"saved", "renamed and saved"}) {
+        std::ofstream(scratch, std::ios::binary) << simulator::powerpoint::writePresentation(*read);
+        const std::string difference = histories::differenceOf(reader.view(scratch), theirs);
+        if (!difference.empty()) {
+            return std::string(how) + ", as the second reader sees it\n" + difference;
+        }
+        for (const simulator::SlidePtr& slide : read->slides()) {
+            for (const simulator::ShapePtr& shape : slide->shapes()) {
+                rename(*shape);
+            }
+        }
+    }
+    return {};
+}
+
+ExitCode compareDecks(const DecksRequest& request, const CommandContext& at) {
+    SecondReader reader(request.reader);
+    std::vector<std::filesystem::path> decks;
+    for (const auto& entry : std::filesystem::directory_iterator(request.folder)) {
+        if (entry.path().extension() == ".ppt") {
+            decks.push_back(entry.path());
+        }
+    }
+    std::sort(decks.begin(), decks.end());
+    std::size_t opened = 0;
+    std::size_t failed = 0;
+    for (const std::filesystem::path& deck : decks) {
+        bool isOpened = false;
+        const std::string fault = faultOf(deck, reader, request.reader / "saved.ppt", isOpened);
+        opened += isOpened ? 1U : 0U;
+        if (!fault.empty()) {
+            ++failed;
+            at.out << deck.filename().string() << '\n' << fault;
+        }
+    }
+    at.out << decks.size() << " presentations, " << opened << " of them open in the second reader\n"
+           << decks.size() - failed << " passed, " << failed << " failed\n";
+    return failed == 0 && opened != 0 ? ExitCode::Good : ExitCode::FellShort;
+}
+
+} // namespace
+
+Action addDecks(CLI::App& command) {
+    const auto request = std::make_shared<DecksRequest>();
+    command.add_option("folder", request->folder, "Folder of presentations")->required()->check(CLI::ExistingDirectory);
+    command.add_option("--reader", request->reader, "Folder of the second reader's pipes")->required();
+    return [request](const CommandContext& at) { return compareDecks(*request, at); };
+}
+
+} // namespace trials

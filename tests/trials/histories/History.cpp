@@ -1,0 +1,93 @@
+#include "tests/trials/histories/History.h"
+
+#include "automation/Text.h"
+#include "host/language/Parser.h"
+#include "simulator/Machine.h"
+#include "simulator/process/Session.h"
+#include "tests/trials/learners/Gestures.h"
+
+namespace trials::histories {
+
+namespace {
+
+Statements linesOf(std::u16string_view text) {
+    Statements lines;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find(u'\n', start), text.size());
+        lines.emplace_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    return lines;
+}
+
+} // namespace
+
+History::History() {
+    world_->powerPoint().start();
+}
+
+bool History::perform(const std::u16string& statement) {
+    try {
+        interpreter_.execute(language::parseStatement(statement));
+        return true;
+    } catch (const language::Failure&) {
+        return false;
+    }
+}
+
+simulator::PresentationPtr History::presentation() const {
+    const simulator::SessionPtr session = world_->machine().session();
+    const simulator::DocumentWindowPtr window = session ? session->activeWindow() : nullptr;
+    return window ? window->presentation.lock() : nullptr;
+}
+
+Statements History::anything(learners::Draw& draw) {
+    const learners::Scene scene(*world_);
+    const std::size_t slides = presentation()->slides().size();
+    const std::size_t slide = draw.between(1, std::max<std::size_t>(slides, 1));
+    const auto number = [](std::size_t which) { return automation::decimal(static_cast<std::int32_t>(which)); };
+    const std::u16string ground = u"ActivePresentation.Slides(" + number(slide) + u")";
+    std::u16string text = learners::anyGesture({scene, draw, slide});
+    if (draw.percent(4)) {
+        const std::u16string path = u"\"C:\\" + number(draw.between(1, 3)) + u".ppt\"";
+        text = u"ActivePresentation.SaveAs " + path + u"\nActivePresentation.Close\nPresentations.Open " + path;
+    } else if (draw.percent(8)) {
+        text = ground + (draw.percent(30) ? u"" : u".Shapes(" + number(draw.between(1, 4)) + u")") +
+               u".Tags.Add \"Nom " + number(draw.between(1, 3)) + u"\", \"é" + number(draw.below(9)) + u"\"";
+    }
+    const bool endsPowerPoint = text.starts_with(u"PowerPoint.") || text == u"ActivePresentation.Close";
+    Statements done;
+    for (const std::u16string& statement : endsPowerPoint ? Statements() : linesOf(text)) {
+        if (!perform(statement)) {
+            break;
+        }
+        done.push_back(statement);
+    }
+    return done;
+}
+
+Statements anyHistory(learners::Draw& draw) {
+    History history;
+    Statements statements = linesOf(u"Presentations.Add\nActivePresentation.Slides.Add 1, ppLayoutText\n"
+                                    u"ActivePresentation.Slides.Add 2, ppLayoutBlank");
+    for (const std::u16string& each : statements) {
+        history.perform(each);
+    }
+    for (std::size_t left = draw.between(5, 40); left != 0 && history.presentation(); --left) {
+        const Statements done = history.anything(draw);
+        statements.insert(statements.end(), done.begin(), done.end());
+    }
+    return statements;
+}
+
+simulator::PresentationPtr replay(const Statements& statements) {
+    History history;
+    for (const std::u16string& statement : statements) {
+        if (!history.perform(statement)) {
+            return nullptr;
+        }
+    }
+    return history.presentation();
+}
+
+} // namespace trials::histories

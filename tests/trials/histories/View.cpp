@@ -1,0 +1,174 @@
+#include "tests/trials/histories/View.h"
+
+#include "automation/Text.h"
+#include "simulator/files/drawing/AutoShapeKinds.h"
+#include "simulator/files/drawing/Placeholders.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iomanip>
+#include <sstream>
+
+namespace trials::histories {
+
+namespace {
+
+using namespace simulator;
+
+constexpr float masterUnitsPerPoint = 8;
+/// Fields of a shape.
+constexpr std::size_t kindPlace = 2;
+constexpr std::size_t firstPlace = 4;
+constexpr std::size_t lastPlace = 7;
+constexpr std::size_t fillPlace = 10;
+constexpr std::size_t runsPlace = 12;
+
+/// A text on one line, without blanks that part fields.
+std::string plain(std::u16string text) {
+    for (char16_t& unit : text) {
+        unit = unit == TextStory::paragraphMark ? u'|' : unit == TextStory::lineBreak ? u'/' : unit;
+        unit = unit <= u' ' ? u'_' : unit;
+    }
+    return automation::toUtf8(text);
+}
+
+std::string tagsOf(const TagList& tags) {
+    std::string list;
+    for (const auto& [name, value] : tags.all()) {
+        list += (list.empty() ? "" : " ") + plain(name) + "=" + plain(value);
+    }
+    return list;
+}
+
+std::string kindOf(const Shape& shape) {
+    switch (shape.type) {
+    case msoGroup: return "group";
+    case msoTextEffect: return "wordart";
+    case msoFreeform: return "0";
+    case msoLine: return "20";
+    case msoPicture: return "75";
+    case msoTextBox: return "202";
+    case msoPlaceholder: return "?"; // a picture, a chart and others bear kinds of their own
+    case msoAutoShape: break;
+    }
+    return shape.autoShapeType == msoShapeMixed ? "?" : std::to_string(drawing::kindOf(shape.autoShapeType));
+}
+
+std::string fillOf(const Shape& shape) {
+    if (shape.type == msoGroup) {
+        return "-";
+    }
+    if (!shape.fill.visible) {
+        return "none";
+    }
+    constexpr std::int32_t ofScheme = 0x08000000;
+    const Color& color = shape.fill.fore;
+    std::ostringstream code;
+    code << std::hex << (color.scheme == ppNotSchemeColor ? color.rgb : ofScheme + color.scheme - 1);
+    return code.str();
+}
+
+std::string runsOf(const TextStory& story) {
+    std::string list;
+    std::size_t length = 0;
+    const std::vector<TextStory::Run>& runs = story.runs();
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        const auto looksOf = [&](std::size_t place) {
+            const CharacterFormat& format = runs[place].format;
+            std::ostringstream looks;
+            looks << std::fixed << std::setprecision(1) << format.size << (format.bold ? "b" : "")
+                  << (format.italic ? "i" : "");
+            return looks.str();
+        };
+        length += runs[i].length;
+        if (length != 0 && (i + 1 == runs.size() || looksOf(i) != looksOf(i + 1))) {
+            list += (list.empty() ? "" : " ") + std::to_string(std::exchange(length, 0)) + ":" + looksOf(i);
+        }
+    }
+    return list;
+}
+
+void add(const Shape& shape, int depth, std::vector<std::string>& lines) {
+    std::ostringstream line;
+    const Frame& frame = shape.frame();
+    line << "shape\t" << depth << '\t' << kindOf(shape) << '\t'
+         << (shape.placeholder ? int{drawing::placeholderCode(*shape.placeholder)} : 0) << std::fixed
+         << std::setprecision(1);
+    for (const float length : {frame.left, frame.top, frame.width, frame.height}) {
+        line << '\t' << length * masterUnitsPerPoint;
+    }
+    line << '\t' << shape.rotation << '\t' << (shape.horizontalFlip ? 1 : 0) + (shape.verticalFlip ? 2 : 0) << '\t'
+         << fillOf(shape) << '\t' << (shape.text ? plain(shape.text->text()) : "") << '\t'
+         << (shape.text && !shape.text->text().empty() ? runsOf(*shape.text) : "") << '\t' << tagsOf(shape.tags);
+    lines.push_back(line.str());
+    for (const ShapePtr& item : shape.items()) {
+        add(*item, depth + 1, lines);
+    }
+}
+
+std::vector<std::string> fieldsOf(const std::string& line) {
+    std::vector<std::string> fields;
+    for (std::size_t start = 0; start <= line.size();) {
+        const std::size_t end = std::min(line.find('\t', start), line.size());
+        fields.push_back(line.substr(start, end - start));
+        start = end + 1;
+    }
+    return fields;
+}
+
+/// True where texts are the same, with "?" in the second one for any number.
+bool matches(std::string_view text, std::string_view pattern) {
+    for (const char each : pattern) {
+        if (each == '?') {
+            text.remove_prefix(std::min(text.find_first_not_of("0123456789."), text.size()));
+        } else if (!text.starts_with(each)) {
+            return false;
+        } else {
+            text.remove_prefix(1);
+        }
+    }
+    return text.empty();
+}
+
+bool agree(const std::string& ours, const std::string& theirs) {
+    const std::vector<std::string> left = fieldsOf(ours);
+    const std::vector<std::string> right = fieldsOf(theirs);
+    if (left.size() != right.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        const bool isNear =
+            i >= firstPlace && i <= lastPlace && std::abs(std::stod(left[i]) - std::stod(right[i])) <= 1;
+        const bool isUntold = (i == kindPlace || i == fillPlace) && (left[i] == "?" || right[i] == "?");
+        if (left[i] != right[i] && !isNear && !isUntold && !(i == runsPlace && matches(left[i], right[i]))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+std::vector<std::string> viewOf(const Presentation& presentation) {
+    std::vector<std::string> lines;
+    for (const SlidePtr& slide : presentation.slides()) {
+        lines.push_back("slide\t" + tagsOf(slide->tags));
+        for (const ShapePtr& shape : slide->shapes()) {
+            add(*shape, 0, lines);
+        }
+    }
+    return lines;
+}
+
+std::string differenceOf(const std::vector<std::string>& ours, const std::vector<std::string>& theirs) {
+    for (std::size_t i = 0; i < std::max(ours.size(), theirs.size()); ++i) {
+        const std::string left = i < ours.size() ? ours[i] : "nothing more";
+        const std::string right = i < theirs.size() ? theirs[i] : "nothing more";
+        if (!agree(left, right)) {
+            return "ours:   " + left + "\ntheirs: " + right + '\n';
+        }
+    }
+    return {};
+}
+
+} // namespace trials::histories
