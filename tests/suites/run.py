@@ -104,7 +104,8 @@ def run(selection, jobs):
             if bad:
                 for each in [each for each in lines if not re.match(r"\[ +(OK|RUN) +\]", each)][-60:]:
                     screen.say("    " + each)
-            outcome = f"{good:5d} passed, {bad} failed" if lines or bad == 0 else "did not run: what it needs failed"
+            skipped = next((each for each in lines if not bad and each.startswith("skipped: ")), None)
+            outcome = skipped or f"{good:5d} passed, {bad} failed" if lines or bad == 0 else "did not run: what it needs failed"
             if suites[name][0] != "setup" or bad:
                 screen.say(f"{name:52s}{outcome}  ({seconds:.0f} s)")
                 passed, failed = passed + good, failed + bad

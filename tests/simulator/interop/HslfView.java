@@ -63,7 +63,7 @@ public class HslfView {
             Rectangle2D place = placeOf(own, onSlide);
             List<? extends Record> client = clientOf(own);
             lines.add(String.join("\t", "shape", String.valueOf(depth), isGroup ? "group" : kindOf(head.getShapeType()),
-                placeholderIn(client), frameOf(place, turnOf(own)), fixed(turnOf(own)),
+                isGroup ? "0" : placeholderIn(client), frameOf(place, turnOf(own)), fixed(turnOf(own)),
                 String.valueOf(head.getFlags() >> 6 & 3), isGroup ? "-" : fillOf(shape), textOf(shape), tagsIn(client)));
             if (isGroup) {
                 double turn = turnOf(own);

@@ -1,6 +1,7 @@
 """interop.py DECK-TOOL: decks of LibreOffice Impress in the embedded PowerPoint, and its decks in LibreOffice.
 
 Ends with a line "N passed, N failed"."""
+import glob
 import os
 import subprocess
 import sys
@@ -281,6 +282,16 @@ class Tests:
                 check_near(f"frame of ours: {line.type} {line.text!r}", [points(each) for each in frame], line.frame)
 
 
+    def others(self):
+        """Presentations that others have made, where K73053_DECKS names their folder: saved, LibreOffice opens them all."""
+        for path in sorted(glob.glob(os.path.join(os.environ.get("K73053_DECKS", ""), "*.ppt"))):
+            if subprocess.run([self.tool, "copy", path, self.path("saved.ppt")], capture_output=True).returncode == 0:
+                slides = len([line for line in self.seen(path) if line.kind == "slide"])
+                document = self.office.open(self.path("saved.ppt"))
+                check(f"slides of {os.path.basename(path)}, saved", document and document.DrawPages.Count, max(slides, 1))
+                document.close(True)
+
+
 def main(tool):
     with tempfile.TemporaryDirectory() as folder, Office(folder) as office:
         tests = Tests(tool, office)
@@ -290,6 +301,7 @@ def main(tool):
         tests.unchanged_and_moved("text.ppt")
         tests.edited("text.ppt")
         tests.our_deck()
+        tests.others()
     print(f"{passed} passed, {failed} failed")
     return 1 if failed else 0
 

@@ -16,7 +16,7 @@
 #include <fstream>
 #include <iterator>
 
-namespace mutation_tests {
+namespace damage_tests {
 
 using tests::Chance;
 namespace language = host::language;
@@ -55,7 +55,7 @@ std::string mutated(std::string text, const std::vector<std::string>& others, Ch
     return text;
 }
 
-TEST(MutationTests, AScenarioFileIsReadOrRefusedWithItsPlaces) {
+TEST(Damage, AScenarioFileIsReadOrRefusedWithItsPlaces) {
     Chance chance;
     const std::vector<std::string> lines = scenarioLines();
     std::size_t refused = 0;
@@ -84,7 +84,7 @@ TEST(MutationTests, AScenarioFileIsReadOrRefusedWithItsPlaces) {
     EXPECT_LT(refused, texts);
 }
 
-TEST(MutationTests, AStatementIsPerformedOrFailsWithItsPlace) {
+TEST(Damage, AStatementIsPerformedOrFailsWithItsPlace) {
     Chance chance;
     const std::vector<std::string> lines = scenarioLines();
     const language::ScenarioFile file = host::load(host::Library(SCENARIOS).fileOf(306));
@@ -175,7 +175,7 @@ template <typename T> std::optional<T> converted(const Value& value) {
     }
 }
 
-TEST(MutationTests, ConversionsAgreeWithOneAnother) {
+TEST(Damage, ConversionsAgreeWithOneAnother) {
     Chance chance;
     AnyValue any(chance);
     std::size_t numbers = 0;
@@ -213,7 +213,7 @@ TEST(MutationTests, ConversionsAgreeWithOneAnother) {
     EXPECT_GT(numbers, 5000U);
 }
 
-TEST(MutationTests, ObjectsAnswerAnyArgumentsWithAResultOrAnError) {
+TEST(Damage, ObjectsAnswerAnyArgumentsWithAResultOrAnError) {
     Chance chance;
     AnyValue any(chance);
     std::size_t answered = 0;
@@ -261,4 +261,4 @@ TEST(MutationTests, ObjectsAnswerAnyArgumentsWithAResultOrAnError) {
     EXPECT_GT(refused, 2000U);
 }
 
-} // namespace mutation_tests
+} // namespace damage_tests
