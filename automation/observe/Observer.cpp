@@ -12,7 +12,8 @@ public:
     Observed(ObjectPtr inner, ObserverPtr observer) : inner_(std::move(inner)), observer_(std::move(observer)) {}
 
     Value invoke(const Name& name, Access access, std::span<Value> arguments) override {
-        const Crossing crossing{Border::Automation, name.scope(), name.text(), access, arguments, name.parameters()};
+        const Crossing crossing{Border::Automation, name.scope(),      name.text(), access,
+                                arguments,          name.parameters(), inner_.get()};
         return wrap(observer_->around(crossing, [&] { return pass(name, access, arguments); }));
     }
 

@@ -22,6 +22,7 @@ struct Crossing {
     Access access;
     std::span<const Value> arguments;
     std::span<const std::u16string_view> parameters{}; ///< names of the last arguments but for a new value
+    const Object* object = nullptr; ///< the object called, as a call before has handed it out; null for the system's
 
     /// The call as a macro would state it: `Slides.Item(2)`, `Application.Visible = -1`, `Slides.Add(2, Layout:=12)`;
     /// `(default)` where no member is named.

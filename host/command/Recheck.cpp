@@ -1,6 +1,8 @@
 #include "host/command/Commands.h"
 #include "host/command/LiveCheck.h"
 #include "host/command/Options.h"
+#include "host/reason/Explainer.h"
+#include "host/reason/Told.h"
 #include "host/run/TrainingHost.h"
 #include "host/world/Members.h"
 #include "host/world/RealFile.h"
@@ -40,10 +42,9 @@ struct RecheckRequest {
 };
 
 /// The verdict of the module on the file.
-Reading judge(World& world, const Course& course, const RecheckRequest& request) {
+Reading judge(World& world, const Course& course, const RecheckRequest& request, Witness& witness) {
     const Bytes saved = contentsOf(pathOf(request.file));
-    Witness nobody;
-    TrainingHost host(world, course, request.question, nobody);
+    TrainingHost host(world, course, request.question, witness);
     host.initQuestion(request.question, world.hostFolder());
     try {
         exchange(world, saved, request.question);
@@ -61,9 +62,13 @@ ExitCode recheck(const RecheckRequest& request, const CommandContext& at) {
     const language::ScenarioFile file = load(at.library.fileOf(request.question));
     const Course course = courseOf(file, request.course, at.worlds.embedded);
     at.out << shortfallOf(course, file, at.worlds.embedded);
-    const WorldPtr world = at.worlds.embedded(nullptr);
-    const Reading reading = judge(*world, course, request);
+    reason::Explainer explainer(file.contract);
+    const WorldPtr world = at.worlds.embedded(explainer.observer());
+    const Reading reading = judge(*world, course, request, explainer);
     at.out << "Question " << request.question << ": " << reading.display() << '\n';
+    for (const std::string& line : {reason::sentence(reading.meaning), reading.reason}) {
+        at.out << line << (line.empty() ? "" : "\n");
+    }
     for (const LiveCheck& check : liveChecks()) {
         if (check.concerns(request.question)) {
             at.out << "Not checked, a file does not tell: " << check.what << '\n';

@@ -5,6 +5,7 @@
 #include "host/command/Telling.h"
 #include "host/language/Words.h"
 #include "host/picture/Camera.h"
+#include "host/reason/Explainer.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
 #include "host/world/OutputFile.h"
@@ -119,15 +120,17 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
         out << "Question " << file.question << ": " << toUtf8(scenario.title) << "\n\n";
     }
     BeforeAfter slide;
+    reason::Explainer explainer(file.contract, trace);
     const auto makeWitness = [&](World& world) {
         auto witnesses = std::make_unique<Witnesses>();
+        witnesses->add(explainer);
         witnesses->add(std::make_unique<Telling>(world, story));
         if (!request.pictures.empty()) {
             witnesses->add(std::make_unique<Camera>(world, [&](BeforeAfter seen) { slide = std::move(seen); }));
         }
         return witnesses;
     };
-    const Outcome outcome = runner.run(scenario, makeWitness, trace);
+    const Outcome outcome = runner.run(scenario, makeWitness, explainer.observer());
     const std::vector<std::string> pictures =
         request.pictures.empty() ? std::vector<std::string>() : written(slide, pathOf(request.pictures));
     if (request.asJson) {

@@ -65,7 +65,7 @@ void Telling::called(HostCall /*call*/, const automation::Error* error) {
 }
 
 void Telling::judged(const Reading& reading) {
-    story_.sentence("The host reads " + reading.display());
+    story_.sentence("The host reads " + reading.explained());
 }
 
 void Telling::tellPowerPoint(const Snapshot& before, const Snapshot& after) {

@@ -3,6 +3,7 @@
 #include "host/command/Watch.h"
 #include "host/picture/Camera.h"
 #include "host/reason/Delivery.h"
+#include "host/reason/Explainer.h"
 #include "host/report/JUnit.h"
 #include "host/report/Json.h"
 #include "host/report/Letters.h"
@@ -93,7 +94,7 @@ private:
             const std::string place = file.name + " \"" + toUtf8(scenario.title) + "\"";
             watch.next(place);
             at_.progress.at(result.name() + ", " + toUtf8(scenario.title), ++scenario_, scenarios_);
-            add(run(runner, scenario), result);
+            add(run(runner, scenario, file.contract), result);
         }
         if (result.failed() == 0) {
             const std::vector<language::Remark> letters = report::lettersAmiss(result);
@@ -123,11 +124,13 @@ private:
         file.results.push_back(std::move(result));
     }
 
-    Result run(const Runner& runner, const language::Scenario& scenario) {
+    Result run(const Runner& runner, const language::Scenario& scenario, const language::Contract& contract) {
         Result result{toUtf8(scenario.title), scenario.place.line, {}, {}, 0, {}};
         const auto counter = isReported() && !at_.worlds.remote ? std::make_shared<automation::CallCounter>() : nullptr;
+        reason::Explainer explainer(contract, counter);
         const auto makeWitness = [&](World& world) {
             auto witnesses = std::make_unique<Witnesses>();
+            witnesses->add(explainer);
             if (!request_.page.empty()) {
                 // Told of a verdict before the recorder is, which then begins another attempt.
                 witnesses->add(std::make_unique<Camera>(
@@ -136,7 +139,7 @@ private:
             witnesses->add(std::make_unique<report::Recorder>(result));
             return witnesses;
         };
-        result.failures = runner.run(scenario, makeWitness, counter).failures;
+        result.failures = runner.run(scenario, makeWitness, explainer.observer()).failures;
         result.calls = counter ? counter->count() : 0;
         return result;
     }

@@ -39,6 +39,7 @@ constexpr auto runs = std::to_array<Run>({
      u"CurvedUpRibbon CurvedDownRibbon VerticalScroll HorizontalScroll Wave DoubleWave RectangularCallout "
      u"RoundedRectangularCallout OvalCallout CloudCallout LineCallout1 LineCallout2 LineCallout3 LineCallout4"},
     {u"msoShape", -2, u"Mixed"},
+    {u"msoPresetThreeDFormat", -2, u"Mixed"},
     {u"mso", 1, u"AutoShape Callout Chart Comment Freeform Group EmbeddedOLEObject FormControl Line"},
     {u"mso", 10, u"LinkedOLEObject LinkedPicture OLEControlObject Picture Placeholder TextEffect Media TextBox"},
     {u"mso", 0, u"BringToFront SendToBack BringForward SendBackward"},

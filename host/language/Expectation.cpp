@@ -36,6 +36,10 @@ std::string Reading::display() const {
                           : verdict(bravoNuance, causeErreur, complement);
 }
 
+std::string Reading::explained() const {
+    return display() + (meaning.empty() ? "" : ": " + meaning) + (reason.empty() ? "" : ". " + reason);
+}
+
 bool ExpectedError::matches(const automation::Error& error) const {
     return error.number() == number && std::all_of(parts.begin(), parts.end(), [&](const std::u16string& part) {
                return error.source().find(part) != std::u16string::npos;

@@ -18,9 +18,13 @@ struct Reading {
     std::u16string causeErreur;
     bool bravoNuance = false;
     std::vector<std::u16string> complement;
+    std::string meaning; ///< what it says of the learner's work; empty where nobody knows
+    std::string reason;  ///< what decided, in sentences; empty where nobody has watched
 
     /// In words: `the letter "C" with the complement " 3"`.
     [[nodiscard]] std::string display() const;
+    /// The same with meaning and reason: `the letter "B": ZOR4 is too wide. Slide 1, shape 4 (ZOR4): Width is 60.`
+    [[nodiscard]] std::string explained() const;
 };
 
 /// An error that must be raised.

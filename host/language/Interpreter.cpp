@@ -113,7 +113,7 @@ void Interpreter::perform(const Assignment& assignment) {
 void Interpreter::perform(const Check& check) {
     const Reading reading = stage_.testePoint();
     if (!check.expected.matches(reading)) {
-        throw Failure({place_, "expected " + check.expected.display() + ", the host reads " + reading.display()});
+        throw Failure({place_, "expected " + check.expected.display() + ", the host reads " + reading.explained()});
     }
 }
 

@@ -38,7 +38,7 @@ bool isShape(const Step& step) {
     return collection != nullptr && (collection->member == u"Shapes" || collection->member == u"GroupItems");
 }
 
-std::string inWords(const Step& step) {
+std::string stated(const Step& step) {
     std::u16string text = step.member;
     for (std::size_t i = 0; i < step.arguments.size(); ++i) {
         text += (i == 0 ? u"(" : u", ") + step.arguments[i].display();
@@ -50,6 +50,13 @@ std::string inWords(const Step& step) {
 
 Path Path::to(std::u16string_view member, std::vector<Value> arguments) const {
     Path further = *this;
+    for (Value& argument : arguments) {
+        argument = argument.is<std::int16_t>() ? Value(argument.to<std::int32_t>()) : argument;
+    }
+    // What a caller leaves out arrives as missing, or as -1.
+    while (!arguments.empty() && (arguments.back().isMissing() || arguments.back() == Value(std::int32_t(-1)))) {
+        arguments.pop_back();
+    }
     const bool isItem = (member == u"Item" || member.empty()) && !arguments.empty();
     if (isItem && !steps_.empty() && steps_.back().arguments.empty()) {
         further.steps_.back().arguments = std::move(arguments);
@@ -57,6 +64,14 @@ Path Path::to(std::u16string_view member, std::vector<Value> arguments) const {
         further.steps_.push_back({std::u16string(member), std::move(arguments)});
     }
     return further;
+}
+
+Path Path::collection() const {
+    Path whole = *this;
+    if (!whole.steps_.empty()) {
+        whole.steps_.back().arguments.clear();
+    }
+    return whole;
 }
 
 Path Path::owner() const {
@@ -82,12 +97,13 @@ std::size_t Path::stepsToPlace() const {
     return static_cast<std::size_t>(steps_.rend() - last);
 }
 
-std::string Path::place() const {
+std::string Path::place(const Surname& surname) const {
     std::string text;
     for (std::size_t i = 0; i < stepsToPlace(); ++i) {
         if (const Collection* const collection = collectionOf(steps_[i])) {
             text += (text.empty() ? "" : ", ") + std::string(collection->item) + ' ' +
                     automation::toUtf8(steps_[i].arguments.front().display());
+            text += surname && isShape(steps_[i]) ? surname(first(i + 1)) : "";
         }
     }
     return text;
@@ -99,8 +115,8 @@ std::string Path::behind() const {
     std::string text;
     for (std::size_t i = stepsToPlace(); i < steps_.size(); ++i) {
         const bool isUnsaid = std::find(unsaid.begin(), unsaid.end(), steps_[i].member) != unsaid.end();
-        if (!isUnsaid || i + 1 == steps_.size()) {
-            text += (text.empty() ? "" : ".") + inWords(steps_[i]);
+        if (!steps_[i].member.empty() && (!isUnsaid || i + 1 == steps_.size())) {
+            text += (text.empty() ? "" : ".") + stated(steps_[i]);
         }
     }
     return text;
@@ -112,11 +128,21 @@ std::string Path::display() const {
     return where + (where.empty() || what.empty() ? "" : ": ") + what;
 }
 
-Path Path::shape() const {
-    const auto last = std::find_if(steps_.rbegin(), steps_.rend(), isShape);
+Path Path::first(std::size_t steps) const {
     Path way;
-    way.steps_.assign(steps_.begin(), steps_.begin() + (steps_.rend() - last));
+    way.steps_.assign(steps_.begin(), steps_.begin() + static_cast<std::ptrdiff_t>(steps));
     return way;
+}
+
+Path Path::shape() const {
+    return first(static_cast<std::size_t>(steps_.rend() - std::find_if(steps_.rbegin(), steps_.rend(), isShape)));
+}
+
+Path Path::upTo(std::u16string_view collection) const {
+    const auto found = std::find_if(steps_.begin(), steps_.end(), [&](const Step& step) {
+        return step.member == collection && step.arguments.size() == 1;
+    });
+    return found == steps_.end() ? Path() : first(static_cast<std::size_t>(found - steps_.begin()) + 1);
 }
 
 bool Path::isBelow(const Path& other) const {

@@ -20,26 +20,28 @@ struct Named {
     std::u16string_view stem;
 };
 
-constexpr auto named = std::to_array<Named>({
+constexpr auto namedMembers = std::to_array<Named>({
     {u"Selection", u"Type", u"ppSelection"},
     {u"PlaceholderFormat", u"Type", u"ppPlaceholder"},
     {u"Fill", u"Type", u"msoFill"},
     {u"", u"Type", u"mso"},
     {u"", u"AutoShapeType", u"msoShape"},
     {u"", u"PresetThreeDFormat", u"msoThreeD"},
+    {u"", u"PresetThreeDFormat", u"msoPresetThreeDFormat"},
     {u"", u"Visible", u"mso"},
     {u"", u"SnapToGrid", u"mso"},
     {u"", u"HasTextFrame", u"mso"},
 });
 
-std::u16string_view stemOf(const Path& path) {
+std::optional<std::u16string> constantOf(const Path& path, std::int32_t value) {
     const Path owner = path.owner();
-    for (const Named& each : named) {
-        if (each.member == path.member() && (each.owner.empty() || each.owner == owner.member())) {
-            return each.stem;
+    std::optional<std::u16string> name;
+    for (const Named& each : namedMembers) {
+        if (!name && each.member == path.member() && (each.owner.empty() || each.owner == owner.member())) {
+            name = language::nameOfConstant(each.stem, value);
         }
     }
-    return {};
+    return name;
 }
 
 bool isWhole(const Value& value) {
@@ -71,15 +73,11 @@ std::string told(const Path& path, const Value& value) {
         const auto text = value.to<std::u16string>();
         return "\"" + onOneLine(beginningOf(text, longest)) + (text.size() > longest ? "...\"" : "\"");
     }
-    if (isWhole(value) && path.member() == u"RGB") {
+    if (isWhole(value) && (path.member() == u"RGB" || path.member().empty())) {
         return colour(value.to<std::int32_t>());
     }
-    if (const std::u16string_view stem = stemOf(path); isWhole(value) && !stem.empty()) {
-        if (const auto name = language::nameOfConstant(stem, value.to<std::int32_t>())) {
-            return automation::toUtf8(*name);
-        }
-    }
-    return automation::toUtf8(value.display());
+    const auto name = isWhole(value) ? constantOf(path, value.to<std::int32_t>()) : std::nullopt;
+    return automation::toUtf8(name ? *name : value.display());
 }
 
 std::string toldWithUnits(const Path& path, const Value& value) {

@@ -52,6 +52,7 @@ Reading TrainingHost::check() {
     if (raised) {
         reading.error = raised;
     }
+    witness_.explain(reading);
     lastReading_ = reading;
     witness_.judged(reading);
     return reading;

@@ -30,7 +30,9 @@ public:
     virtual void calling(HostCall /*call*/) {}
     /// `error` is what the call raised; null where it went well.
     virtual void called(HostCall /*call*/, const automation::Error* /*error*/) {}
-    /// The host has read the verdict of a TestePoint.
+    /// The host has read the verdict of a TestePoint; who knows what it means and why may add it.
+    virtual void explain(Reading& /*reading*/) {}
+    /// All that is known of the verdict is in the reading.
     virtual void judged(const Reading& /*reading*/) {}
     /// A statement of the scenario is about to be performed.
     virtual void performing(const language::Statement& /*statement*/) {}

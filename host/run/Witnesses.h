@@ -26,6 +26,9 @@ public:
     void called(HostCall call, const automation::Error* error) override {
         std::for_each(all_.rbegin(), all_.rend(), [&](Witness* witness) { witness->called(call, error); });
     }
+    void explain(Reading& reading) override {
+        each([&](Witness& witness) { witness.explain(reading); });
+    }
     void judged(const Reading& reading) override {
         each([&](Witness& witness) { witness.judged(reading); });
     }

@@ -104,7 +104,7 @@ void Conversation::begin() {
     }
     open_.reset(); // where PowerPoint is the one on the desktop, there cannot be two
     isOver_ = true;
-    open_.emplace(file_.question, course_, makeWorld_);
+    open_.emplace(file_, course_, makeWorld_);
     isOver_ = false;
 }
 

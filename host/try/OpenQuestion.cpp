@@ -12,8 +12,11 @@ namespace host {
 
 using language::Statement;
 
-OpenQuestion::OpenQuestion(std::int32_t question, const Course& course, const WorldMaker& makeWorld)
-    : world_(makeWorld(nullptr)), guard_(*world_), exercise_(*world_, course, question, guard_) {
+OpenQuestion::OpenQuestion(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld)
+    : explainer_(file.contract), world_(makeWorld(explainer_.observer())), guard_(*world_),
+      exercise_(*world_, course, file.question, witnesses_) {
+    witnesses_.add(guard_);
+    witnesses_.add(explainer_);
     exercise_.begin();
 }
 

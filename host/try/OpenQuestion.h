@@ -1,15 +1,18 @@
 #pragma once
 
+#include "host/reason/Explainer.h"
 #include "host/run/Exercise.h"
 #include "host/run/Guard.h"
+#include "host/run/Witnesses.h"
 
 namespace host {
 
 /// A question prepared in a world of its own, and what a learner has done in it since.
 class OpenQuestion {
 public:
-    /// Stages the question and prepares it. `course` must outlive this object. Raises what the module raises.
-    OpenQuestion(std::int32_t question, const Course& course, const WorldMaker& makeWorld);
+    /// Stages the question of a file and prepares it. `file` and `course` must outlive this object. Raises what the
+    /// module raises.
+    OpenQuestion(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld);
 
     /// Performs a move and remembers it. Raises language::Failure where it falls short; it is not remembered then.
     void perform(language::Statement move);
@@ -44,8 +47,10 @@ private:
     /// Keeps what a check expects, as far as it can be read.
     void remember(language::Statement expectation);
 
+    reason::Explainer explainer_;
     WorldPtr world_;
     Guard guard_;
+    Witnesses witnesses_;
     Exercise exercise_;
     std::vector<Step> steps_;
     std::size_t checks_ = 0;

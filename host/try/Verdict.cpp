@@ -1,7 +1,6 @@
 #include "host/try/Verdict.h"
 
 #include "host/language/Words.h"
-#include "host/run/GeneralCode.h"
 
 #include <ostream>
 
@@ -10,19 +9,19 @@ namespace host {
 namespace {
 
 std::string meaningOf(const Reading& reading) {
+    const std::string& meaning = reading.meaning;
+    const std::string told = meaning.empty() ? "." : ": " + meaning + ".";
     if (reading.error && reading.error->number() != 0) {
-        return "The module has failed: the host reads no verdict.";
+        return "The module has failed: the host reads no verdict" + told;
     }
     if (reading.erreurGenerale) {
-        const std::string_view meaning = meaningOfGeneralCode(reading.causeErreur);
-        return "The question's own checks were not made" + (meaning.empty() ? "" : ": " + std::string(meaning)) + ".";
+        return "The question's own checks were not made" + told;
     }
     if (reading.error || reading.causeErreur.empty()) {
         return "The learner has done what is asked.";
     }
-    return reading.bravoNuance ? "The learner has done what is asked; the course adds its remark for this letter."
-                               : "The learner has not done what is asked; the course says why, by its text for this "
-                                 "letter.";
+    return reading.bravoNuance ? "The learner has done what is asked, with this remark" + told
+                               : "The learner has not done what is asked" + told;
 }
 
 void printReading(const Reading& reading, std::ostream& out) {
@@ -54,6 +53,9 @@ void explain(const Reading& reading, const language::ScenarioFile& file, std::os
         printReading(reading, out);
     }
     out << ".\n" << meaningOf(reading) << '\n';
+    if (!reading.reason.empty()) {
+        out << reading.reason << '\n';
+    }
     printAlike(reading, file, out);
 }
 

@@ -234,16 +234,16 @@ TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
 TEST(Language, ChecksTellVerdictsApart) {
     const automation::Error zero(0, u"CLASSE Question0305\n\r - SERVICE TestePoint", {});
     const std::vector<std::pair<const char*, Reading>> verdicts = {
-        {"check success", {{}, false, u"", false, {}}},
-        {"check \"B\"", {{}, false, u"B", false, {}}},
-        {"check \"b\"", {{}, false, u"b", false, {}}},
-        {"check \"C\" complement \" 3\"", {{}, false, u"C", false, {u" 3"}}},
-        {"check \"C\" complement \" 3\", \"\"", {{}, false, u"C", false, {u" 3", u""}}},
-        {"check \"C\"", {{}, false, u"C", false, {}}},
-        {"check remark \"C\"", {{}, false, u"C", true, {}}},
-        {"check general \"C\"", {{}, true, u"C", false, {}}},
-        {"check error 0 \"CLASSE Question0305\" \"SERVICE TestePoint\"", {zero, false, u"", false, {}}},
-        {"check error 91", {automation::Error(91, {}, {}), false, u"", false, {}}},
+        {"check success", {{}, false, u"", false, {}, {}, {}}},
+        {"check \"B\"", {{}, false, u"B", false, {}, {}, {}}},
+        {"check \"b\"", {{}, false, u"b", false, {}, {}, {}}},
+        {"check \"C\" complement \" 3\"", {{}, false, u"C", false, {u" 3"}, {}, {}}},
+        {"check \"C\" complement \" 3\", \"\"", {{}, false, u"C", false, {u" 3", u""}, {}, {}}},
+        {"check \"C\"", {{}, false, u"C", false, {}, {}, {}}},
+        {"check remark \"C\"", {{}, false, u"C", true, {}, {}, {}}},
+        {"check general \"C\"", {{}, true, u"C", false, {}, {}, {}}},
+        {"check error 0 \"CLASSE Question0305\" \"SERVICE TestePoint\"", {zero, false, u"", false, {}, {}, {}}},
+        {"check error 91", {automation::Error(91, {}, {}), false, u"", false, {}, {}, {}}},
     };
     for (const auto& [check, unused] : verdicts) {
         for (const auto& [other, reading] : verdicts) {

@@ -112,7 +112,7 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
 TEST_F(TryTest, CompletingCallsNoMethod) {
     const host::language::ScenarioFile scenarios = host::load(host::Library(SCENARIOS).fileOf(314));
     const host::Course course(scenarios, host::makeEmbeddedWorld);
-    host::OpenQuestion open(314, course, host::makeEmbeddedWorld);
+    host::OpenQuestion open(scenarios, course, host::makeEmbeddedWorld);
     const auto completions = [&](const std::string& line) { return host::completionsOf(line, open); };
     EXPECT_EQ(completions("?activepres"), std::vector<std::string>{"ActivePresentation"});
     EXPECT_EQ(completions("x = ActivePresentation.Slides(1).Shapes(\"Text Box 3\").Rotat"),
