@@ -39,7 +39,7 @@ Desk::Desk(PlayedQuestion question, QuestionFinder find, WorldMaker makeWorld)
 
 void Desk::prepare() {
     static_cast<void>(close()); // what is amiss is of gestures that are taken back
-    open_.emplace(question_.file.question, question_.course, makeWorld_);
+    open_.emplace(question_.file, question_.course, makeWorld_);
     gestures_.clear();
     verdict_ = nullptr;
 }
