@@ -34,8 +34,8 @@ struct Frame {
 /// A length in points as a document keeps it: to the nearest eighth of a point.
 [[nodiscard]] float toMasterUnits(float points) noexcept;
 
-/// True where a turn by so many degrees is nearer to lying than to standing: where such a shape has its place, width and
-/// height have changed parts.
+/// True where a turn by so many degrees is nearer to lying than to standing: where such a shape has its place, width
+/// and height have changed parts.
 [[nodiscard]] bool liesOnItsSide(float rotation) noexcept;
 /// A frame turned by a quarter about its middle. Halves of a master unit fall the same way there and back.
 [[nodiscard]] Frame onItsSide(const Frame& frame) noexcept;
