@@ -113,6 +113,9 @@ void Desk::reset() {
 }
 
 std::string Desk::save(const std::string& name, const std::string& title) {
+    if (verdict_ == nullptr) {
+        throw std::runtime_error("Ask for the verdict first: a scenario says what the host must read");
+    }
     return appendScenario(name, question_.file, fromUtf8(title), prepared().statements());
 }
 

@@ -57,7 +57,7 @@ private:
 };
 
 /// Functions of the system and the Windows that their documentation names as the first to have them; of those where it
-/// names none, each is in the file that Windows XP brings.
+/// names none of these, each is in the file that Windows XP brings.
 struct Known {
     std::string library;
     std::string since;
@@ -77,24 +77,31 @@ const std::vector<Known> windowsXP{
      "SetLocaleInfoW SetSystemTime WideCharToMultiByte lstrcmpiA lstrcmpiW"},
     {"kernel32.dll", "Windows XP",
      "AddVectoredExceptionHandler AssignProcessToJobObject CreateDirectoryW CreateEventA CreateEventW CreateFileW "
-     "CreateHardLinkW CreateJobObjectW CreateProcessW CreateSemaphoreA DeleteCriticalSection DeleteFileW "
-     "EnterCriticalSection FileTimeToSystemTime FindClose FindFirstFileW FindFirstVolumeW FindNextFileW "
-     "FindNextVolumeW FindVolumeClose FormatMessageA FormatMessageW FreeLibrary GetCommandLineW GetCurrentProcess "
-     "GetCurrentProcessId GetCurrentThread GetCurrentThreadId GetDiskFreeSpaceExW GetEnvironmentVariableW "
-     "GetFileAttributesW GetFileInformationByHandle GetFileSizeEx GetFileType GetFullPathNameW GetLastError "
-     "GetModuleFileNameW GetModuleHandleA GetModuleHandleExW GetModuleHandleW GetProcAddress GetProcessAffinityMask "
-     "GetProcessTimes GetStartupInfoA GetTempPathW GetThreadContext GetThreadPriority GetThreadTimes "
-     "GetVolumeInformationW InitializeCriticalSection IsDebuggerPresent LeaveCriticalSection LoadLibraryA "
-     "LoadLibraryW LocalFree MoveFileExW OpenEventW OpenProcess OpenThread OutputDebugStringA RaiseException "
-     "ReadFile ReleaseSemaphore RemoveDirectoryW RemoveVectoredExceptionHandler ResetEvent ResumeThread SetEndOfFile "
-     "SetEvent SetFileAttributesW SetFilePointer SetInformationJobObject SetLastError SetProcessAffinityMask "
-     "SetThreadContext SetThreadPriority SetUnhandledExceptionFilter Sleep SuspendThread TerminateProcess TlsAlloc "
-     "TlsFree TlsGetValue TlsSetValue TryEnterCriticalSection VirtualProtect VirtualQuery WaitForMultipleObjects "
-     "WaitForSingleObject WriteFile"},
+     "CreateHardLinkW CreateIoCompletionPort CreateJobObjectW CreateMutexW CreateProcessW CreateSemaphoreA "
+     "CreateWaitableTimerW DeleteCriticalSection DeleteFileW EnterCriticalSection FileTimeToSystemTime FindClose "
+     "FindFirstFileW FindFirstVolumeW FindNextFileW FindNextVolumeW FindVolumeClose FormatMessageA FormatMessageW "
+     "FreeLibrary GetCommandLineW GetCurrentProcess GetCurrentProcessId GetCurrentThread GetCurrentThreadId "
+     "GetDiskFreeSpaceExW GetEnvironmentVariableW GetFileAttributesW GetFileInformationByHandle GetFileSizeEx "
+     "GetFileType GetFullPathNameW GetLastError GetModuleFileNameW GetModuleHandleA GetModuleHandleExW "
+     "GetModuleHandleW GetProcAddress GetProcessAffinityMask GetProcessTimes GetQueuedCompletionStatus GetStartupInfoA "
+     "GetTempPathW GetThreadContext GetThreadPriority GetThreadTimes GetVolumeInformationW InitializeCriticalSection "
+     "InitializeCriticalSectionAndSpinCount IsDebuggerPresent LeaveCriticalSection LoadLibraryA LoadLibraryW LocalFree "
+     "MoveFileExW OpenEventW OpenProcess OpenThread OutputDebugStringA PostQueuedCompletionStatus QueueUserAPC "
+     "RaiseException ReadFile ReleaseMutex ReleaseSemaphore RemoveDirectoryW RemoveVectoredExceptionHandler ResetEvent "
+     "ResumeThread SetEndOfFile SetEvent SetFileAttributesW SetFilePointer SetInformationJobObject SetLastError "
+     "SetProcessAffinityMask SetThreadContext SetThreadPriority SetUnhandledExceptionFilter SetWaitableTimer Sleep "
+     "SleepEx SuspendThread TerminateProcess TerminateThread TlsAlloc TlsFree TlsGetValue TlsSetValue "
+     "TryEnterCriticalSection VerSetConditionMask VerifyVersionInfoW VirtualProtect VirtualQuery "
+     "WaitForMultipleObjects WaitForSingleObject WriteFile"},
     {"ole32.dll", "Windows 2000",
      "CLSIDFromProgID CoCreateInstance CoGetClassObject CoInitializeEx CoRegisterClassObject CoRegisterMessageFilter "
      "CoRevokeClassObject CoUninitialize StringFromGUID2"},
     {"shell32.dll", "Windows 2000", "CommandLineToArgvW SHGetFolderPathW"},
+    {"shell32.dll", "Windows XP", "ShellExecuteA"},
+    {"mswsock.dll", "none", "AcceptEx GetAcceptExSockaddrs"},
+    {"ws2_32.dll", "none",
+     "WSACleanup WSAGetLastError WSARecv WSASend WSASocketW WSAStartup bind closesocket getsockname htonl htons "
+     "ioctlsocket listen ntohl ntohs setsockopt shutdown"},
     {"user32.dll", "Windows 2000",
      "CharLowerBuffW CreateDialogIndirectParamW CreateWindowExW DefWindowProcW DestroyWindow DispatchMessageW "
      "EnableWindow EnumWindows FindWindowW GetAncestor GetClassNameW GetForegroundWindow GetKeyState GetMessageW "
@@ -111,12 +118,12 @@ const std::vector<Known> windowsXP{
     {"msvcrt.dll", "none",
      "__getmainargs __initenv __mb_cur_max __p__acmdln __p__commode __p__fmode __set_app_type __setusermatherr "
      "_amsg_exit _assert _beginthreadex _cexit _close _endthreadex _errno _exit _fdopen _filelengthi64 _fileno "
-     "_findclose _fstat64 _get_osfhandle _initterm _iob _isatty _lock _lseeki64 _onexit _read _setjmp3 _strdup "
-     "_telli64 _ultoa _unlock _wchdir _wchmod _wfindfirst _wfindnext _wfopen _wfullpath _wgetcwd _wmkdir _wopen "
-     "_write _wstat64 _wutime abort atoi calloc exit fclose fflush fgetpos fopen fprintf fputc fputs fputwc fread "
-     "free fsetpos fwprintf fwrite getc getenv getwc islower isspace isupper iswctype localeconv longjmp malloc "
+     "_findclose _fstat64 _get_osfhandle _initterm _iob _isatty _lock _lseeki64 _onexit _read _setjmp3 _snwprintf "
+     "_strdup _telli64 _ultoa _unlock _wchdir _wchmod _wfindfirst _wfindnext _wfopen _wfullpath _wgetcwd _wmkdir "
+     "_wopen _write _wstat64 _wutime abort atoi calloc exit fclose fflush fgetpos fopen fprintf fputc fputs fputwc "
+     "fread free fsetpos fwprintf fwrite getc getenv getwc islower isspace isupper iswctype localeconv longjmp malloc "
      "memchr memcmp memcpy memmove memset printf putc putwc realloc setlocale setvbuf signal strchr strcmp strcoll "
-     "strerror strftime strlen strncmp strxfrm towlower towupper ungetc ungetwc vfprintf wcscat wcscmp wcscoll "
+     "strerror strftime strlen strncmp strncpy strxfrm towlower towupper ungetc ungetwc vfprintf wcscat wcscmp wcscoll "
      "wcscpy wcsftime wcslen wcstoul wcsxfrm"},
 };
 

@@ -116,7 +116,7 @@ function tellVerdict(verdict) {
   box.replaceChildren(
     part("strong", "outcome", say(verdict.passed ? words.passed : words.failed)),
     ...(verdict.letter ? [part("b", "letter", verdict.letter)] : []),
-    part("span", "meaning", verdict.meaning || verdict.reads),
+    part("span", "meaning", verdict.meaning || (verdict.passed ? "" : verdict.reads)),
     ...(verdict.why ?? []).map((text) => part("span", "why", text)),
   );
 }
@@ -134,6 +134,13 @@ function windowState() {
   ].filter(Boolean).join(" · ");
 }
 
+/** A statement, which is broken before a member where the line is too short for it. */
+function row(statement) {
+  const item = Object.assign(document.createElement("li"), { className: /^(check|expect)\b/i.test(statement) ? "check" : "" });
+  item.append(...statement.split(/(?=\.[A-Z])/).flatMap((piece) => [document.createElement("wbr"), piece]));
+  return item;
+}
+
 onState(({ question, statements, verdict }) => {
   document.title = `${question.number} – exercise-host`;
   element("number").textContent = say(words.question, question.number);
@@ -141,7 +148,7 @@ onState(({ question, statements, verdict }) => {
   element("do-next").hidden = !question.next;
   element("do-undo").disabled = statements.length === 0;
   const list = element("statements");
-  list.replaceChildren(...statements.map((text) => Object.assign(document.createElement("li"), { textContent: text, className: /^(check|expect)\b/i.test(text) ? "check" : "" })));
+  list.replaceChildren(...statements.map(row));
   list.scrollTop = list.scrollHeight;
   tellVerdict(verdict);
   element("status").textContent = windowState();

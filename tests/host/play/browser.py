@@ -1,4 +1,5 @@
 """An exercise played in headless Chromium, by mouse and keyboard alone; of the page nothing is called, it is only looked at."""
+import os
 import re
 import subprocess
 
@@ -25,8 +26,9 @@ def chromium(language="fr"):
 class Player:
     """`exercise-host play`, running in a folder."""
 
-    def __init__(self, host, folder, *arguments):
-        self.process = subprocess.Popen([host, "play", *arguments], stdout=subprocess.PIPE, text=True, cwd=folder)
+    def __init__(self, host, folder, *arguments, **environment):
+        self.process = subprocess.Popen([host, "play", *arguments], stdout=subprocess.PIPE, text=True, cwd=folder,
+                                        env={**os.environ, **environment})
         self.address = next(re.search(r"http\S+", line)[0] for line in self.process.stdout if "http" in line)
 
     def __enter__(self):
@@ -41,7 +43,10 @@ class Page:
     def __init__(self, driver, address):
         self.driver = driver
         driver.get(address)
-        WebDriverWait(driver, 20).until(lambda _: self.all("#slide .picture svg"))
+        self.wait("#slide .picture svg")
+
+    def wait(self, selector):
+        WebDriverWait(self.driver, 20, 0.05).until(lambda _: self.all(selector))
 
     def all(self, selector):
         return self.driver.find_elements(By.CSS_SELECTOR, selector)

@@ -8,7 +8,8 @@ import sys
 import tempfile
 
 from browser import Page, Player, chromium
-from questions import QUESTIONS
+from questions import QUESTIONS, Keys
+import safety
 
 results = []
 
@@ -51,12 +52,41 @@ def all_questions(driver, host, folder, chosen):
     check("the browser has nothing to say", [entry["message"] for entry in driver.get_log("browser")])
 
 
+WATCH = """
+window.times = [];
+let begun = 0;
+addEventListener("keydown", (event) => (begun = event.timeStamp), true);
+new MutationObserver(() => {
+  const since = begun;
+  const { port1, port2 } = new MessageChannel();
+  port1.onmessage = () => times.push(performance.now() - since);
+  requestAnimationFrame(() => port2.postMessage(0)); // which comes when the frame has been drawn
+}).observe(document.querySelector("#statements"), { childList: true });
+"""
+
+
+def speed(driver, host, folder):
+    """From a key to the frame that shows what it has done: said, not judged, since it is the machine's as well."""
+    with Player(host, folder, "306") as player:
+        page = Page(driver, player.address)
+        page.click((360, 220))
+        driver.execute_script(WATCH)
+        for step in range(100):
+            page.press(Keys.ARROW_RIGHT if step % 2 else Keys.ARROW_LEFT)
+        times = sorted(driver.execute_script("return times"))
+        check("a hundred gestures are seen", "" if len(times) == 100 else len(times))
+        print(f"A gesture is on the screen after {times[50]:.0f} ms (median of 100), {times[95]:.0f} ms (95 of 100)")
+
+
 def main():
     host = str(pathlib.Path(sys.argv[1]).resolve())
-    chosen = [int(each) for each in sys.argv[2:]] or QUESTIONS
+    chosen = [int(each) for each in sys.argv[2:] if each.isdigit()] or (QUESTIONS if not sys.argv[2:] else [])
     with tempfile.TemporaryDirectory() as folder:
         driver = chromium()
         try:
+            if not sys.argv[2:] or "safety" in sys.argv:
+                safety.run(check, host, folder, driver)
+                speed(driver, host, folder)
             all_questions(driver, host, pathlib.Path(folder), chosen)
         finally:
             driver.quit()
