@@ -62,6 +62,7 @@ void Desk::make(Statement statement) {
 void Desk::perform(const std::vector<std::string>& statements) {
     inWordsOf([&] {
         std::vector<Statement> gesture;
+        gesture.reserve(statements.size());
         for (const std::string& statement : statements) {
             gesture.push_back(language::parseStatement(fromUtf8(statement)));
         }
@@ -84,14 +85,14 @@ std::string Desk::say(const std::string& line) {
 }
 
 void Desk::replay(std::size_t gestures) {
-    std::vector<std::size_t> kept(gestures_.begin(), gestures_.begin() + static_cast<std::ptrdiff_t>(gestures));
+    const std::vector<std::size_t> kept(gestures_.begin(), gestures_.begin() + static_cast<std::ptrdiff_t>(gestures));
     std::vector<Statement> moves = prepared().takeMoves();
-    moves.erase(moves.begin() + std::accumulate(kept.begin(), kept.end(), std::ptrdiff_t(0)), moves.end());
+    moves.resize(std::accumulate(kept.begin(), kept.end(), std::size_t(0)));
     prepare();
     for (Statement& move : moves) {
         prepared().perform(std::move(move));
     }
-    gestures_ = std::move(kept);
+    gestures_ = kept;
 }
 
 void Desk::check() {

@@ -1,7 +1,7 @@
 #include "host/play/Gate.h"
 
-#include <array>
-#include <cstdio>
+#include "automation/Text.h"
+
 #include <random>
 
 namespace host {
@@ -29,13 +29,11 @@ bool beginsWithSecret(std::string_view text, std::string_view secret) {
 
 std::string secretOf(int bits) {
     std::random_device random;
-    std::string text;
+    std::u16string digits;
     for (int made = 0; made < bits; made += 32) {
-        std::array<char, 9> digits{};
-        std::snprintf(digits.data(), digits.size(), "%08x", static_cast<unsigned>(random()));
-        text += digits.data();
+        digits += automation::hexadecimal(static_cast<std::int32_t>(random()));
     }
-    return text;
+    return automation::toUtf8(digits);
 }
 
 Gate::Gate(std::uint16_t port)

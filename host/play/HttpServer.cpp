@@ -121,7 +121,7 @@ private:
                                 });
     }
 
-    static constexpr std::size_t mostDrained = 4U * 1024 * 1024;
+    static constexpr std::size_t mostDrained = 4'000'000;
 
     beast::tcp_stream stream_;
     const HttpServer::Handler& handler_;

@@ -42,8 +42,8 @@ public:
     void run();
     void stop();
 
-    static constexpr std::size_t mostHeader = 8U * 1024;
-    static constexpr std::size_t mostBody = 64U * 1024;
+    static constexpr std::size_t mostHeader = 8192;
+    static constexpr std::size_t mostBody = 65536;
     static constexpr std::size_t mostConnections = 64;
     static constexpr std::chrono::seconds patience{10}; ///< for a request, and between two of one connection
 

@@ -18,7 +18,7 @@ using language::ScenarioFile;
 
 /// The file of that name, which ends as scenario files do.
 fs::path scenarioFileNamed(const std::string& name) {
-    const fs::path path = pathOf(name);
+    fs::path path = pathOf(name);
     if (name.empty() || name.find_first_of("/\\:") != std::string::npos || path.extension() != ".scn") {
         throw std::runtime_error("Name a file of the folder that exercise-host was started in, as mine.scn");
     }
