@@ -76,6 +76,8 @@ const names = {
   shape: ["{0}, de {1} à {2} points du bord gauche, {3} à {4} du haut", "{0}, {1} to {2} points from the left, {3} to {4} from the top"],
   slide: ["Diapositive {0}", "Slide {0}"],
   gone: ["PowerPoint ne tourne pas.", "PowerPoint does not run."],
+  dialog: ["Une boîte de dialogue de PowerPoint est ouverte.", "A dialog of PowerPoint's is open."],
+  busy: ["PowerPoint ne répond pas.", "PowerPoint does not answer."],
   hidden: ["PowerPoint est caché.", "PowerPoint is hidden."],
   closed: ["La présentation est fermée.", "The presentation is closed."],
   empty: ["La présentation n'a pas de diapositive.", "The presentation has no slide."],
@@ -84,8 +86,9 @@ const names = {
 export const nameOf = (shape) => [shape.mark, shape.name, (shape.wordArt ?? textOf(shape)).slice(0, 40)].filter(Boolean).join(", ");
 
 function whyNothing(shown) {
-  const wrong = !shown.running ? names.gone : shown.visible === false ? names.hidden : !shown.presentation ? names.closed : shown.slide ? null : names.empty;
-  return wrong && say(wrong);
+  const { running, visible, dialogs, presentation, slide: index } = shown;
+  const wrong = !running ? "gone" : visible === undefined ? (dialogs > 0 ? "dialog" : "busy") : !visible ? "hidden" : !presentation ? "closed" : index ? null : "empty";
+  return wrong && say(names[wrong]);
 }
 
 function drawOptions(shapes) {
