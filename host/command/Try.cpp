@@ -1,6 +1,7 @@
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
 #include "host/try/Conversation.h"
+#include "host/world/RealFile.h"
 
 namespace host {
 
@@ -11,6 +12,19 @@ struct TryRequest {
     std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
 };
 
+/// The files that a question comes from, which nothing may be written over.
+std::vector<std::filesystem::path> inputsOf(const language::ScenarioFile& file, const std::string& course) {
+    std::vector<std::filesystem::path> inputs{pathOf(file.name)};
+    if (!course.empty()) {
+        for (const auto& entry : std::filesystem::directory_iterator(pathOf(course))) {
+            if (entry.path().stem().string().ends_with(std::to_string(file.question))) {
+                inputs.push_back(entry.path());
+            }
+        }
+    }
+    return inputs;
+}
+
 /// Prepares a question and talks with the course author, who states moves, asks for verdicts and saves scenarios.
 ExitCode talk(const TryRequest& request, const CommandContext& at) {
     const language::ScenarioFile file = load(at.library.fileOf(request.question));
@@ -18,7 +32,7 @@ ExitCode talk(const TryRequest& request, const CommandContext& at) {
     const std::unique_ptr<LineReader> lines = at.makeLines();
     Course course = courseOf(file, request.course, makeWorld);
     at.out << shortfallOf(course, file, makeWorld);
-    Conversation conversation(file, std::move(course), makeWorld, *lines, at.out);
+    Conversation conversation(file, std::move(course), makeWorld, *lines, at.out, inputsOf(file, request.course));
     return conversation.run() ? ExitCode::Good : ExitCode::FellShort;
 }
 

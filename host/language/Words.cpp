@@ -53,6 +53,12 @@ std::u16string_view beginningOf(std::u16string_view text, std::size_t most) noex
     return text.substr(0, most);
 }
 
+std::string trimmed(const std::string& text) {
+    constexpr const char* blanks = " \t\r";
+    const std::size_t first = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+}
+
 void replaceAll(std::string& text, std::string_view what, std::string_view by) {
     for (std::size_t place = text.find(what); place != std::string::npos; place = text.find(what, place + by.size())) {
         text.replace(place, what.size(), by);

@@ -21,6 +21,9 @@ namespace host {
 /// So many UTF-16 units of a text, one less where the last would be half of a character.
 [[nodiscard]] std::u16string_view beginningOf(std::u16string_view text, std::size_t most) noexcept;
 
+/// A text without the blanks around it.
+[[nodiscard]] std::string trimmed(const std::string& text);
+
 /// Puts something else in the place of every `what`.
 void replaceAll(std::string& text, std::string_view what, std::string_view by);
 

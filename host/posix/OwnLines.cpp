@@ -4,8 +4,10 @@
 
 #include <editline/readline.h>
 #include <langinfo.h>
+#include <termios.h>
 #include <unistd.h>
 
+#include <array>
 #include <clocale>
 #include <csignal>
 #include <cstdlib>
@@ -23,11 +25,55 @@ volatile std::sig_atomic_t& interruption() {
 }
 
 constexpr std::array interruptions{SIGINT, SIGTERM, SIGHUP};
+std::array<struct sigaction, interruptions.size()>& formerActions() {
+    static std::array<struct sigaction, interruptions.size()> actions;
+    return actions;
+}
 
-/// One that comes just before reading begins would not end it: it comes again every second, until nobody reads.
-void interrupt(int /*signal*/) {
-    interruption() = 1;
+/// One that comes just before reading begins would not end it: reading is woken every second, until nobody reads.
+void wake(int /*signal*/) {
     alarm(1);
+}
+
+/// The second ends the program as it would be ended without this reader.
+void interrupt(int signal) {
+    if (interruption() != 0) {
+        for (std::size_t i = 0; i < interruptions.size(); ++i) {
+            sigaction(interruptions.at(i), &formerActions().at(i), nullptr);
+        }
+        raise(signal);
+        return;
+    }
+    interruption() = signal;
+    alarm(1);
+}
+
+/// While a line is typed, Ctrl-C is a key like others: it drops what is typed of it, or leaves where nothing is.
+class InterruptAsKey {
+public:
+    InterruptAsKey() {
+        tcgetattr(STDIN_FILENO, &former_);
+        termios changed = former_;
+        changed.c_cc[VINTR] = _POSIX_VDISABLE;
+        tcsetattr(STDIN_FILENO, TCSADRAIN, &changed);
+    }
+    InterruptAsKey(const InterruptAsKey&) = delete;
+    InterruptAsKey& operator=(const InterruptAsKey&) = delete;
+    ~InterruptAsKey() { tcsetattr(STDIN_FILENO, TCSADRAIN, &former_); }
+
+private:
+    termios former_{};
+};
+
+bool& isDropped() {
+    static bool dropped = false;
+    return dropped;
+}
+
+int drop(int /*count*/, int /*key*/) {
+    isDropped() = rl_end > 0;
+    rl_done = 1;
+    return 0;
 }
 
 /// What a letter is, the terminal says; where it says nothing, lines are UTF-8 as everything that is printed.
@@ -68,6 +114,7 @@ public:
     ~EditedLines() override;
 
     [[nodiscard]] std::optional<std::string> read(const std::string& prompt) override;
+    [[nodiscard]] bool isTyped() const override { return true; }
     void completeBy(const Completer& by) override { completer() = by; }
 };
 
@@ -79,12 +126,14 @@ EditedLines::EditedLines() {
     rl_completion_append_character = '\0';
     rl_catch_signals = 0;
     using_history();
+    constexpr int controlC = 3;
+    rl_add_defun("drop-line", drop, controlC);
     struct sigaction action {};
-    action.sa_handler = interrupt; // without SA_RESTART: reading must end
+    action.sa_handler = wake; // without SA_RESTART: reading must end
     sigaction(SIGALRM, &action, nullptr);
-    action.sa_flags = static_cast<int>(SA_RESETHAND);
-    for (const int signal : interruptions) {
-        sigaction(signal, &action, nullptr);
+    action.sa_handler = interrupt;
+    for (std::size_t i = 0; i < interruptions.size(); ++i) {
+        sigaction(interruptions.at(i), &action, &formerActions().at(i));
     }
 }
 
@@ -92,24 +141,35 @@ EditedLines::~EditedLines() {
     completer() = nullptr;
     alarm(0);
     std::signal(SIGALRM, SIG_DFL);
-    for (const int signal : interruptions) {
-        std::signal(signal, SIG_DFL);
+    for (std::size_t i = 0; i < interruptions.size(); ++i) {
+        sigaction(interruptions.at(i), &formerActions().at(i), nullptr);
     }
 }
 
 std::optional<std::string> EditedLines::read(const std::string& prompt) {
     std::cout.flush();
-    const std::unique_ptr<char, decltype(&std::free)> line(interruption() != 0 ? nullptr : readline(prompt.c_str()),
-                                                           &std::free);
-    if (!line || interruption() != 0) {
-        alarm(0);
-        std::cout << '\n';
-        return std::nullopt;
+    while (interruption() == 0) {
+        isDropped() = false;
+        const InterruptAsKey key;
+        const std::unique_ptr<char, decltype(&std::free)> line(readline(prompt.c_str()), &std::free);
+        if (isDropped()) {
+            std::cout << "^C" << std::endl;
+            continue;
+        }
+        if (!line || interruption() != 0) {
+            break;
+        }
+        if (*line != '\0') {
+            add_history(line.get());
+        }
+        return std::string(line.get());
     }
-    if (*line != '\0') {
-        add_history(line.get());
+    alarm(0);
+    if (interruption() == SIGINT) { // of what ran before; the others do not ask
+        interruption() = 0;
     }
-    return std::string(line.get());
+    std::cout << '\n';
+    return std::nullopt;
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "host/language/Writer.h"
 #include "host/try/Completion.h"
 #include "host/try/Contents.h"
+#include "host/try/Destination.h"
 #include "host/try/Immediate.h"
 #include "host/try/Trouble.h"
 #include "host/try/Verdict.h"
@@ -26,15 +27,28 @@ using automation::fromUtf8;
 using automation::toUtf8;
 using language::Statement;
 
-std::string trimmed(const std::string& text) {
-    constexpr const char* blanks = " \t\r";
-    const std::size_t first = std::min(text.find_first_not_of(blanks), text.size());
-    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
-
 /// A file that a verb writes, which replaces one that is there already only where it ends with an exclamation mark.
 OutputFile outputOf(const std::string& verb, const std::string& name) {
     return {name, verb.ends_with('!') ? std::optional(std::string()) : std::nullopt, "say " + verb + "! to replace it"};
+}
+
+/// A scenario file with one more scenario, its lines ended as the others are.
+std::string withScenario(std::string file, std::string scenario) {
+    const bool endsAsOnWindows = file.find("\r\n") != std::string::npos;
+    std::string added = (file.ends_with('\n') ? "\n" : "\n\n") + std::move(scenario);
+    if (endsAsOnWindows) {
+        replaceAll(added, "\n", "\r\n");
+    }
+    return std::move(file) + added;
+}
+
+/// Raises std::runtime_error where a text is no scenario file.
+language::ScenarioFile parsed(const std::string& name, const std::string& text) {
+    try {
+        return language::parse(name, text);
+    } catch (const language::WrongLines& wrong) {
+        throw std::runtime_error("The scenario cannot be added: " + wrong.remarks.front().in(name));
+    }
 }
 
 /// True for an `expect error` whose statement is still to come.
@@ -47,31 +61,33 @@ bool isUnfinished(const Statement& statement) {
 
 const std::vector<Conversation::Verb>& Conversation::verbs() {
     static const std::vector<Verb> all{
-        {"Set", "s = ActivePresentation.Slides(1).Shapes(2)", "moves are stated as in a macro", nullptr},
-        {"s.Left", "= 20", "", nullptr},
-        {"?s.Left", "", "prints a value, or what an object is", nullptr},
+        {"Set", "s = ActivePresentation.Slides(1)", "moves are stated as in a macro", nullptr},
+        {"s.Shapes(2).Left", "= 20", "", nullptr},
+        {"?s.Name", "", "prints a value, or what an object is", nullptr},
         {"members", "s", "lists the members of an object", &Conversation::members, Rest::Something},
-        {"show", "", "lists the slides and shapes as they are now", &Conversation::show},
-        {"check", "", "asks for the verdict, and explains what the host reads", &Conversation::check, Rest::Anything},
-        {"check", "success", "asks for the verdict, and says whether it is this one", nullptr},
-        {"undo", "", "goes back to the question as it was prepared", &Conversation::undo},
-        {"again", "", "prepares the question anew and makes the moves once more", &Conversation::again},
-        {"save", "mine.scn", "writes moves and checks as a scenario (save! replaces a file)", &Conversation::save,
+        {"show", "", "lists the slides and shapes as they are", &Conversation::show},
+        {"check", "", "asks for the verdict, and explains it", &Conversation::check, Rest::Anything},
+        {"check", "success", "the same, and whether it is this one", nullptr},
+        {"undo", "", "takes back the last move", &Conversation::undo},
+        {"reset", "", "takes back all moves", &Conversation::reset},
+        {"again", "", "makes the moves once more, for a check", &Conversation::again},
+        {"save", "mine.scn \"a title\"", "writes moves and checks as a scenario", &Conversation::save, Rest::Something},
+        {"append", "mine.scn \"a title\"", "adds the scenario to those of a file", &Conversation::append,
          Rest::Something},
-        {"save!", "mine.scn", "", &Conversation::saveOver, Rest::Something},
-        {"export", "mine.ppt", "writes the presentation as it is now (export! replaces a file)",
-         &Conversation::exportTo, Rest::Something},
+        {"export", "mine.ppt", "writes the presentation as it is now", &Conversation::exportTo, Rest::Something},
+        {"save!", "mine.scn", "replaces a file; so does export!", &Conversation::saveOver, Rest::Something},
         {"export!", "mine.ppt", "", &Conversation::exportOver, Rest::Something},
         {"help", "", "says this", &Conversation::help},
-        {"quit", "", "closes the question; so do exit and the end of the input", &Conversation::quit},
+        {"quit", "", "closes the question; so does exit", &Conversation::quit},
         {"exit", "", "", &Conversation::quit},
     };
     return all;
 }
 
 Conversation::Conversation(const language::ScenarioFile& file, Course course, WorldMaker makeWorld, LineReader& lines,
-                           std::ostream& out)
-    : file_(file), makeWorld_(std::move(makeWorld)), lines_(lines), out_(out), course_(std::move(course)) {}
+                           std::ostream& out, std::vector<fs::path> inputs)
+    : file_(file), makeWorld_(std::move(makeWorld)), lines_(lines), out_(out), course_(std::move(course)),
+      inputs_(std::move(inputs)) {}
 
 bool Conversation::run() {
     const std::u16string subject = file_.subject();
@@ -89,10 +105,11 @@ bool Conversation::run() {
     const std::string prompt = std::to_string(file_.question) + "> ";
     while (!isOver_) {
         const std::optional<std::string> line = lines_.read(prompt);
-        if (!line) {
-            break;
+        if (line) {
+            obey(trimmed(*line));
+        } else {
+            leave();
         }
-        obey(trimmed(*line));
         out_.flush();
     }
     return close();
@@ -145,6 +162,7 @@ void Conversation::obey(const std::string& line) {
         } else if (!line.empty() && line.front() != '#' && line.front() != '\'') {
             perform(line);
         }
+        isWarned_ = isWarned_ && verb != nullptr && verb->act == &Conversation::quit;
     } catch (const language::SyntaxError& error) {
         out_ << explained(error) << '\n';
     } catch (const language::Failure& failure) {
@@ -159,7 +177,6 @@ void Conversation::perform(std::string line) {
     while (isUnfinished(statement)) {
         const std::optional<std::string> more = lines_.read("   > ");
         if (!more) {
-            isOver_ = true;
             return;
         }
         line += " " + trimmed(*more);
@@ -196,19 +213,50 @@ void Conversation::check(const std::string& expected) {
     }
 }
 
+void Conversation::remake(std::vector<Statement> steps) {
+    std::vector<std::u16string> texts;
+    std::transform(steps.begin(), steps.end(), std::back_inserter(texts),
+                   [](const Statement& statement) { return statement.text; });
+    std::size_t made = 0;
+    try {
+        begin();
+        for (Statement& step : steps) {
+            if (std::holds_alternative<language::Check>(step.node)) {
+                static_cast<void>(open_->check());
+            } else {
+                open_->perform(std::move(step));
+            }
+            ++made;
+        }
+    } catch (...) {
+        out_ << "These could not be made once more:\n";
+        for (; made < texts.size(); ++made) {
+            out_ << "  " << toUtf8(texts[made]) << '\n';
+        }
+        throw;
+    }
+}
+
 void Conversation::undo(const std::string& /*rest*/) {
+    if (open_->moves() == 0) {
+        out_ << "There is no move to take back.\n";
+        return;
+    }
+    const std::string last = toUtf8(open_->lastMove());
+    remake(open_->takeAllBeforeLastMove());
+    out_ << "Taken back: " << last << '\n';
+}
+
+void Conversation::reset(const std::string& /*rest*/) {
     const std::size_t made = open_->moves();
     begin();
     out_ << "The question is prepared anew, without the " << counted(made, "move") << " made.\n";
 }
 
 void Conversation::again(const std::string& /*rest*/) {
-    std::vector<Statement> moves = open_->takeMoves();
-    begin();
-    for (Statement& move : moves) {
-        open_->perform(std::move(move));
-    }
-    out_ << "The question is prepared anew, and " << counted(moves.size(), "move") << " made once more.\n";
+    const std::size_t made = open_->moves();
+    remake(open_->takeMoves());
+    out_ << "The question is prepared anew, and " << counted(made, "move") << " made once more.\n";
 }
 
 void Conversation::show(const std::string& /*rest*/) {
@@ -226,7 +274,7 @@ void Conversation::members(const std::string& expression) {
     std::string row;
     for (const automation::Member& member : published->members().members()) {
         const std::string name = toUtf8(member.name.text()) + (member.isMethod ? "()" : "");
-        if (row.size() + name.size() > 100) {
+        if (row.size() + name.size() > 76) {
             out_ << "  " << std::exchange(row, {}) << '\n';
         }
         row += (row.empty() ? "" : " ") + name;
@@ -235,15 +283,32 @@ void Conversation::members(const std::string& expression) {
 }
 
 void Conversation::saveBy(const std::string& verb, const std::string& rest) {
-    const std::size_t quote = std::min(rest.find('"'), rest.size());
-    const std::string name = trimmed(rest.substr(0, quote));
-    if (name.empty()) {
-        throw std::runtime_error("A title stands behind the name of a file: " + verb + " mine.scn " + rest);
+    const Destination to(verb, rest);
+    const OutputFile output = outputOf(verb, to.file);
+    output.requireNoneOf(inputs_);
+    output.write(language::scenarioText(file_, to.title, open_->statements()));
+    saved(to.title, to.file);
+}
+
+void Conversation::append(const std::string& rest) {
+    const Destination to("append", rest);
+    if (!fs::exists(pathOf(to.file))) {
+        return saveBy("save", rest);
     }
-    const std::u16string title = quote == rest.size() ? pathOf(name).stem().u16string()
-                                                      : fromUtf8(rest.substr(quote + 1, rest.rfind('"') - quote - 1));
-    outputOf(verb, name).write(language::scenarioText(file_, title, open_->statements()));
-    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << name << ", with " << counted(open_->moves(), "move")
+    const Bytes content = contentsOf(pathOf(to.file));
+    const std::string before(content.begin(), content.end());
+    const std::string text = withScenario(before, language::scenarioBlock(to.title, open_->statements()));
+    const language::ScenarioFile file = parsed(to.file, text);
+    if (file.question != file_.question) {
+        throw std::runtime_error(to.file + " is about question " + std::to_string(file.question));
+    }
+    OutputFile(to.file, before).write(text);
+    saved(to.title, to.file);
+}
+
+void Conversation::saved(const std::u16string& title, const std::string& file) {
+    saved_ = open_->statements();
+    out_ << "Scenario \"" << toUtf8(title) << "\" is in " << file << ", with " << counted(open_->moves(), "move")
          << " and " << counted(open_->checks(), "check") << ".\n";
     if (open_->checks() == 0) {
         out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
@@ -254,9 +319,21 @@ void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     }
 }
 
+void Conversation::leave() {
+    const bool isLost = open_->moves() != 0 && open_->statements() != saved_;
+    isOver_ = !isLost || isWarned_ || !lines_.isTyped();
+    isWarned_ = true;
+    if (!isOver_) {
+        out_ << counted(open_->moves(), "move")
+             << " not saved: save mine.scn keeps them; quit once more, and they go.\n";
+    }
+}
+
 void Conversation::exportBy(const std::string& verb, const std::string& file) {
     const Bytes content = open_->presentation();
-    outputOf(verb, file).write(std::string(content.begin(), content.end()));
+    const OutputFile output = outputOf(verb, file);
+    output.requireNoneOf(inputs_);
+    output.write(std::string(content.begin(), content.end()));
     out_ << "The presentation is in " << file << ".\n";
 }
 
@@ -266,7 +343,7 @@ void Conversation::help(const std::string& /*rest*/) {
             continue;
         }
         const std::string example = std::string(verb.name) + (verb.rest.empty() ? "" : " ") + std::string(verb.rest);
-        out_ << "  " << std::left << std::setw(46) << example << (verb.what.empty() ? "" : "  ") << verb.what << '\n';
+        out_ << "  " << std::left << std::setw(36) << example << (verb.what.empty() ? "" : "  ") << verb.what << '\n';
     }
 }
 

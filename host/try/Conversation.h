@@ -11,9 +11,9 @@ namespace host {
 /// and a few verbs judge, begin anew and save.
 class Conversation {
 public:
-    /// `file`, `lines` and `out` must outlive this object.
+    /// `file`, `lines` and `out` must outlive this object. `inputs` are the files that the question comes from.
     Conversation(const language::ScenarioFile& file, Course course, WorldMaker makeWorld, LineReader& lines,
-                 std::ostream& out);
+                 std::ostream& out, std::vector<std::filesystem::path> inputs = {});
 
     /// Prepares the question, and takes lines until the author leaves. False where the question could not be prepared,
     /// or could not be closed as it should be.
@@ -44,17 +44,26 @@ private:
 
     void check(const std::string& expected);
     void undo(const std::string&);
+    void reset(const std::string&);
     void again(const std::string&);
     void show(const std::string&);
     void members(const std::string& expression);
     void save(const std::string& rest) { saveBy("save", rest); }
     void saveOver(const std::string& rest) { saveBy("save!", rest); }
     void saveBy(const std::string& verb, const std::string& rest);
+    void append(const std::string& rest);
     void exportTo(const std::string& file) { exportBy("export", file); }
     void exportOver(const std::string& file) { exportBy("export!", file); }
     void exportBy(const std::string& verb, const std::string& file);
     void help(const std::string&);
-    void quit(const std::string&) { isOver_ = true; }
+    void quit(const std::string&) { leave(); }
+
+    /// Prepares the question anew and makes these statements once more; says which could not be made.
+    void remake(std::vector<language::Statement> steps);
+    /// What has been written holds all that was done.
+    void saved(const std::u16string& title, const std::string& file);
+    /// Ends the conversation; the first time not, where moves are not saved and somebody can be told so.
+    void leave();
 
     [[nodiscard]] std::vector<std::string> completions(const std::string& line);
 
@@ -64,6 +73,9 @@ private:
     std::ostream& out_;
     Course course_;
     std::optional<OpenQuestion> open_;
+    std::vector<std::filesystem::path> inputs_;
+    std::vector<std::u16string> saved_; ///< the statements that have been written last
+    bool isWarned_ = false;             ///< that moves are not saved
     bool isOver_ = false;
 };
 

@@ -18,8 +18,11 @@ public:
 
     virtual ~LineReader() = default;
 
-    /// The next line in UTF-8, without its end; nothing at the end of the input, or where the user interrupts it.
+    /// The next line in UTF-8, without its end; nothing at the end of the input, or where the user interrupts
+    /// it. There may be more behind: he may think better of it.
     [[nodiscard]] virtual std::optional<std::string> read(const std::string& prompt) = 0;
+    /// True where somebody types them who can be asked something.
+    [[nodiscard]] virtual bool isTyped() const { return false; }
     /// Where lines can be completed, this says how.
     virtual void completeBy(const Completer& /*completer*/) {}
 };

@@ -45,6 +45,10 @@ void OpenQuestion::remember(Statement expectation) {
     steps_.push_back({std::move(expectation), false});
 }
 
+const std::u16string& OpenQuestion::lastMove() const {
+    return std::find_if(steps_.rbegin(), steps_.rend(), std::mem_fn(&Step::isMove))->statement.text;
+}
+
 std::size_t OpenQuestion::moves() const {
     return static_cast<std::size_t>(std::count_if(steps_.begin(), steps_.end(), std::mem_fn(&Step::isMove)));
 }
@@ -62,6 +66,20 @@ std::vector<Statement> OpenQuestion::takeMoves() {
     checks_ = 0;
     for (Step& step : std::exchange(steps_, {})) {
         if (step.isMove) {
+            taken.push_back(std::move(step.statement));
+        }
+    }
+    return taken;
+}
+
+std::vector<Statement> OpenQuestion::takeAllBeforeLastMove() {
+    std::vector<Statement> taken;
+    std::size_t left = moves();
+    checks_ = 0;
+    for (Step& step : std::exchange(steps_, {})) {
+        left -= step.isMove ? 1 : 0;
+        // What a check expects beside its verdict comes again with it.
+        if (left != 0 && (step.isMove || std::holds_alternative<language::Check>(step.statement.node))) {
             taken.push_back(std::move(step.statement));
         }
     }

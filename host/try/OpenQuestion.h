@@ -23,6 +23,8 @@ public:
     /// One TestePoint, remembered as the check that it passes.
     [[nodiscard]] Reading check();
 
+    /// The last move as it was stated, of those that were made.
+    [[nodiscard]] const std::u16string& lastMove() const;
     /// How many moves were made, and how often was checked.
     [[nodiscard]] std::size_t moves() const;
     [[nodiscard]] std::size_t checks() const noexcept { return checks_; }
@@ -30,6 +32,8 @@ public:
     [[nodiscard]] std::vector<std::u16string> statements() const;
     /// The moves without the checks, to be made once more; none are left here.
     [[nodiscard]] std::vector<language::Statement> takeMoves();
+    /// The moves before the last one and the checks among them, in the same way.
+    [[nodiscard]] std::vector<language::Statement> takeAllBeforeLastMove();
 
     [[nodiscard]] World& world() noexcept { return *world_; }
     /// The content of a copy of the active presentation as it stands. Raises what PowerPoint raises.

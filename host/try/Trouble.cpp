@@ -22,10 +22,10 @@ constexpr auto advices = std::to_array<Advice>({
     {numberOf(automation::RunTimeError::TypeMismatch), "?x prints what a value x is"},
     {numberOf(automation::RunTimeError::ObjectNotSet), "Set x = ... gives a variable its object"},
     {numberOf(automation::RunTimeError::ObjectRequired), "?x prints what a value x is"},
-    {numberOf(automation::RunTimeError::CannotCreateObject), "undo prepares the question anew"},
+    {numberOf(automation::RunTimeError::CannotCreateObject), "reset prepares the question anew"},
     {numberOf(automation::RunTimeError::MemberNotFound), "members x lists those of an object x"},
-    {automation::remote::disconnected, "undo prepares the question anew"},
-    {automation::remote::serverUnavailable, "undo prepares the question anew"},
+    {automation::remote::disconnected, "reset prepares the question anew"},
+    {automation::remote::serverUnavailable, "reset prepares the question anew"},
 });
 
 std::string_view adviceFor(std::int32_t error) {

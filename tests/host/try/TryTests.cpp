@@ -30,6 +30,7 @@ protected:
         return printedBy({"recheck", file, "--question", "314"}, SCENARIOS, ExitCode::Good);
     }
     [[nodiscard]] std::string file(const std::string& name) const { return (folder_.path() / name).string(); }
+    static std::string scenarioFile() { return host::Library(SCENARIOS).fileOf(314).string(); }
     [[nodiscard]] std::string contentOf(const std::string& name) const {
         return simulator::files::wholeFile(folder_.path() / name).value_or("");
     }
@@ -70,8 +71,15 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
         {"save " + file("mine.scn"), "or say save! to replace it\n"},
         {"save! " + file("mine.scn"), "with 5 moves and 1 check.\n"},
         {"save " + file("nowhere/mine.scn"), "cannot be written"},
-        {"save", "For example: save mine.scn\n"},
+        {"save", "For example: save mine.scn \"a title\"\n"},
         {"save \"a title\"", "A title stands behind the name of a file: save mine.scn \"a title\"\n"},
+        {"save " + file("mine.scn") + " so done",
+         "A title stands in quotes: save " + file("mine.scn") + " \"so done\"\n"},
+        {"save mine so done", "A title stands in quotes: save mine \"so done\"\n"},
+        {"save " + file("other.scn") + " \"a\" b", "nothing behind it"},
+        {"save! " + scenarioFile(), "0314.scn is read as well"},
+        {"append " + file("mine.scn"), "expected a title of its own"},
+        {"append " + file("mine.scn") + " \"so \"\"well\"\" done\"", "with 5 moves and 1 check.\n"},
         {"undo 3", "Nothing stands behind undo\n"},
         {"check sucess", "column 7: expected a letter in quotes, success, "},
         {"export " + file("mine.ppt"), "The presentation is in "},
@@ -79,8 +87,22 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
         {"export! " + file("mine.ppt"), "The presentation is in "},
         {"PowerPoint.Kill", ""},
         {"?ActivePresentation",
-         "error 429 PowerPoint does not run [exercise-host] (undo prepares the question anew)\n"},
-        {"undo", "prepared anew, without the 6 moves made.\n"},
+         "error 429 PowerPoint does not run [exercise-host] (reset prepares the question anew)\n"},
+        {"undo", "Taken back: PowerPoint.Kill\n"},
+        {"?s.Count", " 4\n"},
+        {"undo", "Taken back: expect error 438: s.Gone\n"},
+        {"undo", "Taken back: expect s.Count = 4\n"},
+        {"undo", "Taken back: s.AddShape msoShapeRectangle, 20, 20, 100, 60\n"},
+        {"?s.Count", " 3\n"},
+        {"check", reads + "the letter \"A\": "},
+        {"undo", "Taken back: s(2).Width\n"},
+        {"check", reads + "the letter \"A\": "},
+        {"Set t = s(1)", ""},
+        {"check", reads + "the general error \"D\": "},
+        {"undo", "Taken back: Set t = s(1)\n"}, // and the check before it is made again
+        {"check", reads + "the general error \"D\": "},
+        {"reset", "prepared anew, without the 1 move made.\n"},
+        {"undo", "There is no move to take back.\n"},
         {"check success", "Scenarios that end so: \"nothing drawn\""},
         {"?s", "'s' is neither a variable"},
         {"# a remark", ""},
@@ -105,7 +127,8 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
             << answer;
     }
     EXPECT_EQ(said, "The question is closed, and everything is as it was before.\n");
-    EXPECT_EQ(verify(file("mine.scn")), "1 passed, 0 failed\n");
+    EXPECT_EQ(verify(file("mine.scn")), "2 passed, 0 failed\n");
+    EXPECT_NE(contentOf("mine.scn").find("\n\nscenario \"so \"\"well\"\" done\"\n"), std::string::npos);
     EXPECT_TRUE(recheck(file("mine.ppt")).starts_with("Question 314: a success\n"));
 }
 

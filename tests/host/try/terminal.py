@@ -8,11 +8,12 @@ import re
 import select
 import signal
 import sys
+import tempfile
 import time
 
 PATIENCE = 120  # seconds for an answer
 PROMPT = "314> "
-TAB, UP, LEFT, INTERRUPT = "\t", "\x1b[A", "\x1b[D", "\x03"
+TAB, UP, LEFT, INTERRUPT, END = "\t", "\x1b[A", "\x1b[D", "\x03", "\x04"
 CLOSED = "everything is as it was before."
 
 results = []
@@ -86,9 +87,29 @@ def main(host):
     expect(terminal, "and the first one, behind what was typed twice", UP + UP + UP, " 1")
     expect(terminal, "a line is edited", '?"ac"' + LEFT + LEFT + "b", "abc")
     expect(terminal, "accents arrive", '?"créer é"', "créer é")
-    terminal.type("?ActivePresentation.Slides" + INTERRUPT)
-    terminal.wait_for(CLOSED)
+    terminal.type("?ActivePresentation.Sli")
+    terminal.wait_for("Sli")
+    terminal.type(INTERRUPT)
+    terminal.wait_for("\n" + PROMPT)
+    expect(terminal, "Ctrl-C drops a line half typed", "?1 + 1", " 2")
+    for leave in (INTERRUPT, END, "quit\r"):
+        expect(terminal, "a move is made", "x = 1", "")
+        terminal.type(leave)
+        said = terminal.wait_for("\n" + PROMPT)
+        check("who leaves is warned of moves that are not saved", "" if "1 move not saved" in said else repr(said))
+        expect(terminal, "and goes on", "reset", "1 move")
+    with tempfile.TemporaryDirectory() as folder:
+        terminal.answer("x = 1")
+        expect(terminal, "moves are saved", f"save {folder}/mine.scn", "1 move")
+        terminal.type(INTERRUPT)
+        check("no warning where all is saved", "" if "not saved" not in terminal.wait_for(CLOSED) else "a warning")
     check("Ctrl-C closes the question", "" if (code := terminal.end()) == 0 else f"exit code {code}")
+    terminal = Terminal(host)
+    terminal.wait_for(PROMPT)
+    terminal.answer("x = 1")
+    os.kill(terminal.process, signal.SIGTERM)
+    terminal.wait_for(CLOSED)
+    check("a request to end closes the question", "" if (code := terminal.end()) == 0 else f"exit code {code}")
     print(f"{sum(results)} passed, {len(results) - sum(results)} failed")
     return 0 if all(results) else 1
 
