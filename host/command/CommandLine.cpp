@@ -1,17 +1,27 @@
 #include "host/command/CommandLine.h"
 #include "host/command/Options.h"
-#include "host/world/MachineFault.h"
+#include "host/command/Trouble.h"
 #include "host/world/RealFile.h"
 
 namespace host {
 
 namespace {
 
+constexpr const char* exitCodes = "\n\nExit codes: 0 good, 1 something fell short, 2 wrong usage or a wrong line in a\n"
+                                  "scenario file, 3 something hung, 4 the computer had no room on its disk or no\n"
+                                  "folder for temporary files.";
+
+std::string footerOf(const std::string& examples) {
+    return "Examples:\n" + examples + exitCodes;
+}
+
 /// The command line with what it asks for.
 struct CommandLine {
     CommandLine(const Program& program, const std::filesystem::path& scenarios, const std::string& version)
         : app(program.purpose, program.name), folder(scenarios.string()) {
-        app.footer(program.examples);
+        constexpr std::size_t widthOfNames = 26;
+        app.get_formatter()->column_width(widthOfNames);
+        app.footer(footerOf(program.examples));
         app.set_version_flag("--version", version);
         app.require_subcommand(0, 1); // so that an unknown word is named
         app.add_option("--scenarios", folder, "Folder of the scenario files")->capture_default_str();
@@ -19,10 +29,13 @@ struct CommandLine {
             CLI::App& command = *app.add_subcommand(each.name, each.what);
             command.callback([this, action = each.add(command)] { chosen = action; });
             command.fallthrough();
+            if (*each.examples != '\0') {
+                command.footer(footerOf(each.examples));
+            }
             if (each.takesPowerPoint) {
                 auto* const real = command.add_flag(
                     "--powerpoint", withPowerPoint,
-                    "On Windows: drive the registered K73053.dll and the registered PowerPoint, not the embedded ones");
+                    "On Windows: work with the registered K73053.dll and\nPowerPoint, not with the embedded ones");
                 command.add_option("--powerpoint-bits", powerPointBits, "Demand a stand-in of 32 or 64 bits")
                     ->needs(real)
                     ->check(CLI::IsMember({32, 64}));
@@ -51,25 +64,15 @@ WorldMaker remoteWorlds(const CommandLine& asked, const ComWorldsMaker& makeComW
 
 ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const ComWorldsMaker& makeComWorlds,
                  const LineReaderMaker& makeLines, Output output) {
-    try {
+    return withTroubleTold(asked.app.get_name(), output.error, [&] {
         if (asked.chosen == nullptr) {
             throw UsageError("which command? See " + asked.app.get_name() + " --help");
         }
         const Library library(pathOf(asked.folder));
         const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
         Progress progress(output.error, output.isTerminal);
-        return asked.chosen({library, {embedded, remote}, makeLines, output.out, progress});
-    } catch (const language::WrongLines& wrong) {
-        for (const language::Remark& remark : wrong.remarks) {
-            output.error << remark.in(wrong.file) << '\n';
-        }
-    } catch (const MachineFault& fault) {
-        output.error << asked.app.get_name() << ": " << fault.what() << '\n';
-        return ExitCode::Machine;
-    } catch (const std::exception& error) {
-        output.error << asked.app.get_name() << ": " << error.what() << '\n';
-    }
-    return ExitCode::WrongUsage;
+        return asked.chosen({library, {embedded, remote}, makeLines, output.out, progress, output.ink});
+    });
 }
 
 /// Reads the command line, and does what it says.

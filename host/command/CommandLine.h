@@ -13,8 +13,9 @@ using ComWorldsMaker = std::function<WorldMaker(std::int32_t powerPointBits)>;
 struct Command {
     const char* name;
     const char* what;
-    Action (*add)(CLI::App&); ///< adds its options, and answers with what it does
-    bool takesPowerPoint;     ///< with `--powerpoint` it works through COM
+    Action (*add)(CLI::App&);  ///< adds its options, and answers with what it does
+    bool takesPowerPoint;      ///< with `--powerpoint` it works through COM
+    const char* examples = ""; ///< lines of its own help; those of the program where there are none
 };
 
 /// What a program is called, and does.
@@ -30,6 +31,7 @@ struct Output {
     std::ostream& out;
     std::ostream& error;
     bool isTerminal = false; ///< `error` is watched by someone who likes to see progress
+    Ink ink{};               ///< that `out` takes
 };
 
 /// Does what the arguments of a program's command line say (its name left out). `scenarios` is the folder of the

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/command/ExitCode.h"
+#include "host/command/Ink.h"
 #include "host/command/Library.h"
 #include "host/command/Progress.h"
 #include "host/try/LineReader.h"
@@ -29,9 +30,10 @@ struct CommandContext {
     const LineReaderMaker& makeLines;
     std::ostream& out;
     Progress& progress;
+    Ink ink;
 };
 
-/// What a command does with the options that the command line gave it. Raises UsageError, language::WrongLines.
+/// What a command does with the options that the command line gave it. Raises UsageError, WrongFiles, MachineFault.
 using Action = std::function<ExitCode(const CommandContext&)>;
 
 /// Each adds the options of a command, and answers with what the command does.

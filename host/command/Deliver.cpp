@@ -1,5 +1,6 @@
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
+#include "host/world/OutputFile.h"
 #include "host/world/RealFile.h"
 
 #include "automation/Text.h"
@@ -21,15 +22,16 @@ ExitCode deliver(const DeliverRequest& request, const CommandContext& at) {
     const language::ScenarioFile file = load(at.library.fileOf(request.question));
     const auto files = courseOf(file, {}, at.worlds.embedded).filesFor(request.question);
     const std::filesystem::path folder = pathOf(request.folder);
+    std::vector<OutputFile> outputs;
     for (const auto& [name, content] : files) {
-        if (std::filesystem::exists(folder / name)) {
-            throw UsageError((folder / name).string() + " is there already: name another folder, or move it away");
-        }
+        outputs.emplace_back(automation::toUtf8((folder / name).u16string()), std::nullopt, "move it away");
+        outputs.back().requireReplaceable();
     }
     std::error_code failed;
     std::filesystem::create_directories(folder, failed);
+    auto output = outputs.begin();
     for (const auto& [name, content] : files) {
-        writeContents(folder / name, std::string(content.begin(), content.end()));
+        (output++)->write(std::string(content.begin(), content.end()));
         at.out << (folder / name).string() << '\n';
     }
     return ExitCode::Good;

@@ -61,12 +61,49 @@ std::vector<fs::path> Library::filesOfCourse(const std::vector<std::int32_t>& qu
     return filesOf(all);
 }
 
-language::ScenarioFile load(const fs::path& path) {
-    if (std::error_code failed; !fs::exists(path, failed)) {
-        throw UsageError("no scenario file: " + path.string());
+fs::path Library::fileNamed(const std::string& name) const {
+    constexpr std::size_t longest = 9; // an std::int32_t has room for
+    const bool isNumber = name.size() <= longest && name.find_first_not_of("0123456789") == std::string::npos;
+    return isNumber && !name.empty() ? fileOf(std::stoi(name)) : pathOf(name);
+}
+
+std::vector<fs::path> Library::filesNamed(const std::vector<std::string>& names) const {
+    std::vector<fs::path> paths;
+    for (const std::string& name : names) {
+        fs::path path = fileNamed(name);
+        const auto isIt = [&](const fs::path& other) {
+            std::error_code failed;
+            return other == path || fs::equivalent(other, path, failed);
+        };
+        if (std::none_of(paths.begin(), paths.end(), isIt)) {
+            paths.push_back(std::move(path));
+        }
     }
-    const Bytes content = contentsOf(path);
-    return language::parse(path.string(), std::string(content.begin(), content.end()));
+    return names.empty() ? files() : paths;
+}
+
+std::vector<language::ScenarioFile> load(const std::vector<fs::path>& paths) {
+    std::vector<language::ScenarioFile> files;
+    std::vector<language::WrongLines> wrong;
+    for (const fs::path& path : paths) {
+        if (std::error_code failed; !fs::exists(path, failed)) {
+            throw UsageError("no scenario file: " + path.string());
+        }
+        const Bytes content = contentsOf(path);
+        try {
+            files.push_back(language::parse(path.string(), std::string(content.begin(), content.end())));
+        } catch (const language::WrongLines& found) {
+            wrong.push_back(found);
+        }
+    }
+    if (!wrong.empty()) {
+        throw WrongFiles(std::move(wrong));
+    }
+    return files;
+}
+
+language::ScenarioFile load(const fs::path& path) {
+    return std::move(load(std::vector{path}).front());
 }
 
 Course courseOf(const language::ScenarioFile& file, const std::string& folder, const WorldMaker& makeWorld) {

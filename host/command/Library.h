@@ -19,6 +19,11 @@ public:
     /// The file of a question, or where it would be looked for. Raises UsageError for a number that is no question of
     /// the course.
     [[nodiscard]] std::filesystem::path fileOf(std::int32_t question) const;
+    /// The file of a question, by its number (306, 0306); else the file of that name. Raises UsageError for a number
+    /// that is no question of the course.
+    [[nodiscard]] std::filesystem::path fileNamed(const std::string& name) const;
+    /// The files of several such names, each once; all scenario files where there is no name.
+    [[nodiscard]] std::vector<std::filesystem::path> filesNamed(const std::vector<std::string>& names) const;
     [[nodiscard]] std::vector<std::filesystem::path> filesOf(const std::vector<std::int32_t>& questions) const;
     /// The same, but the files of all questions of the course where none is named.
     [[nodiscard]] std::vector<std::filesystem::path> filesOfCourse(const std::vector<std::int32_t>& questions) const;
@@ -27,8 +32,19 @@ private:
     std::filesystem::path folder_;
 };
 
-/// Reads a scenario file. Raises language::WrongLines, or UsageError where the file cannot be read.
+/// Scenario files with wrong lines.
+struct WrongFiles : std::exception {
+    explicit WrongFiles(std::vector<language::WrongLines> found) : files(std::move(found)) {}
+    [[nodiscard]] const char* what() const noexcept override { return files.front().what(); }
+
+    std::vector<language::WrongLines> files;
+};
+
+/// Reads scenario files. Raises WrongFiles, or UsageError where one cannot be read.
+///@{
 [[nodiscard]] language::ScenarioFile load(const std::filesystem::path& path);
+[[nodiscard]] std::vector<language::ScenarioFile> load(const std::vector<std::filesystem::path>& paths);
+///@}
 
 /// What the course delivers for a question: its own files in a folder, or where none is named what the scenario file
 /// builds. Raises UsageError where there is no presentation or it cannot be built.

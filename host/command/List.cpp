@@ -1,5 +1,7 @@
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
+#include "host/language/Words.h"
+#include "host/world/RealFile.h"
 
 #include "automation/Text.h"
 
@@ -9,15 +11,18 @@ namespace host {
 
 namespace {
 
-/// Prints the scenarios of questions, of all where none is named.
-ExitCode list(const std::vector<std::int32_t>& questions, const Library& library, std::ostream& out) {
-    for (const std::filesystem::path& path : questions.empty() ? library.files() : library.filesOf(questions)) {
-        const language::ScenarioFile file = load(path);
-        out << path.filename().string() << ": ";
+/// Prints what questions ask and their scenarios.
+ExitCode list(const std::vector<std::string>& named, const Library& library, std::ostream& out) {
+    constexpr std::size_t width = 78;
+    for (const language::ScenarioFile& file : load(library.filesNamed(named))) {
+        out << pathOf(file.name).filename().string() << ": ";
         if (file.className.empty()) {
             out << "question " << file.question << '\n';
         } else {
             out << "PowerPoint's class " << automation::toUtf8(file.className) << '\n';
+        }
+        if (!file.contract.task.empty()) {
+            out << "  " << folded(automation::toUtf8(file.contract.task), width, "  ") << '\n';
         }
         for (const language::Scenario& scenario : file.scenarios) {
             out << "    " << automation::toUtf8(scenario.title) << '\n';
@@ -29,8 +34,8 @@ ExitCode list(const std::vector<std::int32_t>& questions, const Library& library
 } // namespace
 
 Action addList(CLI::App& command) {
-    const auto questions = std::make_shared<std::vector<std::int32_t>>();
-    addQuestions(command, *questions);
+    const auto questions = std::make_shared<std::vector<std::string>>();
+    addScenarioFiles(command, *questions);
     return [questions](const CommandContext& at) { return list(*questions, at.library, at.out); };
 }
 

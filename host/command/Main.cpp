@@ -18,6 +18,7 @@
 #include <unistd.h>
 #endif
 
+#include <cstdlib>
 #include <iostream>
 
 namespace {
@@ -69,7 +70,9 @@ std::filesystem::path scenarioFolder(const std::filesystem::path& ofSources) {
 int host::runMain(const Program& program, const char* version, const std::filesystem::path& scenarios, int argc,
                   char** argv) {
     const OwnTerminal terminal;
+    const char* const refused = std::getenv("NO_COLOR");
+    const Ink ink{terminal.takesColours() && (refused == nullptr || *refused == '\0')};
     return static_cast<int>(runCommandLine(program, givenArguments(argc, argv), scenarioFolder(scenarios), version,
-                                           makeEmbeddedWorld, {std::cout, std::cerr, isTerminal()}, makeOwnLines,
+                                           makeEmbeddedWorld, {std::cout, std::cerr, isTerminal(), ink}, makeOwnLines,
                                            comWorlds));
 }

@@ -25,8 +25,8 @@ using language::Scenario;
 using language::ScenarioFile;
 
 struct RunRequest {
-    std::int32_t question = 306;
-    std::string scenario; ///< its title; empty for the first that ends in a success
+    std::string question = "306"; ///< its number, or a scenario file
+    std::string scenario;         ///< its title; empty for the first that ends in a success
     bool asJson = false;
     bool withTrace = false;
     std::string course;   ///< folder of the course's own files; empty for those that the scenario file builds
@@ -97,7 +97,7 @@ nlohmann::ordered_json toJson(const ScenarioFile& file, const Scenario& scenario
 
 /// Runs one scenario and tells it, up to the four values that the host reads last.
 ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
-    const ScenarioFile file = load(library.fileOf(request.question));
+    const ScenarioFile file = load(library.fileNamed(request.question));
     const Scenario& scenario = chosen(file, request.scenario);
     PlainStory plain(out);
     JsonStory json;
@@ -159,11 +159,11 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
 
 Action addRun(CLI::App& command) {
     const auto request = std::make_shared<RunRequest>();
-    addQuestion(command, "question", request->question)->capture_default_str();
-    command.add_option("--scenario", request->scenario, "Title of the scenario (the first that ends in a success)");
+    addScenarioFile(command, request->question)->capture_default_str();
+    command.add_option("--scenario", request->scenario, "Its title (the first that ends in a success)");
     command.add_flag("--json", request->asJson, "Print one JSON object");
-    command.add_flag("--trace", request->withTrace, "List every call that leaves the module, its time and outcome");
-    command.add_option("--picture", request->pictures, "Folder for pictures of the slide before and after");
+    command.add_flag("--trace", request->withTrace, "List every call of the module, its time and answer");
+    command.add_option("--picture", request->pictures, "Folder for pictures of the slide, before and after");
     addCourse(command, request->course);
     return [request](const CommandContext& at) { return run(*request, at.library, at.worlds.chosen(), at.out); };
 }

@@ -8,8 +8,8 @@ namespace host {
 namespace {
 
 struct TryRequest {
-    std::int32_t question = 0;
-    std::string course; ///< folder of the course's own files; empty for those that the scenario file builds
+    std::string question; ///< its number, or a scenario file
+    std::string course;   ///< folder of the course's own files; empty for those that the scenario file builds
 };
 
 /// The files that a question comes from, which nothing may be written over.
@@ -27,7 +27,7 @@ std::vector<std::filesystem::path> inputsOf(const language::ScenarioFile& file, 
 
 /// Prepares a question and talks with the course author, who states moves, asks for verdicts and saves scenarios.
 ExitCode talk(const TryRequest& request, const CommandContext& at) {
-    const language::ScenarioFile file = load(at.library.fileOf(request.question));
+    const language::ScenarioFile file = load(at.library.fileNamed(request.question));
     const WorldMaker& makeWorld = at.worlds.chosen();
     const std::unique_ptr<LineReader> lines = at.makeLines();
     Course course = courseOf(file, request.course, makeWorld);
@@ -40,7 +40,7 @@ ExitCode talk(const TryRequest& request, const CommandContext& at) {
 
 Action addTry(CLI::App& command) {
     const auto request = std::make_shared<TryRequest>();
-    addQuestion(command, "question", request->question)->required();
+    addScenarioFile(command, request->question)->required();
     addCourse(command, request->course);
     return [request](const CommandContext& at) { return talk(*request, at); };
 }

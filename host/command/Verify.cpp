@@ -1,26 +1,24 @@
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
+#include "host/command/Repetition.h"
+#include "host/command/Reports.h"
+#include "host/command/Trouble.h"
 #include "host/command/Watch.h"
 #include "host/picture/Camera.h"
 #include "host/reason/Delivery.h"
 #include "host/reason/Explainer.h"
-#include "host/report/JUnit.h"
-#include "host/report/Json.h"
 #include "host/report/Letters.h"
-#include "host/report/Page.h"
 #include "host/report/Recorder.h"
 #include "host/run/Runner.h"
 #include "host/run/Witnesses.h"
-#include "host/world/OutputFile.h"
-#include "host/world/RealFile.h"
 
 #include "automation/Text.h"
 #include "automation/observe/CallCounter.h"
 
 #include <algorithm>
-#include <chrono>
 #include <ostream>
 #include <random>
+#include <set>
 
 namespace host {
 
@@ -35,12 +33,13 @@ using Files = std::vector<language::ScenarioFile>;
 
 /// All files of the library where nothing is named.
 struct VerifyRequest {
-    std::vector<std::int32_t> questions;
-    std::vector<std::string> files;
-    std::string course;                ///< folder of the course's own files; empty for those that the files build
-    std::string page;                  ///< file for a report as a page; empty for none
-    std::string junit;                 ///< file for a report as build servers read it; empty for none
-    std::string json;                  ///< file for a report as JSON; empty for none
+    std::vector<std::string> files;  ///< or numbers of questions
+    std::vector<std::string> titles; ///< of scenarios; all where none is named
+    std::string course;              ///< folder of the course's own files; empty for those that the files build
+    ReportNames reports;
+    bool isStopped = false;            ///< at the first scenario that falls short
+    bool namesAll = false;             ///< says which passed, too
+    bool isRepeated = false;           ///< whenever a file is saved
     std::optional<std::size_t> sample; ///< scenarios of each file; all where nothing is said
     std::optional<std::uint32_t> draw; ///< of the random numbers that pick them; a new one where it is missing
 };
@@ -70,6 +69,9 @@ public:
         Report report;
         for (const language::ScenarioFile& file : files) {
             report.push_back(run(file));
+            if (isOver(report.back())) {
+                break;
+            }
         }
         at_.progress.clear();
         return report;
@@ -77,8 +79,12 @@ public:
 
 private:
     FileResult run(const language::ScenarioFile& file) {
-        FileResult result{
-            file.name, file.question, toUtf8(file.subject()), file.contract.meanings, {}, request_.sample.has_value()};
+        FileResult result{file.name,
+                          file.question,
+                          toUtf8(file.subject()),
+                          file.contract.meanings,
+                          {},
+                          request_.sample || !request_.titles.empty()};
         Watch watch(at_.out);
         watch.next(file.name + ", its course");
         const WorldMaker& makeWorld = at_.worlds.chosen();
@@ -95,6 +101,9 @@ private:
             watch.next(place);
             at_.progress.at(result.name() + ", " + toUtf8(scenario.title), ++scenario_, scenarios_);
             add(run(runner, scenario, file.contract), result);
+            if (isOver(result)) {
+                break;
+            }
         }
         if (result.failed() == 0) {
             const std::vector<language::Remark> letters = report::lettersAmiss(result);
@@ -116,7 +125,13 @@ private:
         return result;
     }
 
+    [[nodiscard]] bool isOver(const FileResult& result) const { return request_.isStopped && result.failed() != 0; }
+
     void add(Result result, FileResult& file) const {
+        if (result.passed() && request_.namesAll) {
+            at_.progress.clear();
+            at_.out << file.name() << " \"" << result.title << "\": " << at_.ink.good("passed") << std::endl;
+        }
         for (const language::Remark& failure : result.failures) {
             at_.progress.clear();
             at_.out << failure.in(file.file) << " (\"" << result.title << "\")" << std::endl;
@@ -144,103 +159,99 @@ private:
         return result;
     }
 
-    [[nodiscard]] bool isReported() const {
-        return !request_.page.empty() || !request_.junit.empty() || !request_.json.empty();
-    }
-
     const VerifyRequest& request_;
     const CommandContext& at_;
     std::size_t scenario_ = 0;
     std::size_t scenarios_ = 0;
 };
 
-std::vector<std::filesystem::path> named(const VerifyRequest& request, const Library& library) {
-    std::vector<std::filesystem::path> paths = library.filesOf(request.questions);
-    std::transform(request.files.begin(), request.files.end(), std::back_inserter(paths), pathOf);
-    return paths.empty() ? library.files() : paths;
-}
-
-/// The day and the time, in UTC: `2026-11-21 10:08 UTC`.
-std::string now() {
-    using namespace std::chrono;
-    const auto moment = floor<minutes>(system_clock::now());
-    const auto midnight = floor<days>(moment);
-    const year_month_day date(midnight);
-    const hh_mm_ss time(moment - midnight);
-    const auto twoDigits = [](auto number) { return std::to_string(100 + number).substr(1); };
-    return std::to_string(static_cast<int>(date.year())) + "-" + twoDigits(static_cast<unsigned>(date.month())) + "-" +
-           twoDigits(static_cast<unsigned>(date.day())) + " " + twoDigits(time.hours().count()) + ":" +
-           twoDigits(time.minutes().count()) + " UTC";
-}
-
-/// A report that is asked for.
-struct Wanted {
-    OutputFile file;
-    std::function<std::string(const Report&)> form;
-};
-
-std::vector<Wanted> wantedReports(const VerifyRequest& request) {
-    const auto asPage = [](const Report& report) { return report::asPage(report, now()); };
-    std::vector<Wanted> all;
-    const auto add = [&](const std::string& name, std::string_view beginning, const auto& form) {
-        if (!name.empty()) {
-            all.push_back({OutputFile(name, std::string(beginning)), form});
+/// Leaves the scenarios of these titles. Raises UsageError where there is none of a title.
+void takeTitles(const std::vector<std::string>& titles, Files& files) {
+    std::set<std::string> found;
+    for (language::ScenarioFile& file : files) {
+        std::erase_if(file.scenarios, [&](const language::Scenario& scenario) {
+            const std::string title = toUtf8(scenario.title);
+            const bool isWanted = std::find(titles.begin(), titles.end(), title) != titles.end();
+            found.insert(isWanted ? title : "");
+            return !isWanted;
+        });
+    }
+    for (const std::string& title : titles) {
+        if (!found.contains(title)) {
+            throw UsageError("no scenario \"" + title + "\": 'list' names all");
         }
-    };
-    add(request.page, report::pageBeginning, asPage);
-    add(request.junit, report::junitBeginning, report::asJUnit);
-    add(request.json, report::jsonBeginning, report::asJson);
-    return all;
+    }
+    std::erase_if(files, [](const language::ScenarioFile& file) { return file.scenarios.empty(); });
 }
 
-void prepare(const std::vector<Wanted>& reports, const std::vector<std::filesystem::path>& inputs) {
-    std::vector<OutputFile> files;
-    for (const Wanted& report : reports) {
-        files.push_back(report.file);
-    }
-    OutputFile::prepare(files, inputs);
-}
-
-/// Runs all scenarios, prints what falls short and writes the reports asked for.
-ExitCode verify(const VerifyRequest& request, const CommandContext& at) {
-    Files files;
-    const std::vector<std::filesystem::path> paths = named(request, at.library);
-    for (const std::filesystem::path& path : paths) {
-        files.push_back(load(path));
-    }
+/// The scenarios to be run. Raises WrongFiles and UsageError.
+Files chosen(const VerifyRequest& request, const std::vector<std::filesystem::path>& paths) {
+    Files files = load(paths);
     // Whether PowerPoint keeps its promises is asked by a command of its own.
     std::erase_if(files, [](const language::ScenarioFile& file) { return !file.className.empty(); });
-    if (request.sample) {
-        takeSample(request, files, at.out);
+    if (!request.titles.empty()) {
+        takeTitles(request.titles, files);
     }
     if (std::all_of(files.begin(), files.end(), [](const auto& file) { return file.scenarios.empty(); })) {
         throw UsageError("no scenario to verify");
     }
-    const std::vector<Wanted> reports = wantedReports(request);
-    prepare(reports, paths);
-    const Report report = Verification(request, at).run(files);
-    for (const Wanted& wanted : reports) {
-        wanted.file.write(wanted.form(report));
+    return files;
+}
+
+/// Runs all scenarios, prints what falls short and writes the reports asked for.
+ExitCode verify(const VerifyRequest& request, const std::vector<std::filesystem::path>& paths,
+                const CommandContext& at) {
+    const Reports reports(request.reports);
+    Files files;
+    try {
+        files = chosen(request, paths);
+    } catch (const WrongFiles& wrong) {
+        reports.prepare(paths);
+        reports.writeWrong(wrong.files);
+        throw;
     }
+    reports.prepare(paths);
+    if (request.sample) {
+        takeSample(request, files, at.out);
+    }
+    const Report report = Verification(request, at).run(files);
+    reports.write(report);
     const report::Totals totals(report);
-    at.out << totals.passed << " passed, " << totals.failed << " failed\n";
+    const std::string failed = std::to_string(totals.failed) + " failed";
+    at.out << at.ink.good(std::to_string(totals.passed) + " passed") << ", "
+           << (totals.failed == 0 ? failed : at.ink.bad(failed)) << std::endl;
     return totals.failed == 0 ? ExitCode::Good : ExitCode::FellShort;
+}
+
+ExitCode verifyAsAsked(const VerifyRequest& request, const CommandContext& at) {
+    const std::vector<std::filesystem::path> paths = at.library.filesNamed(request.files);
+    if (!request.isRepeated) {
+        return verify(request, paths, at);
+    }
+    onEverySaving(paths, [&] {
+        static_cast<void>(withTroubleTold("verify", at.out, [&] { return verify(request, paths, at); }));
+        at.out << "Waiting for a file to be saved; Ctrl-C ends it" << std::endl;
+    });
 }
 
 } // namespace
 
 Action addVerify(CLI::App& command) {
     const auto request = std::make_shared<VerifyRequest>();
-    addQuestions(command, request->questions);
-    command.add_option("--file", request->files, "A scenario file");
+    addScenarioFiles(command, request->files);
+    command.add_option("--scenario", request->titles, "Title of a scenario (all)")->allow_extra_args(false);
+    command.add_flag("--stop", request->isStopped, "Stop at the first scenario that falls short");
+    command.add_flag("--passed", request->namesAll, "Name the scenarios that pass, too");
+    command.add_flag("--watch", request->isRepeated, "Go on: again whenever a file is saved");
     addCourse(command, request->course);
     auto* const sample =
-        command.add_option("--sample", request->sample, "Run so many scenarios of each file, at random");
+        command.add_option("--sample", request->sample, "Run so many scenarios of each file, at random")
+            ->check(wholeNumber());
     command.add_option("--draw", request->draw, "What --sample draws by (at random)")->needs(sample);
-    command.add_option("--report", request->page, "Write a page of all scenarios, with pictures (F.html)");
-    command.add_option("--junit", request->junit, "Write a report as build servers read it (F.xml)");
-    command.add_option("--json", request->json, "Write a report as JSON (F.json)");
-    return [request](const CommandContext& at) { return verify(*request, at); };
+    command.add_option("--report", request->reports.page, "Write a page of all, with pictures (F.html)");
+    command.add_option("--junit", request->reports.junit, "Write a report for build servers (F.xml)");
+    command.add_option("--json", request->reports.json, "Write a report as JSON (F.json)");
+    return [request](const CommandContext& at) { return verifyAsAsked(*request, at); };
 }
 
 } // namespace host

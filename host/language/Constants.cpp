@@ -193,6 +193,26 @@ std::optional<std::u16string> nameOfConstant(std::u16string_view stem, std::int3
     return std::nullopt;
 }
 
+std::vector<std::u16string> constantNames() {
+    std::vector<std::u16string> names{u"True", u"False", u"Nothing"};
+    for (const Text& text : texts) {
+        names.emplace_back(text.name);
+    }
+    for (const Numbered& family : numbered) {
+        for (std::int32_t number = 1; number <= family.last; ++number) {
+            names.push_back(std::u16string(family.stem) + automation::decimal(number));
+        }
+    }
+    for (const Run& run : runs) {
+        for (std::u16string_view rest = run.words; !rest.empty();) {
+            const std::size_t length = std::min(rest.find(u' '), rest.size());
+            names.push_back(std::u16string(run.stem).append(rest.substr(0, length)));
+            rest.remove_prefix(std::min(length + 1, rest.size()));
+        }
+    }
+    return names;
+}
+
 bool looksLikeConstant(std::u16string_view name) {
     return isFormedFrom(u"mso", name) || isFormedFrom(u"pp", name) || isFormedFrom(u"vb", name);
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace host::language {
 
@@ -14,6 +15,9 @@ namespace host::language {
 /// The name with this beginning of a number: `msoGroup` for "mso" and 6; nothing where there is none. Of several the
 /// first in the table, so that the beginning has to say what is meant.
 [[nodiscard]] std::optional<std::u16string> nameOfConstant(std::u16string_view stem, std::int32_t value);
+
+/// All names of constants.
+[[nodiscard]] std::vector<std::u16string> constantNames();
 
 /// True for names formed as constants are (`msoSomething`, `ppSomething`, `vbSomething`).
 [[nodiscard]] bool looksLikeConstant(std::u16string_view name);

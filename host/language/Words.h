@@ -24,6 +24,9 @@ namespace host {
 /// A text without the blanks around it.
 [[nodiscard]] std::string trimmed(const std::string& text);
 
+/// A text in UTF-8 on lines of so many characters, broken at blanks, `indent` before all but the first.
+[[nodiscard]] std::string folded(const std::string& text, std::size_t width, const std::string& indent);
+
 /// Puts something else in the place of every `what`.
 void replaceAll(std::string& text, std::string_view what, std::string_view by);
 

@@ -8,6 +8,8 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
+#include <string_view>
 #include <thread>
 
 namespace host {
@@ -74,6 +76,11 @@ OwnTerminal::~OwnTerminal() {
     for (const int signal : endings) {
         handle(signal, ring, SIG_DFL);
     }
+}
+
+bool OwnTerminal::takesColours() {
+    const char* const kind = std::getenv("TERM");
+    return isatty(STDOUT_FILENO) != 0 && kind != nullptr && std::string_view(kind) != "dumb";
 }
 
 } // namespace host

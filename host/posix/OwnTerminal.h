@@ -10,6 +10,9 @@ class OwnTerminal : automation::Unmoved {
 public:
     OwnTerminal();
     ~OwnTerminal();
+
+    /// True where what is printed goes to a terminal that has colours.
+    [[nodiscard]] static bool takesColours();
 };
 
 } // namespace host

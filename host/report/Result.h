@@ -41,7 +41,8 @@ struct FileResult {
     std::string subject;                     ///< what the file says of itself at its head; may be empty
     std::vector<language::Meaning> meanings; ///< of the verdicts that the file declares
     std::vector<Result> results;
-    bool isSample = false; ///< not all of its scenarios were run
+    bool isSample = false;                      ///< not all of its scenarios were run
+    std::vector<language::Remark> wrongLines{}; ///< for which none was run
 
     [[nodiscard]] std::size_t passed() const noexcept;
     [[nodiscard]] std::size_t failed() const noexcept { return results.size() - passed(); }

@@ -2,6 +2,7 @@
 
 #include "automation/MemberTable.h"
 #include "automation/Text.h"
+#include "host/language/Constants.h"
 #include "host/language/Parser.h"
 
 namespace host {
@@ -78,6 +79,9 @@ std::vector<std::string> completionsOf(const std::string& line, OpenQuestion& op
             addMembers(objectBefore(line.substr(chain, start - 1 - chain), open), names);
         } else if (start < line.size()) {
             addMembers(open.world().powerPoint().application(), names);
+            for (const std::u16string& constant : language::constantNames()) {
+                names.push_back(automation::toUtf8(constant));
+            }
             names.insert(names.end(), {"Files", "Host", "PowerPoint", "Registry"});
         }
     } catch (const std::exception&) {

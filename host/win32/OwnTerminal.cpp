@@ -45,4 +45,11 @@ OwnTerminal::~OwnTerminal() {
     SetConsoleCtrlHandler(cleanUp, FALSE);
 }
 
+bool OwnTerminal::takesColours() {
+    const HANDLE out = GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    return GetConsoleMode(out, &mode) != FALSE &&
+           SetConsoleMode(out, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != FALSE;
+}
+
 } // namespace host

@@ -19,6 +19,8 @@ public:
     /// As its user names it.
     [[nodiscard]] const std::string& name() const noexcept { return name_; }
 
+    /// Raises std::runtime_error where something stands in its place that may not be replaced.
+    void requireReplaceable() const;
     /// Raises std::runtime_error where it is one of the files that are read.
     void requireNoneOf(const std::vector<std::filesystem::path>& inputs) const;
     /// Writes the file. Raises std::runtime_error where it may not be written or replaced, MachineFault where it cannot
@@ -32,8 +34,6 @@ public:
 
 private:
     [[nodiscard]] bool isAt(const std::filesystem::path& other) const;
-    void requireReplaceable() const;
-
     std::string name_;
     std::filesystem::path path_; ///< behind all links
     std::optional<std::string> replaced_;

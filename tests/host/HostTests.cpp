@@ -130,7 +130,20 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
     ask(ask(shape, u"TextFrame"), u"TextRange").put(u"Text", u"créer créer créer créer");
     EXPECT_TRUE(judged(ofTheCourse, ExitCode::Good).starts_with("Question 306: a success with the remark \"F\"\n"));
 
+    const std::vector<std::string> all = {"recheck", folder.string(), "--question", "306"};
+    const std::string table = said(all, ExitCode::FellShort);
+    EXPECT_TRUE(table.ends_with(
+        "\n\n2 presentations\n     1  a success with the remark \"F\"\n     1  the general error \"C\"\n"))
+        << table;
+    std::vector<std::string> inJson = all;
+    inJson.emplace_back("--json");
+    const auto object = nlohmann::json::parse(said(inJson, ExitCode::FellShort));
+    ASSERT_EQ(object["presentations"].size(), 2U);
+    EXPECT_EQ(object["presentations"][1]["CauseErreur"], "F");
+    EXPECT_EQ(object["presentations"][1]["passed"], true);
+
     std::ofstream(folder / "eleve.ppt") << "no presentation";
+    EXPECT_NE(said(all, ExitCode::WrongUsage).find("\n     1  not judged\n"), std::string::npos);
     EXPECT_NE(said(recheck, ExitCode::WrongUsage).find("eleve.ppt"), std::string::npos);
 
     const auto staged = [&](const char* command) {
@@ -257,8 +270,9 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
         const char* printed;
     };
     const std::string good = std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n";
+    const std::string folder = std::filesystem::path(file()).parent_path().string();
     const std::vector<Case> cases = {
-        {{"--help"}, ExitCode::Good, "Exit codes: 0 good"},
+        {{"verify", "--help"}, ExitCode::Good, "Exit codes: 0 good"},
         {{"--version"}, ExitCode::Good, "1.2.3"},
         {{}, ExitCode::WrongUsage, "which command?"},
         {{"walk"}, ExitCode::WrongUsage, "not expected: walk"},
@@ -269,7 +283,18 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
         {{"run", "--scenario", "something"}, ExitCode::WrongUsage, "has no scenario \"something\""},
         {{"run", "306", "--scenario", "nothing"}, ExitCode::Good, "CauseErreur: A\n"},
         {{"verify"}, ExitCode::Good, "1 passed, 0 failed\n"},
-        {{"verify", "306", "--file", file()}, ExitCode::Good, "2 passed, 0 failed\n"},
+        {{"verify", "306", "0306", "--file", file()}, ExitCode::Good, "1 passed, 0 failed\n"},
+        {{"verify", file(), "--passed"}, ExitCode::Good, "0306 \"nothing\": passed\n1 passed"},
+        {{"verify", folder}, ExitCode::WrongUsage, " is a folder"},
+        {{"verify", "--scenario", "nothing"}, ExitCode::Good, "1 passed, 0 failed\n"},
+        {{"verify", "--scenario", "something"}, ExitCode::WrongUsage, "no scenario \"something\""},
+        {{"verify", "--sample", "-3"}, ExitCode::WrongUsage, "-3 is no whole number"},
+        {{"verify", "--sample", "1.5"}, ExitCode::WrongUsage, "1.5 is no whole number"},
+        {{"verify", "/proc/self/mem"}, ExitCode::WrongUsage, "/proc/self/mem cannot be read"},
+        {{"run", file(), "--scenario", "nothing"}, ExitCode::Good, "CauseErreur: A\n"},
+        {{"try", "--file", file()}, ExitCode::Good, "shape 1"},
+        {{"list", file()}, ExitCode::Good, "    nothing\n"},
+        {{"recheck", folder, "--question", "306"}, ExitCode::WrongUsage, "no presentation (.ppt) below"},
         {{"verify", "--scenarios", "nowhere"}, ExitCode::WrongUsage, "no folder of scenarios: nowhere"},
         {{"list"}, ExitCode::Good, "0306.scn: question 306\n    nothing\n"},
     };
@@ -278,7 +303,26 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
         const std::string printed = said(asked.arguments, asked.expected);
         EXPECT_NE(printed.find(asked.printed), std::string::npos) << printed;
     }
+    for (const char* const command : {"", "run", "try", "play", "verify", "conform", "recheck", "deliver", "list"}) {
+        std::istringstream help(said({command, "--help"}, ExitCode::Good));
+        for (std::string line; std::getline(help, line);) {
+            EXPECT_TRUE(line.size() <= 80 || line.starts_with("  --scenarios")) << line; // which names a folder
+        }
+    }
+    const std::string fallsShort = "scenario \"one\"\ncheck \"C\"\nscenario \"two\"\ncheck \"C\"\n";
+    write(std::string(course) + fallsShort);
+    EXPECT_TRUE(said({"verify", "--stop"}, ExitCode::FellShort).ends_with("\n0 passed, 1 failed\n"));
+    write("question 306\ntask \"" + std::string(30, 'a') + ' ' + std::string(50, 'b') + "\"\n" +
+          good.substr(good.find('\n') + 1));
+    EXPECT_EQ(said({"list"}, ExitCode::Good),
+              "0306.scn: question 306\n  " + std::string(30, 'a') + "\n  " + std::string(50, 'b') + "\n    nothing\n");
     write(good + "check A\n\ncheck remark\n");
+    const std::string report = folder + "/wrong.xml";
+    static_cast<void>(said({"verify", "--junit", report}, ExitCode::WrongUsage));
+    const host::Bytes junit = host::contentsOf(report);
+    const std::string errors(junit.begin(), junit.end());
+    EXPECT_NE(errors.find("tests=\"2\" failures=\"0\" errors=\"2\""), std::string::npos) << errors;
+    EXPECT_NE(errors.find("<error message=\"expected a letter in quotes"), std::string::npos) << errors;
     EXPECT_EQ(said({"verify"}, ExitCode::WrongUsage),
               file() + ":8:7: expected a letter in quotes, success, remark, general or error, found 'A'\n" + file() +
                   ":10:13: expected the letter of the remark, in quotes, found the end of the line\n");

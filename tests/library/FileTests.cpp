@@ -73,8 +73,8 @@ const std::vector<Known> windowsXP{
     {"kernel32.dll", "Windows 2000",
      "CloseHandle DuplicateHandle GetConsoleMode GetConsoleOutputCP GetHandleInformation GetLocaleInfoA GetStdHandle "
      "GetSystemTimeAdjustment GetSystemTimeAsFileTime GetTickCount IsDBCSLeadByteEx MultiByteToWideChar "
-     "QueryPerformanceCounter QueryPerformanceFrequency ReadConsoleW SetConsoleCtrlHandler SetConsoleOutputCP "
-     "SetLocaleInfoW SetSystemTime WideCharToMultiByte lstrcmpiA lstrcmpiW"},
+     "QueryPerformanceCounter QueryPerformanceFrequency ReadConsoleW SetConsoleCtrlHandler SetConsoleMode "
+     "SetConsoleOutputCP SetLocaleInfoW SetSystemTime WideCharToMultiByte lstrcmpiA lstrcmpiW"},
     {"kernel32.dll", "Windows XP",
      "AddVectoredExceptionHandler AssignProcessToJobObject CreateDirectoryW CreateEventA CreateEventW CreateFileW "
      "CreateHardLinkW CreateIoCompletionPort CreateJobObjectW CreateMutexW CreateProcessW CreateSemaphoreA "

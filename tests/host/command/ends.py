@@ -15,6 +15,7 @@ PATIENCE = 60  # seconds for the program to come so far
 MACHINE = 4
 LONG = "question 305\ncourse\n  Presentations.Add\nscenario \"long\"\n  before InitQuestion\n  PowerPoint.Start\n" + (
     "  Presentations.Add.Close\n" * 100000) + "  expect 1 = 1\n"
+SHORT = "question 313\ncourse\n  Presentations.Add\nscenario \"short\"\n  before InitQuestion\n  expect 1 = 1\n"
 
 results = []
 
@@ -54,6 +55,26 @@ def unread(host, scratch):
     return "" if run.returncode == -signal.SIGPIPE and not left else f"exit code {run.returncode}, {left} left"
 
 
+def watched(host, folder):
+    """What is wrong with a verification that goes on whenever its file is saved."""
+    scenario = pathlib.Path(folder, "watched.scn")
+    scenario.write_text(SHORT)
+    printed = open(pathlib.Path(folder, "printed"), "w+")
+    run = subprocess.Popen([host, "verify", scenario, "--watch"], stdout=printed, stderr=subprocess.STDOUT)
+
+    def comes(text):
+        return "" if until(lambda: text in pathlib.Path(printed.name).read_text()) else f"{text!r} is not printed; "
+
+    wrong = comes("1 passed, 0 failed")
+    scenario.write_text(SHORT.replace("= 1", "= 2"))
+    wrong += comes("0 passed, 1 failed")
+    scenario.write_text(SHORT + "  check what\n")
+    wrong += comes("watched.scn:7:9: ")
+    run.send_signal(signal.SIGINT)
+    run.wait(PATIENCE)
+    return wrong
+
+
 def without_room():
     signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
     resource.setrlimit(resource.RLIMIT_FSIZE, (512, 512))
@@ -75,6 +96,7 @@ def main(host):
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
             check(f"{number.name} leaves no folder", interrupted(host, scratch, str(scenario), number))
         check("a closed pipe leaves no folder", unread(host, scratch))
+        check("--watch goes on", watched(host, folder))
         missing = {"TMPDIR": folder + "/missing"}
         for command in (["verify", "313"], ["run", "313"], ["try", "313"]):
             check("no temporary folder", fault(host, command, "no temporary folder can be made", environment=missing))

@@ -140,6 +140,7 @@ TEST_F(TryTest, CompletingCallsNoMethod) {
     EXPECT_EQ(completions("?activepres"), std::vector<std::string>{"ActivePresentation"});
     EXPECT_EQ(completions("x = ActivePresentation.Slides(1).Shapes(\"Text Box 3\").Rotat"),
               std::vector<std::string>{"Rotation"});
+    EXPECT_EQ(completions("s.AddShape msoShapeRectangularC"), std::vector<std::string>{"msoShapeRectangularCallout"});
     EXPECT_EQ(completions("Reg"), std::vector<std::string>{"Registry"});
     for (const char* const line :
          {"ActivePresentation.Slides(1).Shapes.AddShape(1, 0, 0, 9, 9).", "ActivePresentation.Slides(1).Duplicate().",

@@ -3,6 +3,7 @@
 terminal.py EXERCISE-HOST: ends with a line "N passed, N failed".
 """
 import os
+import pathlib
 import pty
 import re
 import select
@@ -28,12 +29,15 @@ def check(name, wrong):
 class Terminal:
     """A terminal with a conversation in it."""
 
-    def __init__(self, host):
+    def __init__(self, host, *arguments, folder=None, prompt=PROMPT, **environment):
         self.seen = ""
+        self.prompt = prompt
         self.process, self.terminal = pty.fork()
         if self.process == 0:
-            os.environ.update(LC_ALL="C", TERM="xterm", COLUMNS="200")
-            os.execv(host, [host, "try", "314"])
+            os.environ.pop("NO_COLOR", None)
+            os.environ.update(LC_ALL="C", TERM="xterm", COLUMNS="200", **environment)
+            os.chdir(folder or ".")
+            os.execv(host, [host, *arguments])
 
     def type(self, keys):
         self.seen = ""
@@ -58,7 +62,16 @@ class Terminal:
     def answer(self, keys):
         """What is printed behind a line that is typed, up to the next prompt."""
         self.type(keys + "\r")
-        return self.wait_for("\n" + PROMPT).split("\n", 1)[1]
+        return self.wait_for("\n" + self.prompt).split("\n", 1)[1]
+
+    def all(self):
+        """Everything that the program prints, once it has ended; colours, too."""
+        try:
+            while read := os.read(self.terminal, 65536):
+                self.seen += read.decode("utf-8", "replace")
+        except OSError:
+            pass
+        return self.seen + f"exit code {self.end()}"
 
     def end(self):
         """The exit code, once the program has ended."""
@@ -78,8 +91,35 @@ def expect(terminal, name, keys, wanted):
     check(name, "" if wanted in answered else f"{keys!r} is answered {answered!r}")
 
 
+def walk(host, folder):
+    """The guide's way from nothing to a file of one's own on a deck of one's own, and its report, in ten statements."""
+    def run(*arguments, wanted):
+        said = Terminal(host, *arguments, folder=folder).all()
+        check(f"{arguments[0]} of the walk", "" if all(word in said for word in (*wanted, "exit code 0")) else repr(said))
+
+    run("deliver", "311", "deck", wanted=["07305311.ppt"])
+    terminal = Terminal(host, "try", "311", "--course", "deck", folder=folder, prompt="311> ")
+    terminal.wait_for(terminal.prompt)
+    for typed, wanted in {"check": 'the letter "E"', 'save mine.scn "nothing done"': "0 moves and 1 check",
+                          "reset": "prepared anew", "ActiveWindow.Selection.ShapeRange.Left = 150": "",
+                          "ActiveWindow.Selection.ShapeRange.Top = 200": "", "check ": "a success",
+                          'append mine.scn "the right way"': "2 moves and 1 check"}.items():
+        expect(terminal, "a line of the walk", typed, wanted)
+    terminal.type(END)
+    terminal.wait_for(CLOSED)
+    terminal.end()
+    run("verify", "mine.scn", "--course", "deck", "--report", "page.html", wanted=["2 passed"])
+    page = pathlib.Path(folder, "page.html").read_text(encoding="utf-8")
+    check("the report has the scenarios", [word for word in ("nothing done", "the right way", "<svg") if word not in page])
+
+
 def main(host):
-    terminal = Terminal(host)
+    with tempfile.TemporaryDirectory() as folder:
+        walk(host, folder)
+    for wanted, environment in (("\x1b[32m7 passed\x1b[0m, 0 failed", {}), ("\n7 passed, 0 failed", {"NO_COLOR": "1"})):
+        said = "\n" + Terminal(host, "verify", "313", **environment).all()
+        check("colours where they are liked", "" if wanted in said.replace("\r", "\n") else repr(said))
+    terminal = Terminal(host, "try", "314")
     terminal.wait_for(PROMPT)
     expect(terminal, "Tab completes a member", "?ActivePresentation.Sli" + TAB + ".Count", " 1")
     expect(terminal, "Tab completes what stands in parentheses", "?ActivePresentation.Slides(1).Sha" + TAB, "Shapes of 3")
@@ -104,7 +144,7 @@ def main(host):
         terminal.type(INTERRUPT)
         check("no warning where all is saved", "" if "not saved" not in terminal.wait_for(CLOSED) else "a warning")
     check("Ctrl-C closes the question", "" if (code := terminal.end()) == 0 else f"exit code {code}")
-    terminal = Terminal(host)
+    terminal = Terminal(host, "try", "314")
     terminal.wait_for(PROMPT)
     terminal.answer("x = 1")
     os.kill(terminal.process, signal.SIGTERM)
@@ -115,4 +155,4 @@ def main(host):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1]))
+    sys.exit(main(os.path.abspath(sys.argv[1])))

@@ -14,14 +14,10 @@ constexpr const char* purpose =
     "Tries the module harder than scenarios do: with every call and every allocation failing, with "
     "learners at random, and by what it costs.";
 
-constexpr const char* examples = R"(Examples:
-  trials torture 306           every call of question 306 made to fail in every way
+constexpr const char* examples = R"(  trials torture 306           every call of question 306 made to fail in every way
   trials memory 306            every allocation of its operations made to fail
   trials learners 306          random learners, judged by the module and by a second judge
-  trials cost                  what the questions cost in calls and time
-
-Exit codes: 0 good, 1 something fell short, 2 wrong usage or a wrong line in a scenario file, 3 a question
-hung.)";
+  trials cost                  what the questions cost in calls and time)";
 
 constexpr std::array commands{
     Command{"torture", "Make every call that leaves the module fail, and see that nothing is lost and no verdict wrong",
