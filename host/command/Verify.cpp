@@ -141,12 +141,13 @@ private:
 
     Result run(const Runner& runner, const language::Scenario& scenario, const language::Contract& contract) {
         Result result{toUtf8(scenario.title), scenario.place.line, {}, {}, 0, {}};
-        const auto counter = isReported() && !at_.worlds.remote ? std::make_shared<automation::CallCounter>() : nullptr;
+        const auto counter =
+            request_.reports.isAny() && !at_.worlds.remote ? std::make_shared<automation::CallCounter>() : nullptr;
         reason::Explainer explainer(contract, counter);
         const auto makeWitness = [&](World& world) {
             auto witnesses = std::make_unique<Witnesses>();
             witnesses->add(explainer);
-            if (!request_.page.empty()) {
+            if (!request_.reports.page.empty()) {
                 // Told of a verdict before the recorder is, which then begins another attempt.
                 witnesses->add(std::make_unique<Camera>(
                     world, [&](BeforeAfter slide) { result.attempts.back().slide = std::move(slide); }));
