@@ -31,7 +31,7 @@ endif()
 # and, for 32 bits, Windows XP.
 if(MINGW)
     set(mingw ${CMAKE_CURRENT_LIST_DIR}/mingw)
-    add_library(guest_runtime OBJECT ${mingw}/ThreadLibrary.cpp)
+    add_library(guest_runtime OBJECT ${mingw}/ErrorReserve.cpp ${mingw}/ThreadLibrary.cpp)
     if(CMAKE_SIZEOF_VOID_P EQUAL 4)
         target_sources(guest_runtime PRIVATE ${mingw}/OwnFrames.cpp ${mingw}/TickCount.cpp)
     endif()
