@@ -56,8 +56,10 @@ void ShapeTexts::read(const Record& record, const Looks& looks, Shape& shape, Sh
 
 bool holdsText(const Shape& shape, std::uint16_t kind) noexcept {
     const bool isConnector = kind >= kind::straightConnector && kind <= kind::lastConnector;
-    return !isConnector && (shape.type == msoAutoShape || shape.type == msoTextBox || shape.type == msoPlaceholder ||
-                            shape.type == msoFreeform);
+    const bool isContent = kind == kind::pictureFrame || kind == kind::hostControl; // in a placeholder
+    return !isConnector && !isContent &&
+           (shape.type == msoAutoShape || shape.type == msoTextBox || shape.type == msoPlaceholder ||
+            shape.type == msoFreeform);
 }
 
 } // namespace simulator::drawing

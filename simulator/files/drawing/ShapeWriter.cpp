@@ -70,10 +70,12 @@ Record clientDataOf(const Shape& shape) {
     return data;
 }
 
-/// True where a shape or something in it stands elsewhere than the file says, so that no coordinates of groups hold.
+/// True where a shape or something in it stands elsewhere than the file says, or turned, so that no coordinates of
+/// groups hold.
 bool placesHaveChanged(const ShapePtr& shape, const Origin* document, std::int32_t group) {
     const ShapeOrigin* const origin = originOf(*shape, document);
     return origin == nullptr || origin->group != group || shape->frame() != origin->asRead->frame() ||
+           shape->rotation != origin->asRead->rotation ||
            std::any_of(shape->items().begin(), shape->items().end(),
                        [&](const ShapePtr& item) { return placesHaveChanged(item, document, shape->id); });
 }

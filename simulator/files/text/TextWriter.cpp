@@ -40,6 +40,18 @@ void change(TextException& code, const TextException& from, const TextException&
     }
 }
 
+/// Puts all that a format says into a run's code.
+void complete(TextException& code, const TextException& to, std::span<const Field> fields) {
+    for (std::size_t place = 0; place < fields.size(); ++place) {
+        const std::uint32_t said = to.mask & fields[place].bits;
+        const bool areFlags = place == 0;
+        const std::uint32_t kept = areFlags ? code.values.at(place) & ~said : 0;
+        if (said != 0) {
+            code.set(place, said, kept | (areFlags ? to.values.at(place) & said : to.values.at(place)));
+        }
+    }
+}
+
 void number(TextException& code, bool isNumbered) {
     constexpr std::uint32_t second = std::uint32_t{1} << character::extensionShift;
     if (isNumbered) {
@@ -82,12 +94,23 @@ StyleRuns freshRuns(const TextStory& story, FontTable& fonts) {
     return out;
 }
 
+/// The level of each character, and of the mark that ends the text unwritten.
+std::vector<std::int32_t> levelsOf(const TextStory& story) {
+    std::vector<std::int32_t> levels;
+    const std::vector<std::size_t> lengths = paragraphLengths(story.text());
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+        levels.insert(levels.end(), lengths[i], story.paragraphFormats()[i].indentLevel);
+    }
+    return levels;
+}
+
 /// The runs of a changed text, character by character.
 StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const TextStory& now, const Descent& descent,
                       FontTable& fonts) {
     StyleRuns out;
     RunWalk paragraphs(before.paragraphs);
     RunWalk characters(before.characters);
+    const std::vector<std::int32_t> levels = levelsOf(asRead);
     const std::vector<std::size_t> lengths = paragraphLengths(now.text());
     std::size_t start = 0;
     for (std::size_t i = 0; i < lengths.size(); ++i) {
@@ -95,7 +118,11 @@ StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const Te
         StyleRun paragraph = paragraphs.at(origin);
         const ParagraphFormat& format = now.paragraphFormats()[i];
         const ParagraphFormat& old = asRead.paragraphFormats({origin, 0}).front();
-        change(paragraph.exception, codeOf(old), codeOf(format), paragraph::fields);
+        if (format.indentLevel == old.indentLevel) {
+            change(paragraph.exception, codeOf(old), codeOf(format), paragraph::fields);
+        } else {
+            complete(paragraph.exception, codeOf(format), paragraph::fields);
+        }
         paragraph.level = static_cast<std::uint16_t>(format.indentLevel - 1);
         paragraph.length = lengths[i];
         StyleRuns::append(out.paragraphs, std::move(paragraph));
@@ -104,7 +131,9 @@ StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const Te
             StyleRun run = characters.at(from);
             const CharacterFormat& formerly = asRead.formatAt(from);
             const CharacterFormat& current = now.formatAt(start);
-            if (!(formerly == current)) {
+            if (levels.at(from) != format.indentLevel) {
+                complete(run.exception, codeOf(current, fonts), character::fields); // what it inherits is another's
+            } else if (!(formerly == current)) {
                 change(run.exception, codeOf(formerly, fonts), codeOf(current, fonts), character::fields);
             }
             run.length = 1;

@@ -1,12 +1,13 @@
+#include "host/command/Options.h"
 #include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/WholeFile.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
 #include "simulator/files/powerpoint/DocumentWriter.h"
 #include "tests/trials/command/Commands.h"
+#include "tests/trials/histories/PresentationsIn.h"
 #include "tests/trials/histories/SecondReader.h"
 #include "tests/trials/histories/View.h"
 
-#include <algorithm>
 #include <ostream>
 
 namespace trials {
@@ -63,13 +64,7 @@ std::string faultOf(const std::filesystem::path& deck, SecondReader& reader, con
 
 ExitCode compareDecks(const DecksRequest& request, const CommandContext& at) {
     SecondReader reader(request.reader);
-    std::vector<std::filesystem::path> decks;
-    for (const auto& entry : std::filesystem::directory_iterator(request.folder)) {
-        if (entry.path().extension() == ".ppt") {
-            decks.push_back(entry.path());
-        }
-    }
-    std::sort(decks.begin(), decks.end());
+    const std::vector<std::filesystem::path> decks = histories::presentationsIn(request.folder);
     std::size_t opened = 0;
     std::size_t failed = 0;
     for (const std::filesystem::path& deck : decks) {

@@ -22,8 +22,11 @@ Statements linesOf(std::u16string_view text) {
 
 } // namespace
 
-History::History() {
+History::History(const std::filesystem::path& deck) {
     world_->powerPoint().start();
+    if (!deck.empty()) {
+        std::filesystem::copy_file(deck, world_->machine().realPath(u"C:\\Deck.ppt"));
+    }
 }
 
 bool History::perform(const std::u16string& statement) {
@@ -66,10 +69,11 @@ Statements History::anything(learners::Draw& draw) {
     return done;
 }
 
-Statements anyHistory(learners::Draw& draw) {
-    History history;
-    Statements statements = linesOf(u"Presentations.Add\nActivePresentation.Slides.Add 1, ppLayoutText\n"
-                                    u"ActivePresentation.Slides.Add 2, ppLayoutBlank");
+Statements anyHistory(const std::filesystem::path& deck, learners::Draw& draw) {
+    History history(deck);
+    Statements statements = linesOf(deck.empty() ? u"Presentations.Add\nActivePresentation.Slides.Add 1, ppLayoutText\n"
+                                                   u"ActivePresentation.Slides.Add 2, ppLayoutBlank"
+                                                 : u"Presentations.Open \"C:\\Deck.ppt\"");
     for (const std::u16string& each : statements) {
         history.perform(each);
     }
@@ -80,8 +84,8 @@ Statements anyHistory(learners::Draw& draw) {
     return statements;
 }
 
-simulator::PresentationPtr replay(const Statements& statements) {
-    History history;
+simulator::PresentationPtr replay(const std::filesystem::path& deck, const Statements& statements) {
+    History history(deck);
     for (const std::u16string& statement : statements) {
         if (!history.perform(statement)) {
             return nullptr;
