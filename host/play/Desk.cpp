@@ -99,7 +99,7 @@ void Desk::check() {
     if (prepared().checks() != 0) {
         replay(gestures_.size()); // a second check of one preparation is a general error
     }
-    verdict_ = verdictOf(prepared().check(), question_.file);
+    verdict_ = verdictOf(prepared().check());
 }
 
 void Desk::undo() {

@@ -1,39 +1,32 @@
 #include "host/play/Verdicts.h"
 
 #include "automation/Text.h"
-#include "host/run/GeneralCode.h"
+
+#include <regex>
 
 namespace host {
 
 namespace {
 
-using automation::toUtf8;
-
-/// What the question's file declares for it; null where it does not.
-const language::Meaning* declaredFor(const Reading& reading, const language::Contract& contract) {
-    const auto found = std::find_if(contract.meanings.begin(), contract.meanings.end(),
-                                    [&](const language::Meaning& each) { return each.verdict.matches(reading); });
-    if (found != contract.meanings.end()) {
-        return &*found;
+/// The shapes that a reason speaks of, by their places: "Slide 1, shape 4 (ZOR4): Width is 60."
+nlohmann::json shapesOf(const std::string& reason) {
+    static const std::regex place("slide (\\d+), shape (\\d+)", std::regex::icase);
+    nlohmann::json shapes = nlohmann::json::array();
+    for (std::sregex_iterator found(reason.begin(), reason.end(), place); found != std::sregex_iterator(); ++found) {
+        shapes.push_back({{"slide", std::stoi((*found)[1])}, {"shape", std::stoi((*found)[2])}});
     }
-    return reading.error || reading.erreurGenerale ? nullptr : contract.meaningOf(reading.causeErreur);
+    return shapes;
 }
 
 } // namespace
 
-nlohmann::json verdictOf(const Reading& reading, const language::ScenarioFile& file) {
-    const language::Meaning* const declared = declaredFor(reading, file.contract);
+nlohmann::json verdictOf(const Reading& reading) {
     const bool isError = reading.error && reading.error->number() != 0;
     const bool passed =
         !reading.erreurGenerale && !isError && (reading.error || reading.causeErreur.empty() || reading.bravoNuance);
-    return {{"passed", passed},
-            {"letter", toUtf8(reading.causeErreur)},
-            {"general", reading.erreurGenerale},
-            {"reads", reading.display()},
-            {"meaning", declared != nullptr
-                            ? toUtf8(declared->text)
-                            : std::string(reading.erreurGenerale ? meaningOfGeneralCode(reading.causeErreur)
-                                                                 : std::string_view())}};
+    return {{"passed", passed},           {"letter", automation::toUtf8(reading.causeErreur)},
+            {"reads", reading.display()}, {"meaning", reading.meaning},
+            {"reason", reading.reason},   {"shapes", shapesOf(reading.reason)}};
 }
 
 } // namespace host

@@ -117,7 +117,7 @@ function tellVerdict(verdict) {
     part("strong", "outcome", say(verdict.passed ? words.passed : words.failed)),
     ...(verdict.letter ? [part("b", "letter", verdict.letter)] : []),
     part("span", "meaning", verdict.meaning || (verdict.passed ? "" : verdict.reads)),
-    ...(verdict.why ?? []).map((text) => part("span", "why", text)),
+    part("span", "why", verdict.reason),
   );
 }
 

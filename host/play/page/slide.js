@@ -122,11 +122,19 @@ export function frameAround(shape, className, hasHandles) {
   return group;
 }
 
+const around = (shape, margin) => ({ ...shape, left: shape.left - margin, top: shape.top - margin, width: shape.width + 2 * margin, height: shape.height + 2 * margin });
+
+/** The shapes of the slide shown that have decided the verdict: those that its reason names, else those that its meaning does. */
+function decisive() {
+  const { shapes, meaning } = state().verdict ?? { shapes: [], meaning: "" };
+  const marks = shapes.length > 0 ? [] : (meaning.match(/ZOR\d+/g) ?? []);
+  return shownSlide().shapes.filter((shape) => marks.includes(shape.mark) || shapes.some((lit) => lit.slide === screen().slide && lit.shape === shape.path[0]));
+}
+
 function drawMarks() {
   const isText = selectionKind() === Kind.text;
-  marks.replaceChildren(...selectedShapes().map((shape) => frameAround(shape, isText ? "chosen text" : "chosen", !isText)),
-    ...(state().verdict?.shapes ?? []).filter((lit) => lit.slide === screen().slide).map((lit) => shownSlide().shapes.find((shape) => shape.mark === lit.mark))
-      .filter(Boolean).map((shape) => frameAround(shape, "lit", false)));
+  const chosen = selectedShapes().map((shape) => frameAround(shape, isText ? "chosen text" : "chosen", !isText));
+  marks.replaceChildren(...decisive().map((shape) => frameAround(around(shape, 7 / scale()), "lit", false)), ...chosen);
 }
 
 /** Shows what a gesture is about to draw, until the server has answered. */

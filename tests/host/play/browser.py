@@ -27,7 +27,7 @@ class Player:
     """`exercise-host play`, running in a folder."""
 
     def __init__(self, host, folder, *arguments, **environment):
-        self.process = subprocess.Popen([host, "play", *arguments], stdout=subprocess.PIPE, text=True, cwd=folder,
+        self.process = subprocess.Popen([os.path.abspath(host), "play", *arguments], stdout=subprocess.PIPE, text=True, cwd=folder,
                                         env={**os.environ, **environment})
         self.address = next(re.search(r"http\S+", line)[0] for line in self.process.stdout if "http" in line)
 

@@ -2,6 +2,7 @@
 
 play.py EXERCISE-HOST: ends with a line "N passed, N failed".
 """
+import os
 import pathlib
 import subprocess
 import sys
@@ -52,6 +53,34 @@ def all_questions(driver, host, folder, chosen):
     check("the browser has nothing to say", [entry["message"] for entry in driver.get_log("browser")])
 
 
+LOOK = (pathlib.Path(__file__).parents[1] / "report/look.js").read_text(encoding="utf-8")
+SIZES = {"a desk": (1280, 820, 1), "200 %": (640, 410, 2), "a phone": (390, 844, 1)}
+SCROLLING = "#strip, #statements, #desk, #slide, .menu"
+
+
+def look(driver, host, folder):
+    """A verdict with its reason, a menu and a dialog, on every size and in both schemes: nothing overlaps or is cut."""
+    with Player(host, folder, "318") as player:
+        page = Page(driver, player.address)
+        page.click("ZOR4")
+        page.verdict()
+        check("the reason is told", "" if "Width is 80" in page.one("#verdict .why").text else page.one("#verdict").text)
+        lit = page.all("#slide .lit")
+        check("the shape that decided is lit up", "" if len(lit) == 1 else len(lit))
+        for size, (width, height, factor) in SIZES.items():
+            driver.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {"width": width, "height": height, "deviceScaleFactor": factor, "mobile": False})
+            for scheme in ("light", "dark"):
+                driver.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": scheme}]})
+                for shown, opener in (("body", None), (".menu", "#menus button"), ("dialog", "#do-save")):
+                    if opener:
+                        page.one(opener).click()
+                    found = driver.execute_script(LOOK, 4.5, SCROLLING, shown)
+                    check(f"{shown} on {size}, {scheme}", found["wrong"] or ("" if found["texts"] > 3 else "no texts"))
+                    page.press(*([Keys.ESCAPE] if opener else []))
+        driver.execute_cdp_cmd("Emulation.clearDeviceMetricsOverride", {})
+        driver.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": []})
+
+
 WATCH = """
 window.times = [];
 let begun = 0;
@@ -79,13 +108,14 @@ def speed(driver, host, folder):
 
 
 def main():
-    host = str(pathlib.Path(sys.argv[1]).resolve())
+    host = os.path.abspath(sys.argv[1])
     chosen = [int(each) for each in sys.argv[2:] if each.isdigit()] or (QUESTIONS if not sys.argv[2:] else [])
     with tempfile.TemporaryDirectory() as folder:
         driver = chromium()
         try:
             if not sys.argv[2:] or "safety" in sys.argv:
                 safety.run(check, host, folder, driver)
+                look(driver, host, folder)
                 speed(driver, host, folder)
             all_questions(driver, host, pathlib.Path(folder), chosen)
         finally:

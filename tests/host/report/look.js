@@ -1,6 +1,7 @@
 // Looks at a page as a person would, at what is not folded away, and answers with what is wrong, in words.
-// Arguments: the least contrast between a text and what is behind it.
-const leastContrast = arguments[0];
+// Arguments: the least contrast between a text and what is behind it; which boxes scroll, of which only what shows counts; what
+// lies on top where something does.
+const [leastContrast, scrolling, top = "body"] = arguments;
 const wrong = [];
 const say = (what, element) => wrong.push(what + ": " + (element.textContent || element.tagName).trim().slice(0, 60));
 
@@ -27,15 +28,17 @@ const unseen = `svg, style, ${folded}`;
 
 // Every line of every text that is shown, with its place.
 const lines = [];
-const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
+const walker = document.createTreeWalker(document.querySelector(top), NodeFilter.SHOW_TEXT);
 while (walker.nextNode()) {
   const element = walker.currentNode.parentElement;
   if (!walker.currentNode.data.trim() || element.closest(unseen)) continue;
   const range = document.createRange();
   range.selectNodeContents(walker.currentNode);
+  const box = element.closest(scrolling)?.getBoundingClientRect();
+  const isIn = ({ left, right, top, bottom }) => !box || (left >= box.left && right <= box.right && top >= box.top && bottom <= box.bottom);
   const places = [...range.getClientRects()].filter((place) => place.width > 0.5 && place.height > 0.5);
   if (places.length === 0) say("a text is not to be seen", element);
-  for (const { left, right, top, bottom } of places) lines.push({ element, left, right, top, bottom });
+  for (const { left, right, top, bottom } of places.filter(isIn)) lines.push({ element, left, right, top, bottom });
   const style = getComputedStyle(element);
   const found = contrast(parsed(style.color).slice(0, 3), backgroundOf(element));
   if (found < leastContrast) say(`contrast ${found.toFixed(2)}`, element);
@@ -59,7 +62,7 @@ if (document.documentElement.scrollWidth > width) wrong.push(`the page is ${docu
 for (const line of lines) {
   if (line.left < 0 || line.right > width + 0.5) say("a text is cut by the window", line.element);
 }
-for (const element of document.body.querySelectorAll("*:not(svg *, .gallery)")) {
+for (const element of document.body.querySelectorAll(`*:not(svg *, ${scrolling})`)) {
   if (element.closest(folded)) continue;
   const cuts = getComputedStyle(element).overflowX !== "visible" && !(element instanceof SVGElement);
   if (cuts && (element.scrollWidth > element.clientWidth + 1 || element.scrollHeight > element.clientHeight + 1)) {

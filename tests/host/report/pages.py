@@ -70,7 +70,7 @@ def look(driver, page, name):
             for fold in ("folded", "unfolded"):
                 if fold == "unfolded":
                     driver.execute_script("document.querySelectorAll('details').forEach((one) => (one.open = true))")
-                found = driver.execute_script(LOOK, LEAST_CONTRAST)
+                found = driver.execute_script(LOOK, LEAST_CONTRAST, ".gallery")
                 check(f"{name}, {size}, {scheme}, {fold}", found["wrong"] or ("" if found["texts"] > 5 else "no texts"))
     messages = [entry["message"] for entry in driver.get_log("browser")]
     check(f"{name}: the browser has nothing to say", messages)
