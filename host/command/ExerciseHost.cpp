@@ -31,7 +31,8 @@ constexpr const char* tryExamples = R"(  exercise-host try 306
   exercise-host try 306 --course DIR    on the course's own files)";
 
 constexpr const char* playExamples = R"(  exercise-host play 306
-  exercise-host play --file mine.scn    on what a file of your own delivers)";
+  exercise-host play mine.scn           on what a file of your own delivers
+  exercise-host play 306 --course DIR   on the course's own files)";
 
 constexpr const char* verifyExamples = R"(  exercise-host verify                  all scenarios of all questions
   exercise-host verify 306 mine.scn

@@ -2,12 +2,14 @@
 
 #include "automation/Text.h"
 #include "host/language/Parser.h"
-#include "host/language/Words.h"
-#include "host/play/Saving.h"
+#include "host/language/Writer.h"
 #include "host/play/Screen.h"
 #include "host/play/Verdicts.h"
 #include "host/try/Immediate.h"
+#include "host/try/ScenarioAdding.h"
 #include "host/try/Trouble.h"
+#include "host/world/OutputFile.h"
+#include "host/world/RealFile.h"
 
 #include <numeric>
 
@@ -28,6 +30,15 @@ template <typename Work> auto inWordsOf(const Work& work) {
     } catch (const language::Failure& failure) {
         throw std::runtime_error(explained(failure));
     }
+}
+
+/// A scenario file in the folder that the program was started in: a page names no others.
+std::filesystem::path ownFile(const std::string& name) {
+    std::filesystem::path path = pathOf(name);
+    if (name.find_first_of("/\\:") != std::string::npos || path.extension() != ".scn") {
+        throw std::runtime_error("Name a file of the folder that exercise-host was started in, as mine.scn");
+    }
+    return path;
 }
 
 } // namespace
@@ -117,7 +128,17 @@ std::string Desk::save(const std::string& name, const std::string& title) {
     if (verdict_ == nullptr) {
         throw std::runtime_error("Ask for the verdict first: a scenario says what the host must read");
     }
-    return appendScenario(name, question_.file, fromUtf8(title), prepared().statements());
+    if (title.empty()) {
+        throw std::runtime_error("Say in the title what the learner does");
+    }
+    const std::filesystem::path path = ownFile(name);
+    if (std::filesystem::exists(path)) {
+        addScenario(name, question_.file, fromUtf8(title), prepared().statements());
+    } else {
+        OutputFile(name, std::nullopt)
+            .write(language::scenarioText(question_.file, fromUtf8(title), prepared().statements()));
+    }
+    return "\"" + title + "\" is in " + std::filesystem::absolute(path).string();
 }
 
 void Desk::open(std::int32_t question) {

@@ -9,6 +9,7 @@
 #include "host/try/Contents.h"
 #include "host/try/Destination.h"
 #include "host/try/Immediate.h"
+#include "host/try/ScenarioAdding.h"
 #include "host/try/Trouble.h"
 #include "host/try/Verdict.h"
 #include "host/world/OutputFile.h"
@@ -30,25 +31,6 @@ using language::Statement;
 /// A file that a verb writes, which replaces one that is there already only where it ends with an exclamation mark.
 OutputFile outputOf(const std::string& verb, const std::string& name) {
     return {name, verb.ends_with('!') ? std::optional(std::string()) : std::nullopt, "say " + verb + "! to replace it"};
-}
-
-/// A scenario file with one more scenario, its lines ended as the others are.
-std::string withScenario(std::string file, std::string scenario) {
-    const bool endsAsOnWindows = file.find("\r\n") != std::string::npos;
-    std::string added = (file.ends_with('\n') ? "\n" : "\n\n") + std::move(scenario);
-    if (endsAsOnWindows) {
-        replaceAll(added, "\n", "\r\n");
-    }
-    return std::move(file) + added;
-}
-
-/// Raises std::runtime_error where a text is no scenario file.
-language::ScenarioFile parsed(const std::string& name, const std::string& text) {
-    try {
-        return language::parse(name, text);
-    } catch (const language::WrongLines& wrong) {
-        throw std::runtime_error("The scenario cannot be added: " + wrong.remarks.front().in(name));
-    }
 }
 
 /// True for an `expect error` whose statement is still to come.
@@ -295,14 +277,7 @@ void Conversation::append(const std::string& rest) {
     if (!fs::exists(pathOf(to.file))) {
         return saveBy("save", rest);
     }
-    const Bytes content = contentsOf(pathOf(to.file));
-    const std::string before(content.begin(), content.end());
-    const std::string text = withScenario(before, language::scenarioBlock(to.title, open_->statements()));
-    const language::ScenarioFile file = parsed(to.file, text);
-    if (file.question != file_.question) {
-        throw std::runtime_error(to.file + " is about question " + std::to_string(file.question));
-    }
-    OutputFile(to.file, before).write(text);
+    addScenario(to.file, file_, to.title, open_->statements());
     saved(to.title, to.file);
 }
 

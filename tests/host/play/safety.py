@@ -122,9 +122,9 @@ def mistakes(check, client, folder):
         ("open", {"question": 999}, "no question 999"),
         ("do", {"statements": [move, move]}, ""),
         ("check", {}, ""),
-        *(("save", {"file": name, "title": "t"}, "Name a file") for name in ("../x.scn", "/tmp/x.scn", "C:\\x.scn", "x.txt", "", ".scn")),
+        *(("save", {"file": name, "title": "t"}, "Name a file") for name in ("../x.scn", "/tmp/x.scn", "C:\\x.scn", "x.txt", "")),
         ("save", {"file": "x.scn", "title": ""}, "title"),
-        ("save", {"file": "other.scn", "title": "t"}, "of question 314"),
+        ("save", {"file": "other.scn", "title": "t"}, "question 314"),
     ]
     for order, body, reason in cases:
         answer = client.order(order, **body)[1]
