@@ -56,20 +56,26 @@ void printValues(const Reading& reading, std::ostream& out) {
 /// What a drawing of this command's begins with.
 constexpr const char* drawn = "<!-- exercise-host run -->\n";
 
-/// Writes what there is of a slide before and after into a folder, and answers with the files.
-std::vector<std::string> written(const BeforeAfter& slide, const std::filesystem::path& folder) {
+void write(const Picture& picture, const std::filesystem::path& name, std::vector<std::string>& files) {
+    if (picture.bytes.empty()) {
+        return;
+    }
+    const std::string file = toUtf8(name.u16string()) + "." + picture.extension;
+    const std::string mark = picture.extension == "svg" ? drawn : "";
+    OutputFile(file, mark.empty() ? std::nullopt : std::optional(mark), "another folder").write(mark + picture.bytes);
+    files.push_back(file);
+}
+
+/// Writes what there is of slides before and after into a folder, and answers with the files. The first is the one that
+/// tells most; the files of others are named after their slides.
+std::vector<std::string> written(const std::vector<BeforeAfter>& slides, const std::filesystem::path& folder) {
     std::error_code failed;
     std::filesystem::create_directories(folder, failed);
     std::vector<std::string> files;
-    for (const auto& [name, picture] : {std::pair("before", &slide.before), std::pair("after", &slide.after)}) {
-        if (!picture->bytes.empty()) {
-            const std::filesystem::path file = folder / (std::string(name) + "." + picture->extension);
-            const std::string mark = picture->extension == "svg" ? drawn : "";
-            const OutputFile output(toUtf8(file.u16string()), mark.empty() ? std::nullopt : std::optional(mark),
-                                    "another folder");
-            output.write(mark + picture->bytes);
-            files.push_back(file.string());
-        }
+    for (std::size_t i = 0; i < slides.size(); ++i) {
+        const std::string which = i == 0 ? "" : "slide-" + std::to_string(slides[i].slide) + "-";
+        write(slides[i].before, folder / (which + "before"), files);
+        write(slides[i].after, folder / (which + "after"), files);
     }
     return files;
 }
@@ -119,20 +125,21 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
     if (!request.asJson) {
         out << "Question " << file.question << ": " << toUtf8(scenario.title) << "\n\n";
     }
-    BeforeAfter slide;
+    std::vector<BeforeAfter> slides;
     reason::Explainer explainer(file.contract, trace);
     const auto makeWitness = [&](World& world) {
         auto witnesses = std::make_unique<Witnesses>();
         witnesses->add(explainer);
         witnesses->add(std::make_unique<Telling>(world, story));
         if (!request.pictures.empty()) {
-            witnesses->add(std::make_unique<Camera>(world, [&](BeforeAfter seen) { slide = std::move(seen); }));
+            witnesses->add(
+                std::make_unique<Camera>(world, [&](std::vector<BeforeAfter> seen) { slides = std::move(seen); }));
         }
         return witnesses;
     };
     const Outcome outcome = runner.run(scenario, makeWitness, explainer.observer());
     const std::vector<std::string> pictures =
-        request.pictures.empty() ? std::vector<std::string>() : written(slide, pathOf(request.pictures));
+        request.pictures.empty() ? std::vector<std::string>() : written(slides, pathOf(request.pictures));
     if (request.asJson) {
         nlohmann::ordered_json object = toJson(file, scenario, outcome);
         if (!request.pictures.empty()) {

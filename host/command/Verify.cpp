@@ -149,8 +149,9 @@ private:
             witnesses->add(explainer);
             if (!request_.reports.page.empty()) {
                 // Told of a verdict before the recorder is, which then begins another attempt.
-                witnesses->add(std::make_unique<Camera>(
-                    world, [&](BeforeAfter slide) { result.attempts.back().slide = std::move(slide); }));
+                witnesses->add(std::make_unique<Camera>(world, [&](std::vector<BeforeAfter> slides) {
+                    result.attempts.back().slides = std::move(slides);
+                }));
             }
             witnesses->add(std::make_unique<report::Recorder>(result));
             return witnesses;

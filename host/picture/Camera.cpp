@@ -9,7 +9,7 @@ void Camera::called(HostCall call, const automation::Error* /*error*/) {
 }
 
 void Camera::judged(const Reading& /*reading*/) {
-    sink_(tellingSlide(before_, before_.presentation.empty() ? Exposure() : expose(world_, before_.presentation)));
+    sink_(tellingSlides(before_, before_.presentation.empty() ? Exposure() : expose(world_, before_.presentation)));
 }
 
 } // namespace host

@@ -9,8 +9,8 @@ namespace host {
 /// when the module has answered, so that a PowerPoint that dies at its n-th call dies where it would without pictures.
 class Camera final : public Witness {
 public:
-    /// Told of the slide before and after, each time that a verdict has been read.
-    using Sink = std::function<void(BeforeAfter)>;
+    /// Told of the slides that changed, before and after, each time that a verdict has been read.
+    using Sink = std::function<void(std::vector<BeforeAfter>)>;
 
     /// `world` must outlive this object.
     Camera(World& world, Sink sink) : world_(world), sink_(std::move(sink)) {}

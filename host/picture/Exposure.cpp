@@ -27,6 +27,22 @@ LateBound presentationIn(const LateBound& application, const std::u16string& ful
     automation::raise(automation::RunTimeError::SubscriptOutOfRange);
 }
 
+/// The marked shapes of a slide, and its groups.
+std::vector<Label> labelsOf(const LateBound& slide) {
+    constexpr std::int32_t group = 6; // msoGroup
+    std::vector<Label> labels;
+    forEachItem(memberOf(slide, u"Shapes"), [&](const LateBound& shape) {
+        const auto mark = memberOf(shape, u"Tags").call(u"Item", u"Identite").to<std::u16string>();
+        const bool isGroup = shape.get(u"Type").to<std::int32_t>() == group;
+        if (!mark.empty() || isGroup) {
+            const auto length = [&](std::u16string_view member) { return shape.get(member).to<float>(); };
+            labels.push_back({length(u"Left"), length(u"Top"), length(u"Width"), length(u"Height"),
+                              automation::toUtf8(mark), isGroup});
+        }
+    });
+    return labels;
+}
+
 /// Exports through a file that is there only as long as it takes.
 std::optional<Picture> exported(World& world, const LateBound& slide, const std::string& extension) {
     const std::u16string format = automation::fromUtf8(extension);
@@ -35,7 +51,7 @@ std::optional<Picture> exported(World& world, const LateBound& slide, const std:
         slide.call(u"Export", file, format);
         const Bytes bytes = world.files().read(file);
         world.files().remove(file);
-        return Picture{extension, std::string(bytes.begin(), bytes.end())};
+        return Picture{extension, std::string(bytes.begin(), bytes.end()), labelsOf(slide)};
     } catch (const automation::Error&) {
         return std::nullopt;
     }
@@ -65,31 +81,32 @@ bool hasChanged(std::int32_t id, const Exposure& before, const Exposure& after) 
     return former != nullptr && now != nullptr && *former != *now;
 }
 
-/// The id of the slide on which something happened; 0 where nothing did.
-std::int32_t changedSlide(const Exposure& before, const Exposure& after) {
+/// The ids of the slides on which something happened, the one shown first.
+std::vector<std::int32_t> changedSlides(const Exposure& before, const Exposure& after) {
+    std::vector<std::int32_t> all;
+    const auto add = [&](std::int32_t id) {
+        if (std::find(all.begin(), all.end(), id) == all.end()) {
+            all.push_back(id);
+        }
+    };
     for (const std::int32_t shown : {after.shown, before.shown}) {
         if (hasChanged(shown, before, after)) {
-            return shown;
-        }
-    }
-    for (const Exposure::Slide& slide : after.slides) {
-        if (hasChanged(slide.id, before, after)) {
-            return slide.id;
+            add(shown);
         }
     }
     for (const auto& [one, other] : {std::pair(&after, &before), std::pair(&before, &after)}) {
         for (const Exposure::Slide& slide : one->slides) {
-            if (other->find(slide.id) == nullptr) {
-                return slide.id;
+            if (other->find(slide.id) == nullptr || hasChanged(slide.id, before, after)) {
+                add(slide.id);
             }
         }
     }
-    return 0;
+    return all;
 }
 
-Picture at(const Exposure& exposure, std::int32_t id) {
+Picture at(const Exposure& exposure, std::int32_t id, bool isOnly) {
     const Picture* found = exposure.find(id);
-    found = found != nullptr ? found : exposure.find(exposure.shown);
+    found = found == nullptr && isOnly ? exposure.find(exposure.shown) : found;
     return found != nullptr ? *found : Picture();
 }
 
@@ -122,13 +139,25 @@ Exposure expose(World& world, const std::u16string& presentation) {
     return exposure;
 }
 
-BeforeAfter tellingSlide(const Exposure& before, const Exposure& after) {
+std::size_t Exposure::numberOf(std::int32_t id) const noexcept {
+    const auto found = std::find_if(slides.begin(), slides.end(), [id](const Slide& slide) { return slide.id == id; });
+    return found == slides.end() ? 0 : static_cast<std::size_t>(found - slides.begin()) + 1;
+}
+
+std::vector<BeforeAfter> tellingSlides(const Exposure& before, const Exposure& after) {
     if (after.slides.empty()) {
-        return {at(before, before.shown), {}};
+        return {{before.numberOf(before.shown), at(before, before.shown, true), {}}};
     }
-    const std::int32_t changed = changedSlide(before, after);
-    const std::int32_t wanted = changed != 0 ? changed : after.shown;
-    return {at(before, wanted), at(after, wanted)};
+    std::vector<std::int32_t> ids = changedSlides(before, after);
+    if (ids.empty()) {
+        ids.push_back(after.shown);
+    }
+    std::vector<BeforeAfter> all;
+    for (const std::int32_t id : ids) {
+        const std::size_t number = after.numberOf(id) != 0 ? after.numberOf(id) : before.numberOf(id);
+        all.push_back({number, at(before, id, ids.size() == 1), at(after, id, ids.size() == 1)});
+    }
+    return all;
 }
 
 } // namespace host

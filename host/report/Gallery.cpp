@@ -1,5 +1,8 @@
 #include "host/report/Gallery.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace host::report {
 
 namespace {
@@ -36,6 +39,33 @@ std::string asSvg(const Picture& picture) {
            ";base64," + base64(picture.bytes) + R"("/></svg>)";
 }
 
+/// Marks stand at the left upper corner of their shapes, below one another where two would meet; groups have a frame.
+void showLabels(const std::vector<Label>& labels, Markup& page) {
+    using simulator::picture::number;
+    constexpr float height = 20;
+    constexpr float width = 60;
+    constexpr float right = 720 - width;
+    constexpr float bottom = 540;
+    std::vector<std::pair<float, float>> taken;
+    for (const Label& label : labels) {
+        if (label.isGroup) {
+            page.leaf("rect", {{"class", "group"},
+                               {"x", number(label.left)},
+                               {"y", number(label.top)},
+                               {"width", number(label.width)},
+                               {"height", number(label.height)}});
+        }
+        const float x = std::clamp(label.left, 0.0F, right);
+        float y = std::clamp(label.top, 0.0F, bottom - height) + height;
+        for (const auto& [otherX, otherY] : taken) {
+            y = std::abs(otherX - x) < width && std::abs(otherY - y) < height ? otherY + height : y;
+        }
+        taken.emplace_back(x, y);
+        page.leaf("text", {{"class", "mark"}, {"x", number(x + 4)}, {"y", number(y - 4)}},
+                  label.mark.empty() ? "group" : label.mark);
+    }
+}
+
 /// What stands between quotation marks behind a word; empty where the word is not there.
 std::string quotedAfter(std::string_view word, std::string_view text) {
     const std::size_t start = text.find(word);
@@ -54,6 +84,7 @@ void Gallery::show(const Picture& picture, const std::string& words, Markup& pag
     const Markup::Element frame =
         page.element("svg", {{"viewBox", quotedAfter("viewBox=\"", svg)}, {"role", "img"}, {"aria-label", words}});
     page.leaf("use", {{"href", "#" + nameOf(place)}, {"width", "100%"}, {"height", "100%"}});
+    showLabels(picture.labels, page);
 }
 
 void Gallery::write(Markup& page) const {

@@ -17,7 +17,9 @@ ordered_json toJson(const Attempt& attempt) {
     }
     return {{"moves", std::move(moves)},
             {"expected", attempt.expected ? ordered_json(attempt.expected->display()) : ordered_json()},
-            {"read", attempt.reading ? ordered_json(attempt.reading->display()) : ordered_json()}};
+            {"read", attempt.reading ? ordered_json(attempt.reading->display()) : ordered_json()},
+            {"meaning", attempt.reading ? attempt.reading->meaning : std::string()},
+            {"reason", attempt.reading ? attempt.reading->reason : std::string()}};
 }
 
 ordered_json toJson(const FileResult& file, const Result& result) {
@@ -41,7 +43,11 @@ ordered_json toJson(const FileResult& file) {
         for (const std::size_t place : letter.reachedBy) {
             titles.push_back(file.results.at(place).title);
         }
-        letters.push_back({{"letter", letter.letter}, {"general", letter.isGeneral}, {"reachedBy", std::move(titles)}});
+        letters.push_back({{"letter", letter.letter},
+                           {"general", letter.isGeneral},
+                           {"remark", letter.isRemark},
+                           {"meaning", letter.meaning},
+                           {"reachedBy", std::move(titles)}});
     }
     ordered_json scenarios = ordered_json::array();
     for (const Result& result : file.results) {

@@ -15,7 +15,12 @@ std::vector<Letter> declared(const FileResult& file) {
     for (const language::Meaning& meaning : file.meanings) {
         if (const Expectation& verdict = meaning.verdict; !verdict.letter.empty()) {
             const bool isRemark = verdict.kind == Expectation::Kind::Remark;
-            all.push_back({automation::toUtf8(verdict.letter), false, isRemark, {}, meaning.place.line});
+            all.push_back({automation::toUtf8(verdict.letter),
+                           false,
+                           isRemark,
+                           {},
+                           automation::toUtf8(meaning.text),
+                           meaning.place.line});
         }
     }
     return all;

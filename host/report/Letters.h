@@ -10,6 +10,7 @@ struct Letter {
     bool isGeneral = false;             ///< a general error of the module
     bool isRemark = false;              ///< comes with a success
     std::vector<std::size_t> reachedBy; ///< places of the scenarios in their file, from 0; none where none does
+    std::string meaning{};              ///< as the file declares it
     std::size_t line = 0;               ///< where the file declares it; 0 where it does not
 };
 

@@ -198,7 +198,8 @@ private:
 
     static std::string kindOf(const Letter& letter) {
         if (!letter.isGeneral) {
-            return letter.isRemark ? "remark: " : "";
+            const std::string kind = letter.isRemark ? "remark, " : "";
+            return letter.meaning.empty() ? kind : kind + letter.meaning + ": ";
         }
         const std::string_view meaning = meaningOfGeneralCode(automation::fromUtf8(letter.letter));
         return "general error" + (meaning.empty() ? "" : ", " + std::string(meaning)) + ": ";
@@ -215,13 +216,13 @@ private:
             const Markup::Element summary = out_.element("summary");
             out_.leaf("h3", {}, result.title);
             out_.leaf("span", {{"class", result.passed() ? "verdict good" : "verdict bad"}},
-                      (result.passed() ? "✓ " : "✗ ") + lastReading(result));
+                      (result.passed() ? "✓ " : "✗ ") + lastReading(result, file));
         }
         for (const language::Remark& failure : result.failures) {
             out_.leaf("p", {{"class", "bad"}}, failure.in(file.file));
         }
         for (std::size_t i = 0; i < result.attempts.size(); ++i) {
-            writeAttempt(result.attempts[i],
+            writeAttempt(result.attempts[i], file,
                          file.name() + ", " + result.title + (i == 0 ? "" : ", check " + std::to_string(i + 1)) + ": ");
         }
         out_.leaf("p", {{"class", "quiet"}},
@@ -229,22 +230,36 @@ private:
                       " in the module · line " + std::to_string(result.line) + " of " + file.name() + ".scn");
     }
 
-    static std::string lastReading(const Result& result) {
+    static std::string lastReading(const Result& result, const FileResult& file) {
         const auto last = std::find_if(result.attempts.rbegin(), result.attempts.rend(),
                                        [](const Attempt& attempt) { return attempt.reading.has_value(); });
-        return last == result.attempts.rend() ? "nothing read" : last->reading->display();
+        return last == result.attempts.rend() ? "nothing read" : displayed(*last->reading, file);
+    }
+
+    /// What was read, in words. A letter stays one though an earlier check has left the sign of a remark beside it.
+    static std::string displayed(const Reading& reading, const FileResult& file) {
+        Reading plain = reading;
+        const bool isLetter = std::any_of(file.meanings.begin(), file.meanings.end(), [&](const auto& meaning) {
+            return meaning.verdict.kind == Expectation::Kind::Letter && meaning.verdict.letter == reading.causeErreur;
+        });
+        plain.bravoNuance = reading.bravoNuance && !isLetter;
+        return plain.display() + (reading.bravoNuance && isLetter ? " with BravoNuance still True" : "");
     }
 
     /// `place` begins the names of the pictures, for those who do not see them.
-    void writeAttempt(const Attempt& attempt, const std::string& place) {
+    void writeAttempt(const Attempt& attempt, const FileResult& file, const std::string& place) {
         const Markup::Element whole = out_.element("div", {{"class", "attempt"}});
         {
             const Markup::Element told = out_.element("div");
             writeMoves(attempt);
-            writeReading(attempt);
+            writeReading(attempt, file);
         }
         if (attempt.reading) {
-            writeSlides(attempt.slide, place);
+            const Markup::Element all = out_.element("div", {{"class", "seen"}});
+            for (const BeforeAfter& slide : attempt.slides) {
+                const bool isOne = attempt.slides.size() == 1 || slide.slide == 0;
+                writeSlides(slide, place, isOne ? "" : "Slide " + std::to_string(slide.slide) + ", ");
+            }
         }
     }
 
@@ -257,25 +272,35 @@ private:
         }
     }
 
-    void writeReading(const Attempt& attempt) {
+    void writeReading(const Attempt& attempt, const FileResult& file) {
         if (!attempt.reading) {
             return;
         }
         const bool isExpected = attempt.expected && attempt.expected->matches(*attempt.reading);
         const Markup::Element line = out_.element("p", {{"class", isExpected ? "reading good" : "reading bad"}});
-        const std::string read = attempt.reading->display();
+        const std::string read = displayed(*attempt.reading, file);
         const std::string expected = attempt.expected ? attempt.expected->display() : "nothing";
         out_.text("Expected " + expected + ", read " + (isExpected && expected == read ? "the same" : read));
+        if (!attempt.reading->meaning.empty()) {
+            out_.text(": " + attempt.reading->meaning + ".");
+        }
+        if (!attempt.reading->reason.empty()) {
+            const Markup::Element why = out_.element("span", {{"class", "why"}});
+            out_.text(attempt.reading->reason);
+        }
     }
 
-    void writeSlides(const BeforeAfter& slide, const std::string& place) {
-        const bool isUnchanged = slide.before == slide.after;
+    /// `which` begins what is said of each, where there are several slides.
+    void writeSlides(const BeforeAfter& slide, const std::string& place, const std::string& which) {
+        const auto said = [&](const std::string& when) {
+            return which + static_cast<char>(when[0] + (which.empty() ? 'A' - 'a' : 0)) + when.substr(1);
+        };
         const Markup::Element pair = out_.element("div", {{"class", "slides"}});
-        if (isUnchanged) {
-            writeSlide(slide.before, place, "Before and after");
+        if (slide.before == slide.after) {
+            writeSlide(slide.before, place, said("before and after"));
         } else {
-            writeSlide(slide.before, place, "Before");
-            writeSlide(slide.after, place, "After");
+            writeSlide(slide.before, place, said("before"));
+            writeSlide(slide.after, place, said("after"));
         }
     }
 

@@ -77,11 +77,17 @@ details.scenario { border-top: 1px solid var(--line); }
 .moves i { color: var(--quiet); font-style: normal; text-align: right; font-size: .85rem; line-height: 1.55rem; }
 code { font: .86rem/1.55 ui-monospace, "SF Mono", Menlo, Consolas, monospace; white-space: pre-wrap; }
 .reading { margin: .5rem 0 0; font-size: .9rem; }
+.why { display: block; color: var(--ink); }
+.seen { display: grid; gap: .6rem; align-self: start; }
 .slides { display: grid; grid-template-columns: repeat(2, minmax(0, 1fr)); gap: .6rem; align-self: start; }
 figure { margin: 0; }
 figure svg {
   display: block; width: 100%; height: auto; border: 1px solid var(--line); border-radius: 4px; background: #fff;
 }
+.mark {
+  font: 700 17px "Segoe UI", Arial, sans-serif; fill: #a3005c; paint-order: stroke; stroke: #fff; stroke-width: 4px;
+}
+.group { fill: none; stroke: #a3005c; stroke-width: 2px; stroke-dasharray: 8 5; }
 figcaption { margin-top: .2rem; color: var(--quiet); font-size: .85rem; }
 .gallery { position: absolute; width: 0; height: 0; overflow: hidden; }
 @media (min-width: 60rem) { .attempt { grid-template-columns: minmax(0, 1fr) minmax(0, 30rem); } }

@@ -19,7 +19,7 @@ struct Attempt {
     std::vector<Move> moves;
     std::optional<Expectation> expected;
     std::optional<Reading> reading;
-    BeforeAfter slide;
+    std::vector<BeforeAfter> slides; ///< that changed, or the one shown
 };
 
 /// How one scenario went.

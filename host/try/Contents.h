@@ -10,4 +10,7 @@ namespace host {
 /// that the module has given them. Raises what PowerPoint raises.
 void printContents(const automation::ObjectPtr& application, std::ostream& out);
 
+/// The same with place, size and colours of each shape, in points, and with the items of groups.
+void printDetails(const automation::ObjectPtr& application, std::ostream& out);
+
 } // namespace host

@@ -5,6 +5,7 @@
 #include "host/language/Parser.h"
 #include "host/language/Words.h"
 #include "host/language/Writer.h"
+#include "host/picture/Exposure.h"
 #include "host/try/Completion.h"
 #include "host/try/Contents.h"
 #include "host/try/Destination.h"
@@ -47,7 +48,7 @@ const std::vector<Conversation::Verb>& Conversation::verbs() {
         {"s.Shapes(2).Left", "= 20", "", nullptr},
         {"?s.Name", "", "prints a value, or what an object is", nullptr},
         {"members", "s", "lists the members of an object", &Conversation::members, Rest::Something},
-        {"show", "", "lists the slides and shapes as they are", &Conversation::show},
+        {"show", "", "lists slides and shapes with all that shows", &Conversation::show},
         {"check", "", "asks for the verdict, and explains it", &Conversation::check, Rest::Anything},
         {"check", "success", "the same, and whether it is this one", nullptr},
         {"undo", "", "takes back the last move", &Conversation::undo},
@@ -57,8 +58,10 @@ const std::vector<Conversation::Verb>& Conversation::verbs() {
         {"append", "mine.scn \"a title\"", "adds the scenario to those of a file", &Conversation::append,
          Rest::Something},
         {"export", "mine.ppt", "writes the presentation as it is now", &Conversation::exportTo, Rest::Something},
-        {"save!", "mine.scn", "replaces a file; so does export!", &Conversation::saveOver, Rest::Something},
+        {"save!", "mine.scn", "replaces a file; so do export!, picture!", &Conversation::saveOver, Rest::Something},
         {"export!", "mine.ppt", "", &Conversation::exportOver, Rest::Something},
+        {"picture", "mine.svg", "writes a picture of the slide shown", &Conversation::picture, Rest::Something},
+        {"picture!", "mine.svg", "", &Conversation::pictureOver, Rest::Something},
         {"help", "", "says this", &Conversation::help},
         {"quit", "", "closes the question; so does exit", &Conversation::quit},
         {"exit", "", "", &Conversation::quit},
@@ -242,7 +245,7 @@ void Conversation::again(const std::string& /*rest*/) {
 }
 
 void Conversation::show(const std::string& /*rest*/) {
-    printContents(open_->world().powerPoint().application(), out_);
+    printDetails(open_->world().powerPoint().application(), out_);
 }
 
 void Conversation::members(const std::string& expression) {
@@ -310,6 +313,17 @@ void Conversation::exportBy(const std::string& verb, const std::string& file) {
     output.requireNoneOf(inputs_);
     output.write(std::string(content.begin(), content.end()));
     out_ << "The presentation is in " << file << ".\n";
+}
+
+void Conversation::pictureBy(const std::string& verb, const std::string& file) {
+    const Exposure exposure = expose(open_->world());
+    const Picture* const picture = exposure.find(exposure.shown);
+    if (picture == nullptr || picture->bytes.empty()) {
+        throw std::runtime_error("No slide is to be seen");
+    }
+    outputOf(verb, file).write(picture->bytes);
+    out_ << "The picture of slide " << exposure.numberOf(exposure.shown) << " is in "
+         << toUtf8(fs::absolute(pathOf(file)).u16string()) << " (" << picture->extension << ").\n";
 }
 
 void Conversation::help(const std::string& /*rest*/) {

@@ -55,6 +55,9 @@ private:
     void exportTo(const std::string& file) { exportBy("export", file); }
     void exportOver(const std::string& file) { exportBy("export!", file); }
     void exportBy(const std::string& verb, const std::string& file);
+    void picture(const std::string& file) { pictureBy("picture", file); }
+    void pictureOver(const std::string& file) { pictureBy("picture!", file); }
+    void pictureBy(const std::string& verb, const std::string& file);
     void help(const std::string&);
     void quit(const std::string&) { leave(); }
 
