@@ -27,19 +27,26 @@ LateBound presentationIn(const LateBound& application, const std::u16string& ful
     automation::raise(automation::RunTimeError::SubscriptOutOfRange);
 }
 
-/// The marked shapes of a slide, and its groups.
-std::vector<Label> labelsOf(const LateBound& slide) {
+/// Adds the marked ones of these shapes, the groups, and what the learner has put into groups.
+void addLabels(const LateBound& shapes, std::vector<Label>& labels) {
     constexpr std::int32_t group = 6; // msoGroup
-    std::vector<Label> labels;
-    forEachItem(memberOf(slide, u"Shapes"), [&](const LateBound& shape) {
+    forEachItem(shapes, [&](const LateBound& shape) {
         const auto mark = memberOf(shape, u"Tags").call(u"Item", u"Identite").to<std::u16string>();
         const bool isGroup = shape.get(u"Type").to<std::int32_t>() == group;
-        if (!mark.empty() || isGroup) {
+        if (mark.starts_with(u"ZOR") || isGroup) {
             const auto length = [&](std::u16string_view member) { return shape.get(member).to<float>(); };
             labels.push_back({length(u"Left"), length(u"Top"), length(u"Width"), length(u"Height"),
                               automation::toUtf8(mark), isGroup});
         }
+        if (isGroup) {
+            addLabels(memberOf(shape, u"GroupItems"), labels);
+        }
     });
+}
+
+std::vector<Label> labelsOf(const LateBound& slide) {
+    std::vector<Label> labels;
+    addLabels(memberOf(slide, u"Shapes"), labels);
     return labels;
 }
 

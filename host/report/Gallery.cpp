@@ -42,8 +42,8 @@ std::string asSvg(const Picture& picture) {
 /// Marks stand at the left upper corner of their shapes, below one another where two would meet; groups have a frame.
 void showLabels(const std::vector<Label>& labels, Markup& page) {
     using simulator::picture::number;
-    constexpr float height = 20;
-    constexpr float width = 60;
+    constexpr float height = 26;
+    constexpr float width = 84;
     constexpr float right = 720 - width;
     constexpr float bottom = 540;
     std::vector<std::pair<float, float>> taken;

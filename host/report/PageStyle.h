@@ -85,7 +85,7 @@ figure svg {
   display: block; width: 100%; height: auto; border: 1px solid var(--line); border-radius: 4px; background: #fff;
 }
 .mark {
-  font: 700 17px "Segoe UI", Arial, sans-serif; fill: #a3005c; paint-order: stroke; stroke: #fff; stroke-width: 4px;
+  font: 700 24px "Segoe UI", Arial, sans-serif; fill: #a3005c; paint-order: stroke; stroke: #fff; stroke-width: 5px;
 }
 .group { fill: none; stroke: #a3005c; stroke-width: 2px; stroke-dasharray: 8 5; }
 figcaption { margin-top: .2rem; color: var(--quiet); font-size: .85rem; }

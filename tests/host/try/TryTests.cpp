@@ -66,7 +66,8 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
         {"expect s.Count = 5", "expected 5, found 4"},
         {"expect error 438:\n  s.Gone", ""},
         {"Check \"B\"", "Expected was the letter \"B\".\n"},
-        {"SHOW", "shape 4 \"Rectangle 7\"\n"},
+        {"SHOW", "shape 4 \"Rectangle 7\" at "},
+        {"picture " + file("mine.svg"), "The picture of slide 1 is in " + file("mine.svg") + " (svg).\n"},
         {"save " + file("mine.scn") + " \"a rectangle\"", "with 5 moves and 1 check.\n"},
         {"save " + file("mine.scn"), "or say save! to replace it\n"},
         {"save! " + file("mine.scn"), "with 5 moves and 1 check.\n"},
@@ -203,8 +204,8 @@ TEST_F(TryTest, TextsAreShownOnOneLine) {
     const std::string said = talk("?" + text + "\n" + text + " = \"un\" & vbCr & \"deux\"\n?" + text + "\nshow\n" +
                                   text + " = \"" + long59 + "😀b\"\nshow\n");
     EXPECT_NE(said.find("\nun␍deux\n"), std::string::npos) << said;
-    EXPECT_NE(said.find("ZOR2: un␍deux\n"), std::string::npos) << said;
-    EXPECT_NE(said.find("ZOR2: " + long59 + "...\n"), std::string::npos) << said;
+    EXPECT_NE(said.find("points: un␍deux\n"), std::string::npos) << said;
+    EXPECT_NE(said.find("points: " + long59 + "...\n"), std::string::npos) << said;
 }
 
 TEST_F(TryTest, GeneralErrorsAreExplained) {
