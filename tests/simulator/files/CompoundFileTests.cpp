@@ -98,9 +98,10 @@ TEST(CompoundFile, SaysWhatIsWrongWithADamagedFile) {
              {patched(sound, directory + 0x4C, 0x12345), ""},
          }) {
         const Storage damaged = read(bytes);
-        const bool isTold = std::any_of(damaged.streams.begin(), damaged.streams.end(), [&](const Stream& each) {
-            return !each.damage.empty() && each.damage.find(wanted) != std::string::npos;
-        });
+        const bool isTold =
+            std::any_of(damaged.streams.begin(), damaged.streams.end(), [&message = wanted](const Stream& each) {
+                return !each.damage.empty() && each.damage.find(message) != std::string::npos;
+            });
         EXPECT_EQ(isTold, !wanted.empty()) << wanted;
         EXPECT_LT(contentsOf(read(write(damaged))).size(), contentsOf(read(sound)).size()) << wanted;
     }
