@@ -10,7 +10,7 @@ namespace trials {
 struct CostRequest {
     std::vector<std::int32_t> questions; ///< all where none is named
     std::size_t runs = 0;                ///< questions of a long run; 0 for what questions cost
-    std::size_t slides = 50;             ///< of the large deck that is checked through COM
+    std::optional<std::size_t> slides;   ///< of the large deck; in this process it alone is checked, once
 };
 
 /// Whether all figures are within their bounds; says where one is not.

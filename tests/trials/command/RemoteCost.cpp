@@ -85,7 +85,7 @@ ScriptRun runCheck(const std::filesystem::path& script) {
 bool printBesideScript(const CostRequest& request, const CommandContext& at) {
     std::ostream& out = at.out;
     cost::DeckSize size;
-    size.slides = request.slides;
+    size.slides = request.slides.value_or(size.slides);
     out << "\nQuestion 306's check on a deck of " << size.slides << " slides, " << size.shapesOnSlide
         << " text shapes on a slide, " << size.wordsInShape
         << " words in a shape, beside the same check as a script\n\n"

@@ -79,11 +79,15 @@ PrescribedCalls::PrescribedCalls(std::int32_t question, HostCall operation)
     }
 }
 
+QuestionCost unobservedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
+    const Meter timer = [] { return OperationCost{0, 0, 0, processorTime(), {}}; };
+    return MeasuredRun(file, course, *makeWorld(nullptr), timer).cost;
+}
+
 QuestionCost costOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld, int runs) {
     QuestionCost cost = observedCostOf(file, course, makeWorld);
-    const Meter timer = [] { return OperationCost{0, 0, 0, processorTime(), {}}; };
     for (int i = 0; i < runs; ++i) {
-        const QuestionCost unobserved = MeasuredRun(file, course, *makeWorld(nullptr), timer).cost;
+        const QuestionCost unobserved = unobservedCostOf(file, course, makeWorld);
         for (const auto operation : {&QuestionCost::initQuestion, &QuestionCost::testePoint, &QuestionCost::fermer}) {
             Milliseconds& shortest = (cost.*operation).time;
             const Milliseconds time = (unobserved.*operation).time;

@@ -57,6 +57,10 @@ using OnChecked = std::function<void()>;
 [[nodiscard]] QuestionCost costOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld,
                                   int runs);
 
+/// The same, run once, with the processor time alone.
+[[nodiscard]] QuestionCost unobservedCostOf(const language::ScenarioFile& file, const Course& course,
+                                            const WorldMaker& makeWorld);
+
 /// The same, run once with a PowerPoint in a process of its own, which counts its calls and the names looked up in
 /// them; the time is the clock's.
 [[nodiscard]] QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course,
