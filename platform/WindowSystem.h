@@ -26,6 +26,7 @@ public:
     virtual std::optional<std::u16string> className(WindowHandle window) = 0;
     /// Title of a window; empty where it has none.
     virtual std::u16string title(WindowHandle window) = 0;
+    /// True also for one that hangs: the system may have hidden it and show a picture of it in its place.
     virtual bool isVisible(WindowHandle window) = 0;
     virtual bool isIconic(WindowHandle window) = 0;
     /// True for a window whose program has answered no message for a while.

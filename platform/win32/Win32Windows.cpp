@@ -45,7 +45,8 @@ std::u16string Win32Windows::title(WindowHandle window) {
 }
 
 bool Win32Windows::isVisible(WindowHandle window) {
-    return IsWindowVisible(windowOf(window)) != FALSE;
+    // Whoever looks at the screen sees a window that hangs, also where the system shows a picture of it in its place.
+    return IsWindowVisible(windowOf(window)) != FALSE || isHung(window);
 }
 
 bool Win32Windows::isIconic(WindowHandle window) {
