@@ -20,12 +20,12 @@ std::u16string ComplementInfo::item(std::int32_t index) const {
 
 const automation::MemberTable& ComplementInfo::members() const {
     static const automation::MemberTable table{
-        method<&ComplementInfo::add>(u"ComplementInfo_add"),
+        method<&ComplementInfo::add>(u"ComplementInfo_add", u"Texte Reserve"),
         method<&ComplementInfo::count>(u"ComplementInfo_count"),
-        method<&ComplementInfo::item>(u"ComplementInfo_item"),
-        method<&ComplementInfo::add>(u"add"),
+        method<&ComplementInfo::item>(u"ComplementInfo_item", u"Index"),
+        method<&ComplementInfo::add>(u"add", u"Texte Reserve"),
         method<&ComplementInfo::count>(u"count"),
-        method<&ComplementInfo::item>(u"item").asDefault(),
+        method<&ComplementInfo::item>(u"item", u"Index").asDefault(),
     };
     return table;
 }

@@ -21,9 +21,9 @@ std::shared_ptr<WorkingFileRecord> FichiersDeTravail::Item(std::int32_t index) c
 
 const automation::MemberTable& FichiersDeTravail::members() const {
     static const automation::MemberTable table{
-        method<&FichiersDeTravail::add>(u"add"),
+        method<&FichiersDeTravail::add>(u"add", u"NomSource NomDest Modele"),
         method<&FichiersDeTravail::count>(u"count"),
-        method<&FichiersDeTravail::Item>(u"Item").asDefault(),
+        method<&FichiersDeTravail::Item>(u"Item", u"Index").asDefault(),
     };
     return table;
 }

@@ -218,14 +218,14 @@ void Module::Quitter(ObjectVariable& application, std::int32_t& window) {
 const automation::MemberTable& Module::members() const {
     using automation::method;
     static const automation::MemberTable table{
-        method<&Module::InitQuestion>(u"InitQuestion"),
+        method<&Module::InitQuestion>(u"InitQuestion", u"NumeroQuestion Dossier Application Fenetre Reserve"),
         method<&Module::TestePoint>(u"TestePoint"),
         method<&Module::ErreurGenerale>(u"ErreurGenerale"),
         method<&Module::CauseErreur>(u"CauseErreur"),
         method<&Module::BravoNuance>(u"BravoNuance"),
         method<&Module::Complement>(u"Complement"),
         method<&Module::Fermer>(u"Fermer"),
-        method<&Module::Quitter>(u"Quitter"),
+        method<&Module::Quitter>(u"Quitter", u"Application Fenetre"),
     };
     return table;
 }

@@ -5,8 +5,11 @@
 #include <K73053.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <numeric>
 #include <string>
+#include <vector>
 
 namespace type_library_tests {
 
@@ -111,6 +114,7 @@ TEST_F(TypeLibraryTest, NumbersMembersAsLateBoundCallsFindThem) {
         FUNCDESC* function = nullptr;
         for (UINT i = 0; type->GetFuncDesc(i, &function) == S_OK; ++i) {
             const MEMBERID id = function->memid;
+            const auto named = static_cast<UINT>(function->cParams) + 1;
             const bool isOfIDispatch = id >= 0x60000000;
             type->ReleaseFuncDesc(function);
             if (isOfIDispatch) {
@@ -119,11 +123,17 @@ TEST_F(TypeLibraryTest, NumbersMembersAsLateBoundCallsFindThem) {
             ++seen;
             const auto text = described(*type.get(), id);
             EXPECT_FALSE(text.help.empty());
-            const Bstr name(text.name);
-            LPOLESTR asked = name.get();
-            DISPID found = DISPID_UNKNOWN;
-            EXPECT_EQ(object->GetIDsOfNames(IID_NULL, &asked, 1, 0, &found), S_OK);
-            EXPECT_EQ(found, id) << testing::PrintToString(text.name);
+            std::vector<BSTR> names(named);
+            UINT known = 0;
+            EXPECT_EQ(type->GetNames(id, names.data(), named, &known), S_OK);
+            EXPECT_EQ(known, named);
+            std::vector<DISPID> found(named, DISPID_UNKNOWN);
+            EXPECT_EQ(object->GetIDsOfNames(IID_NULL, names.data(), named, 0, found.data()), S_OK);
+            std::vector<DISPID> expected(named);
+            std::iota(expected.begin(), expected.end(), -1); // parameters count from 0
+            expected.front() = id;
+            EXPECT_EQ(found, expected) << testing::PrintToString(text.name);
+            std::for_each(names.begin(), names.end(), SysFreeString);
         }
         EXPECT_EQ(seen, members);
     }
