@@ -167,8 +167,7 @@ void storeVariant(VARIANT* place, const Value& value, int depth) {
 void storeArray(SAFEARRAY** place, const Value& value) {
     SAFEARRAY*& stored = required(place);
     Variant content = variantOf(value.to<Array>());
-    SafeArrayDestroy(stored);
-    stored = content.release().parray;
+    std::swap(stored, content.parray); // what it held is released when it holds the new value
 }
 
 /// Types that no value is of.
