@@ -170,6 +170,10 @@ void Machine::answerSaving(std::u16string_view answer) {
     }
 }
 
+void Machine::followDocumentation() {
+    parts_->settings.isAsDocumented = true;
+}
+
 const std::vector<std::u16string>& Machine::droppedUnasked() const noexcept {
     return parts_->settings.savePrompt.unanswered;
 }

@@ -58,6 +58,8 @@ public:
     /// Says how the user answers where PowerPoint asks what is to be saved: "save", "discard" or "cancel". Raises
     /// InvalidProcedureCall (5) for anything else.
     void answerSaving(std::u16string_view answer);
+    /// From now on PowerPoint behaves as its documentation says, also where the questions take it otherwise.
+    void followDocumentation();
     /// The presentations whose changes were dropped since nobody had said how the user answers.
     [[nodiscard]] const std::vector<std::u16string>& droppedUnasked() const noexcept;
     /// Makes starting PowerPoint fail from now on, as where it is not installed.

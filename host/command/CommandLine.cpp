@@ -1,6 +1,7 @@
 #include "host/command/CommandLine.h"
 #include "host/command/Options.h"
 #include "host/command/Trouble.h"
+#include "host/world/EmbeddedWorld.h"
 #include "host/world/RealFile.h"
 
 namespace host {
@@ -25,6 +26,8 @@ struct CommandLine {
         app.set_version_flag("--version", version);
         app.require_subcommand(0, 1); // so that an unknown word is named
         app.add_option("--scenarios", folder, "Folder of the scenario files")->capture_default_str();
+        app.add_option("--like", like, "documented: PowerPoint's way on contested points")
+            ->check(CLI::IsMember({"documented"}));
         for (const Command& each : program.commands) {
             CLI::App& command = *app.add_subcommand(each.name, each.what);
             command.callback([this, action = each.add(command)] { chosen = action; });
@@ -45,7 +48,8 @@ struct CommandLine {
 
     CLI::App app;
     std::string folder;
-    Action chosen; ///< empty where no command is named
+    Action chosen;    ///< empty where no command is named
+    std::string like; ///< "documented", or empty
     bool withPowerPoint = false;
     std::int32_t powerPointBits = 0;
 };
@@ -70,8 +74,17 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
         }
         const Library library(pathOf(asked.folder));
         const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
+        if (remote && !asked.like.empty()) {
+            throw UsageError("--like is for the embedded PowerPoint, and --powerpoint for another");
+        }
+        const WorldMaker documented = makeDocumentedWorld;
         Progress progress(output.error, output.isTerminal);
-        return asked.chosen({library, {embedded, remote}, makeLines, output.out, progress, output.ink});
+        return asked.chosen({library,
+                             {asked.like.empty() ? embedded : documented, remote},
+                             makeLines,
+                             output.out,
+                             progress,
+                             output.ink});
     });
 }
 

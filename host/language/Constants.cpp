@@ -218,8 +218,8 @@ bool looksLikeConstant(std::u16string_view name) {
 }
 
 bool isReserved(std::u16string_view name) {
-    constexpr std::array<std::u16string_view, 7> reserved{u"Application", u"Array",    u"Files", u"Host",
-                                                          u"PowerPoint",  u"Registry", u"RGB"};
+    constexpr std::array<std::u16string_view, 8> reserved{u"Application", u"Array",      u"Files",    u"Host",
+                                                          u"Learner",     u"PowerPoint", u"Registry", u"RGB"};
     return std::any_of(reserved.begin(), reserved.end(),
                        [&](std::u16string_view word) { return equalIgnoringCase(word, name); });
 }

@@ -3,6 +3,7 @@
 #include "automation/Text.h"
 #include "host/run/FilesMoves.h"
 #include "host/run/HostMoves.h"
+#include "host/run/LearnerMoves.h"
 #include "host/run/PowerPointMoves.h"
 #include "host/run/RegistryMoves.h"
 #include "host/world/Refusal.h"
@@ -13,6 +14,7 @@ using automation::ObjectPtr;
 
 WorldStage::WorldStage(World& world, TrainingHost* host) : world_(world), host_(host) {
     objects_ = {{u"PowerPoint", std::make_shared<PowerPointMoves>(world.powerPoint())},
+                {u"Learner", std::make_shared<LearnerMoves>(world.powerPoint())},
                 {u"Registry", std::make_shared<RegistryMoves>(world.registry())},
                 {u"Files", std::make_shared<FilesMoves>(world)}};
     if (host != nullptr) {

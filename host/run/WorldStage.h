@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// A world as the stage of statements: PowerPoint's application, and the objects `PowerPoint`, `Registry`, `Files` and,
-/// where there is a training host, `Host`.
+/// A world as the stage of statements: PowerPoint's application, and the objects `PowerPoint`, `Learner`, `Registry`,
+/// `Files` and, where there is a training host, `Host`.
 class WorldStage final : public language::Stage {
 public:
     /// Both must outlive this object.

@@ -82,7 +82,7 @@ std::vector<std::string> completionsOf(const std::string& line, OpenQuestion& op
             for (const std::u16string& constant : language::constantNames()) {
                 names.push_back(automation::toUtf8(constant));
             }
-            names.insert(names.end(), {"Files", "Host", "PowerPoint", "Registry"});
+            names.insert(names.end(), {"Files", "Host", "Learner", "PowerPoint", "Registry"});
         }
     } catch (const std::exception&) {
         names.clear(); // a line that is not right yet has no completions

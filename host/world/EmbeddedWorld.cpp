@@ -102,6 +102,8 @@ public:
     Files& files() override { return files_; }
     const simulator::Machine& machine() const noexcept override { return machine_; }
 
+    void followDocumentation() { machine_.followDocumentation(); }
+
     std::vector<std::string> leftOpen() override {
         std::vector<std::string> left;
         if (const std::size_t keys = machine_.openRegistryKeys(); keys != 0) {
@@ -130,6 +132,12 @@ private:
 
 std::unique_ptr<EmbeddedWorld> makeEmbeddedWorld(const ObserverPtr& observer) {
     return std::make_unique<MachineWorld>(observer);
+}
+
+std::unique_ptr<EmbeddedWorld> makeDocumentedWorld(const ObserverPtr& observer) {
+    auto world = std::make_unique<MachineWorld>(observer);
+    world->followDocumentation();
+    return world;
 }
 
 } // namespace host

@@ -19,5 +19,7 @@ public:
 
 /// Calls that leave the module pass through `observer`, where one is given.
 [[nodiscard]] std::unique_ptr<EmbeddedWorld> makeEmbeddedWorld(const automation::ObserverPtr& observer = nullptr);
+/// The same with a PowerPoint that does as its documentation says, also where the questions take it otherwise.
+[[nodiscard]] std::unique_ptr<EmbeddedWorld> makeDocumentedWorld(const automation::ObserverPtr& observer = nullptr);
 
 } // namespace host

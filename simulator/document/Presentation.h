@@ -12,7 +12,8 @@ public:
     std::u16string path; ///< full Windows path; empty until it is saved for the first time
     std::u16string name; ///< file name, or "Présentation1" and so on until it is saved
     bool readOnly = false;
-    bool saved = true; ///< nothing has changed since it was opened or saved
+    bool saved = true;      ///< nothing has changed since it was opened or saved
+    float gridDistance = 6; ///< points
     bool snapToGrid = true;
     float slideWidth = 720;  ///< points
     float slideHeight = 540; ///< points

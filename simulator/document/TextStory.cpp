@@ -15,7 +15,7 @@ std::u16string withParagraphMarks(std::u16string_view text) {
         if (text[place] != u'\n') {
             result += text[place];
         } else if (!afterMark) {
-            result += TextStory::paragraphMark;
+            result += TextStory::lineBreak;
         }
     }
     return result;
@@ -77,6 +77,26 @@ Span TextStory::replace(Span span, std::u16string_view text, const CharacterForm
     join();
     indexed_ = false;
     return {old.start, fresh.size()};
+}
+
+Span TextStory::replaceWith(const TextStory& other, Span span) {
+    const Span fresh = replace(span, other.text());
+    std::size_t place = fresh.start;
+    for (const Run& run : other.runs()) {
+        format({place, run.length}, [&run](CharacterFormat& format) { format = run.format; });
+        place += run.length;
+    }
+    return fresh;
+}
+
+TextStory TextStory::excerpt(Span span) const {
+    const Span within = clipped(span);
+    TextStory result;
+    result.replace({}, text_.substr(within.start, within.length));
+    for (std::size_t place = within.start; place < within.end(); ++place) {
+        result.format({place - within.start, 1}, [&](CharacterFormat& format) { format = formatAt(place); });
+    }
+    return result;
 }
 
 std::span<const TextStory::Run> TextStory::runs(Span span) const noexcept {

@@ -42,10 +42,14 @@ public:
     [[nodiscard]] Span clipped(Span span) const noexcept;
 
     /// Puts text in the place of a span; it takes the format of the first character replaced, or of the one before an
-    /// empty span (after it at the very start). "\r\n" and "\n" become paragraph marks; new paragraphs take the format
-    /// of the one in which the span starts; what follows the span keeps its own where it stays a paragraph apart.
-    /// Returns where the text now stands.
+    /// empty span (after it at the very start). "\r\n" becomes a paragraph mark, "\n" alone a line break; new
+    /// paragraphs take the format of the one in which the span starts; what follows the span keeps its own where it
+    /// stays a paragraph apart. Returns where the text now stands.
     Span replace(Span span, std::u16string_view text);
+    /// The same with the text of another story, whose characters keep their formats.
+    Span replaceWith(const TextStory& other, Span span);
+    /// The text of a span, its characters with their formats.
+    [[nodiscard]] TextStory excerpt(Span span) const;
     /// The same, in a given format.
     Span replace(Span span, std::u16string_view text, const CharacterFormat& format);
 

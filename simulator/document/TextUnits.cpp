@@ -11,6 +11,8 @@ using Spans = std::vector<Span>;
 /// What can end a sentence.
 constexpr std::u16string_view closing = u".!?\u2026";
 
+constexpr std::u16string_view punctuation = u".,;:!?\u2026()[]{}\"\u00AB\u00BB";
+
 /// Cuts a text behind every place for which `ends` is true.
 template <typename Ends> Spans cut(std::u16string_view text, const Ends& ends) {
     Spans spans;
@@ -42,6 +44,22 @@ Spans sentencesOf(std::u16string_view text) {
     });
 }
 
+Spans plainWordsOf(const TextStory& story) {
+    Spans plain;
+    for (const Span& word : story.words()) {
+        const std::u16string_view text = std::u16string_view(story.text()).substr(word.start, word.length);
+        const auto isMark = [&](std::size_t place) {
+            return punctuation.find(text[place]) != std::u16string_view::npos;
+        };
+        for (const Span& part : cut(text, [&](std::size_t place) {
+                 return !TextStory::isBlank(text[place + 1]) && isMark(place) != isMark(place + 1);
+             })) {
+            plain.push_back({word.start + part.start, part.length});
+        }
+    }
+    return plain;
+}
+
 Spans runsOf(const TextStory& story) {
     Spans spans;
     std::size_t start = 0;
@@ -68,6 +86,7 @@ std::span<const Span> touching(const TextStory& story, Span range, const Spans& 
 template <typename Use> auto withUnits(const TextStory& story, Span range, TextUnit unit, const Use& use) {
     switch (unit) {
     case TextUnit::Word: return use(touching(story, range, story.words()));
+    case TextUnit::PlainWord: return use(touching(story, range, plainWordsOf(story)));
     case TextUnit::Paragraph: return use(touching(story, range, story.paragraphs()));
     case TextUnit::Sentence: return use(touching(story, range, sentencesOf(story.text())));
     case TextUnit::Line: return use(touching(story, range, linesOf(story.text())));

@@ -2,9 +2,9 @@
 
 namespace simulator {
 
-ColorFormatObject::ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme)
+ColorFormatObject::ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme, Mixture mixture)
     : PowerPointObject(std::move(session)), getter_(std::move(getter)), setter_(std::move(setter)),
-      scheme_(std::move(scheme)) {}
+      scheme_(std::move(scheme)), mixture_(std::move(mixture)) {}
 
 const automation::MemberTable& ColorFormatObject::members() const {
     using automation::property;
@@ -27,7 +27,7 @@ void ColorFormatObject::setRgb(std::int32_t rgb) {
 }
 
 PpColorSchemeIndex ColorFormatObject::schemeColor() const {
-    return getter_().scheme;
+    return mixture_() ? PpColorSchemeIndex{-2} : getter_().scheme;
 }
 
 void ColorFormatObject::setSchemeColor(PpColorSchemeIndex place) {
@@ -36,6 +36,9 @@ void ColorFormatObject::setSchemeColor(PpColorSchemeIndex place) {
 }
 
 MsoColorType ColorFormatObject::type() const {
+    if (mixture_()) {
+        return MsoColorType{-2};
+    }
     return getter_().scheme == ppNotSchemeColor ? msoColorTypeRGB : msoColorTypeScheme;
 }
 

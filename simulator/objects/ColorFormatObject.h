@@ -13,9 +13,12 @@ public:
     using Getter = std::function<Color()>;
     using Setter = std::function<void(Color)>;
     using Scheme = std::function<ColorScheme()>;
+    using Mixture = std::function<bool()>;
 
-    /// The three functions raise `errors::gone` where what bears the colour is gone.
-    ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme);
+    /// The functions raise `errors::gone` where what bears the colour is gone. `mixture` says whether there are several
+    /// colours, of which the getter gives the first.
+    ColorFormatObject(
+        SessionPtr session, Getter getter, Setter setter, Scheme scheme, Mixture mixture = [] { return false; });
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -23,16 +26,18 @@ public:
     [[nodiscard]] std::int32_t rgb() const;
     /// Raises an invalid request for a value outside 0 to 0xFFFFFF.
     void setRgb(std::int32_t rgb);
-    /// 0 for a colour that is not of the scheme.
+    /// 0 for a colour that is not of the scheme, -2 for several colours.
     [[nodiscard]] PpColorSchemeIndex schemeColor() const;
     /// Raises an invalid request for a place outside 1 to 8.
     void setSchemeColor(PpColorSchemeIndex place);
+    /// -2 for several colours.
     [[nodiscard]] MsoColorType type() const;
 
 private:
     Getter getter_;
     Setter setter_;
     Scheme scheme_;
+    Mixture mixture_;
 };
 
 /// The scheme that the colours of a shape are of.

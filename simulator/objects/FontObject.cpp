@@ -70,7 +70,12 @@ std::shared_ptr<ColorFormatObject> FontObject::color() const {
             now.span = anchor->span;
             now.change(&CharacterFormat::color, color);
         },
-        [part] { return schemeOf(*part.shape()); });
+        [part] { return schemeOf(*part.shape()); },
+        [part, anchor] {
+            TextPart now = part;
+            now.span = anchor->span;
+            return !now.common(&CharacterFormat::color);
+        });
 }
 
 automation::ObjectPtr FontObject::parent() const {

@@ -17,8 +17,13 @@ const automation::MemberTable& GroupShapesObject::members() const {
     return table;
 }
 
+std::vector<ShapePtr> GroupShapesObject::items() const {
+    const ShapePtr group = node();
+    return session()->settings().isAsDocumented ? leavesOf(ShapeSet(group)).all() : group->items();
+}
+
 std::shared_ptr<ShapeObject> GroupShapesObject::item(const automation::Value& index) const {
-    return std::make_shared<ShapeObject>(session(), elementAt(node()->items(), index, u"GroupShapes.Item"));
+    return std::make_shared<ShapeObject>(session(), elementAt(items(), index, u"GroupShapes.Item"));
 }
 
 std::shared_ptr<ShapeObject> GroupShapesObject::parent() const {

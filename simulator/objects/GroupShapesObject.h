@@ -6,18 +6,22 @@ namespace simulator {
 
 class ShapeObject;
 
-/// GroupShapes: the items of a group, from back to front; a group inside the group is one item.
+/// GroupShapes: the items of a group, from back to front; a group inside the group is one item, or
+/// stands for its own where PowerPoint follows its documentation.
 class GroupShapesObject final : public NodeSetObject<Shape> {
 public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->items().size()); }
+    [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(items().size()); }
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<ShapeObject> item(const automation::Value& index) const;
     /// The group.
     [[nodiscard]] std::shared_ptr<ShapeObject> parent() const;
+
+private:
+    [[nodiscard]] std::vector<ShapePtr> items() const;
 };
 
 } // namespace simulator

@@ -43,6 +43,7 @@ const automation::MemberTable& PresentationObject::members() const {
         property<&This::readOnly>(u"ReadOnly"),
         property<&This::saved, &This::setSaved>(u"Saved"),
         property<&This::snapToGrid, &This::setSnapToGrid>(u"SnapToGrid"),
+        property<&This::gridDistance, &This::setGridDistance>(u"GridDistance"),
         method<&This::close>(u"Close"),
         method<&This::save>(u"Save"),
         method<&This::saveAs>(u"SaveAs", u"FileName FileFormat EmbedTrueTypeFonts"),
@@ -87,6 +88,18 @@ void PresentationObject::setSnapToGrid(MsoTriState snaps) const {
     const PresentationPtr presentation = document();
     presentation->snapToGrid = snaps != msoFalse;
     presentation->saved = false;
+}
+
+float PresentationObject::gridDistance() const {
+    return document()->gridDistance;
+}
+
+void PresentationObject::setGridDistance(float points) const {
+    constexpr float nearest = 1;
+    constexpr float farthest = 144;
+    errors::demandWithin(points, nearest, farthest, u"Presentation.GridDistance");
+    document()->gridDistance = points;
+    document()->saved = false;
 }
 
 std::shared_ptr<ApplicationObject> PresentationObject::application() const {

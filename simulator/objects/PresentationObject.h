@@ -41,6 +41,10 @@ public:
     void setSaved(MsoTriState saved) const;
     [[nodiscard]] MsoTriState snapToGrid() const;
     void setSnapToGrid(MsoTriState snaps) const;
+    /// Points between two lines of the grid. It is not kept in files.
+    [[nodiscard]] float gridDistance() const;
+    /// Raises an invalid request outside 1 to 144.
+    void setGridDistance(float points) const;
 
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::shared_ptr<PresentationsObject> parent() const;

@@ -51,7 +51,7 @@ std::vector<ShapePtr> duplicate(const std::vector<ShapePtr>& shapes) {
 
 void copyTo(Clipboard& clipboard, const std::vector<ShapePtr>& shapes) {
     clipboard.slides.clear();
-    clipboard.text.clear();
+    clipboard.text = {};
     clipboard.shapes.clear();
     if (shapes.empty()) {
         return;
@@ -70,9 +70,9 @@ std::vector<ShapePtr> paste(const Clipboard& clipboard, Slide& slide) {
         }
         pasted.push_back(copy);
     }
-    if (!clipboard.text.empty()) {
+    if (!clipboard.text.text().empty()) {
         pasted.push_back(newShape::textBox(pastedText));
-        pasted.back()->text->replace({}, clipboard.text);
+        pasted.back()->text->replaceWith(clipboard.text, {});
     }
     for (const ShapePtr& shape : pasted) {
         add(slide, shape);

@@ -196,7 +196,10 @@ std::shared_ptr<GroupShapesObject> ShapeMembers::groupItems() const {
 }
 
 std::shared_ptr<ShapeObject> ShapeMembers::parentGroup() const {
-    const ShapePtr group = nodes().only()->group();
+    ShapePtr group = nodes().only()->group();
+    while (session()->settings().isAsDocumented && group && group->group()) {
+        group = group->group();
+    }
     if (!group) {
         errors::invalidRequest(u"Shape.ParentGroup", u"La forme ne fait pas partie d'un groupe.");
     }

@@ -108,7 +108,7 @@ std::shared_ptr<SlideRangeObject> SlideMembers::duplicate() {
 void SlideMembers::copy() const {
     Clipboard& clipboard = session()->clipboard();
     clipboard.shapes.clear();
-    clipboard.text.clear();
+    clipboard.text = {};
     clipboard.slides.clear();
     for (const SlidePtr& slide : nodes().all()) {
         clipboard.slides.push_back(slide->clone());

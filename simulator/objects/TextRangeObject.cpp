@@ -31,6 +31,7 @@ Span behind(Span span, std::int32_t characters) {
 std::u16string_view memberNameOf(TextUnit unit) {
     switch (unit) {
     case TextUnit::Character: return u"TextRange.Characters";
+    case TextUnit::PlainWord:
     case TextUnit::Word: return u"TextRange.Words";
     case TextUnit::Sentence: return u"TextRange.Sentences";
     case TextUnit::Line: return u"TextRange.Lines";
@@ -115,6 +116,9 @@ TextRangeObject::Pointer TextRangeObject::item(std::int32_t index) const {
 TextRangeObject::Pointer TextRangeObject::unitsFrom(TextUnit unit, std::int32_t start, std::int32_t length) const {
     if (start == 0 || start < leftOut || length < leftOut) {
         errors::invalidValue(memberNameOf(unit));
+    }
+    if (unit == TextUnit::Word && session()->settings().isAsDocumented) {
+        unit = TextUnit::PlainWord;
     }
     const Span found = part_.read([=](const TextStory& story, Span span) {
         if (start == leftOut && length == leftOut) {
@@ -214,12 +218,11 @@ void TextRangeObject::select() const {
 }
 
 void TextRangeObject::copy() const {
-    std::u16string copied = text();
-    if (copied.empty()) {
+    Clipboard clipboard;
+    clipboard.text = part_.read([](const TextStory& story, Span span) { return story.excerpt(span); });
+    if (clipboard.text.text().empty()) {
         errors::invalidRequest(u"TextRange.Copy", u"Aucun texte n'est sélectionné.");
     }
-    Clipboard clipboard;
-    clipboard.text = std::move(copied);
     session()->clipboard() = std::move(clipboard);
 }
 
@@ -229,11 +232,11 @@ void TextRangeObject::cut() {
 }
 
 TextRangeObject::Pointer TextRangeObject::paste() {
-    const std::u16string& copied = session()->clipboard().text;
-    if (copied.empty()) {
+    const TextStory& copied = session()->clipboard().text;
+    if (copied.text().empty()) {
         errors::invalidRequest(u"TextRange.Paste", u"Le Presse-papiers ne contient pas de texte.");
     }
-    setText(copied);
+    part_.span = part_.edit([&copied](TextStory& story, Span span) { return story.replaceWith(copied, span); });
     return at(part_.span);
 }
 

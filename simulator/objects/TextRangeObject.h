@@ -30,13 +30,13 @@ public:
     [[nodiscard]] std::shared_ptr<automation::Elements> elements() { return elementsBy(u"_Index"); }
 
     /// Units `start` (from 1) to `start + length - 1` of the range. Both left out (or -1): the whole range; one left
-    /// out: from the first, or one unit. A start past the last unit gives an empty range at the end. Raises an
-    /// invalid request for a start below 1 or a length below 0.
+    /// out: from the first, or one unit. A start past the last unit stands for the last. Raises an invalid request
+    /// for a start below 1 or a length below 0.
     template <TextUnit unit>
     [[nodiscard]] Pointer units(std::optional<std::int32_t> start, std::optional<std::int32_t> length) const {
         return unitsFrom(unit, start.value_or(leftOut), length.value_or(leftOut));
     }
-    /// The range without the blanks at its ends.
+    /// The range without the blanks at its end.
     [[nodiscard]] Pointer trimText() const;
 
     [[nodiscard]] std::shared_ptr<FontObject> font() const;

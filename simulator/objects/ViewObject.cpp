@@ -14,6 +14,16 @@ namespace simulator {
 
 using automation::LateBound;
 
+namespace {
+
+/// True where one shape is selected that can hold text: what is pasted is appended to it.
+bool isTextTakenBy(const Selection& selection) {
+    const std::vector<ShapePtr> shapes = selection.shapes();
+    return selection.type() == ppSelectionShapes && shapes.size() == 1 && shapes.front()->text;
+}
+
+} // namespace
+
 const automation::MemberTable& ViewObject::members() const {
     using automation::method;
     using automation::property;
@@ -64,8 +74,11 @@ void ViewObject::paste() const {
     const Clipboard& clipboard = session()->clipboard();
     if (!clipboard.slides.empty()) {
         pasteSlides();
-    } else if (!clipboard.text.empty() && window->selection.type() == ppSelectionText) {
+    } else if (!clipboard.text.text().empty() && window->selection.type() == ppSelectionText) {
         parent()->selection()->textRange()->paste();
+    } else if (!clipboard.text.text().empty() && isTextTakenBy(window->selection)) {
+        const ShapePtr shape = window->selection.shapes().front();
+        TextRangeObject(session(), shape, {shape->text->text().size(), 0}).paste();
     } else {
         slide()->shapes()->paste();
     }

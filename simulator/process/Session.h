@@ -28,6 +28,9 @@ struct Settings {
     CommandBarSet commandBars;
     bool showStartupDialog = true;
     SavePrompt savePrompt;
+    /// PowerPoint behaves as its documentation says also where the questions' description has it otherwise: a group's
+    /// items are those of the groups in it, and punctuation is a word of its own.
+    bool isAsDocumented = false;
     /// Where a file lies that is named without a folder.
     std::u16string documentsFolder = u"C:\\Documents and Settings\\Eleve\\Mes documents";
 };
@@ -36,7 +39,7 @@ struct Settings {
 struct Clipboard {
     std::vector<ShapePtr> shapes;
     std::vector<SlidePtr> slides;
-    std::u16string text;
+    TextStory text;  ///< with its formats
     ShapePtr format; ///< a copy of the shape whose format was picked up last, apart from what was copied
 };
 
