@@ -44,9 +44,9 @@ json textIn(const LateBound& frame) {
 
 json itemsIn(const LateBound& shapes, const json& way);
 
-json shapeAt(const LateBound& shape, json way) {
+json shapeAt(const LateBound& shape, const json& way) {
     const auto type = shape.get(u"Type").to<std::int32_t>();
-    json found{{"path", std::move(way)},
+    json found{{"path", way},
                {"id", shape.get(u"Id").to<std::int32_t>()},
                {"name", toUtf8(shape.get(u"Name").to<std::u16string>())},
                {"mark", markIn(shape)},
@@ -66,7 +66,8 @@ json shapeAt(const LateBound& shape, json way) {
     found["filled"] = memberOf(shape, u"Fill").get(u"Visible").to<bool>();
     if (type == typeTextEffect) {
         found["wordArt"] = toUtf8(memberOf(shape, u"TextEffect").get(u"Text").to<std::u16string>());
-    } else if (shape.get(u"HasTextFrame").to<bool>()) {
+    }
+    if (shape.get(u"HasTextFrame").to<bool>()) {
         found["text"] = textIn(memberOf(shape, u"TextFrame"));
     }
     return found;
@@ -78,7 +79,7 @@ json itemsIn(const LateBound& shapes, const json& way) {
     forEachItem(shapes, [&](const LateBound& shape) {
         json longer = way;
         longer.push_back(++place);
-        items.push_back(shapeAt(shape, std::move(longer)));
+        items.push_back(shapeAt(shape, longer));
     });
     return items;
 }

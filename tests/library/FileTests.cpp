@@ -123,7 +123,8 @@ const std::vector<Known> windowsXP{
      "_wopen _write _wstat64 _wutime abort atoi calloc exit fclose fflush fgetpos fopen fprintf fputc fputs fputwc "
      "fread free fsetpos fwprintf fwrite getc getenv getwc islower isspace isupper iswctype localeconv longjmp malloc "
      "memchr memcmp memcpy memmove memset printf putc putwc realloc setlocale setvbuf signal strchr strcmp strcoll "
-     "strerror strftime strlen strncmp strncpy strxfrm towlower towupper ungetc ungetwc vfprintf wcscat wcscmp wcscoll "
+     "strerror strftime strlen strncmp strncpy strtol strxfrm towlower towupper ungetc ungetwc vfprintf wcscat wcscmp "
+     "wcscoll "
      "wcscpy wcsftime wcslen wcstoul wcsxfrm"},
 };
 

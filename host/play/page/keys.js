@@ -84,7 +84,10 @@ function isTaken(event) {
 }
 
 addEventListener("keydown", (event) => {
-  if (isTaken(event) && !(event.key === "Tab" && leads(event) === null)) {
+  if (event.key === "F10" && !event.shiftKey) {
+    event.preventDefault();
+    document.querySelector("#menus button[tabindex='0']").focus();
+  } else if (isTaken(event) && !(event.key === "Tab" && leads(event) === null)) {
     event.preventDefault();
     onKey(event);
   }

@@ -245,9 +245,12 @@ function pastePlain(event) {
   document.execCommand("insertText", false, event.clipboardData.getData("text/plain"));
 }
 
-/** Gives the characters chosen a look, by a member of their range: "Font.Bold = msoTrue". */
+/** Gives the characters chosen, where there are any, a look, by a member of their range: "Font.Bold = msoTrue". */
 export async function give(change) {
   const { start, length } = chosen();
+  if (length === 0) {
+    return;
+  }
   await flush();
   await perform(`${shapeText(session.shape)}.TextFrame.TextRange.Characters(${start + 1}, ${length}).${change}`);
   fill(session.editor, session.shape, place());

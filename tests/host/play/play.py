@@ -8,8 +8,8 @@ import subprocess
 import sys
 import tempfile
 
-from browser import Page, Player, chromium
-from questions import QUESTIONS, Keys
+from browser import SHIFT, Page, Player, chromium
+from questions import GESTURES, QUESTIONS, Keys
 import safety
 
 results = []
@@ -81,6 +81,45 @@ def look(driver, host, folder):
         driver.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": []})
 
 
+def gestures(driver, host, folder):
+    """What each gesture is told as, that each is taken back alone, and that the question is left for the next one."""
+    with Player(host, folder, "307") as player:
+        page = Page(driver, player.address)
+        made = []
+        for gesture, statements in GESTURES:
+            gesture(page)
+            found = page.statements()[len(made):]
+            check(f"{statements}", "" if found == statements else found)
+            made += found
+        check("a presentation that is closed is told", "" if page.one("#closed").is_displayed() else "a slide is shown")
+        for place in (-1, -2):
+            page.do("undo")
+            check("undo takes back one", "" if page.statements() == made[:place] else page.statements())
+        page.do("next")
+        check("the next question", "" if "308" in page.one("#number").text and not page.statements() else page.one("#number").text)
+
+
+def keyboard(driver, host, folder):
+    """A question solved and judged without the mouse; whatever has the focus on the way shows it."""
+    with Player(host, folder, "318") as player:
+        page = Page(driver, player.address)
+        page.press(*[Keys.TAB] * 4, "\ue03a", *[Keys.ARROW_RIGHT] * 4, Keys.ARROW_DOWN)
+        item = next(place for place, each in enumerate(page.all("[role=menuitem]:enabled:is(.menu *)")) if each.text.startswith("Taille"))
+        page.press(*[Keys.ARROW_DOWN] * item, Keys.ENTER)
+        page.press("2", Keys.TAB, "2", Keys.ENTER)
+        unseen = []
+        for _ in range(60):
+            focused, outline = driver.execute_script(
+                "const one = document.activeElement; return [one.id || one.textContent, getComputedStyle(one).outlineStyle]")
+            if focused == "do-check":
+                break
+            unseen += [focused] if outline == "none" else []
+            page.press((SHIFT, Keys.TAB))
+        page.press(Keys.ENTER)
+        check("solved by the keyboard alone", "" if page.all("#verdict.passed") else (focused, page.statements()))
+        check("the focus is seen", unseen)
+
+
 WATCH = """
 window.times = [];
 let begun = 0;
@@ -116,6 +155,8 @@ def main():
             if not sys.argv[2:] or "safety" in sys.argv:
                 safety.run(check, host, folder, driver)
                 look(driver, host, folder)
+                gestures(driver, host, folder)
+                keyboard(driver, host, folder)
                 speed(driver, host, folder)
             all_questions(driver, host, pathlib.Path(folder), chosen)
         finally:

@@ -103,3 +103,31 @@ QUESTIONS = {
     322: ([click("ZOR4"), click("ZOR2", SHIFT), press((CONTROL, "g"))], "", [drag((5, 100), (715, 500)), press((CONTROL, "g"))], "H"),
     323: ([slide(5), click(TITLE), press(Keys.DELETE), word_art("Conseils")], "", [slide(5), click(TITLE), press(Keys.DELETE)], "D"),
 }
+
+# On question 307's slide 3: gestures one after the other, and the statements that each makes.
+S = "ActiveWindow.Selection.ShapeRange"
+SHAPES = "ActivePresentation.Slides(3).Shapes"
+GESTURES = [
+    (slide(3), ["ActivePresentation.Slides(3).Select"]),
+    (tool("oval", (400, 400), (460, 460)), [f"{SHAPES}.AddShape(msoShapeOval, 402, 402, 60, 60).Select"]),
+    (drag((462, 462), (486, 475)), [f"{S}.Width = 84", f"{S}.Height = 72"]),
+    (drag((440, 440), (440, 481)), [f"{S}.Top = 444"]),
+    (press(Keys.ARROW_LEFT), [f"{S}.Left = 396"]),
+    (press((CONTROL, Keys.ARROW_UP)), [f"{S}.Top = 442.5"]),
+    (press((CONTROL, "d")), [f"{S}.Duplicate.Select"]),
+    (press((CONTROL, "x")), ["ActiveWindow.Selection.Cut"]),
+    (press((CONTROL, "v")), ["ActiveWindow.View.Paste"]),
+    (menu("Style ombre", "Style ombre 6"), []),
+    (press((CONTROL, "a")), [f"{SHAPES}.SelectAll"]),
+    (press(Keys.ESCAPE), ["ActiveWindow.Selection.Unselect"]),
+    (drag((10, 380), (710, 535)), [f"{SHAPES}.Range(Array(3, 4)).Select"]),
+    (menu("Dessin", "Grouper"), [f"{S}.Group.Select"]),
+    (press((CONTROL, SHIFT, "g")), [f"{S}.Ungroup.Select"]),
+    (word("idée", "règle"), [f"{SHAPES}(2).Select", f"{SHAPES}(2).TextFrame.TextRange.Characters(5, 4).Select"]),
+    (press((CONTROL, "b")), []),
+    (press((SHIFT, CONTROL, Keys.ARROW_LEFT), (CONTROL, "b")), [f"{SHAPES}(2).TextFrame.TextRange.Characters(5, 4).Text = \"règle\"",
+                                                                f"{SHAPES}(2).TextFrame.TextRange.Characters(5, 5).Font.Bold = msoTrue"]),
+    (press(Keys.END, Keys.ENTER, "a", Keys.ESCAPE), [f"{SHAPES}(2).TextFrame.TextRange.Characters(25, 1).InsertAfter vbCr & \"a\"", f"{SHAPES}(2).Select"]),
+    (menu("Edition", "Supprimer la diapositive"), ["ActivePresentation.Slides(3).Delete"]),
+    (menu("Fichier", "Fermer la présentation"), ["ActivePresentation.Close"]),
+]
