@@ -98,8 +98,8 @@ TEST_F(Questions, CountFreeformsAndScrollsInsideGroupsOnly) {
     group(2, 3);
     EXPECT_EQ(api.ChercheForme(1, u"msoFreeform", true, application), 0);
     EXPECT_EQ(api.ChercheForme(1, u"msoFreeform", false, application), 0);
-    EXPECT_EQ(api.ChercheForme(1, u"msoShapeHorizontalScroll", true, application), 0);
     EXPECT_EQ(api.NbFormesLibres, 2);
+    EXPECT_EQ(api.ChercheForme(1, u"msoShapeHorizontalScroll", true, application), 0);
     EXPECT_EQ(api.NbParchemins, 2);
     EXPECT_EQ(api.FormeNonTrouvee, -1);
 }
