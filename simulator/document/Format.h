@@ -26,6 +26,7 @@ struct Line {
     float weight = 0.75F; ///< points
     Color color = Color::of(ppForeground);
     std::int32_t dashStyle = 1;
+    Color back = Color::of(ppBackground); ///< of a patterned line; files do not keep it
 
     friend bool operator==(const Line&, const Line&) = default;
 };
@@ -38,6 +39,7 @@ struct Shadow {
     float offsetX = 2; ///< points
     float offsetY = 2; ///< points
     bool obscured = false;
+    float transparency = 0; ///< 0 opaque to 1 clear; files do not keep it
 
     friend bool operator==(const Shadow&, const Shadow&) = default;
 };
@@ -47,6 +49,18 @@ struct ThreeD {
     bool visible = false;
     std::int32_t preset = -2;
     float depth = 36; ///< points
+    /// What a toolbar changes beside the depth, by Office's numbers; files keep none of it.
+    ///@{
+    std::int32_t direction = 9; ///< msoExtrusionBottomRight
+    std::int32_t lighting = 1;  ///< msoLightingTopLeft
+    std::int32_t softness = 2;  ///< msoLightingNormal
+    std::int32_t material = 1;  ///< msoMaterialMatte
+    bool perspective = false;
+    float rotationX = 0; ///< degrees, -90 to 90
+    float rotationY = 0; ///< degrees, -90 to 90
+    bool hasOwnColor = false;
+    Color color = Color::of(ppFill);
+    ///@}
 
     friend bool operator==(const ThreeD&, const ThreeD&) = default;
 };

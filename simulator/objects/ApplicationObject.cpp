@@ -23,6 +23,7 @@ const automation::MemberTable& ApplicationObject::members() const {
         property<&This::commandBars>(u"CommandBars"),
         property<&This::application>(u"Application"),
         property<&This::name>(u"Name").asDefault(),
+        property<&This::path>(u"Path"),
         property<&This::caption>(u"Caption"),
         property<&This::version>(u"Version"),
         property<&This::hwnd>(u"HWND"),

@@ -30,6 +30,7 @@ public:
 
     [[nodiscard]] std::u16string name() const { return u"Microsoft PowerPoint"; }
     [[nodiscard]] std::u16string version() const { return u"11.0"; }
+    [[nodiscard]] std::u16string path() const { return u"C:\\Program Files\\Microsoft Office\\OFFICE11"; }
     [[nodiscard]] std::u16string caption() const { return session()->title(); }
     [[nodiscard]] std::int32_t hwnd() const { return session()->window().handle(); }
 

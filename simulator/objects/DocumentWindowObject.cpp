@@ -21,10 +21,12 @@ const automation::MemberTable& DocumentWindowObject::members() const {
         property<&This::view>(u"View"),
         property<&This::presentation>(u"Presentation"),
         property<&This::viewType, &This::setViewType>(u"ViewType"),
+        property<&This::windowState, &This::setWindowState>(u"WindowState"),
         property<&This::active>(u"Active"),
         property<&This::caption>(u"Caption").asDefault(),
         property<&This::activePane>(u"ActivePane"),
         property<&This::panes>(u"Panes"),
+        method<&This::newWindow>(u"NewWindow"),
         method<&This::activate>(u"Activate"),
         method<&This::close>(u"Close"),
     };
@@ -59,6 +61,16 @@ void DocumentWindowObject::setViewType(std::int32_t type) const {
     if (const SlidePtr slide = shown->shown(); slide && type == DocumentWindow::slideSorterView) {
         shown->selection.selectSlides({slide});
     }
+}
+
+void DocumentWindowObject::setWindowState(PpWindowState state) const {
+    errors::demandWithin(state, ppWindowNormal, ppWindowMaximized, u"DocumentWindow.WindowState");
+    window()->state = state;
+}
+
+std::shared_ptr<DocumentWindowObject> DocumentWindowObject::newWindow() const {
+    return std::make_shared<DocumentWindowObject>(session(),
+                                                  session()->openWindow(simulator::alive(window()->presentation)));
 }
 
 std::shared_ptr<ApplicationObject> DocumentWindowObject::application() const {

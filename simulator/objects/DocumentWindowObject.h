@@ -29,6 +29,10 @@ public:
     /// outside 1 to 12.
     void setViewType(std::int32_t type) const;
 
+    [[nodiscard]] PpWindowState windowState() const { return window()->state; }
+    /// Raises an invalid request for a value outside 1 to 3.
+    void setWindowState(PpWindowState state) const;
+
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::shared_ptr<PresentationObject> presentation() const;
     [[nodiscard]] std::shared_ptr<ViewObject> view() const;
@@ -36,6 +40,8 @@ public:
     [[nodiscard]] std::shared_ptr<PanesObject> panes() const;
     [[nodiscard]] std::shared_ptr<PaneObject> activePane() const;
 
+    /// Another window on the same presentation, in front.
+    [[nodiscard]] std::shared_ptr<DocumentWindowObject> newWindow() const;
     void activate() const { session()->activate(window()); }
     /// Closes the window, and its presentation with the last one.
     void close() const { session()->closeWindow(window()); }

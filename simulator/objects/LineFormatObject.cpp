@@ -8,6 +8,7 @@ const automation::MemberTable& LineFormatObject::members() const {
     static const automation::MemberTable table{
         property<&This::get<&Line::dashStyle>, &This::setDashStyle>(u"DashStyle"),
         property<&This::color<&Line::color>>(u"ForeColor"),
+        property<&This::color<&Line::back>>(u"BackColor"),
         property<&This::get<&Line::visible>, &This::turn<&Line::visible>>(u"Visible"),
         property<&This::get<&Line::weight>, &This::setWeight>(u"Weight"),
     };

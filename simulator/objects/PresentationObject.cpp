@@ -2,6 +2,7 @@
 
 #include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
+#include "simulator/objects/DocumentWindowObject.h"
 #include "simulator/objects/DocumentWindowsObject.h"
 #include "simulator/objects/PageSetupObject.h"
 #include "simulator/objects/PresentationsObject.h"
@@ -44,6 +45,7 @@ const automation::MemberTable& PresentationObject::members() const {
         property<&This::saved, &This::setSaved>(u"Saved"),
         property<&This::snapToGrid, &This::setSnapToGrid>(u"SnapToGrid"),
         property<&This::gridDistance, &This::setGridDistance>(u"GridDistance"),
+        method<&This::newWindow>(u"NewWindow"),
         method<&This::close>(u"Close"),
         method<&This::save>(u"Save"),
         method<&This::saveAs>(u"SaveAs", u"FileName FileFormat EmbedTrueTypeFonts"),
@@ -108,6 +110,10 @@ std::shared_ptr<ApplicationObject> PresentationObject::application() const {
 
 std::shared_ptr<PresentationsObject> PresentationObject::parent() const {
     return std::make_shared<PresentationsObject>(session());
+}
+
+std::shared_ptr<DocumentWindowObject> PresentationObject::newWindow() const {
+    return std::make_shared<DocumentWindowObject>(session(), session()->openWindow(document()));
 }
 
 std::shared_ptr<SlidesObject> PresentationObject::slides() const {

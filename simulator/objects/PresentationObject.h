@@ -7,6 +7,7 @@
 namespace simulator {
 
 class ApplicationObject;
+class DocumentWindowObject;
 class DocumentWindowsObject;
 class PageSetupObject;
 class PresentationsObject;
@@ -49,6 +50,8 @@ public:
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::shared_ptr<PresentationsObject> parent() const;
     [[nodiscard]] std::shared_ptr<SlidesObject> slides() const;
+    /// Another window on it, in front.
+    [[nodiscard]] std::shared_ptr<DocumentWindowObject> newWindow() const;
     [[nodiscard]] std::shared_ptr<TagsObject> tags() const;
     [[nodiscard]] std::shared_ptr<PageSetupObject> pageSetup() const;
     /// The windows that show this presentation.

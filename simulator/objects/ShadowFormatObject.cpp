@@ -36,6 +36,7 @@ const automation::MemberTable& ShadowFormatObject::members() const {
         property<&This::get<&Shadow::offsetX>, &This::set<&Shadow::offsetX>>(u"OffsetX"),
         property<&This::get<&Shadow::offsetY>, &This::set<&Shadow::offsetY>>(u"OffsetY"),
         property<&This::get<&Shadow::type>, &This::setType>(u"Type"),
+        property<&This::get<&Shadow::transparency>, &This::setTransparency>(u"Transparency"),
         property<&This::get<&Shadow::visible>, &This::setVisible>(u"Visible"),
     };
     return table;
@@ -52,6 +53,11 @@ void ShadowFormatObject::setType(std::int32_t type) {
         offsetByStyle(shape.shadow, type);
         shape.showShadow(true);
     });
+}
+
+void ShadowFormatObject::setTransparency(float transparency) {
+    errors::demandWithin(transparency, 0.0F, 1.0F, u"ShadowFormat.Transparency");
+    set<&Shadow::transparency>(transparency);
 }
 
 } // namespace simulator

@@ -14,6 +14,8 @@ public:
     void setVisible(MsoTriState visible);
     /// A style, 1 (msoShadow1) to 20, which reads as -2 where none was chosen; choosing one shows the shadow.
     void setType(std::int32_t type);
+    /// Raises an invalid request outside 0 to 1.
+    void setTransparency(float transparency);
     /// Moves the shadow by so many points to the right, or down.
     template <float Shadow::*offset> void increment(float points) {
         nodes().change([points](Shape& shape) { shape.shadow.*offset += points; });

@@ -173,6 +173,12 @@ void Session::activate(const DocumentWindowPtr& window) {
     }
 }
 
+DocumentWindowPtr Session::openWindow(const PresentationPtr& presentation) {
+    demandFrame();
+    addWindow(presentation);
+    return windows_.front();
+}
+
 void Session::closeWindow(const DocumentWindowPtr& window) {
     const PresentationPtr presentation = window->presentation.lock();
     take(windows_, DocumentWindowPtr(window));

@@ -93,6 +93,8 @@ public:
     [[nodiscard]] std::u16string fullPath(std::u16string_view path) const;
     [[nodiscard]] PresentationStore& store() noexcept { return store_; }
 
+    /// Opens another window on a presentation, in front.
+    DocumentWindowPtr openWindow(const PresentationPtr& presentation);
     void activate(const DocumentWindowPtr& window);
     /// Closes a window, and its presentation with the last one.
     void closeWindow(const DocumentWindowPtr& window);
