@@ -41,6 +41,7 @@ std::u16string_view describe(RunTimeError error) noexcept {
     case RunTimeError::InvalidProcedureCall: return u"Argument ou appel de procédure incorrect";
     case RunTimeError::Overflow: return u"Dépassement de capacité";
     case RunTimeError::OutOfMemory: return u"Mémoire insuffisante";
+    case RunTimeError::DivisionByZero: return u"Division par zéro";
     case RunTimeError::SubscriptOutOfRange: return u"L'indice n'appartient pas à la sélection";
     case RunTimeError::TypeMismatch: return u"Incompatibilité de type";
     case RunTimeError::FileNotFound: return u"Fichier introuvable";

@@ -14,6 +14,7 @@ enum class RunTimeError : std::int32_t {
     Overflow = 6,
     OutOfMemory = 7,
     SubscriptOutOfRange = 9,
+    DivisionByZero = 11,
     TypeMismatch = 13,
     FileNotFound = 53,
     FileAlreadyOpen = 55,

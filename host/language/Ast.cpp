@@ -14,6 +14,31 @@ bool isCheck(const Statement& statement) {
 
 } // namespace
 
+std::vector<const std::vector<Statement>*> blocksOf(const Statement& statement) {
+    std::vector<const std::vector<Statement>*> blocks;
+    if (const auto* const choice = std::get_if<If>(&statement.node)) {
+        for (const Branch& branch : choice->branches) {
+            blocks.push_back(&branch.body);
+        }
+    } else if (const auto* const with = std::get_if<With>(&statement.node)) {
+        blocks.push_back(&with->body);
+    } else if (const auto* const numbers = std::get_if<ForNumbers>(&statement.node)) {
+        blocks.push_back(&numbers->body);
+    } else if (const auto* const each = std::get_if<ForEach>(&statement.node)) {
+        blocks.push_back(&each->body);
+    }
+    return blocks;
+}
+
+bool expectsSomething(const Statement& statement) {
+    const std::vector<const std::vector<Statement>*> blocks = blocksOf(statement);
+    return isCheck(statement) || std::holds_alternative<ExpectValues>(statement.node) ||
+           std::holds_alternative<ExpectError>(statement.node) ||
+           std::any_of(blocks.begin(), blocks.end(), [](const std::vector<Statement>* block) {
+               return std::any_of(block->begin(), block->end(), expectsSomething);
+           });
+}
+
 std::span<const Statement> Scenario::firstMoves() const {
     return {statements.begin(), std::find_if(statements.begin(), statements.end(), isCheck)};
 }
@@ -44,6 +69,12 @@ Expectation Contract::success() const {
     const auto found = std::find_if(meanings.begin(), meanings.end(),
                                     [](const Meaning& meaning) { return meaning.verdict.isSuccess(); });
     return found == meanings.end() ? Expectation() : found->verdict;
+}
+
+Expectation Contract::meantBy(Expectation stated) const {
+    const Expectation passing = success();
+    const bool isRaised = stated.kind == Expectation::Kind::Success && passing.kind == Expectation::Kind::Error;
+    return isRaised ? passing : stated;
 }
 
 std::u16string ScenarioFile::subject() const {

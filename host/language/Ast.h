@@ -5,6 +5,7 @@
 #include "host/language/Position.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <variant>
 
@@ -21,23 +22,47 @@ struct Literal {
 /// An argument left out.
 struct Omitted {};
 
+/// The object of the `With` around: what stands before a dot that begins a name.
+struct Subject {};
+
 /// A name with its arguments: of a variable or of the application where `object` is null, else a member of `object`.
 /// The empty name stands for the default member.
 struct Reference {
     std::unique_ptr<Expression> object;
     std::u16string name;
     std::vector<Expression> arguments;
+    std::vector<std::u16string> parameters; ///< the names of the last arguments, where they are named
 };
 
-/// `&`, `+`, `-` between two operands, or `-` before one.
+/// What stands between two operands, or before one.
+enum class Operator : std::uint8_t {
+    Or,
+    And,
+    Not,
+    Equal,
+    NotEqual,
+    Less,
+    LessOrEqual,
+    Greater,
+    GreaterOrEqual,
+    Is,
+    Join,
+    Add,
+    Subtract,
+    Modulo,
+    Multiply,
+    Divide,
+    Negate,
+};
+
 struct Operation {
-    char16_t sign = u'&';
+    Operator sign = Operator::Join;
     std::vector<Expression> operands;
 };
 
 struct Expression {
     Position place;
-    std::variant<Literal, Omitted, Reference, Operation> node;
+    std::variant<Literal, Omitted, Subject, Reference, Operation> node;
 };
 
 /// `x = value`, `x.Member = value`, with or without `Set`.
@@ -74,11 +99,54 @@ struct ExpectError {
     std::vector<Statement> statements;
 };
 
+/// Variables with the values that their types begin with; one that is set already keeps its value.
+struct Declaration {
+    std::vector<std::pair<std::u16string, automation::Value>> variables;
+};
+
+/// Statements in which a dot that begins a name stands behind an object.
+struct With {
+    Expression subject;
+    std::vector<Statement> body;
+};
+
+/// Statements performed where a condition holds; always where there is none.
+struct Branch {
+    std::optional<Expression> condition;
+    std::vector<Statement> body;
+};
+
+/// The first branch whose condition holds.
+struct If {
+    std::vector<Branch> branches;
+};
+
+/// `For variable = first To last Step step`.
+struct ForNumbers {
+    std::u16string variable;
+    Expression first;
+    Expression last;
+    std::optional<Expression> step;
+    std::vector<Statement> body;
+};
+
+/// `For Each variable In collection`.
+struct ForEach {
+    std::u16string variable;
+    Expression collection;
+    std::vector<Statement> body;
+};
+
 struct Statement {
     Position place;
-    std::u16string text; ///< the line as it is written, without blanks around it and without its comment
-    std::variant<Call, Assignment, Check, ExpectValues, ExpectError> node;
+    std::u16string text; ///< as it is written, without blanks around it and comments; a block has its lines, indented
+    std::variant<Call, Assignment, Check, ExpectValues, ExpectError, Declaration, With, If, ForNumbers, ForEach> node;
 };
+
+/// The statements inside one, block by block.
+[[nodiscard]] std::vector<const std::vector<Statement>*> blocksOf(const Statement& statement);
+/// True for an expectation or a check, and for a block with one.
+[[nodiscard]] bool expectsSomething(const Statement& statement);
 
 /// On what grounds a promise of PowerPoint's stands: its documentation says so, or nobody has found that it does, or it
 /// does but the module's questions are described otherwise.
@@ -118,6 +186,8 @@ struct Contract {
     [[nodiscard]] const Meaning* meaningOf(std::u16string_view letter) const;
     /// What the host reads where the learner has done the task.
     [[nodiscard]] Expectation success() const;
+    /// What a check that says this asks for: `success` is what the question has for it.
+    [[nodiscard]] Expectation meantBy(Expectation stated) const;
 };
 
 /// A scenario file.

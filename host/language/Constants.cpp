@@ -44,6 +44,8 @@ constexpr auto runs = std::to_array<Run>({
     {u"mso", 10, u"LinkedOLEObject LinkedPicture OLEControlObject Picture Placeholder TextEffect Media TextBox"},
     {u"mso", 0, u"BringToFront SendToBack BringForward SendBackward"},
     {u"mso", 0, u"FlipHorizontal FlipVertical"},
+    {u"msoScaleFrom", 0, u"TopLeft Middle BottomRight"},
+    {u"msoAnchor", 1, u"Top TopBaseline Middle Bottom BottomBaseLine"},
     {u"msoEditing", 0, u"Auto Corner"},
     {u"msoSegment", 0, u"Line Curve"},
     {u"msoConnector", 1, u"Straight Elbow Curve"},
@@ -58,6 +60,8 @@ constexpr auto runs = std::to_array<Run>({
     {u"msoAlign", 0, u"Lefts Centers Rights Tops Middles Bottoms"},
     {u"msoDistribute", 0, u"Horizontally Vertically"},
     {u"msoBar", 0, u"Left Top Right Bottom Floating Popup MenuBar"},
+    {u"ppAutoSize", 0, u"None ShapeToFitText"},
+    {u"ppBullet", 1, u"Unnumbered Numbered Picture"},
     {u"ppAlign", 1, u"Left Center Right Justify"},
     {u"ppWindow", 1, u"Normal Minimized Maximized"},
     {u"ppView", 1,
@@ -217,9 +221,12 @@ bool looksLikeConstant(std::u16string_view name) {
     return isFormedFrom(u"mso", name) || isFormedFrom(u"pp", name) || isFormedFrom(u"vb", name);
 }
 
+std::vector<std::u16string_view> reservedNames() {
+    return {u"Application", u"Array", u"Files", u"Host", u"Learner", u"PowerPoint", u"Registry", u"RGB"};
+}
+
 bool isReserved(std::u16string_view name) {
-    constexpr std::array<std::u16string_view, 8> reserved{u"Application", u"Array",      u"Files",    u"Host",
-                                                          u"Learner",     u"PowerPoint", u"Registry", u"RGB"};
+    const std::vector<std::u16string_view> reserved = reservedNames();
     return std::any_of(reserved.begin(), reserved.end(),
                        [&](std::u16string_view word) { return equalIgnoringCase(word, name); });
 }

@@ -22,7 +22,8 @@ namespace host::language {
 /// True for names formed as constants are (`msoSomething`, `ppSomething`, `vbSomething`).
 [[nodiscard]] bool looksLikeConstant(std::u16string_view name);
 
-/// True for the names that a scenario file cannot use for its variables.
+/// The names that a scenario file cannot use for its variables.
+[[nodiscard]] std::vector<std::u16string_view> reservedNames();
 [[nodiscard]] bool isReserved(std::u16string_view name);
 
 } // namespace host::language

@@ -1,6 +1,6 @@
 #include "host/language/Interpreter.h"
 
-#include "automation/Error.h"
+#include "automation/Elements.h"
 #include "automation/Text.h"
 #include "host/language/Likeness.h"
 #include "host/language/Operators.h"
@@ -11,6 +11,7 @@ namespace {
 
 using automation::Access;
 using automation::Error;
+using automation::Name;
 using automation::ObjectPtr;
 using automation::RunTimeError;
 using automation::Value;
@@ -38,46 +39,43 @@ ObjectPtr objectIn(const Value& value) {
 }
 
 /// Reaches a member; the error of one that is missing names it and its class.
-Value reach(const Value& object, std::u16string_view name, Access access, std::span<Value> arguments) {
+Value reach(const Value& object, const Name& name, Access access, std::span<Value> arguments) {
     const ObjectPtr target = objectIn(object);
     try {
         return target->invoke(name, access, arguments);
     } catch (const Error& error) {
-        const std::u16string className = target->className();
-        if (!error.is(RunTimeError::MemberNotFound) || className.empty() || name.empty()) {
+        if (!error.is(RunTimeError::MemberNotFound) || target->className().empty() || name.isDefault()) {
             throw;
         }
-        const std::u16string_view verb = access == Access::Put ? u" to be set" : u"";
-        throw Error(error.number(), error.source(),
-                    className + u" has no member '" + std::u16string(name) + u"'" + std::u16string(verb) +
-                        likeness(*target, name));
+        throw Error(error.number(), error.source(), missingMember(*target, name.text(), access));
     }
 }
 
 /// An object stands for the value of its default member, as macros have it where `Set` is not said.
 Value plain(const Value& value) {
-    return value.isObject() ? reach(value, {}, Access::GetOrCall, {}) : value;
+    return value.isObject() ? reach(value, automation::defaultMember, Access::GetOrCall, {}) : value;
 }
 
-/// What the application answers for a name that is no variable.
-Value memberOfApplication(const ObjectPtr& application, const std::u16string& name, std::span<Value> arguments) {
-    try {
-        return application->invoke(std::u16string_view(name), Access::GetOrCall, arguments);
-    } catch (const Error& error) {
-        if (!error.is(RunTimeError::MemberNotFound)) {
-            throw;
-        }
-        throw Error(error.number(), error.source(),
-                    u"'" + name + u"' is neither a variable nor a member of PowerPoint's application");
-    }
+/// The names of arguments, as a call takes them.
+std::vector<std::u16string_view> viewsOf(const std::vector<std::u16string>& names) {
+    return {names.begin(), names.end()};
 }
+
+/// One more object for the dots of a With, for the length of a scope.
+class Within : automation::Unmoved {
+public:
+    Within(std::vector<Value>& all, Value subject) : all_(all) { all_.push_back(std::move(subject)); }
+    ~Within() { all_.pop_back(); }
+
+private:
+    std::vector<Value>& all_;
+};
 
 } // namespace
 
 void Interpreter::execute(const Statement& statement) {
-    place_ = statement.place;
     try {
-        std::visit([this](const auto& node) { perform(node); }, statement.node);
+        perform(statement);
     } catch (const Raised& raised) {
         throw Failure({raised.place, inWords(raised.error)}, raised.error.number());
     }
@@ -88,6 +86,73 @@ Value Interpreter::evaluate(const Expression& expression) {
         return valueOf(expression);
     } catch (const Raised& raised) {
         throw Failure({raised.place, inWords(raised.error)}, raised.error.number());
+    }
+}
+
+void Interpreter::perform(const Statement& statement) {
+    place_ = statement.place;
+    std::visit([this](const auto& node) { perform(node); }, statement.node);
+}
+
+void Interpreter::performAll(const std::vector<Statement>& statements) {
+    for (const Statement& statement : statements) {
+        perform(statement);
+    }
+}
+
+void Interpreter::perform(const Declaration& declaration) {
+    for (const auto& [name, value] : declaration.variables) {
+        variables_.try_emplace(automation::lowerCase(name), value);
+    }
+}
+
+void Interpreter::perform(const With& with) {
+    const Within within(subjects_, valueOf(with.subject));
+    performAll(with.body);
+}
+
+void Interpreter::perform(const If& choice) {
+    for (const auto& [condition, body] : choice.branches) {
+        const bool holds = !condition || placed(condition->place, [&] { return valueOf(*condition).to<bool>(); });
+        if (holds) {
+            return performAll(body);
+        }
+    }
+}
+
+void Interpreter::perform(const ForNumbers& loop) {
+    const auto numberOf = [this](const Expression& expression) {
+        const Value value = valueOf(expression);
+        return placed(expression.place, [&] { return plainNumber(value); });
+    };
+    Value counter = numberOf(loop.first);
+    const Value last = numberOf(loop.last);
+    const Value step = loop.step ? numberOf(*loop.step) : Value(std::int32_t(1));
+    const bool isDown = step.to<double>() < 0;
+    Value& variable = variables_[automation::lowerCase(loop.variable)];
+    const auto isOver = [&] { return apply(isDown ? Operator::Less : Operator::Greater, counter, last).to<bool>(); };
+    for (variable = counter; !isOver(); variable = counter) {
+        performAll(loop.body);
+        counter = placed(place_, [&] { return apply(Operator::Add, variable, step); });
+    }
+}
+
+void Interpreter::perform(const ForEach& loop) {
+    const Value collection = valueOf(loop.collection);
+    const auto in = [&](const auto& step) { return placed(loop.collection.place, step); };
+    if (collection.is<automation::Array>()) {
+        for (const Value& element : collection.as<automation::Array>()) {
+            variables_[automation::lowerCase(loop.variable)] = element;
+            performAll(loop.body);
+        }
+        return;
+    }
+    const ObjectPtr elements =
+        in([&] { return objectIn(reach(collection, automation::newEnum, Access::GetOrCall, {})); });
+    const auto next = [&] { return in([&] { return elements->invoke(u"Next", Access::Call, {}); }); };
+    for (Value element = next(); !element.isMissing(); element = next()) {
+        variables_[automation::lowerCase(loop.variable)] = element;
+        performAll(loop.body);
     }
 }
 
@@ -107,7 +172,9 @@ void Interpreter::perform(const Assignment& assignment) {
     const Value object = valueOf(*target.object);
     std::vector<Value> arguments = argumentsOf(target);
     arguments.push_back(std::move(value));
-    placed(assignment.target.place, [&] { return reach(object, target.name, Access::Put, arguments); });
+    const std::vector<std::u16string_view> parameters = viewsOf(target.parameters);
+    const Name name(target.name, {}, parameters);
+    placed(assignment.target.place, [&] { return reach(object, name, Access::Put, arguments); });
 }
 
 void Interpreter::perform(const Check& check) {
@@ -131,7 +198,7 @@ void Interpreter::perform(const ExpectValues& expectation) {
 void Interpreter::perform(const ExpectError& expectation) {
     for (const Statement& statement : expectation.statements) {
         try {
-            std::visit([this](const auto& node) { perform(node); }, statement.node);
+            perform(statement);
         } catch (const Raised& raised) {
             if (expectation.error.matches(raised.error)) {
                 continue;
@@ -153,22 +220,26 @@ Value Interpreter::valueOf(const Expression& expression) {
     if (const auto* const operation = std::get_if<Operation>(&expression.node)) {
         return valueOf(*operation, expression.place);
     }
+    if (std::holds_alternative<Subject>(expression.node)) {
+        return subjects_.empty() ? Value(nullptr) : subjects_.back();
+    }
     return automation::Missing{};
 }
 
 Value Interpreter::valueOf(const Reference& reference, Position place) {
     const Value object = reference.object ? valueOf(*reference.object) : Value();
     std::vector<Value> arguments = argumentsOf(reference);
+    const std::vector<std::u16string_view> parameters = viewsOf(reference.parameters);
+    const Name name(reference.name, {}, parameters);
     return placed(place, [&] {
-        return reference.object ? reach(object, reference.name, Access::GetOrCall, arguments)
-                                : head(reference, arguments);
+        return reference.object ? reach(object, name, Access::GetOrCall, arguments) : head(reference, name, arguments);
     });
 }
 
 Value Interpreter::valueOf(const Operation& operation, Position place) {
     const Value left = valueOf(operation.operands.front());
     if (operation.operands.size() == 1) {
-        return placed(place, [&] { return apply(operation.sign, Value(std::int32_t(0)), left); });
+        return placed(place, [&] { return apply(operation.sign, left); });
     }
     const Value right = valueOf(operation.operands.back());
     return placed(place, [&] { return apply(operation.sign, left, right); });
@@ -182,27 +253,39 @@ std::vector<Value> Interpreter::argumentsOf(const Reference& reference) {
     return arguments;
 }
 
-Value Interpreter::head(const Reference& reference, std::span<Value> arguments) {
+Value Interpreter::head(const Reference& reference, const Name& name, std::span<Value> arguments) {
     const auto itself = [&](const Value& value) {
-        return arguments.empty() ? value : reach(value, {}, Access::GetOrCall, arguments);
+        return arguments.empty() ? value : reach(value, Name({}, {}, name.parameters()), Access::GetOrCall, arguments);
     };
     if (const auto variable = variables_.find(automation::lowerCase(reference.name)); variable != variables_.end()) {
         return itself(variable->second);
     }
-    if (automation::equalIgnoringCase(reference.name, u"RGB")) {
-        return colorOf(arguments);
+    if (name.matches(u"RGB")) {
+        return colorOf(automation::parameters::inOrder(u"Red Green Blue", name.parameters(), Access::Call, arguments));
     }
-    if (automation::equalIgnoringCase(reference.name, u"Array")) {
+    if (name.matches(u"Array")) {
         return automation::Array(arguments.begin(), arguments.end());
     }
     if (const ObjectPtr object = stage_.object(reference.name)) {
         return itself(object);
     }
+    return name.matches(u"Application") ? itself(stage_.application()) : memberOfApplication(name, arguments);
+}
+
+Value Interpreter::memberOfApplication(const Name& name, std::span<Value> arguments) {
     const ObjectPtr application = stage_.application();
-    if (automation::equalIgnoringCase(reference.name, u"Application")) {
-        return itself(application);
+    try {
+        return application->invoke(name, Access::GetOrCall, arguments);
+    } catch (const Error& error) {
+        if (!error.is(RunTimeError::MemberNotFound)) {
+            throw;
+        }
+        std::vector<std::u16string_view> variables;
+        for (const auto& [known, value] : variables_) {
+            variables.push_back(known);
+        }
+        throw Error(error.number(), error.source(), unknownName(name.text(), variables));
     }
-    return memberOfApplication(application, reference.name, arguments);
 }
 
 } // namespace host::language

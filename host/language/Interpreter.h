@@ -41,15 +41,25 @@ private:
     void perform(const Check& check);
     void perform(const ExpectValues& expectation);
     void perform(const ExpectError& expectation);
+    void perform(const Declaration& declaration);
+    void perform(const With& with);
+    void perform(const If& choice);
+    void perform(const ForNumbers& loop);
+    void perform(const ForEach& loop);
+    void perform(const Statement& statement);
+    void performAll(const std::vector<Statement>& statements);
 
     automation::Value valueOf(const Expression& expression);
     automation::Value valueOf(const Reference& reference, Position place);
     automation::Value valueOf(const Operation& operation, Position place);
     std::vector<automation::Value> argumentsOf(const Reference& reference);
-    automation::Value head(const Reference& reference, std::span<automation::Value> arguments);
+    automation::Value head(const Reference& reference, const automation::Name& name,
+                           std::span<automation::Value> arguments);
+    automation::Value memberOfApplication(const automation::Name& name, std::span<automation::Value> arguments);
 
     Stage& stage_;
     std::map<std::u16string, automation::Value> variables_; ///< by their names in lower case
+    std::vector<automation::Value> subjects_;               ///< of the With around, the innermost one last
     Position place_;                                        ///< of the statement being performed
 };
 

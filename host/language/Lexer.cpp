@@ -34,10 +34,13 @@ public:
             if (tokens.size() == mostTokens) {
                 throw SyntaxError({here(), "expected a line of at most " + std::to_string(mostTokens) + " words"});
             }
+            const std::size_t begin = position_;
             tokens.push_back(next());
+            tokens.back().begin = begin;
+            tokens.back().end = position_;
             end = here();
         }
-        tokens.push_back({TokenKind::End, end, {}, {}});
+        tokens.push_back({TokenKind::End, end, {}, {}, end.column - 1, end.column - 1});
         return tokens;
     }
 
@@ -74,7 +77,7 @@ private:
                     std::u16string(take([](char16_t x) { return startsName(x) || isDigit(x); })),
                     {}};
         }
-        if (isDigit(c)) {
+        if (isDigit(c) || (c == u'.' && isDigit(peek(1)))) {
             return {TokenKind::Number, place, {}, number()};
         }
         if (c == u'&' && (peek(1) == u'H' || peek(1) == u'h') && isHexDigit(peek(2))) {
@@ -83,11 +86,22 @@ private:
         if (c == u'"') {
             return {TokenKind::Text, place, {}, text()};
         }
-        if (std::u16string_view(u".,()=&+-:;").find(c) == std::u16string_view::npos) {
-            throw SyntaxError({place, "expected a statement, found '" + toUtf8({&c, 1}) + "'"});
+        return {TokenKind::Symbol, place, symbol(), {}};
+    }
+
+    std::u16string symbol() {
+        for (const std::u16string_view sign : {u":=", u"<>", u"<=", u">="}) {
+            if (line_.substr(position_).starts_with(sign)) {
+                position_ += sign.size();
+                return std::u16string(sign);
+            }
+        }
+        const char16_t c = peek();
+        if (std::u16string_view(u".,()=&+-*/\\^<>:;").find(c) == std::u16string_view::npos) {
+            throw SyntaxError({here(), "expected a statement, found '" + toUtf8({&c, 1}) + "'"});
         }
         ++position_;
-        return {TokenKind::Symbol, place, std::u16string(1, c), {}};
+        return std::u16string(1, c);
     }
 
     /// A quote inside a text is doubled.
@@ -105,23 +119,47 @@ private:
         throw SyntaxError({opening, "expected a closing quote for this text"});
     }
 
+    /// Takes the sign of a type behind a number.
+    bool takeSuffix(std::u16string_view signs) {
+        const bool found = peek() != u'\0' && signs.find(peek()) != std::u16string_view::npos;
+        position_ += found ? 1 : 0;
+        return found;
+    }
+
     automation::Value number() {
         const Position place = here();
         std::string digits = toUtf8(take(isDigit));
+        bool isReal = false;
         if (peek() == u'.' && isDigit(peek(1))) {
+            isReal = true;
             ++position_;
             digits += "." + toUtf8(take(isDigit));
+        }
+        const std::size_t sign = peek(1) == u'+' || peek(1) == u'-' ? 1 : 0;
+        if ((peek() == u'E' || peek() == u'e') && isDigit(peek(1 + sign))) {
+            isReal = true;
+            digits += peek(1) == u'-' ? "e-" : "e";
+            position_ += 1 + sign;
+            digits += toUtf8(take(isDigit));
+        }
+        const bool isSingle = takeSuffix(u"!");
+        if (isSingle || takeSuffix(u"#@") || isReal) {
             double real = 0;
             std::from_chars(digits.data(), digits.data() + digits.size(), real);
-            return real;
+            return isSingle ? automation::Value(static_cast<float>(real)) : automation::Value(real);
         }
+        takeSuffix(u"&%");
         return whole<std::int32_t>(digits, 10, place);
     }
 
+    /// Up to four digits are a number of 16 bits, unless it is said to be one of 32.
     automation::Value hexadecimal() {
         const Position place = here();
         position_ += 2;
-        return static_cast<std::int32_t>(whole<std::uint32_t>(toUtf8(take(isHexDigit)), 16, place));
+        const std::string digits = toUtf8(take(isHexDigit));
+        const auto bits = whole<std::uint32_t>(digits, 16, place);
+        const bool isShort = !takeSuffix(u"&") && digits.size() <= 4;
+        return isShort ? std::int32_t(static_cast<std::int16_t>(bits)) : static_cast<std::int32_t>(bits);
     }
 
     template <typename Integer> static Integer whole(const std::string& digits, int base, Position place) {

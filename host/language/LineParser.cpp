@@ -2,91 +2,15 @@
 
 #include "automation/Text.h"
 #include "host/language/Constants.h"
+#include "host/language/Keywords.h"
+#include "host/language/Likeness.h"
+#include "host/language/PowerPointNames.h"
 
 namespace host::language {
 
-namespace {
-
-constexpr const char* expressionExpected = "expected a value: a text, a number, a constant or a name";
-
-Expression literal(Position place, automation::Value value) {
-    return {place, Literal{std::move(value)}};
-}
-
-Expression operation(Position place, char16_t sign, Expression left, std::optional<Expression> right) {
-    Operation node{sign, {}};
-    node.operands.push_back(std::move(left));
-    if (right) {
-        node.operands.push_back(std::move(*right));
-    }
-    return {place, std::move(node)};
-}
-
-} // namespace
-
-void LineParser::fail(const std::string& expected) const {
-    throw SyntaxError({peek().place, expected + ", found " + peek().display()});
-}
-
-bool LineParser::takeWord(std::u16string_view word) {
-    const bool found = peek().isWord(word);
-    position_ += found ? 1 : 0;
-    return found;
-}
-
-bool LineParser::takeWordBefore(TokenKind next, std::u16string_view word) {
-    return !atEnd() && tokens_[position_ + 1].kind == next && takeWord(word);
-}
-
-bool LineParser::takeSymbol(char16_t sign) {
-    const bool found = peek().isSymbol(sign);
-    position_ += found ? 1 : 0;
-    return found;
-}
-
-void LineParser::requireSymbol(char16_t sign) {
-    if (!takeSymbol(sign)) {
-        fail("expected '" + automation::toUtf8({&sign, 1}) + "'");
-    }
-}
-
-std::u16string LineParser::text(const std::string& expected) {
-    if (peek().kind != TokenKind::Text) {
-        fail("expected " + expected);
-    }
-    return take().value.to<std::u16string>();
-}
-
-std::u16string LineParser::sentence(const std::string& expected) {
-    if (peek().kind == TokenKind::Text && peek().value.to<std::u16string>().empty()) {
-        fail("expected " + expected);
-    }
-    return text(expected);
-}
-
-std::int32_t LineParser::number(const std::string& expected) {
-    const bool negative = takeSymbol(u'-');
-    if (peek().kind != TokenKind::Number || !peek().value.is<std::int32_t>()) {
-        fail("expected " + expected);
-    }
-    const auto magnitude = take().value.to<std::int32_t>();
-    return negative ? static_cast<std::int32_t>(-std::int64_t(magnitude)) : magnitude;
-}
-
-void LineParser::end() {
-    if (peek().kind != TokenKind::End) {
-        fail("expected the end of the line");
-    }
-}
-
 Statement LineParser::statement() {
-    Statement result = part();
-    end();
-    return result;
-}
-
-Statement LineParser::part() {
     Statement result{peek().place, {}, Call{}};
+    requireOwn(peek());
     for (const std::u16string_view block : {u"question", u"course", u"scenario", u"before"}) {
         if (peek().isWord(block)) {
             fail("expected a statement");
@@ -95,16 +19,21 @@ Statement LineParser::part() {
     if (takeWord(u"check")) {
         result.node = check();
     } else if (takeWord(u"expect")) {
-        result.node = expectation();
+        result.node = takeWord(u"error") ? expectedFailure() : expectation();
+    } else if (takeWord(u"Dim")) {
+        result.node = declaration();
     } else if (takeWord(u"Set")) {
-        result.node = assignment(true);
+        if (peek().kind != TokenKind::Name && !peek().isSymbol(u".")) {
+            fail("expected a variable or a member");
+        }
+        result.node = assignment(chain(), true);
     } else {
         result.node = callOrAssignment();
     }
     return result;
 }
 
-decltype(Statement::node) LineParser::check() {
+LineParser::Node LineParser::check() {
     Expectation expected;
     if (peek().kind == TokenKind::Text) {
         expected.kind = Expectation::Kind::Letter;
@@ -132,7 +61,7 @@ std::vector<std::u16string> LineParser::complement() {
     if (takeWord(u"complement")) {
         do {
             lines.push_back(text("a complementary text, in quotes"));
-        } while (takeSymbol(u','));
+        } while (takeSymbol(u","));
     }
     return lines;
 }
@@ -142,7 +71,7 @@ Meaning LineParser::meaning(Expectation::Kind kind) {
     result.verdict.kind = kind;
     if (kind == Expectation::Kind::Error) {
         result.verdict.error = expectedError();
-        requireSymbol(u':');
+        requireSymbol(u":");
     } else {
         result.verdict.letter = sentence("the letter, in quotes");
     }
@@ -160,48 +89,41 @@ ExpectedError LineParser::expectedError() {
     return error;
 }
 
-void LineParser::requireNoExpectation() const {
-    if (peek().isWord(u"expect")) {
-        fail("expected the statement that must raise the error");
-    }
-}
-
-decltype(Statement::node) LineParser::expectation() {
-    if (takeWord(u"error")) {
-        ExpectError node{expectedError(), {}};
-        requireSymbol(u':');
-        while (peek().kind != TokenKind::End) {
-            requireNoExpectation();
-            node.statements.push_back(part());
-            if (!takeSymbol(u';')) {
-                break;
-            }
-        }
-        return node;
-    }
+LineParser::Node LineParser::expectation() {
     ExpectValues node;
     do {
-        Expression actual = expression();
-        requireSymbol(u'=');
-        node.equations.push_back({std::move(actual), expression()});
-    } while (takeSymbol(u','));
+        Expression actual = term();
+        requireSymbol(u"=");
+        node.equations.push_back({std::move(actual), term()});
+    } while (takeSymbol(u","));
     return node;
 }
 
-decltype(Statement::node) LineParser::assignment(bool isSet) {
-    if (peek().kind != TokenKind::Name) {
-        fail("expected a variable or a member");
+LineParser::Node LineParser::expectedFailure() {
+    ExpectError node{expectedError(), {}};
+    requireSymbol(u":");
+    while (peek().kind != TokenKind::End) {
+        if (peek().isWord(u"expect")) {
+            fail("expected the statement that must raise the error");
+        }
+        node.statements.push_back(statement());
+        if (!takeSymbol(u";")) {
+            break;
+        }
     }
-    Expression target = chain();
+    return node;
+}
+
+LineParser::Node LineParser::assignment(Expression target, bool isSet) {
     requireAssignable(target);
-    requireSymbol(u'=');
+    requireSymbol(u"=");
     return Assignment{std::move(target), expression(), isSet};
 }
 
 void LineParser::requireAssignable(const Expression& target) {
     const auto& reference = std::get<Reference>(target.node);
     const bool isVariable = reference.object == nullptr && reference.arguments.empty();
-    if (isVariable && (isReserved(reference.name) || findConstant(reference.name))) {
+    if (isVariable && (isReserved(reference.name) || isKeyword(reference.name) || findConstant(reference.name))) {
         throw SyntaxError(
             {target.place, "expected a variable, found the fixed name '" + automation::toUtf8(reference.name) + "'"});
     }
@@ -210,115 +132,79 @@ void LineParser::requireAssignable(const Expression& target) {
     }
 }
 
-decltype(Statement::node) LineParser::callOrAssignment() {
-    if (peek().kind != TokenKind::Name) {
+LineParser::Node LineParser::callOrAssignment() {
+    if ((peek().kind != TokenKind::Name || isKeyword(peek().text)) && !peek().isSymbol(u".")) {
         fail("expected a statement");
     }
+    const Token head = peek();
     Expression target = chain();
-    if (peek().isSymbol(u'=')) {
-        requireAssignable(target);
-        take();
-        return Assignment{std::move(target), expression(), false};
+    if (peek().isSymbol(u"=")) {
+        return assignment(std::move(target), false);
     }
     if (!atEnd()) {
         auto& reference = std::get<Reference>(target.node);
         if (!reference.arguments.empty() || reference.name.empty()) {
             fail("expected '=' or the end of the line");
         }
-        reference.arguments = argumentList(&LineParser::atEnd);
+        if (reference.object == nullptr && !isMemberInPowerPoint(u"Application", reference.name)) {
+            throw SyntaxError({head.place, "expected a statement, found " + head.display() +
+                                               automation::toUtf8(suggestion(reference.name, verbs()))});
+        }
+        takeArguments(reference);
     }
     return Call{std::move(target)};
+}
+
+std::u16string LineParser::variable() {
+    const Token& token = peek();
+    const std::u16string found = name("a variable");
+    if (isReserved(found) || isKeyword(found) || findConstant(found)) {
+        throw SyntaxError({token.place, "expected a variable, found the fixed name " + token.display()});
+    }
+    return found;
+}
+
+LineParser::Node LineParser::declaration() {
+    Declaration node;
+    do {
+        std::u16string declared = variable();
+        node.variables.emplace_back(std::move(declared), takeWord(u"As") ? initialValue() : automation::Value());
+    } while (takeSymbol(u","));
+    return node;
+}
+
+automation::Value LineParser::initialValue() {
+    const std::string expected = "a type of the macro language or a class of PowerPoint";
+    const bool isQualified = (peek().isWord(u"PowerPoint") || peek().isWord(u"Office")) && peek(1).isSymbol(u".");
+    if (isQualified) {
+        take();
+        take();
+    }
+    const Token& token = peek();
+    const std::u16string type = name(expected);
+    for (const std::u16string_view number :
+         {u"Byte", u"Currency", u"Date", u"Double", u"Integer", u"Long", u"Single"}) {
+        if (token.isWord(number)) {
+            return std::int32_t(0);
+        }
+    }
+    if (token.isWord(u"Boolean") || token.isWord(u"String")) {
+        return token.isWord(u"String") ? automation::Value(u"") : automation::Value(false);
+    }
+    if (looksLikeConstant(type)) {
+        return std::int32_t(0);
+    }
+    if (!isQualified && !token.isWord(u"Variant") && !token.isWord(u"Object") && !isClassOfPowerPoint(type)) {
+        throw SyntaxError({token.place, "expected " + expected + ", found " + token.display() +
+                                            automation::toUtf8(suggestion(type, classesOfPowerPoint()))});
+    }
+    return token.isWord(u"Variant") ? automation::Value() : automation::Value(nullptr);
 }
 
 Expression LineParser::wholeExpression() {
     Expression result = expression();
     end();
     return result;
-}
-
-Expression LineParser::expression() {
-    Expression left = sum();
-    while (peek().isSymbol(u'&')) {
-        const Position place = take().place;
-        left = operation(place, u'&', std::move(left), sum());
-    }
-    return left;
-}
-
-Expression LineParser::sum() {
-    Expression left = operand();
-    while (peek().isSymbol(u'+') || peek().isSymbol(u'-')) {
-        const Token& sign = take();
-        left = operation(sign.place, sign.text.front(), std::move(left), operand());
-    }
-    return left;
-}
-
-Expression LineParser::operand() {
-    const Position place = peek().place;
-    switch (peek().kind) {
-    case TokenKind::Text:
-    case TokenKind::Number: return literal(place, take().value);
-    case TokenKind::Name: return name();
-    default: break;
-    }
-    if (takeSymbol(u'-')) {
-        return operation(place, u'-', operand(), std::nullopt);
-    }
-    if (takeSymbol(u'(')) {
-        Expression inner = expression();
-        requireSymbol(u')');
-        return inner;
-    }
-    fail(expressionExpected);
-}
-
-Expression LineParser::name() {
-    const Token& token = peek();
-    if (auto constant = findConstant(token.text)) {
-        return literal(take().place, std::move(*constant));
-    }
-    if (looksLikeConstant(token.text)) {
-        throw SyntaxError({token.place, "expected a constant of PowerPoint or Office, found " + token.display()});
-    }
-    return chain();
-}
-
-Expression LineParser::chain() {
-    const Token& head = take();
-    Expression result{head.place, Reference{nullptr, head.text, parenthesized()}};
-    while (peek().isSymbol(u'.') || peek().isSymbol(u'(')) {
-        auto object = std::make_unique<Expression>(std::move(result));
-        if (takeSymbol(u'.')) {
-            if (peek().kind != TokenKind::Name) {
-                fail("expected the name of a member");
-            }
-            const Token& member = take();
-            result = {member.place, Reference{std::move(object), member.text, parenthesized()}};
-        } else {
-            const Position place = peek().place;
-            result = {place, Reference{std::move(object), {}, parenthesized()}};
-        }
-    }
-    return result;
-}
-
-std::vector<Expression> LineParser::parenthesized() {
-    if (!takeSymbol(u'(') || takeSymbol(u')')) {
-        return {};
-    }
-    std::vector<Expression> arguments = argumentList(&LineParser::atClosing);
-    requireSymbol(u')');
-    return arguments;
-}
-
-std::vector<Expression> LineParser::argumentList(bool (LineParser::*isLast)() const) {
-    std::vector<Expression> arguments;
-    do {
-        const bool isOmitted = peek().isSymbol(u',') || (this->*isLast)();
-        arguments.push_back(isOmitted ? Expression{peek().place, Omitted{}} : expression());
-    } while (takeSymbol(u','));
-    return arguments;
 }
 
 } // namespace host::language

@@ -3,7 +3,8 @@
 #include "automation/Text.h"
 #include "exercises/Catalogue.h"
 #include "host/language/Encoding.h"
-#include "host/language/LineParser.h"
+#include "host/language/Names.h"
+#include "host/language/StatementReader.h"
 #include "host/language/Words.h"
 
 #include <algorithm>
@@ -14,18 +15,16 @@ namespace host::language {
 
 namespace {
 
-Statement statementOf(std::u16string_view line, const std::vector<Token>& tokens) {
-    Statement statement = LineParser(tokens).statement();
-    const std::size_t first = tokens.front().place.column;
-    statement.text = line.substr(first - 1, tokens.back().place.column - first);
-    return statement;
-}
-
 /// True for an expectation of values, and for a variable that is set.
 bool changesNothing(const Statement& statement) {
     const auto* const assignment = std::get_if<Assignment>(&statement.node);
+    const std::vector<const std::vector<Statement>*> blocks = blocksOf(statement);
     return std::holds_alternative<ExpectValues>(statement.node) ||
-           (assignment != nullptr && !std::get<Reference>(assignment->target.node).object);
+           std::holds_alternative<Declaration>(statement.node) ||
+           (assignment != nullptr && !std::get<Reference>(assignment->target.node).object) ||
+           (!blocks.empty() && std::all_of(blocks.begin(), blocks.end(), [](const std::vector<Statement>* block) {
+               return std::all_of(block->begin(), block->end(), changesNothing);
+           }));
 }
 
 class FileParser {
@@ -61,11 +60,13 @@ private:
 
     void line(std::u16string_view line, std::size_t number) {
         guarded([&] {
-            const std::vector<Token> tokens = tokenize(line, number);
-            if (tokens.size() > 1) {
-                content(line, tokens);
-            } else if (!isHeaded()) {
-                heading(line);
+            const bool isFirst = !joiner_.isOpen();
+            if (const std::optional<LogicalLine> whole = joiner_.add(line, number)) {
+                if (whole->tokens.size() > 1) {
+                    content(*whole);
+                } else if (isFirst && !isHeaded()) {
+                    heading(line);
+                }
             }
         });
     }
@@ -80,28 +81,26 @@ private:
         }
     }
 
-    void content(std::u16string_view line, const std::vector<Token>& tokens) {
-        LineParser words(tokens);
+    void content(const LogicalLine& line) {
+        LineParser words(line.tokens);
         const Position place = words.peek().place;
-        if (waiting_ != nullptr) {
-            words.requireNoExpectation();
-            ExpectError& expectation = *std::exchange(waiting_, nullptr);
-            expectation.statements.push_back(statementOf(line, tokens));
-            block_->back().text += u' ' + expectation.statements.back().text;
-        } else if (words.takeWord(u"question")) {
+        if (words.takeWord(u"question")) {
             question(words, place);
         } else if (!isHeaded() && words.takeWordBefore(TokenKind::Text, u"class")) {
             file_.className = words.sentence("the name of the class, in quotes");
             words.end();
         } else {
-            block(words, place, line, tokens);
+            block(words, place, line);
         }
     }
 
-    void block(LineParser& words, Position place, std::u16string_view line, const std::vector<Token>& tokens) {
+    void block(LineParser& words, Position place, const LogicalLine& line) {
         if (!isHeaded()) {
             file_.question = unknown;
             wrong_.push_back({place, "expected 'question' and its number before anything else"});
+        }
+        if (words.peek().isWord(u"course") || words.peek().isWord(u"scenario")) {
+            reader_.requireClosed(place);
         }
         if (words.takeWord(u"course")) {
             course(words, place);
@@ -109,8 +108,10 @@ private:
             scenario(words, place);
         } else if (words.takeWord(u"before")) {
             before(words, place);
-        } else if (!grounds(words, place) && !contract(words, place)) {
-            add(statementOf(line, tokens));
+        } else if (reader_.isOpen() || (!grounds(words, place) && !contract(words, place))) {
+            for (Statement& statement : reader_.take(line)) {
+                add(std::move(statement));
+            }
         }
     }
 
@@ -251,30 +252,41 @@ private:
             throw SyntaxError({statement.place, "expected 'expect', or a variable to be set: what is delivered is "
                                                 "looked at, not changed"});
         }
+        if (auto* const check = std::get_if<Check>(&statement.node)) {
+            check->expected = file_.contract.meantBy(std::move(check->expected));
+        }
         block_->push_back(std::move(statement));
-        auto* const expectation = std::get_if<ExpectError>(&block_->back().node);
-        waiting_ = expectation != nullptr && expectation->statements.empty() ? expectation : nullptr;
     }
 
     void finish(Position end) {
-        if (waiting_ != nullptr) {
-            throw SyntaxError({end, "expected the statement that must raise the error"});
-        }
+        reader_.requireClosed(end);
         if (wrong_.empty() && !isHeaded()) {
             throw SyntaxError({end, "expected 'question' and its number"});
+        }
+        if (wrong_.empty()) {
+            requireKnownNames();
         }
         if (wrong_.empty()) {
             requireExpectations();
         }
     }
 
+    void requireKnownNames() {
+        const auto read = [this](const std::vector<Statement>& statements) {
+            const std::vector<Remark> found = unknownNames(statements);
+            wrong_.insert(wrong_.end(), found.begin(), found.end());
+        };
+        read(file_.contract.delivered);
+        read(file_.course);
+        for (const Scenario& scenario : file_.scenarios) {
+            read(scenario.statements);
+        }
+    }
+
     /// A scenario must say what comes of its moves.
     void requireExpectations() {
-        const auto expects = [](const Statement& statement) {
-            return !std::holds_alternative<Call>(statement.node) && !std::holds_alternative<Assignment>(statement.node);
-        };
         for (const Scenario& scenario : file_.scenarios) {
-            if (std::none_of(scenario.statements.begin(), scenario.statements.end(), expects)) {
+            if (std::none_of(scenario.statements.begin(), scenario.statements.end(), expectsSomething)) {
                 wrong_.push_back({scenario.place,
                                   "expected a 'check' or an 'expect' in this scenario, which passes whatever happens"});
             }
@@ -285,7 +297,8 @@ private:
 
     ScenarioFile file_;
     std::vector<Statement>* block_ = nullptr;
-    ExpectError* waiting_ = nullptr; ///< an `expect error` whose statement comes on the next line
+    LineJoiner joiner_;
+    StatementReader reader_;
     std::vector<Remark> wrong_;
 };
 
@@ -295,8 +308,23 @@ ScenarioFile parse(std::string fileName, std::string_view bytes) {
     return FileParser(std::move(fileName)).run(bytes);
 }
 
-Statement parseStatement(std::u16string_view line) {
-    return statementOf(line, tokenize(line, 1));
+Statement parseStatement(std::u16string_view lines) {
+    MacroReader reader;
+    std::vector<Statement> found;
+    while (true) {
+        const std::size_t stop = std::min(lines.find(u'\n'), lines.size());
+        for (Statement& statement : reader.take(lines.substr(0, stop))) {
+            found.push_back(std::move(statement));
+        }
+        if (stop == lines.size()) {
+            break;
+        }
+        lines.remove_prefix(stop + 1);
+    }
+    if (reader.isOpen() || found.size() != 1) {
+        throw SyntaxError({{}, "expected one statement"});
+    }
+    return std::move(found.front());
 }
 
 Expression parseExpression(std::u16string_view text) {

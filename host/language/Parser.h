@@ -33,7 +33,8 @@ namespace host::language {
 ///       Files.Delete "07305306.ppt"
 ///       expect error 53 "SERVICE Renomme": Host.InitQuestion
 ///
-/// One line is one statement; a block ends where the next begins, indented or not. A check is one of
+/// Statements are those that the macro recorder writes, one a line or several with colons between; a block of the file
+/// ends where the next begins, indented or not. A check is one of
 ///
 ///     check "B"                       the letter, no remark, nothing complementary
 ///     check "C" complement " 3"       with complementary texts, several after commas
@@ -52,8 +53,8 @@ namespace host::language {
 /// a raised error (the statement may also stand on the next line).
 [[nodiscard]] ScenarioFile parse(std::string fileName, std::string_view bytes);
 
-/// One statement, as it is typed at a prompt. Raises SyntaxError.
-[[nodiscard]] Statement parseStatement(std::u16string_view line);
+/// One statement, which may be a block of several lines. Raises SyntaxError.
+[[nodiscard]] Statement parseStatement(std::u16string_view lines);
 /// One expression. Raises SyntaxError.
 [[nodiscard]] Expression parseExpression(std::u16string_view text);
 

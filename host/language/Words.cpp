@@ -76,6 +76,15 @@ std::string folded(const std::string& text, std::size_t width, const std::string
     return all;
 }
 
+std::u16string indented(std::u16string_view text) {
+    std::u16string result;
+    for (const char16_t c : text) {
+        result += c;
+        result += c == u'\n' ? u"  " : u"";
+    }
+    return result;
+}
+
 void replaceAll(std::string& text, std::string_view what, std::string_view by) {
     for (std::size_t place = text.find(what); place != std::string::npos; place = text.find(what, place + by.size())) {
         text.replace(place, what.size(), by);

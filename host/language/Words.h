@@ -27,6 +27,9 @@ namespace host {
 /// A text in UTF-8 on lines of so many characters, broken at blanks, `indent` before all but the first.
 [[nodiscard]] std::string folded(const std::string& text, std::size_t width, const std::string& indent);
 
+/// A text whose lines but for the first stand two blanks further in.
+[[nodiscard]] std::u16string indented(std::u16string_view text);
+
 /// Puts something else in the place of every `what`.
 void replaceAll(std::string& text, std::string_view what, std::string_view by);
 

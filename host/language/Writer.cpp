@@ -1,6 +1,7 @@
 #include "host/language/Writer.h"
 
 #include "automation/Text.h"
+#include "host/language/Words.h"
 
 namespace host::language {
 
@@ -49,7 +50,7 @@ std::u16string lineOf(const Meaning& meaning) {
 std::u16string linesOf(const std::vector<Statement>& statements) {
     std::u16string text;
     for (const Statement& statement : statements) {
-        text += u"  " + statement.text + u'\n';
+        text += u"  " + indented(statement.text) + u'\n';
     }
     return text;
 }
@@ -82,7 +83,7 @@ std::vector<std::u16string> checkOf(const Reading& reading) {
 std::string scenarioBlock(std::u16string_view title, const std::vector<std::u16string>& statements) {
     std::u16string text = u"scenario " + literal(title) + u'\n';
     for (const std::u16string& statement : statements) {
-        text += u"  " + statement + u'\n';
+        text += u"  " + indented(statement) + u'\n';
     }
     return automation::toUtf8(text);
 }

@@ -3,6 +3,7 @@
 #include "automation/MemberTable.h"
 #include "automation/Text.h"
 #include "host/language/Parser.h"
+#include "host/language/StatementReader.h"
 #include "host/language/Words.h"
 #include "host/language/Writer.h"
 #include "host/picture/Exposure.h"
@@ -32,12 +33,6 @@ using language::Statement;
 /// A file that a verb writes, which replaces one that is there already only where it ends with an exclamation mark.
 OutputFile outputOf(const std::string& verb, const std::string& name) {
     return {name, verb.ends_with('!') ? std::optional(std::string()) : std::nullopt, "say " + verb + "! to replace it"};
-}
-
-/// True for an `expect error` whose statement is still to come.
-bool isUnfinished(const Statement& statement) {
-    const auto* const expectation = std::get_if<language::ExpectError>(&statement.node);
-    return expectation != nullptr && expectation->statements.empty();
 }
 
 } // namespace
@@ -157,20 +152,26 @@ void Conversation::obey(const std::string& line) {
     }
 }
 
-void Conversation::perform(std::string line) {
-    Statement statement = language::parseStatement(fromUtf8(line));
-    while (isUnfinished(statement)) {
+void Conversation::perform(const std::string& line) {
+    language::MacroReader reader;
+    std::vector<Statement> statements = reader.take(fromUtf8(line));
+    while (reader.isOpen()) {
         const std::optional<std::string> more = lines_.read("   > ");
         if (!more) {
             return;
         }
-        line += " " + trimmed(*more);
-        statement = language::parseStatement(fromUtf8(line));
+        for (Statement& statement : reader.take(fromUtf8(*more))) {
+            statements.push_back(std::move(statement));
+        }
     }
-    if (const auto* const wanted = std::get_if<language::Check>(&statement.node)) {
-        return judge(&wanted->expected);
+    for (Statement& statement : statements) {
+        if (const auto* const wanted = std::get_if<language::Check>(&statement.node)) {
+            const Expectation expected = file_.contract.meantBy(wanted->expected);
+            judge(&expected);
+        } else {
+            open_->perform(std::move(statement));
+        }
     }
-    open_->perform(std::move(statement));
 }
 
 void Conversation::print(const std::string& expression) {

@@ -38,7 +38,7 @@ private:
     void begin();
     bool close();
     void obey(const std::string& line);
-    void perform(std::string line);
+    void perform(const std::string& line);
     void print(const std::string& expression);
     void judge(const Expectation* expected);
 

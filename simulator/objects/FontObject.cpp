@@ -24,6 +24,11 @@ const automation::MemberTable& FontObject::members() const {
         property<&This::style<&Format::bold>, &This::setStyle<&Format::bold>>(u"Bold"),
         property<&This::style<&Format::italic>, &This::setStyle<&Format::italic>>(u"Italic"),
         property<&This::style<&Format::underline>, &This::setStyle<&Format::underline>>(u"Underline"),
+        property<&This::style<&Format::shadow>, &This::setStyle<&Format::shadow>>(u"Shadow"),
+        property<&This::style<&Format::emboss>, &This::setStyle<&Format::emboss>>(u"Emboss"),
+        property<&This::style<&Format::autoRotateNumbers>, &This::setStyle<&Format::autoRotateNumbers>>(
+            u"AutoRotateNumbers"),
+        property<&This::baselineOffset, &This::setBaselineOffset>(u"BaselineOffset"),
         property<&This::size, &This::setSize>(u"Size"),
         property<&This::name, &This::setName>(u"Name"),
     };
@@ -48,6 +53,15 @@ float FontObject::size() const {
 void FontObject::setSize(float points) {
     errors::demandWithin(points, 1.0F, largestSize, u"Font.Size");
     part_.change(&CharacterFormat::size, points);
+}
+
+float FontObject::baselineOffset() const {
+    return part_.common(&CharacterFormat::baselineOffset).value_or(mixedSize);
+}
+
+void FontObject::setBaselineOffset(float share) {
+    errors::demandWithin(share, -1.0F, 1.0F, u"Font.BaselineOffset");
+    part_.change(&CharacterFormat::baselineOffset, share);
 }
 
 std::shared_ptr<ColorFormatObject> FontObject::color() const {

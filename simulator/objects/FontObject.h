@@ -20,6 +20,10 @@ public:
     [[nodiscard]] float size() const;
     /// Raises an invalid request outside 1 to 4000 points.
     void setSize(float points);
+    /// How far the characters stand above the line, as a share of their size; -2 where they differ.
+    [[nodiscard]] float baselineOffset() const;
+    /// Raises an invalid request outside -1 to 1.
+    void setBaselineOffset(float share);
     /// Mixed where the characters differ.
     template <bool CharacterFormat::*property> [[nodiscard]] MsoTriState style() const {
         return triState(part_.common(property));

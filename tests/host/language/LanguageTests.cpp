@@ -37,7 +37,7 @@ public:
         if (name.matches(u"Fail")) {
             throw automation::Error(9, u"SERVICE Here", u"no such thing");
         }
-        if (name.matches(u"Gone")) {
+        if (name.matches(u"AddIns")) {
             automation::raise(automation::RunTimeError::MemberNotFound);
         }
         log_.push_back(line);
@@ -90,8 +90,8 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"s.Text = \"été\" !", "t.scn:4:16: expected a statement, found '!'"},
         {"s.Text = \"été\" ;", "t.scn:4:16: expected the end of the line, found ';'"},
         {"s.Left = 9999999999", "t.scn:4:10: expected a number that fits into 32 bits"},
-        {"s.AutoShapeType = msoShapeRectangel",
-         "t.scn:4:19: expected a constant of PowerPoint or Office, found 'msoShapeRectangel'"},
+        {"s.AutoShapeType = msoShapeRectangel", "t.scn:4:19: expected a constant of PowerPoint or Office that is known "
+                                                "here, found 'msoShapeRectangel'; its number may stand in its place"},
         {"Set 3 = s", "t.scn:4:5: expected a variable or a member, found 3"},
         {"Set Host = s", "t.scn:4:5: expected a variable, found the fixed name 'Host'"},
         {"msoTrue = 3", "t.scn:4:1: expected a variable, found the fixed name 'msoTrue'"},
@@ -104,7 +104,32 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"check error \"CLASSE\"", "t.scn:4:13: expected the number of the error, found \"CLASSE\""},
         {"expect s.Left", "t.scn:4:14: expected '=', found the end of the line"},
         {"expect error 91 Host.Fermer", "t.scn:4:17: expected ':', found 'Host'"},
-        {"expect error 91:\nscenario \"u\"", "t.scn:5:1: expected a statement, found 'scenario'"},
+        {"expect error 91:\nscenario \"u\"", "t.scn:5:1: expected the statement that must raise the error"},
+        {"x = 3 ^ 2", "t.scn:4:7: '^' is a part of the macro language that scenarios do not have: they have If, For, "
+                      "For Each and With"},
+        {"Do While x", "t.scn:4:1: 'Do' is a part of the macro language that scenarios do not have: they have If, For, "
+                       "For Each and With"},
+        {"chekc \"C\" complement \" 3\"", "t.scn:4:1: expected a statement, found 'chekc': check?"},
+        {"Dim s As Shap", "t.scn:4:10: expected a type of the macro language or a class of PowerPoint, found 'Shap': "
+                          "Shape?"},
+        {"Dim Next", "t.scn:4:5: expected a variable, found the fixed name 'Next'"},
+        {"s.Add Left:=1, 2", "t.scn:4:16: expected the name of an argument and ':=', as behind every named one, "
+                             "found 2"},
+        {"With\nEnd With", "t.scn:4:5: expected a value: a text, a number, a constant or a name, found the end of the "
+                           "line"},
+        {"For i = 1 To 2\nEnd If", "t.scn:5:1: expected 'Next' before 'End If'"},
+        {"For i = 1 To 2\nNext k", "t.scn:5:6: expected 'i', or nothing, found 'k'"},
+        {"If True Then\nElse\nElse\nEnd If", "t.scn:6:1: expected 'If' before 'Else'"},
+        {"End With", "t.scn:4:1: expected the beginning of the block that ends with 'End With'"},
+        {"With s\nscenario \"u\"", "t.scn:5:1: expected 'End With' before"},
+        {"If True Then check \"A\"", "t.scn:4:14: expected 'check' outside of With, If and For: it is one moment of a "
+                                     "scenario"},
+        {"s.Delete", "t.scn:4:1: 's' is neither a variable nor a member of PowerPoint's application"},
+        {"expect Hots.Folder = ActivePresentatoin.Path",
+         "t.scn:4:8: 'Hots' is neither a variable nor a member of PowerPoint's application: Host?"},
+        {"count = 3\nIf coumt = 3 Then Quit", "t.scn:5:4: 'coumt' is neither a variable nor a member of PowerPoint's "
+                                              "application: count?"},
+        {".Left = 3", "t.scn:4:1: expected 'With' around a name that begins with a dot"},
         {"expect error 91: expect error 5:",
          "t.scn:4:18: expected the statement that must raise the error, found 'expect'"},
         {"expect error 91:\nexpect error 5:",
@@ -136,9 +161,9 @@ TEST(Language, NamesWhatIsWrongWithAWholeFile) {
         {"", {"1:1: expected 'question' and its number"}},
         {"course\nscenario \"a\"\n", {"1:1: expected 'question' and its number before anything else"}},
         {"question three", {"1:10: expected a question of the course, 301 to 323, found 'three'"}},
-        {"question 399\ncourse\nscenario \"a\"\n A.B\nscenario \"b\"\n check success",
+        {"question 399\ncourse\nscenario \"a\"\n Quit\nscenario \"b\"\n check success",
          {"1:10: expected a question of the course, 301 to 323, found 399"}},
-        {"question 306\ncourse\nscenario \"a\"\n A.B\nscenario \"b\"\n x = 3\n' the end",
+        {"question 306\ncourse\nscenario \"a\"\n Quit\nscenario \"b\"\n x = 3\n' the end",
          {"3:1: expected a 'check' or an 'expect' in this scenario, which passes whatever happens",
           "5:1: expected a 'check' or an 'expect' in this scenario, which passes whatever happens"}},
         {"question 306\n' cr\xE9\xE9",
@@ -204,6 +229,55 @@ TEST(Language, StatementsReachMembersAsMacrosDo) {
     }
 }
 
+TEST(Language, RecordedMacrosMeanWhatTheyMeanInTheMacroLanguage) {
+    const std::vector<std::pair<const char*, const char*>> cases = {
+        {"x = 12# + 4", "x = 16"},
+        {"x = 186# + .5 - 1.5! + 1E+2", "x = 285"},
+        {"x = &HFFFF: y = &HFFFF&: z = &HFF", "x = -1, y = 65535, z = 255"},
+        {"x = 2 + 3 * 4 - 7 Mod 4 & \"a\" & 10 / 4", "x = \"11a2.5\""},
+        {"x = 1 + 1 = 2 And Not 3 < 2 Or \"a\" > \"b\"", "x = True"},
+        {"x = 6 And 3: y = 6 Or 1: z = Not msoTrue: w = \"10\" = 10", "x = 2, y = 7, z = 0, w = True"},
+        {"x = \"a\" = \"A\": y = \"a\" < \"b\": z = 2 >= 2: w = 3 <> 3", "x = False, y = True, z = True, w = False"},
+        {"Set s = Nothing: x = s Is Nothing: y = Not Host.Thing Is Nothing", "x = True, y = True"},
+        {"Dim i As Integer, t As String, o As PowerPoint.Shape, v\nx = i + 1 & t: i = 5: Dim i As Long",
+         "x = \"1\", i = 5, o = Nothing, v = 0"},
+        {"Sub Macro1()\n'\n' recorded\n'\n  x = _\n    1 + _\n  2\nEnd Sub", "x = 3"},
+        {"If 2 > 3 Then x = 1 Else x = 2: y = 3", "x = 2, y = 3"},
+        {"y = 0: If True Then x = 1: y = 2", "x = 1, y = 2"},
+        {"y = 2\nIf y = 1 Then\n x = 1\nElseIf y = 2 Then\n x = 22\nElse\n x = 3\nEnd If", "x = 22"},
+        {"x = \"\"\nFor i = 3 To 1 Step -1\n For k = 1 To i: x = x & k: Next k\nNext", "x = \"123121\", i = 0"},
+        {"x = 0\nFor i = 1 To 0\nx = 1\nNext i", "x = 0, i = 1"},
+        {"x = 0\nFor Each n In Array(1, 2.5, \"4\")\nIf n > 1 Then x = x + n / 1\nNext n", "x = 6.5, n = \"4\""},
+        {"With Host\nx = .Left\nWith .Thing\ny = .Text\nEnd With\nz = .Text & .Text\nEnd With",
+         "x = 110.1, y = \"faire\", z = \"fairefaire\""},
+        {"x = RGB(Red:=1, Blue:=2, Green:=0)", "x = 131073"},
+    };
+    for (const auto& [lines, values] : cases) {
+        FakeStage stage;
+        EXPECT_EQ(outcomeOf(stage, lines + std::string("\nexpect ") + values), "") << lines;
+    }
+    FakeStage stage;
+    EXPECT_EQ(outcomeOf(stage, "x = 1 / 0"), "t.scn:4:7: error 11 Division par zéro [K73053]");
+    const ScenarioFile file =
+        parse("t", "question 306\ncourse\n With Windows ' all\n If .Count = 1 Then\n   .B _\n  2\n "
+                   "Else\n  .C: .D\nEnd If: End With");
+    EXPECT_EQ(file.course.at(0).text,
+              u"With Windows\n  If .Count = 1 Then\n    .B 2\n  Else\n    .C\n    .D\n  End If\nEnd With");
+    EXPECT_EQ(parseStatement(file.course[0].text).text, file.course[0].text);
+}
+
+TEST(Language, SuccessIsWhatTheQuestionHasForIt) {
+    const std::string contract =
+        "question 305\nerror 0 \"CLASSE X\": \"it passes\"\ncourse\nscenario \"t\"\ncheck success";
+    const ScenarioFile file = parse("t", contract);
+    const host::Expectation& passing = *file.scenarios.at(0).lastExpectation();
+    EXPECT_TRUE(passing.isSuccess());
+    EXPECT_TRUE(passing.matches({automation::Error(0, u"CLASSE X", {}), false, u"A", false, {}}));
+    EXPECT_FALSE(passing.matches({automation::Error(0, u"CLASSE Y", {}), false, u"", false, {}}));
+    EXPECT_FALSE(passing.matches({automation::Error(5, u"CLASSE X", {}), false, u"", false, {}}));
+    EXPECT_FALSE(passing.matches({{}, false, u"", false, {}})) << "nothing was raised";
+}
+
 TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
     const std::vector<std::pair<const char*, const char*>> cases = {
         {"expect Host.Left = 110.1\nexpect Host.Text = \"faire\"\nexpect Host.Nobody = Nothing\nexpect True = -1", ""},
@@ -215,9 +289,10 @@ TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
         {"Host.Nobody.B = 1", "t.scn:4:13: error 91 Variable objet ou variable de bloc With non définie [K73053]"},
         {"Set s = Host.Thing\nSet s.Parent = s(2)", "t.scn:5:16: error 424 Objet requis [K73053]"},
         {"Set s = 3", "t.scn:4:9: error 424 Objet requis [K73053]"},
-        {"x.Delete\n", ""},
-        {"Gone.Delete", "t.scn:4:1: error 438 'Gone' is neither a variable nor a member of PowerPoint's application "
-                        "[K73053]"},
+        {"Dim x\nx.Delete", "t.scn:5:3: error 424 Objet requis [K73053]"},
+        {"AddIns.Count",
+         "t.scn:4:1: error 438 Application.AddIns is not in this embedded PowerPoint; PowerPoint has it "
+         "[K73053]"},
         {"expect error 9 \"SERVICE Here\": Host.Fail\nexpect error 9:\n  Host.Fail", ""},
         {"expect error 9 \"There\": Host.Fail", "t.scn:4:30: expected the error 9 from a source with \"There\", found "
                                                 "the error 9 no such thing [SERVICE Here]"},
@@ -264,15 +339,15 @@ TEST(Language, ChecksTellVerdictsApart) {
 
 TEST(Language, AScenarioFileHasItsParts) {
     const ScenarioFile file =
-        parse("t.scn", "' heading\nQuestion 305\nCourse\n  A.B\n\nScenario \"one\"\nbefore initquestion\n"
+        parse("t.scn", "' heading\nQuestion 305\nCourse\n  Windows.B\n\nScenario \"one\"\nbefore initquestion\n"
                        "  check \"A\"\n check error 0  # passes\nscenario \"two\"\nexpect 1 = 1\n");
     EXPECT_EQ(file.question, 305);
     ASSERT_EQ(file.course.size(), 1U);
     EXPECT_EQ(file.course[0].place, (Position{4, 3}));
     ASSERT_EQ(file.scenarios.size(), 2U);
     const Scenario& one = file.scenarios[0];
-    EXPECT_EQ(parse("t", "question 306\ncourse\nexpect error 5 \"X\":  # raises\n  A.B 2 ").course[0].text,
-              u"expect error 5 \"X\": A.B 2");
+    EXPECT_EQ(parse("t", "question 306\ncourse\nexpect error 5 \"X\":  # raises\n  Windows.B 2 ").course[0].text,
+              u"expect error 5 \"X\": Windows.B 2");
     EXPECT_TRUE(one.startsBeforeInitQuestion);
     EXPECT_EQ(one.statements.at(1).text, u"check error 0");
     EXPECT_TRUE(one.lastExpectation()->isSuccess());
@@ -296,8 +371,8 @@ TEST(Language, AFileMayBeUtf16WithItsMark) {
 TEST(Language, AFileKeepsItsContractWhenItIsWritten) {
     const std::string text = "question 305\n\ntask \"say \"\"so\"\"\"\nletter \"A\" \"a \"\"word\"\"\"\n"
                              "remark \"F\" \"four\"\nerror 0 \"CLASSE X\" \"SERVICE Y\": \"right\"\n"
-                             "\ndelivered\n  Set s = Slides\n  expect s.Count = 4, s(1).Left = 2\n"
-                             "\ncourse\n  A.B\n\nscenario \"t\"\n  check \"A\"\n";
+                             "\ndelivered\n  Set s = Windows\n  expect s.Count = 4, s(1).Left = 2\n"
+                             "\ncourse\n  Windows.B\n\nscenario \"t\"\n  check \"A\"\n";
     const ScenarioFile file = parse("t.scn", text);
     EXPECT_EQ(scenarioText(file, u"t", {u"check \"A\""}), text);
     EXPECT_EQ(file.subject(), u"Question 305: say \"so\".");

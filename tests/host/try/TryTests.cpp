@@ -44,7 +44,7 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
     const std::vector<Exchange> exchanges = {
         {"?ActivePresentation.Name", "Méthodologie.ppt\n"},
         {"?ActivePresentation.Slides(1).Shapes(2).Left", " 57.875\n"},
-        {"?ActivePresentation.Saved = 1", "column 27: expected the end of the line, found '='\n"},
+        {"?ActivePresentation.Saved 1", "column 27: expected the end of the line, found 1\n"},
         {"?Nothing", "Nothing\n"},
         {"Set s = ActivePresentation.Slides(1).Shapes", ""},
         {"?s", "Shapes of 3\n"},

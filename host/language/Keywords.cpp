@@ -1,0 +1,54 @@
+#include "host/language/Keywords.h"
+
+#include "automation/Text.h"
+
+#include <algorithm>
+
+namespace host::language {
+
+namespace {
+
+using automation::equalIgnoringCase;
+using Words = std::vector<std::u16string_view>;
+
+const Words own{u"And", u"As",  u"Dim",  u"Each", u"Else", u"ElseIf", u"End",  u"For", u"If",   u"In", u"Is",
+                u"Mod", u"New", u"Next", u"Not",  u"Or",   u"Set",    u"Step", u"Sub", u"Then", u"To", u"With"};
+
+/// What the macro language has beside them.
+const Words foreign{u"AddressOf", u"Attribute", u"Call",   u"Case",  u"Const",    u"Declare", u"Do",
+                    u"Enum",      u"Eqv",       u"Erase",  u"Exit",  u"Function", u"GoSub",   u"GoTo",
+                    u"Imp",       u"Let",       u"Like",   u"Loop",  u"Null",     u"On",      u"Option",
+                    u"Private",   u"Property",  u"Public", u"ReDim", u"Resume",   u"Select",  u"Static",
+                    u"Stop",      u"Type",      u"TypeOf", u"Until", u"Wend",     u"While",   u"Xor"};
+
+const Words foreignSigns{u"^", u"\\"};
+
+bool isAmong(const Words& words, std::u16string_view name) {
+    return std::any_of(words.begin(), words.end(),
+                       [name](std::u16string_view word) { return equalIgnoringCase(word, name); });
+}
+
+} // namespace
+
+bool isKeyword(std::u16string_view name) {
+    return isAmong(own, name);
+}
+
+const std::vector<std::u16string_view>& verbs() {
+    static const Words all{u"before",     u"check", u"class",  u"contested", u"course",   u"delivered",
+                           u"documented", u"error", u"expect", u"letter",    u"question", u"remark",
+                           u"scenario",   u"task",  u"Dim",    u"ElseIf",    u"End",      u"For",
+                           u"If",         u"Next",  u"Set",    u"With"};
+    return all;
+}
+
+void requireOwn(const Token& token) {
+    const bool isForeign = (token.kind == TokenKind::Name && isAmong(foreign, token.text)) ||
+                           (token.kind == TokenKind::Symbol && isAmong(foreignSigns, token.text));
+    if (isForeign) {
+        throw SyntaxError({token.place, token.display() + " is a part of the macro language that scenarios do not "
+                                                          "have: they have If, For, For Each and With"});
+    }
+}
+
+} // namespace host::language
