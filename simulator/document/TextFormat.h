@@ -14,11 +14,11 @@ struct CharacterFormat {
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    Color color = Color::of(ppForeground);
     bool shadow = false;
     bool emboss = false;
     bool autoRotateNumbers = false;
     float baselineOffset = 0; ///< share of the size, upwards; -1 to 1
-    Color color = Color::of(ppForeground);
 
     friend bool operator==(const CharacterFormat&, const CharacterFormat&) = default;
 };

@@ -34,11 +34,15 @@ Sub DeliverDeck(number, folder)
 End Sub
 
 Sub ReplaceText(places)
-    Dim text, i
+    Dim text, i, slide, shape
     For i = 1 To 4
         If i <= places Then text = text & "cr" & Chr(233) & "er " Else text = text & "fait "
     Next
-    powerPoint.ActivePresentation.Slides(1).Shapes(2).TextFrame.TextRange.Text = text
+    For Each slide In powerPoint.ActivePresentation.Slides
+        For Each shape In slide.Shapes
+            If shape.Type = 17 Then shape.TextFrame.TextRange.Text = text ' a text box
+        Next
+    Next
 End Sub
 
 Sub AddAdvice()

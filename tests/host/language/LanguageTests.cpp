@@ -111,7 +111,7 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
                        "For Each and With"},
         {"chekc \"C\" complement \" 3\"", "t.scn:4:1: expected a statement, found 'chekc': check?"},
         {"Dim s As Shap", "t.scn:4:10: expected a type of the macro language or a class of PowerPoint, found 'Shap': "
-                          "Shape?"},
+                          "Shape or Shapes?"},
         {"Dim Next", "t.scn:4:5: expected a variable, found the fixed name 'Next'"},
         {"s.Add Left:=1, 2", "t.scn:4:16: expected the name of an argument and ':=', as behind every named one, "
                              "found 2"},
@@ -272,10 +272,10 @@ TEST(Language, SuccessIsWhatTheQuestionHasForIt) {
     const ScenarioFile file = parse("t", contract);
     const host::Expectation& passing = *file.scenarios.at(0).lastExpectation();
     EXPECT_TRUE(passing.isSuccess());
-    EXPECT_TRUE(passing.matches({automation::Error(0, u"CLASSE X", {}), false, u"A", false, {}}));
-    EXPECT_FALSE(passing.matches({automation::Error(0, u"CLASSE Y", {}), false, u"", false, {}}));
-    EXPECT_FALSE(passing.matches({automation::Error(5, u"CLASSE X", {}), false, u"", false, {}}));
-    EXPECT_FALSE(passing.matches({{}, false, u"", false, {}})) << "nothing was raised";
+    EXPECT_TRUE(passing.matches({automation::Error(0, u"CLASSE X", {}), false, u"A", false, {}, {}, {}}));
+    EXPECT_FALSE(passing.matches({automation::Error(0, u"CLASSE Y", {}), false, u"", false, {}, {}, {}}));
+    EXPECT_FALSE(passing.matches({automation::Error(5, u"CLASSE X", {}), false, u"", false, {}, {}, {}}));
+    EXPECT_FALSE(passing.matches({{}, false, u"", false, {}, {}, {}})) << "nothing was raised";
 }
 
 TEST(Language, WhatFallsShortIsReportedWithItsPlace) {

@@ -1,6 +1,7 @@
 #include "host/command/Library.h"
 #include "host/try/Conversation.h"
 #include "host/try/PlainLines.h"
+#include "host/world/EmbeddedWorld.h"
 #include "simulator/files/WholeFile.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +31,7 @@ TEST(Macros, AsTheRecorderWritesThemArePastedIntoAConversation) {
     for (const std::string& macro : macros) {
         std::istringstream typed(macro);
         std::ostringstream out;
-        host::PlainLines lines(typed, out);
+        host::PlainLines lines(typed);
         host::Conversation conversation(file, course, host::makeEmbeddedWorld, lines, out);
         EXPECT_TRUE(conversation.run()) << macro;
         const std::string said = out.str();
