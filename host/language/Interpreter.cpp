@@ -95,6 +95,7 @@ void Interpreter::perform(const Statement& statement) {
 }
 
 void Interpreter::performAll(const std::vector<Statement>& statements) {
+    placed(place_, [this] { stage_.beginTurn(); });
     for (const Statement& statement : statements) {
         perform(statement);
     }

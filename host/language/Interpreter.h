@@ -20,6 +20,8 @@ public:
     virtual automation::ObjectPtr object(std::u16string_view name) = 0;
     /// One TestePoint of the host, and what it reads then.
     virtual Reading testePoint() = 0;
+    /// Called before each turn of a block of statements. Raises where it is time to end it.
+    virtual void beginTurn() {}
 };
 
 /// Performs statements, late-bound, and keeps their variables.

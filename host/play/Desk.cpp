@@ -32,6 +32,9 @@ template <typename Work> auto inWordsOf(const Work& work) {
     }
 }
 
+/// A page waits no longer for a statement.
+constexpr std::chrono::seconds patience{5};
+
 /// A scenario file in the folder that the program was started in: a page names no others.
 std::filesystem::path ownFile(const std::string& name) {
     std::filesystem::path path = pathOf(name);
@@ -51,6 +54,7 @@ Desk::Desk(PlayedQuestion question, QuestionFinder find, WorldMaker makeWorld)
 void Desk::prepare() {
     static_cast<void>(close()); // what is amiss is of gestures that are taken back
     open_.emplace(question_.file, question_.course, makeWorld_);
+    open_->limit(patience);
     gestures_.clear();
     verdict_ = nullptr;
 }
@@ -66,8 +70,13 @@ void Desk::make(Statement statement) {
     if (std::holds_alternative<language::Check>(statement.node)) {
         throw std::runtime_error("A gesture cannot check: the verdict has a button of its own");
     }
-    prepared().perform(std::move(statement));
     verdict_ = nullptr;
+    try {
+        prepared().perform(std::move(statement));
+    } catch (const language::Failure&) {
+        replay(gestures_.size()); // what it has done before it fell short is of no statement
+        throw;
+    }
 }
 
 void Desk::perform(const std::vector<std::string>& statements) {

@@ -12,6 +12,7 @@ void Exercise::begin() {
 
 void Exercise::execute(const language::Statement& statement) {
     witness_.performing(statement);
+    stage_.begin();
     interpreter_.execute(statement);
 }
 

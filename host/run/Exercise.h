@@ -16,6 +16,8 @@ public:
     void execute(const language::Statement& statement);
     /// Raises language::Failure where reading the value raises.
     [[nodiscard]] automation::Value evaluate(const language::Expression& expression);
+    /// Statements from now on are ended where they turn for longer than this; 0 for never.
+    void limit(std::chrono::seconds patience) noexcept { stage_.limit(patience); }
     /// One TestePoint, and what the host reads then.
     [[nodiscard]] Reading check() { return host_.check(); }
     /// Drops the variables, closes the question and leaves the module. Raises what the module raises.

@@ -46,4 +46,11 @@ Reading WorldStage::testePoint() {
     return host_->check();
 }
 
+void WorldStage::beginTurn() {
+    if (patience_.count() != 0 && std::chrono::steady_clock::now() - begun_ > patience_) {
+        refuse(u"the statement has been ended, since it has taken more than " + automation::decimal(patience_.count()) +
+               u" seconds");
+    }
+}
+
 } // namespace host

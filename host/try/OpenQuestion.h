@@ -14,6 +14,8 @@ public:
     /// module raises.
     OpenQuestion(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld);
 
+    /// Moves from now on are ended, and raise, where they turn for longer than this.
+    void limit(std::chrono::seconds patience) noexcept { exercise_.limit(patience); }
     /// Performs a move and remembers it. Raises language::Failure where it falls short; it is not remembered then.
     void perform(language::Statement move);
     /// Raises language::Failure where reading the value raises.

@@ -112,6 +112,11 @@ def mistakes(check, client, folder):
     """What the author gets wrong is told, and leaves what was there."""
     (folder / "other.scn").write_text("question 314\ncourse\n  Presentations.Add\n", encoding="utf-8")
     move = "ActivePresentation.Slides(1).Shapes(1).Left = 10"
+    for endless in (f"For i = 1 To 2000000000\n{move}\nNext", "For i = 1 To 2000000000\nNext"):
+        answer = client.order("do", statements=[endless])[1]
+        check("a statement that never ends is ended", "" if "more than 5 seconds" in answer.get("error", "") else answer.get("error"))
+        left = client.order("say", line="?ActivePresentation.Slides(1).Shapes(1).Left")[1]["said"]
+        check("what it has done is taken back", "" if left.strip() == "481.625" else left)
     cases = [
         ("undo", {}, "nothing to take back"),
         ("save", {"file": "mine.scn", "title": "t"}, "verdict first"),
