@@ -73,18 +73,16 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
             throw UsageError("which command? See " + asked.app.get_name() + " --help");
         }
         const Library library(pathOf(asked.folder));
-        const WorldMaker remote = remoteWorlds(asked, makeComWorlds);
-        if (remote && !asked.like.empty()) {
+        const WorldMaker real = remoteWorlds(asked, makeComWorlds);
+        if (real && !asked.like.empty()) {
             throw UsageError("--like is for the embedded PowerPoint, and --powerpoint for another");
         }
+        const WorldMaker remote = real ? [&](const automation::ObserverPtr&) { return real(nullptr); } : WorldMaker();
         const WorldMaker documented = makeDocumentedWorld;
+        const WorldMaker& inMemory = asked.like.empty() ? embedded : documented;
         Progress progress(output.error, output.isTerminal);
-        return asked.chosen({library,
-                             {asked.like.empty() ? embedded : documented, remote},
-                             makeLines,
-                             output.out,
-                             progress,
-                             output.ink});
+        return asked.chosen(
+            {library, {inMemory, remote, real ? real : inMemory}, makeLines, output.out, progress, output.ink});
     });
 }
 

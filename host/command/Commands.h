@@ -18,7 +18,9 @@ namespace host {
 /// The worlds that a command works in.
 struct Worlds {
     const WorldMaker& embedded;
-    const WorldMaker& remote; ///< with PowerPoint in a process of its own; empty where they are not asked for
+    const WorldMaker& remote; ///< with PowerPoint in a process of its own and the registered library, whose calls no
+                              ///< observer sees; empty where they are not asked for
+    const WorldMaker& traced; ///< those that are chosen, with the program's own module where an observer is given
 
     [[nodiscard]] const WorldMaker& chosen() const noexcept { return remote ? remote : embedded; }
 };

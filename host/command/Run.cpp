@@ -102,8 +102,7 @@ nlohmann::ordered_json toJson(const ScenarioFile& file, const Scenario& scenario
 }
 
 /// Runs one scenario and tells it, up to the four values that the host reads last.
-ExitCode run(const RunRequest& request, const Library& library, const Worlds& worlds, std::ostream& out) {
-    const WorldMaker& makeWorld = worlds.chosen();
+ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
     const ScenarioFile file = load(library.fileNamed(request.question));
     const Scenario& scenario = chosen(file, request.scenario);
     PlainStory plain(out);
@@ -138,7 +137,7 @@ ExitCode run(const RunRequest& request, const Library& library, const Worlds& wo
         }
         return witnesses;
     };
-    const Outcome outcome = runner.run(scenario, makeWitness, worlds.remote ? trace : explainer.observer());
+    const Outcome outcome = runner.run(scenario, makeWitness, explainer.observer());
     const std::vector<std::string> pictures =
         request.pictures.empty() ? std::vector<std::string>() : written(slides, pathOf(request.pictures));
     if (request.asJson) {
@@ -173,7 +172,9 @@ Action addRun(CLI::App& command) {
     command.add_flag("--trace", request->withTrace, "List every call of the module, its time and answer");
     command.add_option("--picture", request->pictures, "Folder for pictures of the slide, before and after");
     addCourse(command, request->course);
-    return [request](const CommandContext& at) { return run(*request, at.library, at.worlds, at.out); };
+    return [request](const CommandContext& at) {
+        return run(*request, at.library, request->withTrace ? at.worlds.traced : at.worlds.chosen(), at.out);
+    };
 }
 
 } // namespace host

@@ -156,9 +156,7 @@ private:
             witnesses->add(std::make_unique<report::Recorder>(result));
             return witnesses;
         };
-        // The calls of a registered library cannot be seen.
-        const automation::ObserverPtr observer = at_.worlds.remote ? nullptr : explainer.observer();
-        result.failures = runner.run(scenario, makeWitness, observer).failures;
+        result.failures = runner.run(scenario, makeWitness, explainer.observer()).failures;
         result.calls = counter ? counter->count() : 0;
         return result;
     }

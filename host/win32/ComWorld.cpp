@@ -1,11 +1,15 @@
 #include "host/win32/ComWorld.h"
 
+#include "exercises/API.h"
 #include "host/win32/BorrowedFiles.h"
 #include "host/win32/BorrowedRegistry.h"
 #include "host/win32/Desktop.h"
 #include "host/win32/DesktopPowerPoint.h"
 #include "host/win32/VtableModule.h"
-#include "host/world/Refusal.h"
+#include "host/world/LateBoundModule.h"
+#include "module/Module.h"
+#include "platform/observed/ObservedServices.h"
+#include "platform/win32/Win32Services.h"
 
 #include <optional>
 
@@ -33,7 +37,10 @@ bool canLibraryUnload() {
 
 class ComWorld final : public World {
 public:
-    explicit ComWorld(std::shared_ptr<Desktop> desktop) : desktop_(std::move(desktop)) { setUpRegistry(); }
+    ComWorld(std::shared_ptr<Desktop> desktop, automation::ObserverPtr observer)
+        : desktop_(std::move(desktop)), observer_(std::move(observer)) {
+        setUpRegistry();
+    }
     ~ComWorld() override {
         module_.reset();
         powerPoint_.dismiss();
@@ -42,7 +49,7 @@ public:
 
     ModuleClient& module() override {
         if (!module_) {
-            module_.emplace();
+            module_ = observer_ ? observedModule() : std::make_unique<VtableModule>();
         }
         return *module_;
     }
@@ -59,6 +66,22 @@ public:
     }
 
 private:
+    /// What the module of this program asks of Windows, seen by an observer.
+    struct ObservedWindows {
+        explicit ObservedWindows(const automation::ObserverPtr& observer) : observed(real.services(), observer) {}
+
+        platform::Win32Services real;
+        platform::ObservedServices observed;
+        exercises::API shared;
+    };
+
+    /// The same module as the library's, in this program: no observer sees what leaves the library.
+    std::unique_ptr<ModuleClient> observedModule() {
+        ObservedWindows& windows = windows_.emplace(observer_);
+        return std::make_unique<LateBoundModule>(
+            std::make_shared<k73053::Module>(windows.shared, windows.observed.services()), observer_);
+    }
+
     /// Settings of a user who has worked with PowerPoint a little.
     void setUpRegistry() {
         for (const std::u16string_view name : folderSettings::names) {
@@ -79,18 +102,17 @@ private:
     BorrowedFiles files_{desktop_->journal(), fs::path(courseFolder).parent_path()};
     BorrowedRegistry registry_{desktop_->journal()};
     DesktopPowerPoint powerPoint_{desktop_->journal()};
-    std::optional<VtableModule> module_;
+    automation::ObserverPtr observer_;
+    std::optional<ObservedWindows> windows_;
+    std::unique_ptr<ModuleClient> module_;
 };
 
 } // namespace
 
 WorldMaker makeComWorlds(std::int32_t powerPointBits) {
     return [desktop = std::make_shared<Desktop>(powerPointBits)](const automation::ObserverPtr& observer) -> WorldPtr {
-        if (observer) {
-            refuse(u"the calls of the registered library cannot be listed");
-        }
         desktop->makeReady();
-        return std::make_unique<ComWorld>(desktop);
+        return std::make_unique<ComWorld>(desktop, observer);
     };
 }
 
