@@ -61,6 +61,8 @@ struct Judged {
         return reading && !reading->error && !reading->erreurGenerale &&
                (reading->causeErreur.empty() || reading->bravoNuance);
     }
+    /// Trouble mostly names the file itself.
+    [[nodiscard]] bool isNamed() const { return !reading && trouble.starts_with(name); }
     [[nodiscard]] std::string verdict() const { return reading ? reading->display() : trouble; }
 };
 
@@ -91,7 +93,9 @@ std::vector<fs::path> presentations(const std::vector<std::string>& named) {
         }
         std::vector<fs::path> inside;
         for (const auto& entry : fs::recursive_directory_iterator(path)) {
-            if (entry.is_regular_file() &&
+            const bool isLock =
+                entry.path().filename().u16string().starts_with(u"~$"); // of a PowerPoint that has it open
+            if (entry.is_regular_file() && !isLock &&
                 automation::equalIgnoringCase(entry.path().extension().u16string(), u".ppt")) {
                 inside.push_back(entry.path());
             }
@@ -150,8 +154,11 @@ nlohmann::ordered_json toJson(const Judged& judged) {
     return object;
 }
 
-void printJson(const std::vector<Judged>& all, std::int32_t question, std::ostream& out) {
+void printJson(const std::vector<Judged>& all, std::int32_t question, const std::string& shortfall, std::ostream& out) {
     nlohmann::ordered_json object{{"question", question}};
+    if (!shortfall.empty()) {
+        object["shortfall"] = shortfall;
+    }
     object["presentations"] = nlohmann::ordered_json::array();
     std::transform(all.begin(), all.end(), std::back_inserter(object["presentations"]),
                    [](const Judged& judged) { return toJson(judged); });
@@ -166,7 +173,8 @@ void printJson(const std::vector<Judged>& all, std::int32_t question, std::ostre
 
 void printAll(const std::vector<Judged>& all, std::int32_t question, const CommandContext& at) {
     for (const Judged& judged : all) {
-        at.out << (all.size() == 1 ? "Question " + std::to_string(question) : judged.name) << ": "
+        const std::string head = all.size() == 1 ? "Question " + std::to_string(question) : judged.name;
+        at.out << (judged.isNamed() ? "" : head + ": ")
                << (judged.isGood() ? at.ink.good(judged.verdict()) : at.ink.bad(judged.verdict())) << '\n';
         const Reading reading = judged.reading.value_or(Reading());
         for (const std::string& line : {reason::sentence(reading.meaning), reading.reason}) {
@@ -188,8 +196,9 @@ ExitCode recheck(const RecheckRequest& request, const CommandContext& at) {
     const language::ScenarioFile file = load(at.library.fileOf(request.question));
     const std::vector<fs::path> paths = presentations(request.files);
     const Course course = courseOf(file, request.course, at.worlds.embedded);
+    const std::string shortfall = shortfallOf(course, file, at.worlds.embedded);
     if (!request.asJson) {
-        at.out << shortfallOf(course, file, at.worlds.embedded);
+        at.out << shortfall;
     }
     std::vector<Judged> all;
     for (const fs::path& path : paths) {
@@ -198,7 +207,7 @@ ExitCode recheck(const RecheckRequest& request, const CommandContext& at) {
     }
     at.progress.clear();
     if (request.asJson) {
-        printJson(all, request.question, at.out);
+        printJson(all, request.question, shortfall, at.out);
     } else if (all.size() == 1 && !all.front().reading) {
         throw UsageError(all.front().trouble);
     } else {
