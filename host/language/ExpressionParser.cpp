@@ -1,7 +1,9 @@
 #include "host/language/ExpressionParser.h"
 
+#include "automation/Text.h"
 #include "host/language/Constants.h"
 #include "host/language/Keywords.h"
+#include "host/language/Likeness.h"
 
 #include <array>
 #include <utility>
@@ -113,8 +115,11 @@ Expression ExpressionParser::named() {
         return literal(take().place, std::move(*constant));
     }
     if (looksLikeConstant(token.text)) {
-        throw SyntaxError({token.place, "expected a constant of PowerPoint or Office that is known here, found " +
-                                            token.display() + "; its number may stand in its place"});
+        const std::vector<std::u16string> constants = constantNames();
+        const std::u16string alike = suggestion(token.text, {constants.begin(), constants.end()});
+        throw SyntaxError(
+            {token.place, "expected a constant of PowerPoint or Office that is known here, found " + token.display() +
+                              (alike.empty() ? "; its number may stand in its place" : automation::toUtf8(alike))});
     }
     return chain();
 }

@@ -21,6 +21,14 @@ const Words foreign{u"AddressOf", u"Attribute", u"Call",   u"Case",  u"Const",  
                     u"Private",   u"Property",  u"Public", u"ReDim", u"Resume",   u"Select",  u"Static",
                     u"Stop",      u"Type",      u"TypeOf", u"Until", u"Wend",     u"While",   u"Xor"};
 
+/// What its library has.
+const Words foreignProcedures{u"Abs",    u"Asc",   u"CDbl",    u"Chr",   u"CInt",     u"CLng",      u"CreateObject",
+                              u"CStr",   u"Date",  u"Debug",   u"Dir",   u"Err",      u"Fix",       u"Format",
+                              u"InStr",  u"Int",   u"IsEmpty", u"LCase", u"Left",     u"Len",       u"Mid",
+                              u"MsgBox", u"Now",   u"Replace", u"Right", u"Rnd",      u"Round",     u"InputBox",
+                              u"Shell",  u"Split", u"Sqr",     u"Str",   u"Timer",    u"Trim",      u"TypeName",
+                              u"UBound", u"UCase", u"Val",     u"CSng",  u"SendKeys", u"GetObject", u"DoEvents"};
+
 const Words foreignSigns{u"^", u"\\"};
 
 bool isAmong(const Words& words, std::u16string_view name) {
@@ -32,6 +40,10 @@ bool isAmong(const Words& words, std::u16string_view name) {
 
 bool isKeyword(std::u16string_view name) {
     return isAmong(own, name);
+}
+
+bool isForeignProcedure(std::u16string_view name) {
+    return isAmong(foreignProcedures, name);
 }
 
 const std::vector<std::u16string_view>& verbs() {
@@ -46,8 +58,7 @@ void requireOwn(const Token& token) {
     const bool isForeign = (token.kind == TokenKind::Name && isAmong(foreign, token.text)) ||
                            (token.kind == TokenKind::Symbol && isAmong(foreignSigns, token.text));
     if (isForeign) {
-        throw SyntaxError({token.place, token.display() + " is a part of the macro language that scenarios do not "
-                                                          "have: they have If, For, For Each and With"});
+        throw SyntaxError({token.place, token.display() + ' ' + std::string(notOwn)});
     }
 }
 

@@ -13,6 +13,13 @@ namespace host::language {
 /// The words that begin a line of a scenario file.
 [[nodiscard]] const std::vector<std::u16string_view>& verbs();
 
+/// How a message goes on behind a part of the macro language that scenarios do not have.
+constexpr std::string_view notOwn =
+    "is a part of the macro language that scenarios do not have: they have If, For, For Each and With";
+
+/// True for what the macro language's own library has: MsgBox, InStr, Debug. They may name variables.
+[[nodiscard]] bool isForeignProcedure(std::u16string_view name);
+
 /// Raises SyntaxError for a word or a sign of the macro language that scenarios do not have.
 void requireOwn(const Token& token);
 

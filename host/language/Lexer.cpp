@@ -144,9 +144,8 @@ private:
         }
         const bool isSingle = takeSuffix(u"!");
         if (isSingle || takeSuffix(u"#@") || isReal) {
-            double real = 0;
-            std::from_chars(digits.data(), digits.data() + digits.size(), real);
-            return isSingle ? automation::Value(static_cast<float>(real)) : automation::Value(real);
+            return isSingle ? automation::Value(real<float>(digits, place))
+                            : automation::Value(real<double>(digits, place));
         }
         takeSuffix(u"&%");
         return whole<std::int32_t>(digits, 10, place);
@@ -160,6 +159,15 @@ private:
         const auto bits = whole<std::uint32_t>(digits, 16, place);
         const bool isShort = !takeSuffix(u"&") && digits.size() <= 4;
         return isShort ? std::int32_t(static_cast<std::int16_t>(bits)) : static_cast<std::int32_t>(bits);
+    }
+
+    template <typename Real> static Real real(const std::string& digits, Position place) {
+        Real number = 0;
+        if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec != std::errc()) {
+            throw SyntaxError(
+                {place, "expected a number that fits into " + std::to_string(8 * sizeof(Real)) + " bits"});
+        }
+        return number;
     }
 
     template <typename Integer> static Integer whole(const std::string& digits, int base, Position place) {

@@ -40,6 +40,9 @@ std::u16string suggestion(std::u16string_view wanted, const std::vector<std::u16
             alike.push_back(name);
         }
     }
+    if (alike.size() > 3) { // members of one long family, which tell nothing
+        alike.clear();
+    }
     std::u16string text;
     for (const std::u16string_view name : alike) {
         text += text.empty() ? u": " : u" or ";
@@ -67,6 +70,9 @@ std::u16string missingMember(const automation::Object& object, std::u16string_vi
 }
 
 std::u16string unknownName(std::u16string_view name, std::vector<std::u16string_view> variables) {
+    if (isForeignProcedure(name)) {
+        return u"'" + std::u16string(name) + u"' " + automation::fromUtf8(notOwn);
+    }
     if (isMemberInPowerPoint(u"Application", name)) {
         return notEmbedded(u"Application." + std::u16string(name));
     }

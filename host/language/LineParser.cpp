@@ -147,8 +147,10 @@ LineParser::Node LineParser::callOrAssignment() {
             fail("expected '=' or the end of the line");
         }
         if (reference.object == nullptr && !isMemberInPowerPoint(u"Application", reference.name)) {
-            throw SyntaxError({head.place, "expected a statement, found " + head.display() +
-                                               automation::toUtf8(suggestion(reference.name, verbs()))});
+            throw SyntaxError({head.place, isForeignProcedure(reference.name)
+                                               ? head.display() + ' ' + std::string(notOwn)
+                                               : "expected a statement, found " + head.display() +
+                                                     automation::toUtf8(suggestion(reference.name, verbs()))});
         }
         takeArguments(reference);
     }

@@ -91,7 +91,14 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"s.Text = \"été\" ;", "t.scn:4:16: expected the end of the line, found ';'"},
         {"s.Left = 9999999999", "t.scn:4:10: expected a number that fits into 32 bits"},
         {"s.AutoShapeType = msoShapeRectangel", "t.scn:4:19: expected a constant of PowerPoint or Office that is known "
-                                                "here, found 'msoShapeRectangel'; its number may stand in its place"},
+                                                "here, found 'msoShapeRectangel': msoShapeRectangle?"},
+        {"s.Entry = ppEffectAppear",
+         "t.scn:4:11: expected a constant of PowerPoint or Office that is known here, found "
+         "'ppEffectAppear'; its number may stand in its place"},
+        {"s.Left = 1E400", "t.scn:4:10: expected a number that fits into 64 bits"},
+        {"MsgBox \"x\"",
+         "t.scn:4:1: 'MsgBox' is a part of the macro language that scenarios do not have: they have If, "
+         "For, For Each and With"},
         {"Set 3 = s", "t.scn:4:5: expected a variable or a member, found 3"},
         {"Set Host = s", "t.scn:4:5: expected a variable, found the fixed name 'Host'"},
         {"msoTrue = 3", "t.scn:4:1: expected a variable, found the fixed name 'msoTrue'"},
