@@ -117,7 +117,8 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
     if (!request.course.empty()) {
         course = courseOf(file, request.course, makeWorld);
         if (const std::string shortfall = shortfallOf(*course, file, makeWorld); !shortfall.empty()) {
-            out << shortfall;
+            const nlohmann::ordered_json object{{"question", file.question}, {"shortfall", shortfall}};
+            out << (request.asJson ? object.dump(2) + '\n' : shortfall);
             return ExitCode::FellShort;
         }
     }
