@@ -113,10 +113,10 @@ void Interpreter::perform(const With& with) {
 }
 
 void Interpreter::perform(const If& choice) {
-    for (const auto& [condition, body] : choice.branches) {
-        const bool holds = !condition || placed(condition->place, [&] { return valueOf(*condition).to<bool>(); });
-        if (holds) {
-            return performAll(body);
+    for (const auto& branch : choice.branches) {
+        const auto holds = [&] { return valueOf(*branch.condition).to<bool>(); };
+        if (!branch.condition || placed(branch.condition->place, holds)) {
+            return performAll(branch.body);
         }
     }
 }

@@ -11,7 +11,7 @@ using automation::toUtf8;
 
 constexpr std::u16string_view endWith = u"End With";
 constexpr std::u16string_view endIf = u"End If";
-constexpr std::u16string_view next = u"Next";
+constexpr std::u16string_view endFor = u"Next";
 constexpr std::size_t mostTokens = 1000;
 
 /// What stands from a token to the one taken last.
@@ -133,14 +133,14 @@ bool StatementReader::opening(LineParser& words, const LogicalLine& line) {
 void StatementReader::beginFor(LineParser& words) {
     const Position place = words.last().place;
     if (words.takeWord(u"Each")) {
-        begin(ForEach{{}, {place, Omitted{}}, {}}, place, next);
+        begin(ForEach{{}, {place, Omitted{}}, {}}, place, endFor);
         auto& each = std::get<ForEach>(open_.back().statement.node);
         each.variable = words.variable();
         words.requireWord(u"In");
         each.collection = words.expression();
         return;
     }
-    begin(ForNumbers{{}, {place, Omitted{}}, {place, Omitted{}}, {}, {}}, place, next);
+    begin(ForNumbers{{}, {place, Omitted{}}, {place, Omitted{}}, {}, {}}, place, endFor);
     auto& numbers = std::get<ForNumbers>(open_.back().statement.node);
     numbers.variable = words.variable();
     words.requireSymbol(u"=");
@@ -195,7 +195,7 @@ bool StatementReader::closing(LineParser& words) {
     const Position place = words.peek().place;
     const std::u16string_view found = words.takeWords(u"End", u"With") ? endWith
                                       : words.takeWords(u"End", u"If") ? endIf
-                                      : words.takeWord(u"Next")        ? next
+                                      : words.takeWord(u"Next")        ? endFor
                                                                        : std::u16string_view();
     if (found.empty()) {
         return false;
@@ -206,7 +206,7 @@ bool StatementReader::closing(LineParser& words) {
                                       : "expected the beginning of the block that ends with '" + toUtf8(found) + "'"});
     }
     Statement block = end();
-    if (found == next && !words.atEnd()) {
+    if (found == endFor && !words.atEnd()) {
         const auto* const each = std::get_if<ForEach>(&block.node);
         const std::u16string& variable = each != nullptr ? each->variable : std::get<ForNumbers>(block.node).variable;
         if (!words.peek().isWord(variable)) {

@@ -24,7 +24,8 @@ public:
         const auto* each = at<IMAGE_IMPORT_DESCRIPTOR>(directory(IMAGE_DIRECTORY_ENTRY_IMPORT));
         for (; each->Name != 0; ++each) {
             std::string name = at<char>(each->Name);
-            std::transform(name.begin(), name.end(), name.begin(), [](char c) { return static_cast<char>(c | 32); });
+            std::transform(name.begin(), name.end(), name.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 32) : c; });
             for (const auto* entry = at<IMAGE_THUNK_DATA>(each->OriginalFirstThunk); entry->u1.Ordinal != 0; ++entry) {
                 EXPECT_FALSE(IMAGE_SNAP_BY_ORDINAL(entry->u1.Ordinal)) << name;
                 names[name].insert(at<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(entry->u1.AddressOfData))->Name);

@@ -90,7 +90,7 @@ TEST(HostTest, ReadsTheSameOfTheLibraryAsOfItsOwnModule) {
         EXPECT_EQ(run.exitCode(), 0U);
         // The folder in which the learner's PowerPoint opens by itself is another one in every world, and only where
         // the calls are seen can be said what was read.
-        return std::regex_replace(run.output(), std::regex(R"((folder Default is .* instead of|reads .*?\.) .*)"),
+        return std::regex_replace(run.output(), std::regex(R"((folder Default is .* instead of) .*|\. Slide \d.*)"),
                                   "$1");
     };
     for (const wchar_t* const question : {L"306", L"318"}) {

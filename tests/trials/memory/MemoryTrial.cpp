@@ -84,17 +84,17 @@ void MemoryTrial::run(torture::Totals& totals, const torture::Report& report, co
 }
 
 void MemoryTrial::run(const std::string& operation, const Struck& struck, const Audience& audience) const {
-    const auto& [totals, report, progress] = audience;
     const auto tell = [&](const std::string& what, const std::vector<std::string>& findings) {
         for (const std::string& finding : findings) {
-            ++totals.findings;
-            report("question " + std::to_string(file_.question) + ", " + operation + ", " + what + ": " + finding);
+            ++audience.totals.findings;
+            audience.report("question " + std::to_string(file_.question) + ", " + operation + ", " + what + ": " +
+                            finding);
         }
     };
     const Result flawless = struck(0, Lasting::Once);
     tell("nothing failed", flawless.assessment.findings);
     for (std::size_t n = 1 + random_() % every_; n <= flawless.asked; n += every_) {
-        progress(operation, n, flawless.asked);
+        audience.progress(operation, n, flawless.asked);
         for (const Lasting lasting : {Lasting::Once, Lasting::FromThereOn}) {
             const std::string what =
                 "allocation " + std::to_string(n) + (lasting == Lasting::Once ? "" : " from there on");
@@ -102,8 +102,8 @@ void MemoryTrial::run(const std::string& operation, const Struck& struck, const 
             {
                 const Result result = struck(n, lasting);
                 tell(what, result.assessment.findings);
-                ++totals.failed;
-                ++totals.outcomes.at(static_cast<std::size_t>(result.assessment.answer));
+                ++audience.totals.failed;
+                ++audience.totals.outcomes.at(static_cast<std::size_t>(result.assessment.answer));
             }
             if (ScarceMemory::alive() != before) {
                 tell(what, {std::to_string(ScarceMemory::alive() - before) + " allocations are not given back"});
