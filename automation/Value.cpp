@@ -105,10 +105,8 @@ Value& Value::operator=(const Value& other) {
 }
 
 Value Value::reference(Value& variable, Original* original) noexcept {
-    Value result;
     const auto* const further = std::get_if<Reference>(&variable.storage_);
-    result.storage_ = further != nullptr ? *further : Reference{&variable, original};
-    return result;
+    return Value(further != nullptr ? *further : Reference{&variable, original});
 }
 
 const Value& Value::target() const noexcept {

@@ -125,6 +125,8 @@ public:
     friend bool operator==(const Value& left, const Value& right) { return left.storage_ == right.storage_; }
 
 private:
+    explicit Value(const Reference& by) noexcept : storage_(by) {}
+
     using Storage = std::variant<Empty, Missing, bool, std::int16_t, std::int32_t, float, double, std::u16string,
                                  ObjectPtr, Array, Reference>;
 

@@ -17,6 +17,7 @@ public:
     [[nodiscard]] static bool isActive() noexcept { return depth > 0; }
 
 private:
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): what nests is the process's
     static constinit inline std::atomic<int> depth = 0; ///< how many scopes the process is in
 };
 

@@ -11,11 +11,11 @@ using ComWorldsMaker = std::function<WorldMaker(std::int32_t powerPointBits)>;
 
 /// One of a program's commands.
 struct Command {
-    const char* name;
-    const char* what;
-    Action (*add)(CLI::App&);  ///< adds its options, and answers with what it does
-    bool takesPowerPoint;      ///< with `--powerpoint` it works through COM
-    const char* examples = ""; ///< lines of its own help; those of the program where there are none
+    const char* name = nullptr;
+    const char* what = nullptr;
+    Action (*add)(CLI::App&) = nullptr; ///< adds its options, and answers with what it does
+    bool takesPowerPoint = false;       ///< with `--powerpoint` it works through COM
+    const char* examples = "";          ///< lines of its own help; those of the program where there are none
 };
 
 /// What a program is called, and does.

@@ -26,7 +26,7 @@ struct Worlds {
 };
 
 /// What a command has at hand.
-struct CommandContext {
+struct CommandContext { // NOLINT(cppcoreguidelines-pro-type-member-init): its references are set where it is made
     const Library& library;
     Worlds worlds;
     const LineReaderMaker& makeLines;

@@ -71,7 +71,7 @@ int host::runMain(const Program& program, const char* version, const std::filesy
                   char** argv) {
     const OwnTerminal terminal;
     const char* const refused = std::getenv("NO_COLOR");
-    const Ink ink{terminal.takesColours() && (refused == nullptr || *refused == '\0')};
+    const Ink ink{OwnTerminal::takesColours() && (refused == nullptr || *refused == '\0')};
     return static_cast<int>(runCommandLine(program, givenArguments(argc, argv), scenarioFolder(scenarios), version,
                                            makeEmbeddedWorld, {std::cout, std::cerr, isTerminal(), ink}, makeOwnLines,
                                            comWorlds));

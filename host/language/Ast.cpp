@@ -71,7 +71,7 @@ Expectation Contract::success() const {
     return found == meanings.end() ? Expectation() : found->verdict;
 }
 
-Expectation Contract::meantBy(Expectation stated) const {
+Expectation Contract::meantBy(const Expectation& stated) const {
     const Expectation passing = success();
     const bool isRaised = stated.kind == Expectation::Kind::Success && passing.kind == Expectation::Kind::Error;
     return isRaised ? passing : stated;

@@ -187,7 +187,7 @@ struct Contract {
     /// What the host reads where the learner has done the task.
     [[nodiscard]] Expectation success() const;
     /// What a check that says this asks for: `success` is what the question has for it.
-    [[nodiscard]] Expectation meantBy(Expectation stated) const;
+    [[nodiscard]] Expectation meantBy(const Expectation& stated) const;
 };
 
 /// A scenario file.

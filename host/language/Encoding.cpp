@@ -31,10 +31,10 @@ std::u16string utf16(std::string_view bytes, std::size_t low) {
 }
 
 std::u16string utf8(std::string_view bytes) {
-    const std::u16string text = automation::fromUtf8(bytes);
+    std::u16string text = automation::fromUtf8(bytes);
     const std::string wellFormed = automation::toUtf8(text);
-    const auto wrong = std::mismatch(bytes.begin(), bytes.end(), wellFormed.begin(), wellFormed.end()).first;
-    const auto stop = std::min(wrong, std::find(bytes.begin(), bytes.end(), '\0'));
+    const auto* const wrong = std::mismatch(bytes.begin(), bytes.end(), wellFormed.begin(), wellFormed.end()).first;
+    const auto* const stop = std::min(wrong, std::find(bytes.begin(), bytes.end(), '\0'));
     if (stop != bytes.end()) {
         const std::string number =
             automation::toUtf8(automation::hexadecimal(static_cast<int>(valueOf(*stop)))).substr(6);

@@ -159,7 +159,7 @@ LineParser::Node LineParser::callOrAssignment() {
 
 std::u16string LineParser::variable() {
     const Token& token = peek();
-    const std::u16string found = name("a variable");
+    std::u16string found = name("a variable");
     if (isReserved(found) || isKeyword(found) || findConstant(found)) {
         throw SyntaxError({token.place, "expected a variable, found the fixed name " + token.display()});
     }

@@ -253,7 +253,7 @@ private:
                                                 "looked at, not changed"});
         }
         if (auto* const check = std::get_if<Check>(&statement.node)) {
-            check->expected = file_.contract.meantBy(std::move(check->expected));
+            check->expected = file_.contract.meantBy(check->expected);
         }
         block_->push_back(std::move(statement));
     }

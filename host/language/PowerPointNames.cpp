@@ -176,7 +176,7 @@ bool isOneOf(const std::vector<std::u16string_view>& words, std::u16string_view 
 } // namespace
 
 std::vector<std::u16string_view> membersInPowerPoint(std::u16string_view className) {
-    const auto found = std::find_if(classes.begin(), classes.end(), [className](const PublishedClass& each) {
+    const auto* const found = std::find_if(classes.begin(), classes.end(), [className](const PublishedClass& each) {
         return equalIgnoringCase(each.name, className);
     });
     return found == classes.end() ? std::vector<std::u16string_view>() : wordsOf(found->members);

@@ -92,10 +92,8 @@ std::string shapesOn(const Path& slide, const Trail& trail, const Topic& topic) 
     if (shapes.empty()) {
         return {};
     }
-    std::vector<std::string> all;
-    for (const Mark& shape : shapes) {
-        all.push_back(shapeOf(shape, found));
-    }
+    std::vector<std::string> all(shapes.size());
+    std::transform(shapes.begin(), shapes.end(), all.begin(), [&](const Mark& shape) { return shapeOf(shape, found); });
     std::string text = all.size() == 1 ? " has one shape: " : ", from back to front: ";
     text = sentence(slide.place() + text + listed(all));
     if (!isComplete(slide, found, trail)) {
@@ -112,10 +110,8 @@ std::string shapesOn(const Path& slide, const Trail& trail, const Topic& topic) 
 std::string slidesIn(const Trail& trail) {
     const auto isSlide = [](const Path& path) { return !path.isEmpty() && path == path.slide(); };
     const std::vector<Mark> found = filtered(trail.marks(), isSlide);
-    std::vector<std::string> all;
-    for (const Mark& slide : found) {
-        all.push_back(named(slide));
-    }
+    std::vector<std::string> all(found.size());
+    std::transform(found.begin(), found.end(), all.begin(), [](const Mark& slide) { return named(slide); });
     return all.empty() ? "" : "The slides are " + listed(all) + "." + missing(filtered(trail.given(), isSlide), found);
 }
 

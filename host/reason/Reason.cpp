@@ -30,13 +30,13 @@ bool isWord(const Access& access) {
 /// Those that are wanted, each value as it was read last.
 Accesses filtered(const Accesses& all, const std::function<bool(const Access&)>& isWanted) {
     Accesses wanted;
-    for (auto access = all.rbegin(); access != all.rend(); ++access) {
+    std::for_each(all.rbegin(), all.rend(), [&](const Access& access) {
         const bool isKnown =
-            std::any_of(wanted.begin(), wanted.end(), [&](const Access& other) { return other.path == access->path; });
-        if (!isKnown && isWanted(*access)) {
-            wanted.push_back(*access);
+            std::any_of(wanted.begin(), wanted.end(), [&](const Access& other) { return other.path == access.path; });
+        if (!isKnown && isWanted(access)) {
+            wanted.push_back(access);
         }
-    }
+    });
     std::reverse(wanted.begin(), wanted.end());
     return wanted;
 }
@@ -93,10 +93,10 @@ private:
 
     [[nodiscard]] std::string ofLetter() const {
         const Access& last = trail_.accesses().back();
-        if (const std::string quoted = ofQuoted(); !quoted.empty()) {
+        if (std::string quoted = ofQuoted(); !quoted.empty()) {
             return quoted;
         }
-        const std::string shapes = shapesOn(slideOf(last), trail_, topic_);
+        std::string shapes = shapesOn(slideOf(last), trail_, topic_);
         if (topic_.isOfMarks() && !shapes.empty()) {
             return shapes;
         }
@@ -127,7 +127,8 @@ private:
             const std::u16string wanted = automation::fromUtf8(quoted);
             const Accesses holding = filtered(texts, [&](const Access& access) {
                 const auto text = access.value.to<std::u16string>();
-                return isWord(access) ? text == wanted || text == wanted + u' ' : text.find(wanted) != text.npos;
+                return isWord(access) ? text == wanted || text == wanted + u' '
+                                      : text.find(wanted) != std::u16string::npos;
             });
             if (!holding.empty()) {
                 return said(holding);

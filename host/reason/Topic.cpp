@@ -76,12 +76,10 @@ bool Topic::names(std::u16string_view member) const {
 }
 
 bool Topic::namesConstant(const std::string& constant) const {
-    for (const std::string_view stem : {"msoShape", "ppPlaceholder", "mso"}) {
-        if (constant.starts_with(stem) && holds(spaced(std::string_view(constant).substr(stem.size())))) {
-            return true;
-        }
-    }
-    return false;
+    constexpr std::array<std::string_view, 3> stems{"msoShape", "ppPlaceholder", "mso"};
+    return std::any_of(stems.begin(), stems.end(), [&](std::string_view stem) {
+        return constant.starts_with(stem) && holds(spaced(std::string_view(constant).substr(stem.size())));
+    });
 }
 
 std::vector<std::string> Topic::quoted() const {

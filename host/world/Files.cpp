@@ -32,7 +32,7 @@ Bytes Files::read(std::u16string_view path) const {
 
 void Files::write(std::u16string_view path, const Bytes& content) {
     prepareToWrite(path);
-    writeContents(realPath(path), {reinterpret_cast<const char*>(content.data()), content.size()});
+    writeContents(realPath(path), std::string(content.begin(), content.end()));
 }
 
 void Files::remove(std::u16string_view path) {

@@ -14,13 +14,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The folders that there are. They outlive whatever ends before the program does.
+/// The folders that there are.
 struct Folders {
     std::mutex mutex;
     std::set<fs::path> paths;
 };
 
+/// They outlive whatever ends before the program does.
 Folders& folders() {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory, cppcoreguidelines-avoid-non-const-global-variables)
     static auto* const all = new Folders;
     return *all;
 }

@@ -74,7 +74,9 @@ void Session::end() {
     }
     windows_.clear();
     presentations_.clear();
-    clipboard_ = {};
+    clipboard_.shapes.clear(); // nothing here may ask for memory: an end is whole
+    clipboard_.slides.clear();
+    clipboard_.format.reset();
     window_.close();
     if (const auto handler = std::exchange(onEnd_, nullptr)) {
         handler();

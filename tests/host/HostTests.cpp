@@ -194,10 +194,11 @@ TEST_F(HostTest, ReportsTakeThePlaceOfEarlierOnesAndOfNothingElse) {
         return all;
     };
     const std::string before = contents();
-    const struct {
+    struct Refused {
         std::vector<std::string> arguments;
         const char* said;
-    } refused[] = {
+    };
+    const std::vector<Refused> refused{
         {{"--file", file(), "--report", file()}, "0306.scn is read as well: name another file"},
         {{"306", "--json", in("link")}, "link is read as well"},
         {{"306", "--junit", in("mine.ppt")}, "mine.ppt is there already, and this program did not write it"},
