@@ -10,6 +10,7 @@ import select
 import signal
 import sys
 import tempfile
+import termios
 import time
 
 PATIENCE = 120  # seconds for an answer
@@ -40,6 +41,10 @@ class Terminal:
             os.execv(host, [host, *arguments])
 
     def type(self, keys):
+        """Types, once the program reads keys: it prints its prompt before, and a Ctrl-D between the two would be lost."""
+        end = time.monotonic() + PATIENCE
+        while termios.tcgetattr(self.terminal)[3] & termios.ICANON and time.monotonic() < end:
+            time.sleep(0.001)
         self.seen = ""
         os.write(self.terminal, keys.encode())
 
