@@ -69,11 +69,15 @@ void Standby::prepare() {
 }
 
 void Standby::forgetTaken() {
-    std::erase_if(waiting_, [](Waiting& each) {
+    std::erase_if(waiting_, [this](Waiting& each) {
         const bool isReady = each.ready.isSignalled();
         const bool wasTaken = each.wasReady && !isReady;
         each.wasReady = isReady;
-        return wasTaken || each.process.isSignalled();
+        const bool isForgotten = wasTaken || each.process.isSignalled();
+        if (isForgotten) {
+            forgotten_.push_back(std::move(each.process));
+        }
+        return isForgotten;
     });
 }
 

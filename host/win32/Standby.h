@@ -34,6 +34,9 @@ private:
     std::wstring program_; ///< empty where there is no stand-in
     Handle job_;           ///< ends them where this process could not
     std::vector<Waiting> waiting_;
+    /// Held, so that no other process gets the number of one of these: Wine 8 takes the two for the same where an
+    /// object of the first was released after its end, and has calls to the second fail (0x800706BF).
+    std::vector<Handle> forgotten_;
     unsigned started_ = 0;
 };
 
