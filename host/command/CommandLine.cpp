@@ -1,6 +1,7 @@
 #include "host/command/CommandLine.h"
 #include "host/command/Options.h"
 #include "host/command/Trouble.h"
+#include "host/language/Folding.h"
 #include "host/world/EmbeddedWorld.h"
 #include "host/world/RealFile.h"
 
@@ -80,7 +81,7 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
         const WorldMaker remote = real ? [&](const automation::ObserverPtr&) { return real(nullptr); } : WorldMaker();
         const WorldMaker documented = makeDocumentedWorld;
         const WorldMaker& inMemory = asked.like.empty() ? embedded : documented;
-        Progress progress(output.error, output.isTerminal);
+        Progress progress(unfolded(output.error), output.columns);
         return asked.chosen(
             {library, {inMemory, remote, real ? real : inMemory}, makeLines, output.out, progress, output.ink});
     });

@@ -30,7 +30,7 @@ struct Program {
 struct Output {
     std::ostream& out;
     std::ostream& error;
-    bool isTerminal = false; ///< `error` is watched by someone who likes to see progress
+    std::size_t columns = 0; ///< of the terminal where someone who likes to see progress watches `error`; 0 for none
     Ink ink{};               ///< that `out` takes
 };
 

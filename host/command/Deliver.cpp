@@ -1,5 +1,6 @@
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
+#include "host/language/Folding.h"
 #include "host/world/OutputFile.h"
 #include "host/world/RealFile.h"
 
@@ -32,7 +33,7 @@ ExitCode deliver(const DeliverRequest& request, const CommandContext& at) {
     auto output = outputs.begin();
     for (const auto& [name, content] : files) {
         (output++)->write(std::string(content.begin(), content.end()));
-        at.out << (folder / name).string() << '\n';
+        unfolded(at.out) << (folder / name).string() << '\n';
     }
     return ExitCode::Good;
 }

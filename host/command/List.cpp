@@ -1,6 +1,5 @@
 #include "host/command/Commands.h"
 #include "host/command/Options.h"
-#include "host/language/Words.h"
 #include "host/world/RealFile.h"
 
 #include "automation/Text.h"
@@ -13,7 +12,6 @@ namespace {
 
 /// Prints what questions ask and their scenarios.
 ExitCode list(const std::vector<std::string>& named, const Library& library, std::ostream& out) {
-    constexpr std::size_t width = 78;
     for (const language::ScenarioFile& file : load(library.filesNamed(named))) {
         out << pathOf(file.name).filename().string() << ": ";
         if (file.className.empty()) {
@@ -22,7 +20,7 @@ ExitCode list(const std::vector<std::string>& named, const Library& library, std
             out << "PowerPoint's class " << automation::toUtf8(file.className) << '\n';
         }
         if (!file.contract.task.empty()) {
-            out << "  " << folded(automation::toUtf8(file.contract.task), width, "  ") << '\n';
+            out << "  " << automation::toUtf8(file.contract.task) << '\n';
         }
         for (const language::Scenario& scenario : file.scenarios) {
             out << "    " << automation::toUtf8(scenario.title) << '\n';

@@ -1,23 +1,22 @@
 #include "host/command/Main.h"
 
 #include "automation/Text.h"
+#include "host/language/Folding.h"
 #include "host/world/EmbeddedWorld.h"
 #ifdef _WIN32
 #include "host/win32/ComWorld.h"
 #include "host/win32/OwnLines.h"
 #include "host/win32/OwnTerminal.h"
 
-#include <io.h>
 #include <windows.h>
 
 #include <shellapi.h>
 #else
 #include "host/posix/OwnLines.h"
 #include "host/posix/OwnTerminal.h"
-
-#include <unistd.h>
 #endif
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 
@@ -26,9 +25,6 @@ namespace {
 /// COM is Windows' alone; what a terminal is, and where the program lies, each system says in its own way.
 #ifdef _WIN32
 constexpr auto comWorlds = &host::makeComWorlds;
-bool isTerminal() {
-    return _isatty(2) != 0;
-}
 std::filesystem::path programFile() {
     std::wstring path(32768, L'\0'); // as long as a path can be
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
@@ -47,9 +43,6 @@ std::vector<std::string> givenArguments(int /*argc*/, char** /*argv*/) {
 }
 #else
 constexpr std::nullptr_t comWorlds = nullptr;
-bool isTerminal() {
-    return isatty(2) != 0;
-}
 std::filesystem::path programFile() {
     return std::filesystem::read_symlink("/proc/self/exe");
 }
@@ -57,6 +50,15 @@ std::vector<std::string> givenArguments(int argc, char** argv) {
     return {argv + 1, argv + argc};
 }
 #endif
+
+/// How wide the lines are that an output takes; 0 where no terminal shows them. `COLUMNS` knows better than it.
+std::size_t columnsOf(std::FILE* output) {
+    constexpr std::size_t least = 20;
+    const std::size_t shown = host::OwnTerminal::columns(output);
+    const char* const wanted = std::getenv("COLUMNS");
+    const std::size_t columns = wanted == nullptr ? 0 : std::strtoul(wanted, nullptr, 10);
+    return shown == 0 ? 0 : std::max(columns == 0 ? shown : columns, least);
+}
 
 /// Scenarios beside the program come before those of the sources.
 std::filesystem::path scenarioFolder(const std::filesystem::path& ofSources) {
@@ -72,7 +74,10 @@ int host::runMain(const Program& program, const char* version, const std::filesy
     const OwnTerminal terminal;
     const char* const refused = std::getenv("NO_COLOR");
     const Ink ink{OwnTerminal::takesColours() && (refused == nullptr || *refused == '\0')};
+    const std::size_t columnsOfError = columnsOf(stderr);
+    FoldedStream out(std::cout, columnsOf(stdout));
+    FoldedStream error(std::cerr, columnsOfError);
     return static_cast<int>(runCommandLine(program, givenArguments(argc, argv), scenarioFolder(scenarios), version,
-                                           makeEmbeddedWorld, {std::cout, std::cerr, isTerminal(), ink}, makeOwnLines,
+                                           makeEmbeddedWorld, {out, error, columnsOfError, ink}, makeOwnLines,
                                            comWorlds));
 }

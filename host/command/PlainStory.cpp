@@ -1,6 +1,7 @@
 #include "host/command/PlainStory.h"
 
 #include "automation/Text.h"
+#include "host/language/Folding.h"
 
 #include <iomanip>
 #include <ostream>
@@ -18,7 +19,7 @@ void PlainStory::sentence(std::string_view text) {
 }
 
 void PlainStory::statement(std::size_t line, std::string_view text) {
-    out_ << std::setw(7) << line << "  " << text << std::endl;
+    unfolded(out_) << std::setw(7) << line << "  " << text << std::endl;
 }
 
 void PlainStory::call(const automation::TracedCall& traced) {

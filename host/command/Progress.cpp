@@ -11,11 +11,10 @@ namespace host {
 namespace {
 constexpr std::chrono::milliseconds rewritten{100};
 constexpr std::chrono::seconds repeated{30};
-constexpr std::size_t widthOfTerminal = 79;
 } // namespace
 
-Progress::Progress(std::ostream& out, bool isTerminal, std::function<Clock::time_point()> now)
-    : out_(&out), isTerminal_(isTerminal), now_(std::move(now)) {}
+Progress::Progress(std::ostream& out, std::size_t columns, std::function<Clock::time_point()> now)
+    : out_(&out), columns_(columns), now_(std::move(now)) {}
 
 Progress::~Progress() {
     clear();
@@ -23,17 +22,17 @@ Progress::~Progress() {
 
 void Progress::at(const std::string& place, std::size_t step, std::size_t steps) {
     const Clock::time_point now = now_();
-    if (out_ == nullptr || now - told_ < (isTerminal_ ? Clock::duration(rewritten) : Clock::duration(repeated))) {
+    if (out_ == nullptr || now - told_ < (columns_ != 0 ? Clock::duration(rewritten) : Clock::duration(repeated))) {
         return;
     }
     told_ = now;
     const std::string line = std::to_string(step) + " of " + std::to_string(steps) + ": " + place;
-    if (!isTerminal_) {
+    if (columns_ == 0) {
         *out_ << line << std::endl;
         return;
     }
     const std::u16string all = automation::fromUtf8(line);
-    const std::u16string_view shown = beginningOf(all, widthOfTerminal);
+    const std::u16string_view shown = beginningOf(all, columns_ - 1);
     *out_ << '\r' << automation::toUtf8(shown) << std::string(width_ - std::min(width_, shown.size()), ' ')
           << std::flush;
     width_ = shown.size();

@@ -17,8 +17,8 @@ public:
 
     /// Tells nobody.
     Progress() = default;
-    /// `out` must outlive this object.
-    Progress(std::ostream& out, bool isTerminal, std::function<Clock::time_point()> now = Clock::now);
+    /// `out` must outlive this object; it is a terminal of so many columns, or none for 0.
+    Progress(std::ostream& out, std::size_t columns, std::function<Clock::time_point()> now = Clock::now);
     ~Progress();
 
     /// The work is at this place, the `step`-th of `steps`.
@@ -28,7 +28,7 @@ public:
 
 private:
     std::ostream* out_ = nullptr;
-    bool isTerminal_ = false;
+    std::size_t columns_ = 0;
     std::function<Clock::time_point()> now_ = Clock::now;
     std::size_t width_ = 0; ///< of the line on the terminal
     Clock::time_point told_ = now_();

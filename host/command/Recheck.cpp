@@ -1,6 +1,7 @@
 #include "host/command/Commands.h"
 #include "host/command/LiveCheck.h"
 #include "host/command/Options.h"
+#include "host/language/Folding.h"
 #include "host/language/Words.h"
 #include "host/reason/Explainer.h"
 #include "host/reason/Told.h"
@@ -168,7 +169,7 @@ void printJson(const std::vector<Judged>& all, std::int32_t question, const std:
             object["notChecked"].push_back(check.what);
         }
     }
-    out << object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+    unfolded(out) << object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
 }
 
 void printAll(const std::vector<Judged>& all, std::int32_t question, const CommandContext& at) {

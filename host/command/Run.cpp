@@ -3,6 +3,7 @@
 #include "host/command/Options.h"
 #include "host/command/PlainStory.h"
 #include "host/command/Telling.h"
+#include "host/language/Folding.h"
 #include "host/language/Words.h"
 #include "host/picture/Camera.h"
 #include "host/reason/Explainer.h"
@@ -118,7 +119,7 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
         course = courseOf(file, request.course, makeWorld);
         if (const std::string shortfall = shortfallOf(*course, file, makeWorld); !shortfall.empty()) {
             const nlohmann::ordered_json object{{"question", file.question}, {"shortfall", shortfall}};
-            out << (request.asJson ? object.dump(2) + '\n' : shortfall);
+            (request.asJson ? unfolded(out) : out) << (request.asJson ? object.dump(2) + '\n' : shortfall);
             return ExitCode::FellShort;
         }
     }
@@ -147,14 +148,14 @@ ExitCode run(const RunRequest& request, const Library& library, const WorldMaker
             object["pictures"] = pictures;
         }
         object["story"] = json.chapters();
-        out << object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+        unfolded(out) << object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
     } else {
         for (const language::Remark& failure : outcome.failures) {
             out << '\n' << failure.in(file.name) << '\n';
         }
         printValues(outcome.lastReading, out);
         for (const std::string& picture : pictures) {
-            out << "Picture: " << picture << '\n';
+            unfolded(out) << "Picture: " << picture << '\n';
         }
         if (!request.pictures.empty() && pictures.empty()) {
             out << "No picture: no slide was to be seen at a check\n";

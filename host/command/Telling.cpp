@@ -135,8 +135,8 @@ void Telling::tellFolders(const Snapshot& before, const Snapshot& after) {
         if (after.folders.at(i).empty()) {
             emptied.push_back(name);
         } else {
-            story_.sentence("PowerPoint's folder " + toUtf8(name) + " is " + toUtf8(after.folders.at(i)) +
-                            " instead of " + toUtf8(before.folders.at(i)));
+            story_.sentence("PowerPoint's folder " + toUtf8(name) + " is " + inQuotes(after.folders.at(i)) +
+                            " instead of " + inQuotes(before.folders.at(i)));
         }
     }
     if (!emptied.empty()) {

@@ -3,7 +3,6 @@
 #include "automation/Text.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace host {
 
@@ -58,22 +57,6 @@ std::string trimmed(const std::string& text) {
     constexpr const char* blanks = " \t\r";
     const std::size_t first = std::min(text.find_first_not_of(blanks), text.size());
     return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
-
-std::string folded(const std::string& text, std::size_t width, const std::string& indent) {
-    std::istringstream words(text);
-    std::string all;
-    std::size_t column = 0;
-    for (std::string word; words >> word;) {
-        const std::size_t length = automation::fromUtf8(word).size();
-        if (column != 0 && column + 1 + length > width) {
-            all += '\n' + indent;
-            column = 0;
-        }
-        all += (column == 0 ? "" : " ") + word;
-        column += length + (column == 0 ? 0 : 1);
-    }
-    return all;
 }
 
 std::u16string indented(std::u16string_view text) {

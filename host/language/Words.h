@@ -24,9 +24,6 @@ namespace host {
 /// A text without the blanks around it.
 [[nodiscard]] std::string trimmed(const std::string& text);
 
-/// A text in UTF-8 on lines of so many characters, broken at blanks, `indent` before all but the first.
-[[nodiscard]] std::string folded(const std::string& text, std::size_t width, const std::string& indent);
-
 /// A text whose lines but for the first stand two blanks further in.
 [[nodiscard]] std::u16string indented(std::u16string_view text);
 

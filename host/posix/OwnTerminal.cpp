@@ -3,6 +3,7 @@
 #include "host/world/TemporaryFolder.h"
 
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <array>
@@ -81,6 +82,16 @@ OwnTerminal::~OwnTerminal() {
 bool OwnTerminal::takesColours() {
     const char* const kind = std::getenv("TERM");
     return isatty(STDOUT_FILENO) != 0 && kind != nullptr && std::string_view(kind) != "dumb";
+}
+
+std::size_t OwnTerminal::columns(std::FILE* output) {
+    constexpr std::size_t usual = 80;
+    if (isatty(fileno(output)) == 0) {
+        return 0;
+    }
+    winsize size{};
+    const bool isKnown = ioctl(fileno(output), TIOCGWINSZ, &size) == 0 && size.ws_col != 0;
+    return isKnown ? size.ws_col : usual;
 }
 
 } // namespace host

@@ -2,6 +2,7 @@
 
 #include "automation/MemberTable.h"
 #include "automation/Text.h"
+#include "host/language/Folding.h"
 #include "host/language/Parser.h"
 #include "host/language/StatementReader.h"
 #include "host/language/Words.h"
@@ -175,7 +176,7 @@ void Conversation::perform(const std::string& line) {
 }
 
 void Conversation::print(const std::string& expression) {
-    out_ << printed(open_->evaluate(language::parseExpression(fromUtf8(expression)))) << '\n';
+    unfolded(out_) << printed(open_->evaluate(language::parseExpression(fromUtf8(expression)))) << '\n';
 }
 
 void Conversation::judge(const Expectation* expected) {
@@ -217,7 +218,7 @@ void Conversation::remake(std::vector<Statement> steps) {
     } catch (...) {
         out_ << "These could not be made once more:\n";
         for (; made < texts.size(); ++made) {
-            out_ << "  " << toUtf8(texts[made]) << '\n';
+            unfolded(out_) << "  " << toUtf8(texts[made]) << '\n';
         }
         throw;
     }
@@ -230,7 +231,7 @@ void Conversation::undo(const std::string& /*rest*/) {
     }
     const std::string last = toUtf8(open_->lastMove());
     remake(open_->takeAllBeforeLastMove());
-    out_ << "Taken back: " << last << '\n';
+    unfolded(out_) << "Taken back: " << last << '\n';
 }
 
 void Conversation::reset(const std::string& /*rest*/) {

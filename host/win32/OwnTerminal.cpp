@@ -2,6 +2,7 @@
 
 #include "host/world/TemporaryFolder.h"
 
+#include <io.h>
 #include <windows.h>
 
 #include <atomic>
@@ -50,6 +51,14 @@ bool OwnTerminal::takesColours() {
     DWORD mode = 0;
     return GetConsoleMode(out, &mode) != FALSE &&
            SetConsoleMode(out, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != FALSE;
+}
+
+std::size_t OwnTerminal::columns(std::FILE* output) {
+    auto* const handle = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(output)));
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    return GetConsoleScreenBufferInfo(handle, &info) == FALSE
+               ? 0
+               : static_cast<std::size_t>(info.srWindow.Right - info.srWindow.Left + 1);
 }
 
 } // namespace host

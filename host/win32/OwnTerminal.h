@@ -2,6 +2,8 @@
 
 #include "automation/Unmoved.h"
 
+#include <cstdio>
+
 namespace host {
 
 /// What this program is to the console that started it, as long as this lives: its texts are UTF-8; Ctrl-C and the
@@ -13,6 +15,8 @@ public:
 
     /// True where what is printed goes to a console that has colours.
     [[nodiscard]] static bool takesColours();
+    /// How wide the console is that an output of the program goes to; 0 where it goes elsewhere.
+    [[nodiscard]] static std::size_t columns(std::FILE* output);
 };
 
 } // namespace host

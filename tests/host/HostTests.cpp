@@ -1,5 +1,6 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
+#include "host/language/Folding.h"
 #include "host/language/Parser.h"
 #include "host/language/Words.h"
 #include "host/run/Guard.h"
@@ -237,10 +238,10 @@ TEST_F(HostTest, RunTellsTheRoadAndEndsWithTheFourValues) {
     for (const char* const told :
          {"07305306.ppt", "The host calls InitQuestion", "PowerPoint has started",
           "Méthodologie.ppt stands in the place of 07305306.ppt", "1 slide, marked ZOR1",
-          "PowerPoint's folder Default is C:\\Formation\\ instead of ", "PowerPoint's folders are the learner's again",
-          "      9  ActivePresentation", "The host reads a success with the remark \"F\"", "The host calls Fermer",
-          "Méthodologie.ppt is closed", "Removed from the folder: Méthodologie.ppt", "The host calls Quitter",
-          "PowerPoint has ended"}) {
+          "PowerPoint's folder Default is \"C:\\Formation\\\" instead of \"",
+          "PowerPoint's folders are the learner's again", "      9  ActivePresentation",
+          "The host reads a success with the remark \"F\"", "The host calls Fermer", "Méthodologie.ppt is closed",
+          "Removed from the folder: Méthodologie.ppt", "The host calls Quitter", "PowerPoint has ended"}) {
         EXPECT_NE(out.find(told), std::string::npos) << told << " is not told in\n" << out;
     }
     EXPECT_TRUE(out.ends_with("\nErreurGenerale: False\nCauseErreur: F\nBravoNuance: True\nComplement: \n")) << out;
@@ -312,10 +313,6 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
     const std::string fallsShort = "scenario \"one\"\ncheck \"C\"\nscenario \"two\"\ncheck \"C\"\n";
     write(std::string(course) + fallsShort);
     EXPECT_TRUE(said({"verify", "--stop"}, ExitCode::FellShort).ends_with("\n0 passed, 1 failed\n"));
-    write("question 306\ntask \"" + std::string(30, 'a') + ' ' + std::string(50, 'b') + "\"\n" +
-          good.substr(good.find('\n') + 1));
-    EXPECT_EQ(said({"list"}, ExitCode::Good),
-              "0306.scn: question 306\n  " + std::string(30, 'a') + "\n  " + std::string(50, 'b') + "\n    nothing\n");
     write(good + "check A\n\ncheck remark\n");
     const std::string report = folder + "/wrong.xml";
     static_cast<void>(said({"verify", "--junit", report}, ExitCode::WrongUsage));
@@ -354,8 +351,8 @@ TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
     std::ostringstream terminal;
     const std::string dashes(68, '-');
     {
-        Progress plainly(plain, false, clock);
-        Progress rewriting(terminal, true, clock);
+        Progress plainly(plain, 0, clock);
+        Progress rewriting(terminal, 80, clock);
         const auto at = [&](std::chrono::milliseconds passed, const std::string& place, std::size_t step) {
             now += passed;
             plainly.at(place, step, 30);
@@ -370,6 +367,31 @@ TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
     EXPECT_EQ(plain.str(), "5 of 30: half a minute\n");
     EXPECT_EQ(terminal.str(), "\r2 of 30: " + dashes + "é\r3 of 30: é" + std::string(68, ' ') +
                                   "\r5 of 30: half a minute\r" + std::string(22, ' ') + "\r");
+}
+
+TEST(FoldedStream, FoldsLinesToTheWidthAndBreaksNoWord) {
+    const std::vector<std::array<std::string, 2>> lines = {
+        {"as wide as twenty is", "as wide as twenty is"},
+        {"as wide as twenty are", "as wide as twenty\n  are"},
+        {"été créé là, où l'été", "été créé là, où\n  l'été"},
+        {"    two   blanks further in", "    two   blanks\n      further in"},
+        {"/a/path/that/is/wider/than/all of it", "/a/path/that/is/wider/than/all\n  of it"},
+        {"of (\"a title\") and \"an other\".", "of (\"a title\") and\n  \"an other\"."},
+        {"of \"a title wider than lines\"", "of \"a title wider\n  than lines\""},
+        {"an inch is 1\" and no more", "an inch is 1\" and no\n  more"},
+        {"\x1b[32m7 passed\x1b[0m, \x1b[31m1 failed\x1b[0m", "\x1b[32m7 passed\x1b[0m, \x1b[31m1 failed\x1b[0m"},
+    };
+    for (const auto& [line, shown] : lines) {
+        std::ostringstream out;
+        host::FoldedStream(out, 20) << line << '\n' << std::flush;
+        EXPECT_EQ(out.str(), shown + '\n');
+        host::FoldedStream piped(out, 0);
+        piped << line << ';';
+        host::FoldedStream terminal(out, 20);
+        terminal << "x ";
+        host::unfolded(terminal) << line;
+        EXPECT_EQ(out.str(), shown + '\n' + line + ";x " + line);
+    }
 }
 
 TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {

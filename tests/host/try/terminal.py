@@ -2,6 +2,7 @@
 
 terminal.py EXERCISE-HOST: ends with a line "N passed, N failed".
 """
+import json
 import os
 import pathlib
 import pty
@@ -36,7 +37,7 @@ class Terminal:
         self.process, self.terminal = pty.fork()
         if self.process == 0:
             os.environ.pop("NO_COLOR", None)
-            os.environ.update(LC_ALL="C", TERM="xterm", COLUMNS="200", **environment)
+            os.environ.update({"LC_ALL": "C", "TERM": "xterm", "COLUMNS": "200", **environment})
             os.chdir(folder or ".")
             os.execv(host, [host, *arguments])
 
@@ -118,12 +119,26 @@ def walk(host, folder):
     check("the report has the scenarios", [word for word in ("nothing done", "the right way", "<svg") if word not in page])
 
 
+def folded(host):
+    """Lines fit the terminal, but for statements, which may be copied, and JSON."""
+    terminal = Terminal(host, "try", "318", prompt="318> ", COLUMNS="60")
+    said = terminal.wait_for(terminal.prompt) + terminal.answer("check") + terminal.answer("x = y")
+    terminal.type(END)
+    said += terminal.all() + Terminal(host, "run", "306", COLUMNS="60").all()
+    wide = [line for line in said.replace(terminal.prompt, "").split("\r\n") if len(line) > 60]
+    check("lines fit the terminal", [line for line in wide if not re.match(r" +\d+  deck", line)])
+    check("statements stay whole", "" if wide else "none is wide")
+    check("what is folded goes on further in", "" if 'False,\r\n  CauseErreur "B"' in said else repr(said))
+    json.loads(Terminal(host, "run", "306", "--json", COLUMNS="60").all().split("exit code")[0])
+
+
 def main(host):
     with tempfile.TemporaryDirectory() as folder:
         walk(host, folder)
     for wanted, environment in (("\x1b[32m7 passed\x1b[0m, 0 failed", {}), ("\n7 passed, 0 failed", {"NO_COLOR": "1"})):
         said = "\n" + Terminal(host, "verify", "313", **environment).all()
         check("colours where they are liked", "" if wanted in said.replace("\r", "\n") else repr(said))
+    folded(host)
     terminal = Terminal(host, "try", "314")
     terminal.wait_for(PROMPT)
     expect(terminal, "Tab completes a member", "?ActivePresentation.Sli" + TAB + ".Count", " 1")
