@@ -4,8 +4,7 @@
 
 namespace simulator {
 
-/// Where a stretch of a shape's text stands on the slide, in points. An estimate: no font is measured here, every
-/// character counts as half as wide as it is high.
+/// Where a stretch of a shape's text stands on the slide, in points: estimated, since no font is measured here.
 [[nodiscard]] Frame textBounds(const TextStory& story, Span span, const Frame& shape);
 
 } // namespace simulator

@@ -40,6 +40,13 @@ enum MsoTextOrientation : std::int32_t {
     msoTextOrientationHorizontalRotatedFarEast = 6,
 };
 
+/// True where lines of text run from top to bottom, or the other way.
+[[nodiscard]] constexpr bool isUpright(MsoTextOrientation orientation) noexcept {
+    return orientation != msoTextOrientationHorizontal && orientation != msoTextOrientationHorizontalRotatedFarEast;
+}
+
+enum MsoHorizontalAnchor : std::int32_t { msoAnchorNone = 1, msoAnchorCenter = 2 };
+
 enum MsoVerticalAnchor : std::int32_t {
     msoAnchorTop = 1,
     msoAnchorTopBaseline = 2,

@@ -36,6 +36,15 @@ struct ParagraphFormat {
     friend bool operator==(const ParagraphFormat&, const ParagraphFormat&) = default;
 };
 
+/// How much of the room that a text leaves free is above it, or to its left: 0, a half, or 1.
+[[nodiscard]] constexpr float shareAbove(MsoVerticalAnchor anchor) noexcept {
+    const bool isLow = anchor == msoAnchorBottom || anchor == msoAnchorBottomBaseLine;
+    return isLow ? 1.0F : anchor == msoAnchorMiddle ? 0.5F : 0.0F;
+}
+[[nodiscard]] constexpr float shareToTheLeft(PpParagraphAlignment alignment) noexcept {
+    return alignment == ppAlignRight ? 1.0F : alignment == ppAlignCenter ? 0.5F : 0.0F;
+}
+
 /// How a text stands in its shape.
 struct TextLayout {
     PpAutoSize autoSize = ppAutoSizeNone;
@@ -46,6 +55,7 @@ struct TextLayout {
     float marginBottom = 3.6F; ///< points
     MsoTextOrientation orientation = msoTextOrientationHorizontal;
     MsoVerticalAnchor anchor = msoAnchorTop;
+    bool centered = false; ///< the block of text stands in the middle between left and right
 
     friend bool operator==(const TextLayout&, const TextLayout&) = default;
 };

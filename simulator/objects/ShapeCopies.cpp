@@ -2,6 +2,7 @@
 
 #include "simulator/document/NewShape.h"
 #include "simulator/document/Stacking.h"
+#include "simulator/document/TextFit.h"
 
 #include <algorithm>
 
@@ -73,6 +74,7 @@ std::vector<ShapePtr> paste(const Clipboard& clipboard, Slide& slide) {
     if (!clipboard.text.text().empty()) {
         pasted.push_back(newShape::textBox(pastedText));
         pasted.back()->text->replaceWith(clipboard.text, {});
+        fitToText(*pasted.back());
     }
     for (const ShapePtr& shape : pasted) {
         add(slide, shape);

@@ -1,5 +1,6 @@
 #include "simulator/objects/ShapeGeometry.h"
 
+#include "simulator/document/TextFit.h"
 #include "simulator/objects/TriState.h"
 
 #include <cmath>
@@ -115,7 +116,10 @@ void ShapeGeometry::writeSide(float Frame::*side, float points) {
     if (points < 0) {
         errors::invalidValue(u"Shape (membre inconnu)");
     }
-    nodes().change([side, points](Shape& shape) { shape.setFrame(resized(shape, side, points)); });
+    nodes().change([side, points](Shape& shape) {
+        shape.setFrame(resized(shape, side, points));
+        fitToText(shape);
+    });
 }
 
 void ShapeGeometry::shiftEdge(float Frame::*edge, float points) {
@@ -138,6 +142,7 @@ void ShapeGeometry::scaleSide(float Frame::*side, float factor, MsoTriState rela
         Frame frame = resized(shape, side, before * factor);
         frame.*edgeBefore(side) -= (frame.*side - before) * static_cast<float>(fixed) / 2;
         shape.setFrame(frame);
+        fitToText(shape);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "simulator/document/NewShape.h"
 #include "simulator/document/SlideLayout.h"
+#include "simulator/document/TextFit.h"
 #include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/FreeformBuilderObject.h"
 #include "simulator/objects/PlaceholdersObject.h"
@@ -110,6 +111,7 @@ std::shared_ptr<ShapeObject> ShapesObject::addTextbox(MsoTextOrientation orienta
                          u"Shapes.AddTextbox");
     const ShapePtr shape = newShape::textBox(frameOf(left, top, width, height, u"Shapes.AddTextbox"));
     shape->text->layout.orientation = orientation;
+    fitToText(*shape);
     return add(shape);
 }
 

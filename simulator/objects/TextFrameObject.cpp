@@ -34,6 +34,7 @@ const automation::MemberTable& TextFrameObject::members() const {
         property<&This::margin<&Layout::marginRight>, &This::setMargin<&Layout::marginRight>>(u"MarginRight"),
         property<&This::margin<&Layout::marginBottom>, &This::setMargin<&Layout::marginBottom>>(u"MarginBottom"),
         property<&This::orientation, &This::setOrientation>(u"Orientation"),
+        property<&This::horizontalAnchor, &This::setHorizontalAnchor>(u"HorizontalAnchor"),
         property<&This::verticalAnchor, &This::setVerticalAnchor>(u"VerticalAnchor"),
     };
     return table;
@@ -82,6 +83,15 @@ void TextFrameObject::setOrientation(MsoTextOrientation orientation) {
     errors::demandWithin(orientation, msoTextOrientationHorizontal, msoTextOrientationHorizontalRotatedFarEast,
                          u"TextFrame.Orientation");
     part_.edit([orientation](TextStory& story, Span) { story.layout.orientation = orientation; });
+}
+
+MsoHorizontalAnchor TextFrameObject::horizontalAnchor() const {
+    return layout().centered ? msoAnchorCenter : msoAnchorNone;
+}
+
+void TextFrameObject::setHorizontalAnchor(MsoHorizontalAnchor anchor) {
+    errors::demandWithin(anchor, msoAnchorNone, msoAnchorCenter, u"TextFrame.HorizontalAnchor");
+    part_.edit([anchor](TextStory& story, Span) { story.layout.centered = anchor == msoAnchorCenter; });
 }
 
 MsoVerticalAnchor TextFrameObject::verticalAnchor() const {

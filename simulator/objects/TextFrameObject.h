@@ -26,6 +26,9 @@ public:
     template <float TextLayout::*which> void setMargin(float points) { changeMargin(which, points); }
     [[nodiscard]] MsoTextOrientation orientation() const;
     void setOrientation(MsoTextOrientation orientation);
+    /// Whether the block of text stands in the middle of the shape.
+    [[nodiscard]] MsoHorizontalAnchor horizontalAnchor() const;
+    void setHorizontalAnchor(MsoHorizontalAnchor anchor);
     [[nodiscard]] MsoVerticalAnchor verticalAnchor() const;
     void setVerticalAnchor(MsoVerticalAnchor anchor);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/document/TextFit.h"
 #include "simulator/objects/PowerPointObject.h"
 
 #include <algorithm>
@@ -25,12 +26,20 @@ public:
         const TextStory& story = storyOf(*held);
         return use(story, story.clipped(span));
     }
-    /// The same for a change of the story: the presentation is no longer saved.
+    /// The same for a change of the story: the shape follows where it fits its text, and the presentation is no longer
+    /// saved.
     template <typename Use> auto edit(const Use& use) const {
         const ShapePtr held = shape();
         TextStory& story = storyOf(*held);
         markChanged(*held);
-        return use(story, story.clipped(span));
+        if constexpr (std::is_void_v<decltype(use(story, span))>) {
+            use(story, story.clipped(span));
+            fitToText(*held);
+        } else {
+            auto answer = use(story, story.clipped(span));
+            fitToText(*held);
+            return answer;
+        }
     }
 
     /// Goes on looking at the part's characters while the text changes.

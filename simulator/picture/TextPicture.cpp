@@ -1,7 +1,7 @@
 #include "simulator/picture/TextPicture.h"
 
 #include "automation/Text.h"
-#include "simulator/picture/TextFlow.h"
+#include "simulator/document/TextFlow.h"
 
 #include <algorithm>
 #include <array>
@@ -56,13 +56,14 @@ public:
         if (shape.type == msoPlaceholder) {
             shrink();
         }
+        if (story_.layout.centered) {
+            room_.left += (room_.width - flow_.width) / 2;
+            room_.width = flow_.width;
+        }
     }
 
     void draw() {
-        const MsoVerticalAnchor anchor = story_.layout.anchor;
-        const bool isLow = anchor == msoAnchorBottom || anchor == msoAnchorBottomBaseLine;
-        const float above = isLow ? 1.0F : anchor == msoAnchorMiddle ? 0.5F : 0.0F;
-        float top = room_.top + (room_.height - flow_.height) * above;
+        float top = room_.top + (room_.height - flow_.height) * shareAbove(story_.layout.anchor);
         int count = 0;
         for (const TextRow& row : flow_.rows) {
             const ParagraphFormat& format = story_.paragraphFormats().at(row.paragraph);
@@ -191,7 +192,7 @@ void drawText(const Shape& shape, const Paint& paint, Markup& out) {
     }
     const Frame& frame = shape.frame();
     const MsoTextOrientation orientation = shape.text->layout.orientation;
-    if (orientation == msoTextOrientationHorizontal || orientation == msoTextOrientationHorizontalRotatedFarEast) {
+    if (!isUpright(orientation)) {
         TextBlock(shape, frame, paint, out).draw();
         return;
     }

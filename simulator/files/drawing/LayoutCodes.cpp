@@ -13,9 +13,26 @@ namespace {
 constexpr std::uint32_t wrapped = 0;
 constexpr std::uint32_t unwrapped = 2;
 
-/// By code, from 0; those that centre a text stand in for their like without.
-constexpr std::array anchors{msoAnchorTop,    msoAnchorMiddle, msoAnchorBottom,      msoAnchorTop,
-                             msoAnchorMiddle, msoAnchorBottom, msoAnchorTopBaseline, msoAnchorBottomBaseLine};
+struct Anchoring {
+    MsoVerticalAnchor anchor;
+    bool centered;
+
+    friend bool operator==(const Anchoring&, const Anchoring&) = default;
+};
+
+/// By code, from 0.
+constexpr auto anchors = std::to_array<Anchoring>({
+    {msoAnchorTop, false},
+    {msoAnchorMiddle, false},
+    {msoAnchorBottom, false},
+    {msoAnchorTop, true},
+    {msoAnchorMiddle, true},
+    {msoAnchorBottom, true},
+    {msoAnchorTopBaseline, false},
+    {msoAnchorBottomBaseLine, false},
+    {msoAnchorTopBaseline, true},
+    {msoAnchorBottomBaseLine, true},
+});
 /// By code, from 0.
 constexpr std::array flows{
     msoTextOrientationHorizontal, msoTextOrientationVerticalFarEast,          msoTextOrientationUpward,
@@ -42,7 +59,9 @@ TextLayout readLayout(const Looks& looks) {
     layout.marginTop = looks.points(property::textTop, layout.marginTop);
     layout.marginRight = looks.points(property::textRight, layout.marginRight);
     layout.marginBottom = looks.points(property::textBottom, layout.marginBottom);
-    layout.anchor = fromCode(anchors, looks, property::anchorText, layout.anchor);
+    const auto [anchor, centered] = fromCode(anchors, looks, property::anchorText, Anchoring{layout.anchor, false});
+    layout.anchor = anchor;
+    layout.centered = centered;
     layout.orientation = fromCode(flows, looks, property::textFlow, layout.orientation);
     return layout;
 }
@@ -53,7 +72,7 @@ void writeLayout(PropertyTable& properties, const TextLayout& layout) {
     properties.set(property::textRight, emu(layout.marginRight));
     properties.set(property::textBottom, emu(layout.marginBottom));
     properties.set(property::wrapText, layout.wordWrap ? wrapped : unwrapped);
-    properties.set(property::anchorText, toCode(anchors, layout.anchor));
+    properties.set(property::anchorText, toCode(anchors, Anchoring{layout.anchor, layout.centered}));
     properties.set(property::textFlow, toCode(flows, layout.orientation));
     properties.setFlag(property::textFlags, flag::fitShapeToText, layout.autoSize == ppAutoSizeShapeToFitText);
 }

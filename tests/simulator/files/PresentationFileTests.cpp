@@ -69,6 +69,7 @@ TEST(PresentationFile, KeepsEveryKind) {
         shape->fill.gradientVariant = 1 + type % 4;
         shape->text->layout.orientation = static_cast<MsoTextOrientation>(1 + type % 6);
         shape->text->layout.anchor = static_cast<MsoVerticalAnchor>(1 + type % 5);
+        shape->text->layout.centered = type % 2 == 0;
         slide->add(shape, u"AutoShape");
     }
     for (std::int32_t pattern = 1; pattern <= 48; ++pattern) {

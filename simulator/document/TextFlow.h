@@ -2,7 +2,7 @@
 
 #include "simulator/document/TextStory.h"
 
-namespace simulator::picture {
+namespace simulator {
 
 /// Characters of one row that look alike.
 struct TextPiece {
@@ -12,6 +12,7 @@ struct TextPiece {
 
 /// A row of text as it stands in its shape; lengths in points.
 struct TextRow {
+    Span span; ///< its characters, the blanks at its end included
     std::vector<TextPiece> pieces;
     float width = 0;
     float ascent = 0; ///< from the top of the row to its baseline
@@ -30,8 +31,11 @@ struct TextFlow {
 /// How far the text of a paragraph stands in from the left, in points, its bullet included.
 [[nodiscard]] float indentOf(const ParagraphFormat& format) noexcept;
 
+/// How wide some characters are in one row, in points.
+[[nodiscard]] float widthOf(const TextStory& story, Span characters);
+
 /// Breaks a text at blanks where it would be wider than `room`, or not at all where the story does not wrap. Sizes are
 /// multiplied by `scale`.
 [[nodiscard]] TextFlow flow(const TextStory& story, float room, float scale = 1);
 
-} // namespace simulator::picture
+} // namespace simulator

@@ -1,10 +1,10 @@
-#include "simulator/picture/Advance.h"
+#include "simulator/document/Advance.h"
 
 #include "automation/Text.h"
 
 #include <array>
 
-namespace simulator::picture {
+namespace simulator {
 
 namespace {
 
@@ -18,7 +18,7 @@ constexpr std::array<std::int16_t, 95> widths{
 };
 
 /// Letters with accents of Latin-1 (from U+00C0) as the letters that they are built on.
-constexpr std::u16string_view plain = u"AAAAAAMCEEEEIIIIDNOOOOO+OUUUUYPsaaaaaamceeeeiiiidnooooo+ouuuuypy";
+constexpr std::u16string_view unaccented = u"AAAAAAMCEEEEIIIIDNOOOOO+OUUUUYPsaaaaaamceeeeiiiidnooooo+ouuuuypy";
 
 /// How wide a font runs beside Arial.
 struct Family {
@@ -50,8 +50,8 @@ float shareOf(std::u16string_view fontName) noexcept {
 
 float widthOf(char16_t character) noexcept {
     constexpr char16_t firstAccented = 0xC0;
-    if (character >= firstAccented && character < firstAccented + plain.size()) {
-        character = plain[character - firstAccented];
+    if (character >= firstAccented && character < firstAccented + unaccented.size()) {
+        character = unaccented[character - firstAccented];
     }
     if (character == 0xA0 || character == u'\t' || character == 0x2019) {
         character = character == 0x2019 ? u'\'' : u' ';
@@ -70,4 +70,4 @@ float advanceOf(char16_t character, const CharacterFormat& format) noexcept {
     return widthOf(character) * shareOf(format.fontName) * (format.bold ? boldShare : 1) * format.size;
 }
 
-} // namespace simulator::picture
+} // namespace simulator

@@ -1,10 +1,10 @@
-#include "simulator/picture/TextFlow.h"
+#include "simulator/document/TextFlow.h"
 
-#include "simulator/picture/Advance.h"
+#include "simulator/document/Advance.h"
 
 #include <algorithm>
 
-namespace simulator::picture {
+namespace simulator {
 
 namespace {
 
@@ -66,6 +66,7 @@ private:
     void endRow(std::size_t end) {
         const ParagraphFormat& format = story_.paragraphFormats().at(paragraph_);
         TextRow row;
+        row.span = {start_, end - start_};
         row.paragraph = paragraph_;
         row.isFirst = isFirst_;
         row.pieces = piecesOf(end);
@@ -134,8 +135,16 @@ float indentOf(const ParagraphFormat& format) noexcept {
     return std::max(levels, 0.0F) * indentStep;
 }
 
+float widthOf(const TextStory& story, Span characters) {
+    float width = 0;
+    for (std::size_t place = characters.start; place < characters.end(); ++place) {
+        width += advanceOf(story.text()[place], story.formatAt(place));
+    }
+    return width;
+}
+
 TextFlow flow(const TextStory& story, float room, float scale) {
     return Breaker(story, room, scale).broken();
 }
 
-} // namespace simulator::picture
+} // namespace simulator
