@@ -198,7 +198,7 @@ private:
 
     void scenario(LineParser& words, Position place) {
         if (block_ == nullptr || block_ == &file_.contract.delivered) {
-            throw SyntaxError({place, "expected 'course' before the first scenario"});
+            wrong_.push_back({place, "expected 'course' before the first scenario"});
         }
         Scenario scenario{place, words.text("the title of the scenario, in quotes"), false, {}, {}, {}};
         words.end();
@@ -242,7 +242,8 @@ private:
 
     void add(Statement statement) {
         if (block_ == nullptr) {
-            throw SyntaxError({statement.place, "expected 'course' or 'scenario' before the first statement"});
+            wrong_.push_back({statement.place, "expected 'course' or 'scenario' before the first statement"});
+            block_ = &file_.course;
         }
         if (block_ == &file_.course && std::holds_alternative<Check>(statement.node)) {
             throw SyntaxError({statement.place, "expected a statement that builds the presentation: "

@@ -181,8 +181,9 @@ TEST(Language, NamesWhatIsWrongWithAWholeFile) {
           "save it with the encoding UTF-8"}},
         {std::string_view("\xFF\xFE\x27\0\x0A\0\x0A", 7),
          {"2:1: expected text in UTF-16, found half of a character: the file is cut short"}},
-        {"question 306\nPresentations.Add", {"2:1: expected 'course' or 'scenario' before the first statement"}},
-        {"question 306\nscenario \"a\"", {"2:1: expected 'course' before the first scenario"}},
+        {"question 306\nPresentations.Add\nPresentations.Add",
+         {"2:1: expected 'course' or 'scenario' before the first statement"}},
+        {"question 306\nscenario \"a\"\n x = 1\nscenario \"b\"", {"2:1: expected 'course' before the first scenario"}},
         {"question 306\nletter \"A\" 3\nremark \"\" \"x\"\nerror 0 \"X\" \"x\"\ntask \"a\"\nletter \"B\" \"x\"\ntask "
          "\"b\"\n"
          "remark \"B\" \"y\"\ndelivered\n s.Left = 2\ns.Delete\n expect error 5: s.X\nscenario "
@@ -191,7 +192,9 @@ TEST(Language, NamesWhatIsWrongWithAWholeFile) {
          {"2:12: expected what it means, in quotes, found 3", "3:8: expected the letter, in quotes, found \"\"",
           "4:16: expected ':', found the end of the line", "7:1: expected one task only",
           "8:1: expected one meaning only for \"B\"", changed(10, 2), changed(11, 1), changed(12, 2),
-          "13:1: expected 'course' before the first scenario", "14:1: expected 'delivered' once only",
+          "13:1: expected 'course' before the first scenario",
+          "14:1: expected what must be delivered before the course",
+          "15:1: expected one course only, before the scenarios",
           "16:1: expected what must be delivered before the course",
           "17:1: expected what a verdict means before the course"}},
         {"question 306\ncourse\n check \"A\"",
