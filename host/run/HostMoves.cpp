@@ -11,6 +11,11 @@ void HostMoves::forgetPowerPoint() {
     host_.window = TrainingHost::unknownWindow;
 }
 
+void HostMoves::kill() {
+    forgetPowerPoint();
+    host_.kill();
+}
+
 const automation::MemberTable& HostMoves::members() const {
     using automation::method;
     using automation::property;
@@ -23,6 +28,7 @@ const automation::MemberTable& HostMoves::members() const {
         property<&HostMoves::application, &HostMoves::setApplication>(u"Application"),
         property<&HostMoves::window, &HostMoves::setWindow>(u"Window"),
         method<&HostMoves::forgetPowerPoint>(u"ForgetPowerPoint"),
+        method<&HostMoves::kill>(u"Kill"),
         property<&HostMoves::erreurGenerale>(u"ErreurGenerale"),
         property<&HostMoves::causeErreur>(u"CauseErreur"),
         property<&HostMoves::bravoNuance>(u"BravoNuance"),

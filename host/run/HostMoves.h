@@ -16,6 +16,7 @@ namespace host {
 /// - `Set Host.Application = Application` has the host bring a PowerPoint of its own
 /// - `Host.Window = PowerPoint.Window` gives the handle of that PowerPoint's window, -1 unknown
 /// - `Host.ForgetPowerPoint` leaves the host without a PowerPoint
+/// - `Host.Kill` ends the host's process; another begins, which knows nothing
 /// - `expect Host.CauseErreur = ""` reads the module's answer, as do `Host.ErreurGenerale` and `Host.BravoNuance`
 /// - `expect Host.Folder = "C:\Formation\"` reads the host's folder
 class HostMoves final : public automation::Published {
@@ -33,6 +34,7 @@ public:
     [[nodiscard]] std::int32_t window() const { return host_.window; }
     void setWindow(std::int32_t window) { host_.window = window; }
     void forgetPowerPoint();
+    void kill();
     [[nodiscard]] bool erreurGenerale() { return host_.world().module().erreurGenerale(); }
     [[nodiscard]] std::u16string causeErreur() { return host_.world().module().causeErreur(); }
     [[nodiscard]] bool bravoNuance() { return host_.world().module().bravoNuance(); }

@@ -87,6 +87,12 @@ void TrainingHost::quitter() {
     call(HostCall::Quitter, [&] { world_.module().quitter(application, window); });
 }
 
+void TrainingHost::kill() {
+    isLeft_ = true;
+    isOpen_ = false;
+    world_.killHost();
+}
+
 void TrainingHost::finish() {
     if (isOpen_) {
         fermer();

@@ -24,6 +24,8 @@ public:
     void testePoint();
     void fermer();
     void quitter();
+    /// Its process is killed, whatever it was about.
+    void kill();
     /// What a host does at the end: closes the question that has been begun, and leaves the module, where the one or
     /// the other has not been done yet.
     void finish();

@@ -43,6 +43,7 @@ public:
     }
     ~ComWorld() override {
         module_.reset();
+        killed_.clear();
         powerPoint_.dismiss();
         desktop_->journal().giveBack();
     }
@@ -53,6 +54,7 @@ public:
         }
         return *module_;
     }
+    void killHost() override { killed_.push_back(std::move(module_)); }
     std::u16string hostFolder() const override { return std::u16string(courseFolder); }
 
     PowerPoint& powerPoint() override { return powerPoint_; }
@@ -61,6 +63,7 @@ public:
 
     std::vector<std::string> leftOpen() override {
         module_.reset();
+        killed_.clear();
         return canLibraryUnload() ? std::vector<std::string>()
                                   : std::vector<std::string>{"the library cannot be unloaded"};
     }
@@ -104,6 +107,7 @@ private:
     DesktopPowerPoint powerPoint_{desktop_->journal()};
     automation::ObserverPtr observer_;
     std::optional<ObservedWindows> windows_;
+    std::vector<std::unique_ptr<ModuleClient>> killed_; ///< by their hosts: nobody calls them
     std::unique_ptr<ModuleClient> module_;
 };
 

@@ -89,13 +89,14 @@ public:
     }
 
     ModuleClient& module() override {
-        if (!module_) {
-            module_.emplace(
-                std::make_shared<k73053::Module>(shared_, observed_ ? observed_->services() : machine_.services()),
-                observer_);
+        if (!loaded_) {
+            const platform::Services& services = observed_ ? observed_->services() : machine_.services();
+            loaded_ = std::make_unique<Loaded>();
+            loaded_->module.emplace(std::make_shared<k73053::Module>(loaded_->shared, services), observer_);
         }
-        return *module_;
+        return *loaded_->module;
     }
+    void killHost() override { killed_.push_back(std::move(loaded_)); }
     std::u16string hostFolder() const override { return std::u16string(courseFolder); }
     PowerPoint& powerPoint() override { return powerPoint_; }
     Registry& registry() override { return registry_; }
@@ -117,6 +118,12 @@ public:
     }
 
 private:
+    /// The library in the process of a host.
+    struct Loaded {
+        exercises::API shared;
+        std::optional<LateBoundModule> module;
+    };
+
     ObserverPtr observer_;
     TemporaryFolder root_;
     simulator::Machine machine_{root_.path()};
@@ -124,8 +131,8 @@ private:
     MachineRegistry registry_{machine_};
     MachineFiles files_{machine_};
     std::optional<platform::ObservedServices> observed_;
-    exercises::API shared_;
-    std::optional<LateBoundModule> module_;
+    std::vector<std::unique_ptr<Loaded>> killed_;
+    std::unique_ptr<Loaded> loaded_;
 };
 
 } // namespace

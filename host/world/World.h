@@ -20,6 +20,8 @@ public:
 
     /// The module, created at the first use.
     [[nodiscard]] virtual ModuleClient& module() = 0;
+    /// The host's process is killed: its module does nothing more, and the next use creates another.
+    virtual void killHost() = 0;
     /// The folder in which the host works, with its trailing backslash; it exists.
     [[nodiscard]] virtual std::u16string hostFolder() const = 0;
 

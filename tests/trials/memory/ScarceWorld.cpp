@@ -39,6 +39,7 @@ public:
     ScarceWorld(WorldPtr world, Scarcity& scarcity) : world_(std::move(world)), module_(world_->module(), scarcity) {}
 
     ModuleClient& module() override { return module_; }
+    void killHost() override { world_->killHost(); }
     std::u16string hostFolder() const override { return world_->hostFolder(); }
     PowerPoint& powerPoint() override { return world_->powerPoint(); }
     Registry& registry() override { return world_->registry(); }
