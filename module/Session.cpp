@@ -176,7 +176,9 @@ void Session::readStartupDialog() {
 }
 
 void Session::restoreStartupDialog() const noexcept {
-    ignoringErrors([&] { application_.ShowStartupDialog(startupDialog_ ? ppt::msoTrue : ppt::msoFalse); });
+    if (startupDialog_) {
+        ignoringErrors([&] { application_.ShowStartupDialog(*startupDialog_ ? ppt::msoTrue : ppt::msoFalse); });
+    }
 }
 
 } // namespace k73053

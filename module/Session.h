@@ -3,6 +3,8 @@
 #include "platform/Services.h"
 #include "ppt/Application.h"
 
+#include <optional>
+
 namespace k73053 {
 
 /// The PowerPoint in use: how it is obtained, tested, brought forward and put into the state that the exercises expect.
@@ -58,7 +60,7 @@ public:
     /// Reads whether the start dialog is shown; where it cannot be read, what was kept stays.
     void readStartupDialog();
 
-    /// Gives the start dialog the setting kept; a refusal is passed over.
+    /// Gives the start dialog the setting kept, where there is one; a refusal is passed over.
     void restoreStartupDialog() const noexcept;
 
 private:
@@ -68,7 +70,7 @@ private:
     const platform::Services services_;
     ppt::Application application_;
     platform::WindowHandle window_ = 0;
-    bool startupDialog_ = false;
+    std::optional<bool> startupDialog_; ///< nothing as long as it could not be read
     bool taskPane_ = false;
 };
 
