@@ -9,7 +9,9 @@ namespace trials {
 ///@{
 [[nodiscard]] host::Action addTorture(CLI::App& command);
 [[nodiscard]] host::Action addMemory(CLI::App& command);
+[[nodiscard]] host::Action addPairs(CLI::App& command);
 [[nodiscard]] host::Action addLearners(CLI::App& command);
+[[nodiscard]] host::Action addDays(CLI::App& command);
 [[nodiscard]] host::Action addCost(CLI::App& command);
 [[nodiscard]] host::Action addHistories(CLI::App& command);
 [[nodiscard]] host::Action addDecks(CLI::App& command);

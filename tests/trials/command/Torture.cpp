@@ -4,6 +4,7 @@
 #include "tests/trials/command/Commands.h"
 #include "tests/trials/command/ProcessorTime.h"
 #include "tests/trials/memory/MemoryTrial.h"
+#include "tests/trials/pairs/PairTrial.h"
 
 #include <ostream>
 
@@ -78,6 +79,15 @@ ExitCode runMemory(const TortureRequest& request, const CommandContext& at) {
                   });
 }
 
+/// Makes a second thing fail in the operation in which one has failed.
+ExitCode runPairs(const TortureRequest& request, const CommandContext& at) {
+    return runAll(request, at, "pair",
+                  [&](const language::ScenarioFile& file, std::mt19937& random, Totals& totals, const auto& report,
+                      const auto& advance) {
+                      pairs::PairTrial(file, at.worlds.embedded, request.every, random).run(totals, report, advance);
+                  });
+}
+
 Action add(CLI::App& command, ExitCode (*run)(const TortureRequest&, const CommandContext&)) {
     const auto request = std::make_shared<TortureRequest>();
     addQuestions(command, request->questions);
@@ -96,6 +106,10 @@ Action addTorture(CLI::App& command) {
 
 Action addMemory(CLI::App& command) {
     return add(command, runMemory);
+}
+
+Action addPairs(CLI::App& command) {
+    return add(command, runPairs);
 }
 
 } // namespace trials

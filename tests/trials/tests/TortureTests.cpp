@@ -1,5 +1,6 @@
 #include "host/command/Library.h"
 #include "host/world/EmbeddedWorld.h"
+#include "tests/trials/pairs/PairTrial.h"
 #include "tests/trials/torture/Torture.h"
 
 #include <gtest/gtest.h>
@@ -114,6 +115,42 @@ TEST(TortureTests, CheckerDemandsWhatIsPrescribed) {
     lost.powerPointEnded = true;
     const Checker checker(306, {HostCall::Fermer, {}}, flawless, {&closing, 1});
     EXPECT_EQ(checker.assess(lost, 0, deaf).findings.size(), 4U);
+}
+
+/// Of two failures either may be told, in its own way; a verdict that nobody knows, silence about what the first alone
+/// has led to, and anything lost are wrong.
+TEST(TortureTests, PairsDemandAKnownAnswer) {
+    using trials::pairs::Aftermath;
+    const Fault busy{Fault::Kind::Busy, Lasting::Once};
+    const std::array<trials::pairs::Trouble, 2> troubles{{{busy, false, 1}, {std::nullopt, true, 2}}};
+    const auto findings = [&](const Outcome& both, const Outcome& alone) {
+        const Aftermath flawless{reading(u"", false), {}, {}, {}};
+        return assess({both, {}, {}, {}}, {alone, {}, {}, {}}, flawless, troubles, {HostCall::TestePoint, {}})
+            .findings.size();
+    };
+    const Outcome silent = reading(u"", false);
+    const Outcome told = raising(busy.error());
+    Outcome lost = silent;
+    lost.findings = {"lost"};
+    lost.bars = {"moved"};
+    lost.isStruck = false;
+    lost.powerPointEnded = true;
+    const std::vector<std::tuple<Outcome, Outcome, std::size_t>> cases{
+        {silent, silent, 0},
+        {told, silent, 0},
+        {told, told, 0},
+        {raising(Error(automation::RunTimeError::OutOfMemory)), told, 0},
+        {reading(u"%AL", true), silent, 0},
+        {silent, told, 1},
+        {raising(Error(automation::RunTimeError::ObjectNotSet)), silent, 1},
+        {reading(u"B", true), silent, 1},
+        {reading(u"Q", false), silent, 1},
+        {lost, silent, 4},
+    };
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const auto& [both, alone, wrong] = cases[i];
+        EXPECT_EQ(findings(both, alone), wrong) << "case " << i;
+    }
 }
 
 /// Every operation of every question goes along its expected trace, and a sample of one question's failed calls comes

@@ -1,0 +1,61 @@
+#include "tests/trials/days/Mischief.h"
+
+namespace trials::days {
+
+using automation::Border;
+using automation::Error;
+
+void Mischief::begin(World& world, std::vector<Trouble> troubles) {
+    world_ = &world;
+    troubles_ = std::move(troubles);
+    hostCalls_ = 0;
+}
+
+void Mischief::calling(HostCall call) {
+    isPreparing_ = call == HostCall::InitQuestion;
+    ++hostCalls_;
+    const bool isRunning = world_->powerPoint().window() != 0;
+    const auto due = std::find_if(troubles_.begin(), troubles_.end(),
+                                  [&](const Trouble& each) { return each.hostCall == hostCalls_; });
+    if (due == troubles_.end() || (isRemote_ && !isRunning)) {
+        return;
+    }
+    armed_ = &*due;
+    if (isRemote_) {
+        armed_->fault.arm(due->position);
+    } else {
+        strike_ = due->fault.at(due->position, *world_);
+    }
+}
+
+void Mischief::called(HostCall /*call*/, const Error* /*error*/) {
+    if (armed_ == nullptr) {
+        return;
+    }
+    const bool hasStruck = isRemote_ ? armed_->fault.hasStruck(*world_) : strike_.hasStruck();
+    struck_ += hasStruck ? 1 : 0;
+    if (isRemote_ && world_->powerPoint().window() != 0) {
+        torture::Fault::disarm();
+    }
+    armed_ = nullptr;
+    strike_ = {};
+}
+
+automation::Value Mischief::around(const automation::Crossing& crossing, const Next& next) {
+    if (!strike_.observer) {
+        return next();
+    }
+    bool isPassed = false;
+    try {
+        return strike_.observer->around(crossing, [&] {
+            isPassed = true;
+            return next();
+        });
+    } catch (const Error&) {
+        const bool isOfBars = crossing.target.starts_with(u"CommandBar") || crossing.member == u"CommandBars";
+        barsUnread_ += !isPassed && isPreparing_ && isOfBars ? 1 : 0;
+        throw;
+    }
+}
+
+} // namespace trials::days
