@@ -31,16 +31,17 @@ ExitCode talk(const TryRequest& request, const CommandContext& at) {
     const WorldMaker& makeWorld = at.worlds.chosen();
     const std::unique_ptr<LineReader> lines = at.makeLines();
     Course course = courseOf(file, request.course, makeWorld);
-    at.out << shortfallOf(course, file, makeWorld);
+    const std::string shortfall = shortfallOf(course, file, makeWorld);
+    at.out << shortfall;
     Conversation conversation(file, std::move(course), makeWorld, *lines, at.out, inputsOf(file, request.course));
-    return conversation.run() ? ExitCode::Good : ExitCode::FellShort;
+    return conversation.run() && shortfall.empty() ? ExitCode::Good : ExitCode::FellShort;
 }
 
 } // namespace
 
 Action addTry(CLI::App& command) {
     const auto request = std::make_shared<TryRequest>();
-    addScenarioFile(command, request->question)->required();
+    addScenarioFile(command, request->question);
     addCourse(command, request->course);
     return [request](const CommandContext& at) { return talk(*request, at); };
 }

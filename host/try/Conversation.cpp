@@ -36,6 +36,15 @@ OutputFile outputOf(const std::string& verb, const std::string& name) {
     return {name, verb.ends_with('!') ? std::optional(std::string()) : std::nullopt, "say " + verb + "! to replace it"};
 }
 
+/// Other programs take a file for what its name ends with.
+void requireExtension(const std::string& verb, const std::string& file, const std::string& extension) {
+    fs::path path = pathOf(file);
+    if (!automation::equalIgnoringCase(path.extension().u16string(), fromUtf8("." + extension))) {
+        throw std::runtime_error("The file is of the kind " + extension + ": say " + verb + " " +
+                                 toUtf8(path.replace_extension(extension).u16string()));
+    }
+}
+
 } // namespace
 
 const std::vector<Conversation::Verb>& Conversation::verbs() {
@@ -130,7 +139,9 @@ const Conversation::Verb* Conversation::verbOf(const std::string& word) {
 void Conversation::obey(const std::string& line) {
     const std::size_t stop = std::min(line.find_first_of(" \t\""), line.size());
     const std::string rest = trimmed(line.substr(stop));
-    const Verb* const verb = rest.starts_with('=') ? nullptr : verbOf(line.substr(0, stop));
+    // `Exit Sub` is of a macro.
+    const Verb* const named = rest.starts_with('=') ? nullptr : verbOf(line.substr(0, stop));
+    const Verb* const verb = named != nullptr && named->name == "exit" && !rest.empty() ? nullptr : named;
     try {
         if (line.starts_with('?')) {
             print(" " + line.substr(1)); // columns count in the line
@@ -269,8 +280,15 @@ void Conversation::members(const std::string& expression) {
     out_ << "  " << row << '\n';
 }
 
+void Conversation::requireExpectation() const {
+    if (!open_->expectsSomething()) {
+        throw std::runtime_error("The scenario expects nothing yet: check, and it expects what the host reads");
+    }
+}
+
 void Conversation::saveBy(const std::string& verb, const std::string& rest) {
     const Destination to(verb, rest);
+    requireExpectation();
     const OutputFile output = outputOf(verb, to.file);
     output.requireNoneOf(inputs_);
     output.write(language::scenarioText(file_, to.title, open_->statements()));
@@ -282,6 +300,7 @@ void Conversation::append(const std::string& rest) {
     if (!fs::exists(pathOf(to.file))) {
         return saveBy("save", rest);
     }
+    requireExpectation();
     addScenario(to.file, file_, to.title, open_->statements());
     saved(to.title, to.file);
 }
@@ -290,9 +309,6 @@ void Conversation::saved(const std::u16string& title, const std::string& file) {
     saved_ = open_->statements();
     out_ << "Scenario \"" << toUtf8(title) << "\" is in " << file << ", with " << counted(open_->moves(), "move")
          << " and " << counted(open_->checks(), "check") << ".\n";
-    if (open_->checks() == 0) {
-        out_ << "It expects nothing yet: check before saving, and it expects what the host reads.\n";
-    }
     if (!course_.isBuilt()) {
         out_ << "The moves were made on the course's own files; verify will judge it on the presentation that the "
                 "scenario file builds.\n";
@@ -304,12 +320,14 @@ void Conversation::leave() {
     isOver_ = !isLost || isWarned_ || !lines_.isTyped();
     isWarned_ = true;
     if (!isOver_) {
-        out_ << counted(open_->moves(), "move")
-             << " not saved: save mine.scn keeps them; quit once more, and they go.\n";
+        out_ << counted(open_->moves(), "move") << " not saved: " << (open_->expectsSomething() ? "" : "check and ")
+             << "save mine.scn keep" << (open_->expectsSomething() ? "s" : "")
+             << " them; quit once more, and they go.\n";
     }
 }
 
 void Conversation::exportBy(const std::string& verb, const std::string& file) {
+    requireExtension(verb, file, "ppt");
     const Bytes content = open_->presentation();
     const OutputFile output = outputOf(verb, file);
     output.requireNoneOf(inputs_);
@@ -323,9 +341,10 @@ void Conversation::pictureBy(const std::string& verb, const std::string& file) {
     if (picture == nullptr || picture->bytes.empty()) {
         throw std::runtime_error("No slide is to be seen");
     }
+    requireExtension(verb, file, picture->extension);
     outputOf(verb, file).write(picture->bytes);
     out_ << "The picture of slide " << exposure.numberOf(exposure.shown) << " is in "
-         << toUtf8(fs::absolute(pathOf(file)).u16string()) << " (" << picture->extension << ").\n";
+         << toUtf8(fs::absolute(pathOf(file)).u16string()) << ".\n";
 }
 
 void Conversation::help(const std::string& /*rest*/) {

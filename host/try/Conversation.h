@@ -63,6 +63,8 @@ private:
 
     /// Prepares the question anew and makes these statements once more; says which could not be made.
     void remake(std::vector<language::Statement> steps);
+    /// Raises std::runtime_error where a scenario of what was done would pass whatever happens.
+    void requireExpectation() const;
     /// What has been written holds all that was done.
     void saved(const std::u16string& title, const std::string& file);
     /// Ends the conversation; the first time not, where moves are not saved and somebody can be told so.

@@ -53,6 +53,11 @@ std::size_t OpenQuestion::moves() const {
     return static_cast<std::size_t>(std::count_if(steps_.begin(), steps_.end(), std::mem_fn(&Step::isMove)));
 }
 
+bool OpenQuestion::expectsSomething() const {
+    return std::any_of(steps_.begin(), steps_.end(),
+                       [](const Step& step) { return language::expectsSomething(step.statement); });
+}
+
 std::vector<std::u16string> OpenQuestion::statements() const {
     std::vector<std::u16string> all;
     for (const Step& step : steps_) {

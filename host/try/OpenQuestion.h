@@ -30,6 +30,8 @@ public:
     /// How many moves were made, and how often was checked.
     [[nodiscard]] std::size_t moves() const;
     [[nodiscard]] std::size_t checks() const noexcept { return checks_; }
+    /// True where a scenario of the statements says what comes of its moves.
+    [[nodiscard]] bool expectsSomething() const;
     /// The statements of a scenario in which the same happens.
     [[nodiscard]] std::vector<std::u16string> statements() const;
     /// The moves without the checks, to be made once more; none are left here.

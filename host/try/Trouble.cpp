@@ -12,6 +12,7 @@ namespace {
 struct Advice {
     std::int32_t error;
     std::string_view text;
+    std::string_view said{}; ///< what the message must hold: the same number is raised elsewhere as well
 };
 
 constexpr std::int32_t numberOf(automation::RunTimeError error) {
@@ -20,17 +21,19 @@ constexpr std::int32_t numberOf(automation::RunTimeError error) {
 
 constexpr auto advices = std::to_array<Advice>({
     {numberOf(automation::RunTimeError::TypeMismatch), "?x prints what a value x is"},
-    {numberOf(automation::RunTimeError::ObjectNotSet), "Set x = ... gives a variable its object"},
+    {numberOf(automation::RunTimeError::ObjectNotSet), "Set x = ... gives a variable its object", "[K73053]"},
+    {numberOf(automation::RunTimeError::ObjectNotSet), "reset prepares the question anew", " - SERVICE "},
     {numberOf(automation::RunTimeError::ObjectRequired), "?x prints what a value x is"},
     {numberOf(automation::RunTimeError::CannotCreateObject), "reset prepares the question anew"},
-    {numberOf(automation::RunTimeError::MemberNotFound), "members x lists those of an object x"},
+    {numberOf(automation::RunTimeError::MemberNotFound), "members x lists those of an object x", "has no member"},
     {automation::remote::disconnected, "reset prepares the question anew"},
     {automation::remote::serverUnavailable, "reset prepares the question anew"},
 });
 
-std::string_view adviceFor(std::int32_t error) {
-    const auto* const found =
-        std::find_if(advices.begin(), advices.end(), [&](const Advice& each) { return each.error == error; });
+std::string_view adviceFor(const language::Failure& failure) {
+    const auto* const found = std::find_if(advices.begin(), advices.end(), [&](const Advice& each) {
+        return each.error == failure.error && failure.remark.message.find(each.said) != std::string::npos;
+    });
     return found == advices.end() ? std::string_view() : found->text;
 }
 
@@ -45,7 +48,7 @@ std::string explained(const language::SyntaxError& error) {
 }
 
 std::string explained(const language::Failure& failure) {
-    const std::string_view advice = adviceFor(failure.error);
+    const std::string_view advice = adviceFor(failure);
     return explained(failure.remark) + (advice.empty() ? "" : " (" + std::string(advice) + ")");
 }
 

@@ -156,10 +156,11 @@ def main(host):
         expect(terminal, "a move is made", "x = 1", "")
         terminal.type(leave)
         said = terminal.wait_for("\n" + PROMPT)
-        check("who leaves is warned of moves that are not saved", "" if "1 move not saved" in said else repr(said))
+        check("who leaves is warned of moves that are not saved", "" if "1 move not saved: check" in said else repr(said))
         expect(terminal, "and goes on", "reset", "1 move")
     with tempfile.TemporaryDirectory() as folder:
         terminal.answer("x = 1")
+        terminal.answer("check")
         expect(terminal, "moves are saved", f"save {folder}/mine.scn", "1 move")
         terminal.type(INTERRUPT)
         check("no warning where all is saved", "" if "not saved" not in terminal.wait_for(CLOSED) else "a warning")
