@@ -2,8 +2,13 @@
 #include "host/command/Options.h"
 #include "host/command/Trouble.h"
 #include "host/language/Folding.h"
+#include "host/language/Likeness.h"
 #include "host/world/EmbeddedWorld.h"
 #include "host/world/RealFile.h"
+
+#include "automation/Text.h"
+
+#include <algorithm>
 
 namespace host {
 
@@ -87,11 +92,40 @@ ExitCode perform(const CommandLine& asked, const WorldMaker& embedded, const Com
     });
 }
 
+/// What is said of the first word that is no command and no option of the one that is asked.
+std::string unknownWord(const CLI::App& app, const std::vector<std::string>& arguments) {
+    const std::vector<std::string> unknown = app.remaining(true);
+    const auto first = std::find_first_of(arguments.begin(), arguments.end(), unknown.begin(), unknown.end());
+    const std::string word = first == arguments.end() ? unknown.front() : *first;
+    const std::vector<CLI::App*> asked = app.get_subcommands();
+    std::vector<std::u16string> names;
+    const auto add = [&](const std::string& name) { names.push_back(automation::fromUtf8(name)); };
+    for (const CLI::App* const each : {&app, asked.empty() ? &app : asked.front()}) {
+        for (const CLI::Option* const option :
+             each->get_options([](const CLI::Option* any) { return !any->get_lnames().empty(); })) {
+            add(option->get_name());
+        }
+    }
+    for (const CLI::App* const command : app.get_subcommands(nullptr)) {
+        add(asked.empty() ? command->get_name() : app.get_name());
+    }
+    const std::string like =
+        automation::toUtf8(language::suggestion(automation::fromUtf8(word), {names.begin(), names.end()}));
+    const std::string what = word.starts_with('-') ? "no option '"
+                             : asked.empty()       ? "no command '"
+                                                   : "nothing to do with '";
+    return what + word + '\'' + (like.empty() ? "." : like) + " See " + app.get_name() +
+           (asked.empty() ? "" : " " + asked.front()->get_name()) + " --help";
+}
+
 /// Reads the command line, and does what it says.
 ExitCode obey(CommandLine& line, const std::vector<std::string>& arguments, const WorldMaker& makeWorld,
               const ComWorldsMaker& makeComWorlds, const LineReaderMaker& makeLines, Output output) {
     try {
         line.app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::ExtrasError&) {
+        output.error << line.app.get_name() << ": " << unknownWord(line.app, arguments) << '\n';
+        return ExitCode::WrongUsage;
     } catch (const CLI::ParseError& error) {
         return line.app.exit(error, output.out, output.error) == 0 ? ExitCode::Good : ExitCode::WrongUsage;
     }

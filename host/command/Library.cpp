@@ -5,6 +5,7 @@
 #include "host/language/Words.h"
 #include "host/reason/Delivery.h"
 #include "host/world/RealFile.h"
+#include "simulator/files/compound/Layout.h"
 
 #include <algorithm>
 #include <numeric>
@@ -62,22 +63,18 @@ std::vector<fs::path> Library::filesOfCourse(const std::vector<std::int32_t>& qu
 }
 
 fs::path Library::fileNamed(const std::string& name) const {
+    if (name.empty()) {
+        throw UsageError("which question? Name its number, or a scenario file");
+    }
     constexpr std::size_t longest = 9; // an std::int32_t has room for
     const bool isNumber = name.size() <= longest && name.find_first_not_of("0123456789") == std::string::npos;
-    return isNumber && !name.empty() ? fileOf(std::stoi(name)) : pathOf(name);
+    return isNumber ? fileOf(std::stoi(name)) : pathOf(name);
 }
 
 std::vector<fs::path> Library::filesNamed(const std::vector<std::string>& names) const {
     std::vector<fs::path> paths;
     for (const std::string& name : names) {
-        fs::path path = fileNamed(name);
-        const auto isIt = [&](const fs::path& other) {
-            std::error_code failed;
-            return other == path || fs::equivalent(other, path, failed);
-        };
-        if (std::none_of(paths.begin(), paths.end(), isIt)) {
-            paths.push_back(std::move(path));
-        }
+        addOnce(paths, fileNamed(name));
     }
     return names.empty() ? files() : paths;
 }
@@ -89,9 +86,13 @@ std::vector<language::ScenarioFile> load(const std::vector<fs::path>& paths) {
         if (std::error_code failed; !fs::exists(path, failed)) {
             throw UsageError("no scenario file: " + path.string());
         }
-        const Bytes content = contentsOf(path);
+        const Bytes bytes = contentsOf(path);
+        const std::string content(bytes.begin(), bytes.end());
+        if (content.starts_with(simulator::compound::signature)) {
+            throw UsageError(path.string() + " is a presentation, not a scenario file: recheck judges it");
+        }
         try {
-            files.push_back(language::parse(path.string(), std::string(content.begin(), content.end())));
+            files.push_back(language::parse(path.string(), content));
         } catch (const language::WrongLines& found) {
             wrong.push_back(found);
         }

@@ -52,7 +52,7 @@ ExitCode play(const PlayRequest& request, const CommandContext& at) {
 
 Action addPlay(CLI::App& command) {
     const auto request = std::make_shared<PlayRequest>();
-    addScenarioFile(command, request->question)->required();
+    addScenarioFile(command, request->question);
     addCourse(command, request->course);
     return [request](const CommandContext& at) { return play(*request, at); };
 }

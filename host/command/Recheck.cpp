@@ -6,6 +6,7 @@
 #include "host/reason/Explainer.h"
 #include "host/reason/Told.h"
 #include "host/run/TrainingHost.h"
+#include "host/world/MachineFault.h"
 #include "host/world/Members.h"
 #include "host/world/RealFile.h"
 
@@ -29,15 +30,26 @@ using automation::LateBound;
 using automation::ObjectPtr;
 using automation::toUtf8;
 
+/// Raises std::runtime_error, in words for the teacher.
+ObjectPtr opened(const LateBound& application, const std::u16string& path, const fs::path& file) {
+    try {
+        return memberOf(application, u"Presentations").call(u"Open", path).to<ObjectPtr>();
+    } catch (const automation::Error&) {
+        throw std::runtime_error(file.string() + " cannot be opened: it is damaged, or no presentation of PowerPoint " +
+                                 "97 to 2003; ask the learner to save it again");
+    }
+}
+
 /// Opens the learner's file as the working presentation. The one that the module has opened moves aside and stays open:
 /// what the question has kept of it lives on.
-void exchange(World& world, const Bytes& file, std::int32_t question) {
+void exchange(World& world, const fs::path& file, std::int32_t question) {
+    const Bytes content = contentsOf(file);
     const LateBound application(world.powerPoint().application());
     const LateBound prepared = memberOf(application, u"ActivePresentation");
     const auto path = prepared.get(u"FullName").to<std::u16string>();
     prepared.call(u"SaveAs", world.hostFolder() + u"delivered.ppt");
-    world.files().write(path, file);
-    const auto saved = memberOf(application, u"Presentations").call(u"Open", path).to<ObjectPtr>();
+    world.files().write(path, content);
+    const ObjectPtr saved = opened(application, path, file);
     for (const LiveCheck& check : liveChecks()) {
         if (check.concerns(question) && check.assume != nullptr) {
             check.assume(world, saved);
@@ -64,32 +76,30 @@ struct Judged {
     }
     /// Trouble mostly names the file itself.
     [[nodiscard]] bool isNamed() const { return !reading && trouble.starts_with(name); }
-    [[nodiscard]] std::string verdict() const { return reading ? reading->display() : trouble; }
 };
 
 /// The verdict of the module on the file.
 Reading judge(World& world, const Course& course, std::int32_t question, const fs::path& file, Witness& witness) {
-    const Bytes saved = contentsOf(file);
     TrainingHost host(world, course, question, witness);
     host.initQuestion(question, world.hostFolder());
     try {
-        exchange(world, saved, question);
-    } catch (const automation::Error& error) {
+        exchange(world, file, question);
+    } catch (const std::exception&) {
         host.finish();
-        throw UsageError(file.string() + ": " + toUtf8(error.description()));
+        throw;
     }
     Reading reading = host.check();
     host.finish();
     return reading;
 }
 
-/// The presentations meant: those named, and those below the folders named, by name.
+/// The presentations meant, each once: those named, and those below the folders named, by name.
 std::vector<fs::path> presentations(const std::vector<std::string>& named) {
     std::vector<fs::path> all;
     for (const std::string& name : named) {
         const fs::path path = pathOf(name);
         if (!fs::is_directory(path)) {
-            all.push_back(path);
+            addOnce(all, path);
             continue;
         }
         std::vector<fs::path> inside;
@@ -105,7 +115,7 @@ std::vector<fs::path> presentations(const std::vector<std::string>& named) {
             throw UsageError("no presentation (.ppt) below " + name);
         }
         std::sort(inside.begin(), inside.end());
-        all.insert(all.end(), inside.begin(), inside.end());
+        std::for_each(inside.begin(), inside.end(), [&](const fs::path& each) { addOnce(all, each); });
     }
     return all;
 }
@@ -117,9 +127,11 @@ Judged judgedOf(const fs::path& path, const Course& course, const language::Scen
     const WorldPtr world = at.worlds.embedded(explainer.observer());
     try {
         judged.reading = judge(*world, course, file.question, path, explainer);
-    } catch (const std::runtime_error& error) {
-        judged.trouble = error.what();
-    } catch (const UsageError& error) {
+    } catch (const MachineFault&) {
+        throw;
+    } catch (const automation::Error& error) {
+        judged.trouble = inWords(error);
+    } catch (const std::exception& error) {
         judged.trouble = error.what();
     }
     return judged;
@@ -129,7 +141,7 @@ Judged judgedOf(const fs::path& path, const Course& course, const language::Scen
 void printTable(const std::vector<Judged>& all, std::ostream& out) {
     std::map<std::string, std::size_t> counts;
     for (const Judged& judged : all) {
-        ++counts[judged.reading ? judged.verdict() : "not judged"];
+        ++counts[judged.reading ? judged.reading->display() : "not judged"];
     }
     std::vector<std::pair<std::string, std::size_t>> rows(counts.begin(), counts.end());
     std::stable_sort(rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
@@ -140,8 +152,11 @@ void printTable(const std::vector<Judged>& all, std::ostream& out) {
 }
 
 nlohmann::ordered_json toJson(const Judged& judged) {
-    nlohmann::ordered_json object{{"file", judged.name}, {"passed", judged.isGood()}, {"verdict", judged.verdict()}};
-    if (judged.reading) {
+    nlohmann::ordered_json object{{"file", judged.name}, {"passed", judged.isGood()}};
+    if (!judged.reading) {
+        object["trouble"] = judged.trouble;
+    } else {
+        object["verdict"] = judged.reading->display();
         object["ErreurGenerale"] = judged.reading->erreurGenerale;
         object["CauseErreur"] = toUtf8(judged.reading->causeErreur);
         object["BravoNuance"] = judged.reading->bravoNuance;
@@ -175,8 +190,9 @@ void printJson(const std::vector<Judged>& all, std::int32_t question, const std:
 void printAll(const std::vector<Judged>& all, std::int32_t question, const CommandContext& at) {
     for (const Judged& judged : all) {
         const std::string head = all.size() == 1 ? "Question " + std::to_string(question) : judged.name;
-        at.out << (judged.isNamed() ? "" : head + ": ")
-               << (judged.isGood() ? at.ink.good(judged.verdict()) : at.ink.bad(judged.verdict())) << '\n';
+        const std::string told = judged.reading ? judged.reading->display() : judged.trouble;
+        at.out << (judged.isNamed() ? "" : head + ": ") << (judged.isGood() ? at.ink.good(told) : at.ink.bad(told))
+               << '\n';
         const Reading reading = judged.reading.value_or(Reading());
         for (const std::string& line : {reason::sentence(reading.meaning), reading.reason}) {
             at.out << (line.empty() || all.size() == 1 ? "" : "    ") << line << (line.empty() ? "" : "\n");
@@ -217,7 +233,8 @@ ExitCode recheck(const RecheckRequest& request, const CommandContext& at) {
     if (std::any_of(all.begin(), all.end(), [](const Judged& judged) { return !judged.reading; })) {
         return ExitCode::WrongUsage;
     }
-    return std::all_of(all.begin(), all.end(), std::mem_fn(&Judged::isGood)) ? ExitCode::Good : ExitCode::FellShort;
+    const bool areGood = shortfall.empty() && std::all_of(all.begin(), all.end(), std::mem_fn(&Judged::isGood));
+    return areGood ? ExitCode::Good : ExitCode::FellShort;
 }
 
 } // namespace

@@ -57,14 +57,27 @@ void printValues(const Reading& reading, std::ostream& out) {
 /// What a drawing of this command's begins with.
 constexpr const char* drawn = "<!-- exercise-host run -->\n";
 
+OutputFile outputOf(const std::filesystem::path& name, const std::string& extension) {
+    return {toUtf8(name.u16string()) + "." + extension,
+            extension == "svg" ? std::optional<std::string>(drawn) : std::nullopt, "another folder"};
+}
+
 void write(const Picture& picture, const std::filesystem::path& name, std::vector<std::string>& files) {
-    if (picture.bytes.empty()) {
-        return;
+    if (!picture.bytes.empty()) {
+        const OutputFile file = outputOf(name, picture.extension);
+        file.write((picture.extension == "svg" ? drawn : "") + picture.bytes);
+        files.push_back(file.name());
     }
-    const std::string file = toUtf8(name.u16string()) + "." + picture.extension;
-    const std::string mark = picture.extension == "svg" ? drawn : "";
-    OutputFile(file, mark.empty() ? std::nullopt : std::optional(mark), "another folder").write(mark + picture.bytes);
-    files.push_back(file);
+}
+
+/// Before the work: raises where pictures could not be written then.
+void requirePlaceForPictures(const std::filesystem::path& folder) {
+    if (std::error_code failed; std::filesystem::exists(folder, failed) && !std::filesystem::is_directory(folder)) {
+        throw UsageError(toUtf8(folder.u16string()) + " is a file: name a folder for the pictures");
+    }
+    for (const char* const name : {"before", "after"}) {
+        outputOf(folder / name, "svg").requireReplaceable();
+    }
 }
 
 /// Writes what there is of slides before and after into a folder, and answers with the files. The first is the one that
@@ -106,6 +119,9 @@ nlohmann::ordered_json toJson(const ScenarioFile& file, const Scenario& scenario
 ExitCode run(const RunRequest& request, const Library& library, const WorldMaker& makeWorld, std::ostream& out) {
     const ScenarioFile file = load(library.fileNamed(request.question));
     const Scenario& scenario = chosen(file, request.scenario);
+    if (!request.pictures.empty()) {
+        requirePlaceForPictures(pathOf(request.pictures));
+    }
     PlainStory plain(out);
     JsonStory json;
     Story& story = request.asJson ? static_cast<Story&>(json) : plain;

@@ -191,11 +191,18 @@ Files chosen(const VerifyRequest& request, const std::vector<std::filesystem::pa
     Files files = load(paths);
     // Whether PowerPoint keeps its promises is asked by a command of its own.
     std::erase_if(files, [](const language::ScenarioFile& file) { return !file.className.empty(); });
+    if (files.empty()) {
+        throw UsageError(paths.empty() ? "no scenario to verify"
+                                       : paths.front().string() + " holds no scenario to verify; 'conform' asks for "
+                                                                  "what PowerPoint promises");
+    }
+    for (const language::ScenarioFile& file : files) {
+        if (file.scenarios.empty()) {
+            throw UsageError("no scenario to verify in " + file.name);
+        }
+    }
     if (!request.titles.empty()) {
         takeTitles(request.titles, files);
-    }
-    if (std::all_of(files.begin(), files.end(), [](const auto& file) { return file.scenarios.empty(); })) {
-        throw UsageError("no scenario to verify");
     }
     return files;
 }

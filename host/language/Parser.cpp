@@ -200,14 +200,15 @@ private:
         if (block_ == nullptr || block_ == &file_.contract.delivered) {
             wrong_.push_back({place, "expected 'course' before the first scenario"});
         }
-        Scenario scenario{place, words.text("the title of the scenario, in quotes"), false, {}, {}, {}};
+        file_.scenarios.push_back({place, {}, false, {}, {}, {}}); // whatever is wrong with its title
+        block_ = &file_.scenarios.back().statements;
+        const std::u16string title = words.text("the title of the scenario, in quotes");
         words.end();
-        const auto isSame = [&](const Scenario& other) { return other.title == scenario.title; };
-        if (std::any_of(file_.scenarios.begin(), file_.scenarios.end(), isSame)) {
+        const auto isSame = [&](const Scenario& other) { return other.title == title; };
+        if (std::any_of(file_.scenarios.begin(), file_.scenarios.end() - 1, isSame)) {
             throw SyntaxError({place, "expected a title of its own: there is a scenario of this title already"});
         }
-        file_.scenarios.push_back(std::move(scenario));
-        block_ = &file_.scenarios.back().statements;
+        file_.scenarios.back().title = title;
     }
 
     void before(LineParser& words, Position place) {
@@ -241,6 +242,9 @@ private:
     }
 
     void add(Statement statement) {
+        if (block_ == nullptr && file_.question == unknown) {
+            return; // that has been said
+        }
         if (block_ == nullptr) {
             wrong_.push_back({statement.place, "expected 'course' or 'scenario' before the first statement"});
             block_ = &file_.course;

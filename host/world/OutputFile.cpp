@@ -92,7 +92,7 @@ void OutputFile::requireReplaceable() const {
     if (!fs::exists(path_) || isDevice(path_) || (replaced_ && beginsWith(path_, *replaced_))) {
         return;
     }
-    throw std::runtime_error(name_ + " is there already" + (replaced_ ? ", and this program did not write it" : "") +
+    throw std::runtime_error(name_ + " is there already" + (replaced_ ? ", and is no earlier one of this kind" : "") +
                              ": name another file" + (otherwise_.empty() ? "" : ", or " + otherwise_));
 }
 

@@ -4,6 +4,7 @@
 #include "host/world/MachineFault.h"
 #include "simulator/files/WholeFile.h"
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
 
@@ -37,6 +38,16 @@ void writeContents(const fs::path& path, std::string_view content) {
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     if (!file.write(content.data(), static_cast<std::streamsize>(content.size())).flush()) {
         throw MachineFault(path.string() + " cannot be written: is the disk full?");
+    }
+}
+
+void addOnce(std::vector<fs::path>& files, const fs::path& file) {
+    const auto isIt = [&](const fs::path& other) {
+        std::error_code failed;
+        return other == file || fs::equivalent(other, file, failed);
+    };
+    if (std::none_of(files.begin(), files.end(), isIt)) {
+        files.push_back(file);
     }
 }
 

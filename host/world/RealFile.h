@@ -14,4 +14,7 @@ namespace host {
 /// Writes a file anew. Raises MachineFault where it cannot be written to its end.
 void writeContents(const std::filesystem::path& path, std::string_view content);
 
+/// Appends a file unless it is among them, by this name or another.
+void addOnce(std::vector<std::filesystem::path>& files, const std::filesystem::path& file);
+
 } // namespace host

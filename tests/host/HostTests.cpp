@@ -144,7 +144,13 @@ TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) 
 
     std::ofstream(folder / "eleve.ppt") << "no presentation";
     EXPECT_NE(said(all, ExitCode::WrongUsage).find("\n     1  not judged\n"), std::string::npos);
-    EXPECT_NE(said(recheck, ExitCode::WrongUsage).find("eleve.ppt"), std::string::npos);
+    EXPECT_NE(said(recheck, ExitCode::WrongUsage).find("eleve.ppt cannot be opened: it is damaged, or no "),
+              std::string::npos);
+    inJson.insert(inJson.begin() + 1, (folder / "eleve.ppt").string()); // and in the folder
+    const auto unread = nlohmann::json::parse(said(inJson, ExitCode::WrongUsage))["presentations"];
+    ASSERT_EQ(unread.size(), 2U);
+    EXPECT_NE(unread[0]["trouble"].get<std::string>().find("ask the learner to save it again"), std::string::npos);
+    EXPECT_FALSE(unread[0].contains("verdict"));
 
     const auto staged = [&](const char* command) {
         return std::vector<std::string>{command, "306", "--course", folder.string()};
@@ -202,8 +208,8 @@ TEST_F(HostTest, ReportsTakeThePlaceOfEarlierOnesAndOfNothingElse) {
     const std::vector<Refused> refused{
         {{"--file", file(), "--report", file()}, "0306.scn is read as well: name another file"},
         {{"306", "--json", in("link")}, "link is read as well"},
-        {{"306", "--junit", in("mine.ppt")}, "mine.ppt is there already, and this program did not write it"},
-        {{"306", "--junit", reports[0]}, "F.html is there already, and this"}, // a page is no report for servers
+        {{"306", "--junit", in("mine.ppt")}, "mine.ppt is there already, and is no earlier one of this kind"},
+        {{"306", "--junit", reports[0]}, "F.html is there already, and is no"}, // a page is no report for servers
         {{"306", "--junit", in("new"), "--json", in("new")}, "new is named twice"},
         {{"306", "--junit", folder.string()}, " is a folder"},
         {{"306", "--report", reports[0], "--junit", in("none/new")}, "is there such a folder"},
@@ -276,7 +282,16 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
         {{"verify", "--help"}, ExitCode::Good, "Exit codes: 0 good"},
         {{"--version"}, ExitCode::Good, "1.2.3"},
         {{}, ExitCode::WrongUsage, "which command?"},
-        {{"walk"}, ExitCode::WrongUsage, "not expected: walk"},
+        {{"walk"}, ExitCode::WrongUsage, "no command 'walk'. See exercise-host --help"},
+        {{"verfy", "306"}, ExitCode::WrongUsage, "no command 'verfy': verify? See"},
+        {{"verify", "306", "--jnuit", "x"}, ExitCode::WrongUsage, "--junit? See exercise-host verify --help"},
+        {{"run", "306", "307"}, ExitCode::WrongUsage, "nothing to do with '307'. See exercise-host run"},
+        {{"try"}, ExitCode::WrongUsage, "which question? Name its number"},
+        {{"run", "306", "--scenario", "nothing", "--picture", file()},
+         ExitCode::WrongUsage,
+         " is a file: name a folder"},
+        {{"verify", folder + "/no.txt"}, ExitCode::WrongUsage, "no scenario to verify in "},
+        {{"run", folder + "/mine.bin"}, ExitCode::WrongUsage, "mine.bin is a presentation, not a scenario file"},
         {{"run", "399"}, ExitCode::WrongUsage, "the course has 301 to 3"},
         {{"run", "many"}, ExitCode::WrongUsage, "many"},
         {{"run", "307"}, ExitCode::WrongUsage, "no scenario file: "},
@@ -299,6 +314,8 @@ TEST_F(HostTest, TheCommandLineEndsWithItsExitCode) {
         {{"verify", "--scenarios", "nowhere"}, ExitCode::WrongUsage, "no folder of scenarios: nowhere"},
         {{"list"}, ExitCode::Good, "0306.scn: question 306\n    nothing\n"},
     };
+    host::writeContents(folder + "/no.txt", course);
+    host::writeContents(folder + "/mine.bin", "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1");
     write(good);
     for (const Case& asked : cases) {
         const std::string printed = said(asked.arguments, asked.expected);
