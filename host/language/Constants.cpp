@@ -70,7 +70,10 @@ constexpr auto runs = std::to_array<Run>({
     {u"ppSelection", 0, u"None Slides Shapes Text"},
     {u"ppLayout", 1,
      u"Title Text TwoColumnText Table TextAndChart ChartAndText Orgchart Chart TextAndClipart ClipartAndText TitleOnly "
-     u"Blank TextAndObject ObjectAndText"},
+     u"Blank TextAndObject ObjectAndText LargeObject Object TextAndMediaClip MediaClipAndText ObjectOverText "
+     u"TextOverObject TextAndTwoObjects TwoObjectsAndText TwoObjectsOverText FourObjects VerticalText "
+     u"ClipArtAndVerticalText VerticalTitleAndText VerticalTitleAndTextOverChart TwoObjects ObjectAndTwoObjects "
+     u"TwoObjectsAndObject"},
     {u"ppPlaceholder", 1,
      u"Title Body CenterTitle Subtitle VerticalTitle VerticalBody Object Chart Bitmap MediaClip OrgChart Table "
      u"SlideNumber Header Footer Date"},

@@ -63,13 +63,57 @@ enum MsoSegmentType : std::int32_t { msoSegmentLine = 0, msoSegmentCurve = 1 };
 
 enum MsoEditingType : std::int32_t { msoEditingAuto = 0, msoEditingCorner = 1 };
 
-enum PpSlideLayout : std::int32_t { ppLayoutTitle = 1, ppLayoutText = 2, ppLayoutTitleOnly = 11, ppLayoutBlank = 12 };
+enum PpSlideLayout : std::int32_t {
+    ppLayoutTitle = 1,
+    ppLayoutText = 2,
+    ppLayoutTwoColumnText = 3,
+    ppLayoutTable = 4,
+    ppLayoutTextAndChart = 5,
+    ppLayoutChartAndText = 6,
+    ppLayoutOrgchart = 7,
+    ppLayoutChart = 8,
+    ppLayoutTextAndClipart = 9,
+    ppLayoutClipartAndText = 10,
+    ppLayoutTitleOnly = 11,
+    ppLayoutBlank = 12,
+    ppLayoutTextAndObject = 13,
+    ppLayoutObjectAndText = 14,
+    ppLayoutLargeObject = 15,
+    ppLayoutObject = 16,
+    ppLayoutTextAndMediaClip = 17,
+    ppLayoutMediaClipAndText = 18,
+    ppLayoutObjectOverText = 19,
+    ppLayoutTextOverObject = 20,
+    ppLayoutTextAndTwoObjects = 21,
+    ppLayoutTwoObjectsAndText = 22,
+    ppLayoutTwoObjectsOverText = 23,
+    ppLayoutFourObjects = 24,
+    ppLayoutVerticalText = 25,
+    ppLayoutClipArtAndVerticalText = 26,
+    ppLayoutVerticalTitleAndText = 27,
+    ppLayoutVerticalTitleAndTextOverChart = 28,
+    ppLayoutTwoObjects = 29,
+    ppLayoutObjectAndTwoObjects = 30,
+    ppLayoutTwoObjectsAndObject = 31,
+};
 
 enum PpPlaceholderType : std::int32_t {
     ppPlaceholderTitle = 1,
     ppPlaceholderBody = 2,
     ppPlaceholderCenterTitle = 3,
     ppPlaceholderSubtitle = 4,
+    ppPlaceholderVerticalTitle = 5,
+    ppPlaceholderVerticalBody = 6,
+    ppPlaceholderObject = 7,
+    ppPlaceholderChart = 8,
+    ppPlaceholderBitmap = 9,
+    ppPlaceholderMediaClip = 10,
+    ppPlaceholderOrgChart = 11,
+    ppPlaceholderTable = 12,
+    ppPlaceholderSlideNumber = 13,
+    ppPlaceholderHeader = 14,
+    ppPlaceholderFooter = 15,
+    ppPlaceholderDate = 16,
 };
 
 enum PpColorSchemeIndex : std::int32_t {

@@ -39,10 +39,11 @@ void formatTitle(TextStory& text) {
 }
 
 void formatBody(TextStory& text, PpPlaceholderType type) {
+    const bool isList = type == ppPlaceholderBody || type == ppPlaceholderVerticalBody || type == ppPlaceholderObject;
     text.format({}, [](CharacterFormat& format) { format.size = 32; });
-    text.formatParagraphs({}, [type](ParagraphFormat& format) {
-        format.alignment = type == ppPlaceholderSubtitle ? ppAlignCenter : ppAlignLeft;
-        format.bullet = type == ppPlaceholderSubtitle ? ppBulletNone : ppBulletUnnumbered;
+    text.formatParagraphs({}, [isList](ParagraphFormat& format) {
+        format.alignment = isList ? ppAlignLeft : ppAlignCenter;
+        format.bullet = isList ? ppBulletUnnumbered : ppBulletNone;
     });
 }
 
@@ -107,7 +108,7 @@ ShapePtr placeholder(PpPlaceholderType type, const Frame& frame) {
     ShapePtr shape = make(msoPlaceholder, frame);
     makeClear(*shape);
     shape->placeholder = type;
-    shape->text.emplace();
+    shape->text.emplace().layout.orientation = orientationOf(type);
     if (isTitle(type)) {
         formatTitle(*shape->text);
     } else {

@@ -14,7 +14,16 @@ namespace simulator {
 
 /// True for the placeholders that hold a slide's title.
 [[nodiscard]] constexpr bool isTitle(PpPlaceholderType type) noexcept {
-    return type == ppPlaceholderTitle || type == ppPlaceholderCenterTitle;
+    return type == ppPlaceholderTitle || type == ppPlaceholderCenterTitle || type == ppPlaceholderVerticalTitle;
+}
+/// True for the placeholders that are there for text.
+[[nodiscard]] constexpr bool isText(PpPlaceholderType type) noexcept {
+    return type == ppPlaceholderBody || type == ppPlaceholderSubtitle || type == ppPlaceholderVerticalBody;
+}
+/// Which way text runs in a placeholder.
+[[nodiscard]] constexpr MsoTextOrientation orientationOf(PpPlaceholderType type) noexcept {
+    const bool isUpright = type == ppPlaceholderVerticalTitle || type == ppPlaceholderVerticalBody;
+    return isUpright ? msoTextOrientationVerticalFarEast : msoTextOrientationHorizontal;
 }
 
 class Slide;

@@ -9,81 +9,95 @@ namespace simulator {
 
 namespace {
 
-constexpr Frame titlePlace{36, 21.625F, 648, 90};
-constexpr std::array titleSlide{LayoutPlaceholder{ppPlaceholderCenterTitle, {54, 167.75F, 612, 115.75F}},
-                                LayoutPlaceholder{ppPlaceholderSubtitle, {108, 306, 504, 138}}};
-constexpr std::array titleAndText{LayoutPlaceholder{ppPlaceholderTitle, titlePlace},
-                                  LayoutPlaceholder{ppPlaceholderBody, {36, 126, 648, 356.375F}}};
-constexpr std::array titleOnly{LayoutPlaceholder{ppPlaceholderTitle, titlePlace}};
+/// A placeholder that a layout wants, and the shape of the slide that serves as it, where there is one.
+struct Wanted {
+    PpPlaceholderType type;
+    LayoutPlace place;
+    ShapePtr shape;
+};
 
-/// A place on a slide of 720 x 540 points, on the slides of a presentation.
-Frame onSlide(const Frame& frame, const Presentation& presentation) noexcept {
-    const float across = presentation.slideWidth / 720;
-    const float down = presentation.slideHeight / 540;
+bool haveOnePurpose(PpPlaceholderType one, PpPlaceholderType other) noexcept {
+    return one == other || (isTitle(one) && isTitle(other)) || (isText(one) && isText(other));
+}
+
+/// Placeholders of a layout with the shapes of a slide that serve as them, each shape as one.
+std::vector<Wanted> matchUp(const Slide& slide, const Layout& layout) {
+    std::vector<Wanted> wanted;
+    const std::span<const LayoutPlace> places = placesOf(layout.arrangement);
+    for (std::size_t i = 0; i < layout.size(); ++i) {
+        wanted.push_back({layout.types.at(i), places[i], nullptr});
+    }
+    for (const ShapePtr& shape : slide.shapes()) {
+        const auto free = std::find_if(wanted.begin(), wanted.end(), [&shape](const Wanted& each) {
+            return shape->placeholder && !each.shape && haveOnePurpose(*shape->placeholder, each.type);
+        });
+        if (free != wanted.end()) {
+            free->shape = shape;
+        }
+    }
+    return wanted;
+}
+
+/// The place on the slides of a presentation.
+Frame placeOf(const Wanted& wanted, const Slide& slide) {
+    const PresentationPtr presentation = slide.presentation.lock();
+    const float across = presentation->slideWidth / 720;
+    const float down = presentation->slideHeight / 540;
+    const Frame& frame = wanted.place.frame;
     return {frame.left * across, frame.top * down, frame.width * across, frame.height * down};
 }
 
-bool isWanted(const Shape& shape, std::span<const LayoutPlaceholder> wanted) noexcept {
-    return std::any_of(wanted.begin(), wanted.end(), [&shape](const LayoutPlaceholder& placeholder) {
-        return isTitle(placeholder.type) == isTitle(*shape.placeholder);
-    });
-}
-
-ShapePtr addPlaceholder(Slide& slide, const LayoutPlaceholder& wanted) {
-    ShapePtr shape = newShape::placeholder(wanted.type, onSlide(wanted.frame, *slide.presentation.lock()));
+ShapePtr addPlaceholder(Slide& slide, const Wanted& wanted) {
+    ShapePtr shape = newShape::placeholder(wanted.type, placeOf(wanted, slide));
+    shape->text->format({}, [&wanted](CharacterFormat& format) { format.size = wanted.place.textSize; });
     slide.add(shape, newShape::baseName(*shape));
     return shape;
 }
 
 } // namespace
 
-std::optional<std::span<const LayoutPlaceholder>> placeholdersOf(PpSlideLayout layout) noexcept {
-    switch (layout) {
-    case ppLayoutTitle: return titleSlide;
-    case ppLayoutText: return titleAndText;
-    case ppLayoutTitleOnly: return titleOnly;
-    case ppLayoutBlank: return std::span<const LayoutPlaceholder>();
-    }
-    return std::nullopt;
-}
-
 ShapePtr findPlaceholder(const Slide& slide, PpPlaceholderType type) noexcept {
     const auto found = std::find_if(slide.shapes().begin(), slide.shapes().end(), [type](const ShapePtr& shape) {
-        return shape->placeholder && isTitle(*shape->placeholder) == isTitle(type);
+        return shape->placeholder && haveOnePurpose(*shape->placeholder, type);
     });
     return found == slide.shapes().end() ? nullptr : *found;
 }
 
-void layOut(Slide& slide, PpSlideLayout layout) {
-    const std::span<const LayoutPlaceholder> wanted = placeholdersOf(layout).value();
-    slide.layout = layout;
+void layOut(Slide& slide, const Layout& layout) {
+    const std::vector<Wanted> wanted = matchUp(slide, layout);
+    slide.layout = layout.number;
     for (const ShapePtr& shape : std::vector<ShapePtr>(slide.shapes())) {
         const bool isEmpty = !shape->text || shape->text->text().empty();
-        if (shape->placeholder && isEmpty && !isWanted(*shape, wanted)) {
+        const bool serves =
+            std::any_of(wanted.begin(), wanted.end(), [&shape](const Wanted& each) { return each.shape == shape; });
+        if (shape->placeholder && isEmpty && !serves) {
             slide.remove(shape);
         }
     }
-    for (const LayoutPlaceholder& placeholder : wanted) {
-        if (const ShapePtr shape = findPlaceholder(slide, placeholder.type)) {
-            shape->placeholder = placeholder.type;
-            shape->setFrame(onSlide(placeholder.frame, *slide.presentation.lock()));
-        } else {
-            addPlaceholder(slide, placeholder);
+    for (const Wanted& each : wanted) {
+        if (!each.shape) {
+            addPlaceholder(slide, each);
+            continue;
         }
+        if (each.shape->placeholder != each.type && each.shape->text) {
+            each.shape->text->layout.orientation = orientationOf(each.type);
+        }
+        each.shape->placeholder = each.type;
+        each.shape->setFrame(placeOf(each, slide));
     }
 }
 
 ShapePtr restorePlaceholder(Slide& slide, PpPlaceholderType type) {
-    if (findPlaceholder(slide, type)) {
+    const Layout* const layout = findLayout(slide.layout);
+    if (layout == nullptr) {
         return nullptr;
     }
-    const auto known = placeholdersOf(slide.layout);
-    if (!known) {
-        return nullptr;
+    for (const Wanted& each : matchUp(slide, *layout)) {
+        if (each.type == type && !each.shape) {
+            return addPlaceholder(slide, each);
+        }
     }
-    const auto wanted =
-        std::find_if(known->begin(), known->end(), [type](const LayoutPlaceholder& at) { return at.type == type; });
-    return wanted == known->end() ? nullptr : addPlaceholder(slide, *wanted);
+    return nullptr;
 }
 
 } // namespace simulator

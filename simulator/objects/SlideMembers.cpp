@@ -76,10 +76,11 @@ PpSlideLayout SlideMembers::layout() const {
 }
 
 void SlideMembers::setLayout(PpSlideLayout layout) {
-    if (!placeholdersOf(layout)) {
+    const Layout* const known = findLayout(layout);
+    if (known == nullptr) {
         errors::invalidValue(u"Slide.Layout");
     }
-    nodes().change([layout](Slide& slide) { layOut(slide, layout); });
+    nodes().change([known](Slide& slide) { layOut(slide, *known); });
 }
 
 void SlideMembers::erase() {

@@ -58,12 +58,13 @@ std::shared_ptr<SlideObject> SlidesObject::findBySlideId(std::int32_t slideId) c
 std::shared_ptr<SlideObject> SlidesObject::add(std::int32_t index, PpSlideLayout layout) {
     const PresentationPtr presentation = node();
     const std::size_t place = placeIn(presentation->slides().size() + 1, index, u"Slides.Add");
-    if (!placeholdersOf(layout)) {
+    const Layout* const known = findLayout(layout);
+    if (known == nullptr) {
         errors::invalidValue(u"Slides.Add");
     }
     const auto slide = std::make_shared<Slide>();
     presentation->insert(slide, place);
-    layOut(*slide, layout);
+    layOut(*slide, *known);
     markChanged(*presentation);
     return std::make_shared<SlideObject>(session(), slide);
 }

@@ -21,7 +21,6 @@ const automation::MemberTable& TextFrameObject::members() const {
     using automation::method;
     using automation::property;
     using This = TextFrameObject;
-    using Layout = TextLayout;
     static const automation::MemberTable table{
         property<&This::parent>(u"Parent"),
         property<&This::hasText>(u"HasText"),
@@ -29,10 +28,11 @@ const automation::MemberTable& TextFrameObject::members() const {
         method<&This::deleteText>(u"DeleteText"),
         property<&This::autoSize, &This::setAutoSize>(u"AutoSize"),
         property<&This::wordWrap, &This::setWordWrap>(u"WordWrap"),
-        property<&This::margin<&Layout::marginLeft>, &This::setMargin<&Layout::marginLeft>>(u"MarginLeft"),
-        property<&This::margin<&Layout::marginTop>, &This::setMargin<&Layout::marginTop>>(u"MarginTop"),
-        property<&This::margin<&Layout::marginRight>, &This::setMargin<&Layout::marginRight>>(u"MarginRight"),
-        property<&This::margin<&Layout::marginBottom>, &This::setMargin<&Layout::marginBottom>>(u"MarginBottom"),
+        property<&This::margin<&TextLayout::marginLeft>, &This::setMargin<&TextLayout::marginLeft>>(u"MarginLeft"),
+        property<&This::margin<&TextLayout::marginTop>, &This::setMargin<&TextLayout::marginTop>>(u"MarginTop"),
+        property<&This::margin<&TextLayout::marginRight>, &This::setMargin<&TextLayout::marginRight>>(u"MarginRight"),
+        property<&This::margin<&TextLayout::marginBottom>, &This::setMargin<&TextLayout::marginBottom>>(
+            u"MarginBottom"),
         property<&This::orientation, &This::setOrientation>(u"Orientation"),
         property<&This::horizontalAnchor, &This::setHorizontalAnchor>(u"HorizontalAnchor"),
         property<&This::verticalAnchor, &This::setVerticalAnchor>(u"VerticalAnchor"),

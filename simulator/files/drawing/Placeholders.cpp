@@ -11,27 +11,26 @@ namespace {
 
 struct Pair {
     std::uint8_t code;
-    std::int32_t type;
+    PpPlaceholderType type;
 };
 
-/// On slides: title, body, centred title, subtitle, vertical title and body, object, chart, table, picture,
-/// organisation chart, media clip; date, number, footer and header bear the numbers of the master's.
+/// On slides; date, number, footer and header bear the numbers of the master's.
 constexpr std::array<Pair, 16> placeholders{{{0x0D, ppPlaceholderTitle},
                                              {0x0E, ppPlaceholderBody},
                                              {0x0F, ppPlaceholderCenterTitle},
                                              {0x10, ppPlaceholderSubtitle},
-                                             {0x11, 5},
-                                             {0x12, 6},
-                                             {0x13, 7},
-                                             {0x14, 8},
-                                             {0x15, 12},
-                                             {0x16, 9},
-                                             {0x17, 11},
-                                             {0x18, 10},
-                                             {0x07, 16},
-                                             {0x08, 13},
-                                             {0x09, 15},
-                                             {0x0A, 14}}};
+                                             {0x11, ppPlaceholderVerticalTitle},
+                                             {0x12, ppPlaceholderVerticalBody},
+                                             {0x13, ppPlaceholderObject},
+                                             {0x14, ppPlaceholderChart},
+                                             {0x15, ppPlaceholderTable},
+                                             {0x16, ppPlaceholderBitmap},
+                                             {0x17, ppPlaceholderOrgChart},
+                                             {0x18, ppPlaceholderMediaClip},
+                                             {0x07, ppPlaceholderDate},
+                                             {0x08, ppPlaceholderSlideNumber},
+                                             {0x09, ppPlaceholderFooter},
+                                             {0x0A, ppPlaceholderHeader}}};
 
 } // namespace
 
@@ -42,17 +41,19 @@ std::uint8_t placeholderCode(PpPlaceholderType type) noexcept {
 
 std::optional<PpPlaceholderType> placeholderOf(std::uint8_t code) noexcept {
     const auto place = files::placeWhere(placeholders, [code](const Pair& pair) { return pair.code == code; });
-    return place ? std::optional(static_cast<PpPlaceholderType>(placeholders.at(*place).type)) : std::nullopt;
+    return place ? std::optional(placeholders.at(*place).type) : std::nullopt;
 }
 
 std::uint32_t textKindOf(PpPlaceholderType type) noexcept {
     switch (type) {
+    case ppPlaceholderVerticalTitle:
     case ppPlaceholderTitle: return text::kind::Title;
+    case ppPlaceholderVerticalBody:
     case ppPlaceholderBody: return text::kind::Body;
     case ppPlaceholderCenterTitle: return text::kind::CenterTitle;
     case ppPlaceholderSubtitle: return text::kind::CenterBody;
+    default: return text::kind::Other;
     }
-    return text::kind::Other;
 }
 
 } // namespace simulator::drawing

@@ -6,7 +6,6 @@
 #include "simulator/files/drawing/ShapeReader.h"
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
 #include "simulator/files/powerpoint/DocumentSettings.h"
-#include "simulator/files/powerpoint/Layouts.h"
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
 #include "simulator/files/powerpoint/Streams.h"
@@ -147,7 +146,7 @@ private:
         slide->id = static_cast<std::int32_t>(id);
         const Record* const name = record.find(type::CString, slideNameInstance);
         slide->name = name == nullptr ? std::u16string() : files::utf16Text(name->data);
-        slide->layout = layoutOf(SlideAtom(record).geometry);
+        slide->layout = SlideAtom(record).layout;
         slide->tags = readTags(record);
         origin->document = origin_;
         origin->object = entry.object();

@@ -1,52 +1,57 @@
 #include "simulator/files/powerpoint/Layouts.h"
 
-#include "simulator/files/Bytes.h"
-#include "simulator/files/Tables.h"
+#include "simulator/document/LayoutTable.h"
 #include "simulator/files/drawing/Placeholders.h"
 
+#include <algorithm>
 #include <array>
 
 namespace simulator::powerpoint {
 
 namespace {
 
-struct Pair {
-    std::int32_t geometry;
-    std::int32_t layout;
-};
+constexpr auto customLayout = PpSlideLayout{32};
+constexpr std::size_t mostPlaceholders = 8;
 
-constexpr std::int32_t customLayout = 32;
-constexpr std::int32_t blankGeometry = 16;
-constexpr std::array<Pair, 8> layouts{{{0, ppLayoutTitle},
-                                       {1, ppLayoutText},
-                                       {7, ppLayoutTitleOnly},
-                                       {blankGeometry, ppLayoutBlank},
-                                       {8, 3},
-                                       {14, 24},
-                                       {15, 15},
-                                       {17, 27}}};
+using Codes = std::array<std::uint8_t, mostPlaceholders>;
+
+Codes codesOf(const Layout& layout) {
+    Codes codes{};
+    for (std::size_t i = 0; i < layout.size(); ++i) {
+        codes.at(i) = drawing::placeholderCode(layout.types.at(i));
+    }
+    return codes;
+}
 
 } // namespace
 
-PpSlideLayout layoutOf(std::int32_t geometry) noexcept {
-    const auto place = files::placeWhere(layouts, [=](const Pair& pair) { return pair.geometry == geometry; });
-    return static_cast<PpSlideLayout>(place ? layouts.at(*place).layout : customLayout);
+PpSlideLayout readLayout(files::ByteReader& in) {
+    const auto arrangement = static_cast<Arrangement>(in.read<std::int32_t>());
+    Codes codes{};
+    for (std::uint8_t& code : codes) {
+        code = in.read<std::uint8_t>();
+    }
+    PpSlideLayout nearest = customLayout; // the first so arranged, whatever its placeholders are for
+    for (const Layout& layout : layouts()) {
+        if (layout.arrangement == arrangement && codesOf(layout) == codes) {
+            return layout.number;
+        }
+        if (layout.arrangement == arrangement && nearest == customLayout) {
+            nearest = layout.number;
+        }
+    }
+    return nearest;
 }
 
-std::string layoutBytes(PpSlideLayout layout) {
-    const auto place = files::placeWhere(layouts, [=](const Pair& pair) { return pair.layout == layout; });
+std::string layoutBytes(PpSlideLayout number) {
+    const Layout* const known = findLayout(number);
+    const Layout& layout = known == nullptr ? *findLayout(ppLayoutBlank) : *known;
     files::ByteWriter out;
-    out.write<std::int32_t>(place ? layouts.at(*place).geometry : blankGeometry);
-    if (layout == ppLayoutTitle) {
-        out.write<std::uint8_t>(drawing::placeholderCode(ppPlaceholderCenterTitle));
-        out.write<std::uint8_t>(drawing::placeholderCode(ppPlaceholderSubtitle));
-    } else if (layout == ppLayoutText || layout == ppLayoutTitleOnly) {
-        out.write<std::uint8_t>(drawing::placeholderCode(ppPlaceholderTitle));
-        out.write<std::uint8_t>(layout == ppLayoutText ? drawing::placeholderCode(ppPlaceholderBody) : 0);
-    } else {
-        out.fill(2);
+    out.write<std::int32_t>(static_cast<std::int32_t>(layout.arrangement));
+    for (const std::uint8_t code : codesOf(layout)) {
+        out.write<std::uint8_t>(code);
     }
-    return out.fill(6).take();
+    return out.take();
 }
 
 } // namespace simulator::powerpoint

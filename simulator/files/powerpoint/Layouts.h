@@ -1,16 +1,15 @@
 #pragma once
 
 #include "simulator/document/Constants.h"
+#include "simulator/files/Bytes.h"
 
-#include <cstdint>
 #include <string>
 
 namespace simulator::powerpoint {
 
-/// The layout of a slide, from the number in its record.
-[[nodiscard]] PpSlideLayout layoutOf(std::int32_t geometry) noexcept;
-/// A layout's number and the placeholders that it has, as they stand at the front of a slide's record; for one that has
-/// no number of its own, those of a blank slide.
+/// The layout of a slide, as it stands at the front of its record: a number, and the placeholders that it has.
+[[nodiscard]] PpSlideLayout readLayout(files::ByteReader& in);
+/// The same in bytes; for a layout that is not known, those of a blank slide.
 [[nodiscard]] std::string layoutBytes(PpSlideLayout layout);
 
 } // namespace simulator::powerpoint

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/document/Constants.h"
 #include "simulator/files/records/Record.h"
 
 namespace simulator::powerpoint {
@@ -8,7 +9,7 @@ namespace simulator::powerpoint {
 struct SlideAtom {
     explicit SlideAtom(const records::Record& slide);
 
-    std::int32_t geometry = 0;
+    PpSlideLayout layout = ppLayoutBlank;
     std::uint32_t master = 0; ///< the id of its master in the list of masters
     std::uint32_t notes = 0;  ///< the id of its notes in the list of notes, 0 where it has none
 };

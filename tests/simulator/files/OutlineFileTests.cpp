@@ -51,7 +51,7 @@ std::string withTitleInOutline() {
     const auto presentation = std::make_shared<Presentation>();
     const auto slide = std::make_shared<Slide>();
     presentation->insert(slide, 0);
-    layOut(*slide, ppLayoutText);
+    layOut(*slide, *findLayout(ppLayoutText));
     slide->shapes()[0]->text->replace({}, u"Faire le plan");
     slide->shapes()[0]->text->format({0, 5}, [](CharacterFormat& format) { format.size = 60; });
     const std::string file = writePresentation(*presentation);

@@ -55,9 +55,13 @@ TEST(PresentationFile, KeepsEverythingOfADocument) {
     EXPECT_EQ(powerpoint::writePresentation(*read), powerpoint::writePresentation(*written));
 }
 
-/// Every fill, line, anchor, flow and AutoShape that the object model can ask for.
+/// Every fill, line, anchor, flow, AutoShape and layout that the object model can ask for.
 TEST(PresentationFile, KeepsEveryKind) {
     const auto presentation = std::make_shared<Presentation>();
+    for (const Layout& layout : layouts()) {
+        presentation->insert(std::make_shared<Slide>(), presentation->slides().size());
+        layOut(*presentation->slides().back(), layout);
+    }
     const auto slide = std::make_shared<Slide>();
     presentation->insert(slide, 0);
     for (std::int32_t type = 1; type <= lastAutoShape; ++type) {
@@ -84,7 +88,10 @@ TEST(PresentationFile, KeepsEveryKind) {
     slide->shapes().front()->id = 1024;
     const PresentationPtr read = powerpoint::readPresentation(powerpoint::writePresentation(*presentation));
     ASSERT_EQ(read->slides().front()->shapes().size(), static_cast<std::size_t>(many) + 1);
-    expectSame(slide->shapes(), read->slides().front()->shapes(), *read->slides().front());
+    for (std::size_t i = 0; i < presentation->slides().size(); ++i) {
+        EXPECT_EQ(read->slides()[i]->layout, presentation->slides()[i]->layout);
+        expectSame(presentation->slides()[i]->shapes(), read->slides()[i]->shapes(), *read->slides()[i]);
+    }
 }
 
 /// What a file says of a presentation survives changes around it.

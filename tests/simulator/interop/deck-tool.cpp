@@ -76,7 +76,7 @@ PresentationPtr made() {
     for (const PpSlideLayout layout : {ppLayoutText, ppLayoutBlank}) {
         const auto slide = std::make_shared<Slide>();
         presentation->insert(slide, presentation->slides().size());
-        layOut(*slide, layout);
+        layOut(*slide, *findLayout(layout));
     }
     Slide& first = *presentation->slides()[0];
     findPlaceholder(first, ppPlaceholderTitle)->text->replace({}, u"Méthodologie");

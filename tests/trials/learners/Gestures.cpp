@@ -72,7 +72,8 @@ constexpr auto gestures = std::to_array<Gesture>({
     {1, u"{part}.ChangeCase {1-5}"},
     {2, u"{part}.Select\nActiveWindow.Selection.TextRange.Text = {phrase}"},
     // Slides, views, presentations.
-    {3, u"ActivePresentation.Slides.Add ActivePresentation.Slides.Count + 1, {ppLayoutText|ppLayoutBlank}"},
+    {3, u"ActivePresentation.Slides.Add ActivePresentation.Slides.Count + 1, "
+        u"{ppLayoutText|ppLayoutBlank|ppLayoutTwoColumnText|ppLayoutVerticalTitleAndText|ppLayoutFourObjects}"},
     {1, u"ActivePresentation.Slides.Add {slide}, ppLayoutText"},
     {1, u"ActivePresentation.Slides({slide}){.Delete|.Duplicate|.MoveTo 1|.Cut}"},
     {1, u"ActiveWindow.View.GotoSlide {slide}"},
