@@ -2,6 +2,7 @@
 
 #include "automation/com/ComObject.h"
 
+#include <array>
 #include <functional>
 #include <limits>
 
@@ -11,6 +12,9 @@ namespace simulator::standin {
 /// they reach an object. Calls to one object always come through.
 class CallGate final : public automation::com::ComObject<IMessageFilter> {
 public:
+    /// Calls of invocations, names, interfaces, released references and anything else.
+    using Counts = std::array<std::int32_t, 5>;
+
     static constexpr std::int32_t withoutEnd = std::numeric_limits<std::int32_t>::max();
 
     /// `always` is the object whose calls are never refused; it must outlive this object. `isModal` says whether a
@@ -23,8 +27,8 @@ public:
     [[nodiscard]] std::int32_t refusals() const noexcept { return refusals_; }
     /// Calls refused so far.
     [[nodiscard]] std::int32_t refused() const noexcept { return refused_; }
-    /// Names that clients have had looked up so far.
-    [[nodiscard]] std::int32_t lookUps() const noexcept { return lookUps_; }
+    /// Those of other processes taken so far.
+    [[nodiscard]] const Counts& taken() const noexcept { return taken_; }
     [[nodiscard]] bool isBusy() const noexcept { return refusals_ > 0; }
 
     DWORD STDMETHODCALLTYPE HandleInComingCall(DWORD type, HTASK task, DWORD tick,
@@ -37,7 +41,7 @@ private:
     std::function<bool()> isModal_;
     std::int32_t refusals_ = 0;
     std::int32_t refused_ = 0;
-    std::int32_t lookUps_ = 0;
+    Counts taken_{};
 };
 
 } // namespace simulator::standin

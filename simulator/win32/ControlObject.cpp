@@ -83,9 +83,9 @@ std::int32_t ControlObject::delayed() const {
     return troubles_.delays();
 }
 
-std::int32_t ControlObject::lookUps() const {
+automation::Array ControlObject::remoteCalls() const {
     requireRunning();
-    return gate_->lookUps();
+    return {gate_->taken().begin(), gate_->taken().end()};
 }
 
 std::int32_t ControlObject::escapes() const {
@@ -103,7 +103,7 @@ const automation::MemberTable& ControlObject::members() const {
         property<&This::dialogs>(u"Dialogs"),           property<&This::slowness, &This::setSlowness>(u"Slowness"),
         method<&This::dieAtCall>(u"DieAtCall"),         property<&This::calls>(u"Calls"),
         property<&This::escapes>(u"Escapes"),           property<&This::bits>(u"Bits"),
-        property<&This::lookUps>(u"LookUps"),           method<&This::refuseAtCall>(u"RefuseAtCall"),
+        property<&This::remoteCalls>(u"RemoteCalls"),   method<&This::refuseAtCall>(u"RefuseAtCall"),
         method<&This::delayCall>(u"DelayCall"),         property<&This::refused>(u"Refused"),
         property<&This::delayed>(u"Delayed"),           method<&This::closeDialog>(u"CloseDialog"),
         method<&This::answerSaving>(u"AnswerSaving"),

@@ -44,8 +44,8 @@ public:
     void delayCall(std::int32_t n, std::int32_t milliseconds) const;
     void dieAtCall(std::int32_t n) const;
     [[nodiscard]] std::int32_t calls() const;
-    /// Names that clients have had looked up so far.
-    [[nodiscard]] std::int32_t lookUps() const;
+    /// As CallGate::taken.
+    [[nodiscard]] automation::Array remoteCalls() const;
     [[nodiscard]] std::int32_t escapes() const;
     [[nodiscard]] std::int32_t bits() const { return static_cast<std::int32_t>(sizeof(void*) * 8); }
 

@@ -167,6 +167,10 @@ Action addCost(CLI::App& command) {
         .add_option("--slides", request->slides,
                     "Slides of the large deck; without --powerpoint it alone is checked, once")
         ->check(CLI::PositiveNumber);
+    command
+        .add_option("--rounds", request->rounds,
+                    "With --powerpoint: only check a small deck, so many times, beside a bare client and a script")
+        ->check(CLI::PositiveNumber);
     return
         [request](const CommandContext& at) { return printAll(*request, at) ? ExitCode::Good : ExitCode::FellShort; };
 }

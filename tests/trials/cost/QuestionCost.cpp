@@ -25,22 +25,14 @@ Milliseconds clockTime() {
 /// One run of a question in a world of its own.
 class MeasuredRun {
 public:
-    MeasuredRun(const language::ScenarioFile& file, const Course& course, World& world, Meter meter,
-                const OnChecked& onChecked = nullptr)
+    MeasuredRun(const language::ScenarioFile& file, const Course& course, World& world, Meter meter)
         : meter_(std::move(meter)) {
-        Witness nobody;
-        world.powerPoint().start();
-        TrainingHost host(world, course, file.question, nobody);
-        host.application = world.powerPoint().application();
-        host.window = world.powerPoint().window();
-        cost.initQuestion = measure([&] { host.initQuestion(file.question, world.hostFolder()); });
-        performFirstMoves(file, world, host);
-        cost.testePoint = measure([&] { cost.reading = host.check(); });
-        if (onChecked) {
-            onChecked();
-        }
-        cost.fermer = measure([&] { host.fermer(); });
-        host.quitter();
+        withHost(file, course, world, [&](TrainingHost& host) {
+            cost.initQuestion = measure([&] { host.initQuestion(file.question, world.hostFolder()); });
+            performFirstMoves(file, world, host);
+            cost.testePoint = measure([&] { cost.reading = host.check(); });
+            cost.fermer = measure([&] { host.fermer(); });
+        });
     }
 
     QuestionCost cost;
@@ -62,13 +54,24 @@ private:
 
 QuestionCost observedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
     const auto log = std::make_shared<trace::TraceLog>();
-    const Meter meter = [&] { return OperationCost{log->calls, log->automationCalls, 0, {}, log->takeLines()}; };
+    const Meter meter = [&] { return OperationCost{log->calls, log->automationCalls, 0, {}, log->takeLines(), {}}; };
     QuestionCost cost = MeasuredRun(file, course, *makeWorld(log), meter).cost;
     cost.names = log->names;
     return cost;
 }
 
 } // namespace
+
+void withHost(const language::ScenarioFile& file, const Course& course, World& world,
+              const std::function<void(TrainingHost&)>& work) {
+    Witness nobody;
+    world.powerPoint().start();
+    TrainingHost host(world, course, file.question, nobody);
+    host.application = world.powerPoint().application();
+    host.window = world.powerPoint().window();
+    work(host);
+    host.quitter();
+}
 
 PrescribedCalls::PrescribedCalls(std::int32_t question, HostCall operation)
     : trace(trace::expectedTrace(question, {operation, trace::Operation::Arrival::Fresh})) {
@@ -80,7 +83,7 @@ PrescribedCalls::PrescribedCalls(std::int32_t question, HostCall operation)
 }
 
 QuestionCost unobservedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
-    const Meter timer = [] { return OperationCost{0, 0, 0, processorTime(), {}}; };
+    const Meter timer = [] { return OperationCost{0, 0, 0, processorTime(), {}, {}}; };
     return MeasuredRun(file, course, *makeWorld(nullptr), timer).cost;
 }
 
@@ -97,14 +100,21 @@ QuestionCost costOf(const language::ScenarioFile& file, const Course& course, co
     return cost;
 }
 
-QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeRemoteWorld,
-                          const OnChecked& onChecked) {
+std::vector<trace::RecordedCall> callsOfCheck(const language::ScenarioFile& file, const Course& course,
+                                              const WorldMaker& makeWorld) {
+    const auto record = std::make_shared<trace::CallRecord>();
+    const Meter meter = [&] { return OperationCost{.made = std::exchange(record->calls, {})}; };
+    return MeasuredRun(file, course, *makeWorld(record), meter).cost.testePoint.made;
+}
+
+QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeRemoteWorld) {
     const WorldPtr world = makeRemoteWorld(nullptr);
     const Meter meter = [] {
-        const std::size_t calls = countOfStandIn(u"Calls");
-        return OperationCost{calls, calls, countOfStandIn(u"LookUps"), clockTime(), {}};
+        const std::size_t calls = callsOfStandIn();
+        const auto lookUps = static_cast<std::size_t>(remoteCallsOf(standIn()).lookUps);
+        return OperationCost{calls, calls, lookUps, clockTime(), {}, {}};
     };
-    return MeasuredRun(file, course, *world, meter, onChecked).cost;
+    return MeasuredRun(file, course, *world, meter).cost;
 }
 
 } // namespace trials::cost

@@ -2,6 +2,7 @@
 
 #include "host/run/TrainingHost.h"
 #include "tests/trials/Host.h"
+#include "tests/trials/trace/CallRecord.h"
 #include "tests/trials/trace/Expected.h"
 
 #include <chrono>
@@ -18,7 +19,8 @@ struct OperationCost {
     std::size_t automationCalls = 0; ///< of them, those to PowerPoint
     std::size_t lookUps = 0;         ///< of names, by a PowerPoint in a process of its own
     Milliseconds time{};
-    std::vector<std::string> lines{}; ///< of its trace, where calls are observed
+    std::vector<std::string> lines{};        ///< of its trace, where calls are observed
+    std::vector<trace::RecordedCall> made{}; ///< to PowerPoint, where they are recorded
 };
 
 /// Calls that an operation takes where each step is taken as it is described, and none beside: those of its expected
@@ -49,8 +51,9 @@ struct QuestionCost {
     [[nodiscard]] Milliseconds time() const noexcept { return initQuestion.time + testePoint.time + fermer.time; }
 };
 
-/// Called when the question has been checked, before it is closed.
-using OnChecked = std::function<void()>;
+/// Starts PowerPoint in a world, has a host with its files and its PowerPoint do something, and leaves the module.
+void withHost(const language::ScenarioFile& file, const Course& course, World& world,
+              const std::function<void(TrainingHost&)>& work);
 
 /// Counts the calls of a question whose learner performs the first moves of its file, and takes the shortest processor
 /// time of several runs that nobody observes. `course` holds the file's files. Raises what the module raises.
@@ -61,9 +64,13 @@ using OnChecked = std::function<void()>;
 [[nodiscard]] QuestionCost unobservedCostOf(const language::ScenarioFile& file, const Course& course,
                                             const WorldMaker& makeWorld);
 
-/// The same, run once with a PowerPoint in a process of its own, which counts its calls and the names looked up in
-/// them; the time is the clock's.
+/// The calls to PowerPoint that the check takes, after the first moves of the file.
+[[nodiscard]] std::vector<trace::RecordedCall> callsOfCheck(const language::ScenarioFile& file, const Course& course,
+                                                            const WorldMaker& makeWorld);
+
+/// What the question costs, run once with a PowerPoint in a process of its own, which counts its calls and the names
+/// looked up in them; the time is the clock's.
 [[nodiscard]] QuestionCost remoteCostOf(const language::ScenarioFile& file, const Course& course,
-                                        const WorldMaker& makeRemoteWorld, const OnChecked& onChecked = nullptr);
+                                        const WorldMaker& makeRemoteWorld);
 
 } // namespace trials::cost

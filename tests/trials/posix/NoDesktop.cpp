@@ -1,9 +1,14 @@
+#include "tests/trials/BareClient.h"
 #include "tests/trials/ScriptHost.h"
 #include "tests/trials/StandIn.h"
 
 using automation::RunTimeError;
 
 automation::LateBound trials::standIn() {
+    automation::raise(RunTimeError::CannotCreateObject);
+}
+
+std::function<void()> trials::bareClient(const std::vector<trace::RecordedCall>& /*calls*/) {
     automation::raise(RunTimeError::CannotCreateObject);
 }
 

@@ -5,7 +5,7 @@
 namespace trials::torture {
 
 void RemoteCalls::begin(World& /*world*/) {
-    before_ = countOfStandIn(u"Calls");
+    before_ = callsOfStandIn();
     if (fault_ != nullptr) {
         fault_->arm(position_);
     }
@@ -13,7 +13,7 @@ void RemoteCalls::begin(World& /*world*/) {
 
 std::size_t RemoteCalls::calls(World& /*world*/) {
     try {
-        return countOfStandIn(u"Calls") - before_;
+        return callsOfStandIn() - before_;
     } catch (const automation::Error&) {
         return 0;
     }
