@@ -38,6 +38,18 @@ TEST(Question0304, SearchesTheOutlineAmongHiddenAndSystemFiles) {
     }
 }
 
+TEST(Question0304, FindsAnOutlineWithoutExtensionByItsName) {
+    struct NoneWithADot final : automation::Observer {
+        automation::Value around(const automation::Crossing& crossing, const Next& next) override {
+            return crossing.display().find(u".*") == std::u16string::npos ? next() : automation::Value(u"");
+        }
+    };
+    tests::QuestionBench bench(304);
+    bench.prepare(std::make_shared<NoneWithADot>());
+    bench.machine.createFile(std::u16string(tests::QuestionBench::folder) + u"Plan exo 3");
+    EXPECT_EQ(bench.testePoint().causeErreur, u"B");
+}
+
 TEST(Question0304, FindsNothingInAFolderThatIsGone) {
     tests::QuestionBench bench(304);
     bench.prepare(std::make_shared<automation::CallCounter>());

@@ -41,7 +41,7 @@ public:
         services_ = std::make_unique<platform::ObservedServices>(machine.services(), observer);
         question = exercises::createQuestion(number_, {api, services_->services()});
         automation::ObjectPtr observed = automation::observed(machine.application(), observer);
-        question->Prepare(observed, std::u16string(folder), u"");
+        question->Prepare(observed, std::u16string(folder), std::nullopt);
     }
 
     /// What the learner does before the first check of the scenario.

@@ -1,7 +1,9 @@
 #include "automation/observe/CallCounter.h"
 #include "automation/observe/CallTrace.h"
 #include "module/Session.h"
+#include "module/Staging.h"
 #include "module/UserSettings.h"
+#include "simulator/system/EmbeddedWindows.h"
 #include "tests/exercises/QuestionBench.h"
 #include "tests/support/Errors.h"
 #include "tests/trials/memory/ScarceMemory.h"
@@ -94,8 +96,10 @@ TEST_F(Questions, CountFreeformsAndScrollsInsideGroupsOnly) {
         say(shapes, u"AddPolyline", Array{point(0, 0), point(10, 10), point(20, 0)});
         add(horizontalScroll);
     }
-    group(1, 2);
+    say(add(rectangle), u"ZOrder", 1); // the lowest, and none of either
+    group(1, 3);
     group(2, 3);
+    group(3, 4);
     EXPECT_EQ(api.ChercheForme(1, u"msoFreeform", true, application), 0);
     EXPECT_EQ(api.ChercheForme(1, u"msoFreeform", false, application), 0);
     EXPECT_EQ(api.NbFormesLibres, 2);
@@ -211,6 +215,48 @@ TEST_F(Questions, CloseTheDialogAboveFirst) {
     session.EnvoieEchap(session.window());
     EXPECT_EQ(machine.keysSent(), u"{ESC}");
     EXPECT_EQ(machine.foregroundWindow(), session.window());
+}
+
+TEST_F(Questions, CloseNoWindowThatLacksWhatADialogHas) {
+    simulator::EmbeddedWindows windows;
+    const platform::Services& others = machine.services();
+    const platform::WindowHandle main = windows.create({u"PP11FrameClass"});
+    k73053::Session session({windows, others.registry, others.files, others.keyboard, others.locale, others.servers});
+    const simulator::WindowTraits dialog{u"", u"Police", main, platform::WindowSystem::dialogModalFrame};
+    std::vector<simulator::WindowTraits> all(5, dialog);
+    all[0].title = u"";
+    all[1].owner = 0;
+    all[2].extendedStyle = 0;
+    all[3].visible = false;
+    std::vector<std::size_t> closed;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i].onClose = [&closed, i] { closed.push_back(i); };
+        const platform::WindowHandle window = windows.create(all[i]);
+        session.FermeDialogues(main);
+        windows.destroy(window);
+    }
+    EXPECT_EQ(closed, std::vector<std::size_t>{4});
+}
+
+TEST_F(Questions, TakeModelsFromTheFolderOfTemplates) {
+    struct Question final : automation::Published {
+        [[nodiscard]] ObjectPtr FichiersDeTravail() const { return files; }
+        [[nodiscard]] const automation::MemberTable& members() const override {
+            static const automation::MemberTable table{
+                automation::property<&Question::FichiersDeTravail>(u"FichiersDeTravail")};
+            return table;
+        }
+        std::shared_ptr<collections::FichiersDeTravail> files = std::make_shared<collections::FichiersDeTravail>();
+    };
+    const auto question = std::make_shared<Question>();
+    question->files->add(u"a", u"b", true);
+    machine.createFile(u"C:\\T\\a");
+    k73053::Staging staging(machine.services().files, api);
+    staging.templatesFolder = u"C:\\T\\";
+    staging.Renomme(LateBound(question));
+    EXPECT_EQ(machine.services().files.find(u"C:\\T\\*", 0), u"b");
+    staging.Nettoyage(LateBound(question), application);
+    EXPECT_EQ(machine.services().files.find(u"C:\\T\\*", 0), u"");
 }
 
 TEST_F(Questions, KeepEachFolderInItsOwnKeyForOlderVersions) {

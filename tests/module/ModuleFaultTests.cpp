@@ -10,18 +10,29 @@ using automation::Value;
 using platform::Registry;
 using tests::folder;
 
-/// Makes every call fail that a test picks.
+/// Makes every call fail that a test picks, and answers others in the place of who was called.
 class FailingCalls final : public automation::Observer {
 public:
     Value around(const Crossing& crossing, const Next& next) override {
         if (fails && fails(crossing)) {
             throw error;
         }
-        return isHung && crossing.member == u"isHung" ? Value(true) : next();
+        const std::optional<Value> answer = answers ? answers(crossing) : std::nullopt;
+        return answer ? *answer : next();
+    }
+    /// From now on a member always answers the same; `seen` counts how often it was asked.
+    void answer(std::u16string_view member, const Value& value) {
+        seen = 0;
+        answers = [this, member, value](const Crossing& crossing) {
+            const bool isAsked = crossing.member == member;
+            seen += isAsked ? 1 : 0;
+            return isAsked ? std::make_optional(value) : std::nullopt;
+        };
     }
 
     std::function<bool(const Crossing&)> fails;
-    bool isHung = false;
+    std::function<std::optional<Value>(const Crossing&)> answers;
+    int seen = 0;
     automation::Error error{automation::RunTimeError::PathAccess};
 };
 
@@ -196,7 +207,7 @@ TEST_F(ModuleFaults, AReaderDuringACheckAnswersFromTheLast) {
 TEST_F(ModuleFaults, APowerPointThatHangsIsNotCalled) {
     machine.endPowerPoint();
     init();
-    calls->isHung = true;
+    calls->answer(u"isHung", true);
     calls->fails = [](const Crossing& crossing) {
         EXPECT_NE(crossing.border, automation::Border::Automation);
         return false;
@@ -234,6 +245,56 @@ TEST_F(ModuleFaults, APowerPointThatDiesWhileItIsAttachedToIsReplaced) {
     init();
     EXPECT_EQ(std::count(reached.begin(), reached.end(), u"create"), 1);
     calls->fails = nullptr;
+}
+
+TEST_F(ModuleFaults, BarsAreTriedOneByOneUnlessPowerPointDoesNotAnswerAtAll) {
+    constexpr auto isGone = static_cast<std::int32_t>(0x800706BAU);
+    struct Case {
+        std::int32_t error;
+        int tried;
+    };
+    for (const Case refused : {Case{75, 4}, Case{isGone, 1}, Case{automation::remote::callRejected, 1},
+                               Case{automation::remote::retryLater, 1}}) {
+        init();
+        int tried = 0;
+        calls->error = automation::Error(refused.error, u"", u"");
+        calls->fails = [&](const Crossing& crossing) { return crossing.member == u"Position" && ++tried > 0; };
+        module.Fermer();
+        EXPECT_EQ(tried, refused.tried) << refused.error;
+        calls->fails = nullptr;
+        module.Fermer();
+        deliver();
+    }
+}
+
+TEST_F(ModuleFaults, OfTwoBarsOfOneNameTheFirstCounts) {
+    std::vector<simulator::CommandBar>& bars = machine.session()->settings().commandBars.bars;
+    bars.push_back(bars.front());
+    bars.back().visible = !bars.front().visible;
+    const bool isVisible = bars.front().visible;
+    init();
+    module.Fermer();
+    EXPECT_EQ(bars.front().visible, isVisible);
+    EXPECT_EQ(bars.back().visible, !isVisible);
+}
+
+TEST_F(ModuleFaults, AWindowThatStaysAnIconIsShown) {
+    std::u16string shown;
+    calls->fails = [&](const Crossing& crossing) {
+        shown = crossing.member == u"show" ? crossing.display() : shown;
+        return false;
+    };
+    calls->answer(u"isIconic", true);
+    init();
+    calls->fails = nullptr;
+    EXPECT_TRUE(shown.ends_with(u", 3)")) << automation::toUtf8(shown);
+}
+
+TEST_F(ModuleFaults, AWalkOverWindowsThatChangePlacesEnds) {
+    init();
+    calls->answer(u"previous", window);
+    module.Fermer();
+    EXPECT_EQ(calls->seen, 10001);
 }
 
 TEST_F(ModuleFaults, DefaultIsWrittenFromABufferThatEndsWithANul) {

@@ -25,6 +25,8 @@ TEST(TemplatesFolder, IsTheLearnersOwnWhereThereIsOne) {
     };
     const host::TemporaryFolder root;
     simulator::Machine machine(root.path());
+    machine.setRegistryText(generalKey, u"UserTemplates", u"");
+    machine.setRegistryText(generalKey, u"Vignettes", u"");
     Registry& registry = machine.services().registry;
     for (const auto& [data, expected] : cases) {
         const platform::OpenKey key(registry, generalKey, Registry::queryAndSet);
