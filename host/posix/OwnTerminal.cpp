@@ -33,7 +33,7 @@ Bell& bell() {
 void ring(int signal) {
     const int error = errno;
     const auto number = static_cast<unsigned char>(signal);
-    const bool isHeard = write(bell().write, &number, 1) == 1;
+    const bool isHeard = ::write(bell().write, &number, 1) == 1;
     while (isHeard && signal == SIGPIPE) { // NOLINT(bugprone-infinite-loop): the other thread ends the program
         pause();                           // nobody reads what would be written next
     }
@@ -42,7 +42,7 @@ void ring(int signal) {
 
 void cleanUpAtTheBell() {
     unsigned char signal = 0;
-    while (read(bell().read, &signal, 1) != 1) {
+    while (::read(bell().read, &signal, 1) != 1) {
     }
     TemporaryFolder::removeAll();
     std::signal(signal, SIG_DFL);

@@ -43,7 +43,7 @@ std::string faultOf(const std::filesystem::path& deck, SecondReader& reader, con
     if (!isOpened) {
         return {};
     }
-    if (const std::string difference = histories::differenceOf(histories::viewOf(*read), theirs); !difference.empty()) {
+    if (std::string difference = histories::differenceOf(histories::viewOf(*read), theirs); !difference.empty()) {
         return difference;
     }
     // As it is, and with every shape's record written anew.

@@ -166,8 +166,8 @@ constexpr auto placeholders = std::to_array<Placeholder>({
 
 /// What is drawn for what stands in braces.
 std::u16string drawn(std::u16string_view choice, const Hand& hand) {
-    const auto placeholder = std::find_if(placeholders.begin(), placeholders.end(),
-                                          [&](const Placeholder& each) { return each.name == choice; });
+    const auto* const placeholder = std::find_if(placeholders.begin(), placeholders.end(),
+                                                 [&](const Placeholder& each) { return each.name == choice; });
     if (placeholder != placeholders.end()) {
         return placeholder->draw != nullptr ? placeholder->draw(hand) : std::u16string(placeholder->meaning);
     }
@@ -193,7 +193,7 @@ std::u16string anyGesture(const Hand& hand) {
         std::accumulate(gestures.begin(), gestures.end(), std::size_t{0},
                         [](std::size_t sum, const Gesture& gesture) { return sum + gesture.weight; });
     std::size_t left = hand.draw.below(total);
-    const auto picked = std::find_if(gestures.begin(), gestures.end(), [&](const Gesture& gesture) {
+    const auto* const picked = std::find_if(gestures.begin(), gestures.end(), [&](const Gesture& gesture) {
         const bool isIt = left < gesture.weight;
         left -= isIt ? 0 : gesture.weight;
         return isIt;

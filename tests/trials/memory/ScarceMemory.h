@@ -51,8 +51,10 @@ struct ScarceStep {
                 raised = std::current_exception();
             }
         }
+        // NOLINTBEGIN(cppcoreguidelines-prefer-member-initializer): what is known once the step has been taken
         asked = ScarceMemory::asked();
         hasStruck = ScarceMemory::hasStruck();
+        // NOLINTEND(cppcoreguidelines-prefer-member-initializer)
         if (raised) {
             try {
                 std::rethrow_exception(raised);

@@ -45,7 +45,7 @@ std::string TraceLog::take() {
 }
 
 std::string TraceLog::lineOf(const automation::Crossing& crossing) {
-    const std::string line = automation::toUtf8(crossing.display());
+    std::string line = automation::toUtf8(crossing.display());
     if (crossing.border != automation::Border::Window || crossing.member == u"findWindow") {
         return line;
     }
