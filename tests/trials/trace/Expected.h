@@ -49,8 +49,8 @@ struct Operation {
         Started, ///< the module starts PowerPoint, whose bars the learner has arranged
     };
 
-    HostCall call;
-    Arrival arrival;
+    HostCall call{};
+    Arrival arrival{};
     bool isHeld = false; ///< for InitQuestion: a question has been begun before and not been closed
 
     /// In words: `InitQuestion (PowerPoint started)`.
