@@ -26,7 +26,7 @@ struct Line {
     float weight = 0.75F; ///< points
     Color color = Color::of(ppForeground);
     std::int32_t dashStyle = 1;
-    Color back = Color::of(ppBackground); ///< of a patterned line; files do not keep it
+    Color back = Color::of(ppBackground); ///< of a patterned line
 
     friend bool operator==(const Line&, const Line&) = default;
 };
@@ -39,7 +39,7 @@ struct Shadow {
     float offsetX = 2; ///< points
     float offsetY = 2; ///< points
     bool obscured = false;
-    float transparency = 0; ///< 0 opaque to 1 clear; files do not keep it
+    float transparency = 0; ///< 0 opaque to 1 clear
 
     friend bool operator==(const Shadow&, const Shadow&) = default;
 };
@@ -49,7 +49,7 @@ struct ThreeD {
     bool visible = false;
     std::int32_t preset = -2;
     float depth = 36; ///< points
-    /// What a toolbar changes beside the depth, by Office's numbers; files keep none of it.
+    /// What a toolbar changes beside the depth, by Office's numbers.
     ///@{
     std::int32_t direction = 9; ///< msoExtrusionBottomRight
     std::int32_t lighting = 1;  ///< msoLightingTopLeft

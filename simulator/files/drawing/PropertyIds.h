@@ -48,18 +48,34 @@ enum : std::uint16_t {
     fillShadeColors = 0x0197,
     fillFlags = 0x01BF,
     lineColor = 0x01C0,
+    lineBackColor = 0x01C2,
     lineWidth = 0x01CB, ///< EMU
     lineDashing = 0x01CE,
     lineDashStyle = 0x01CF,
     lineFlags = 0x01FF,
     shadowKind = 0x0200,
     shadowColor = 0x0201,
+    shadowOpacity = 0x0204, ///< 16.16
     shadowOffsetX = 0x0205, ///< EMU
     shadowOffsetY = 0x0206,
     shadowFlags = 0x023F,
-    extrusionGloss = 0x0280,
-    extrusionDepth = 0x0285, ///< EMU
+    extrusionGloss = 0x0280,   ///< 16.16
+    extrusionDiffuse = 0x0281, ///< 16.16
+    extrusionDepth = 0x0285,   ///< EMU
+    extrusionColor = 0x0287,
     extrusionFlags = 0x02BF,
+    extrusionTurnY = 0x02C0, ///< degrees, 16.16
+    extrusionTurnX = 0x02C1,
+    extrusionRendering = 0x02C9,
+    extrusionSkewAngle = 0x02D0, ///< degrees, 16.16
+    extrusionSkew = 0x02D1,      ///< percent
+    ambientLight = 0x02D2,       ///< 16.16
+    keyLightX = 0x02D3,
+    keyLightY = 0x02D4,
+    keyLight = 0x02D6, ///< 16.16
+    fillLightX = 0x02D7,
+    fillLightY = 0x02D8,
+    fillLight = 0x02DA, ///< 16.16
     extrusionViewFlags = 0x02FF,
     master = 0x0301, ///< the placeholder of the master slide
     wrapPolygon = 0x0383,
@@ -91,6 +107,9 @@ enum : std::uint16_t {
     shadowObscured = 0x0001,
     shadowed = 0x0002,
     extruded = 0x0008,
+    extrusionColored = 0x0002,
+    extrusionMetallic = 0x0004,
+    extrusionParallel = 0x0004,
     hidden = 0x0002,
 };
 

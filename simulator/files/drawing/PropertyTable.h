@@ -3,6 +3,7 @@
 #include "simulator/files/Bytes.h"
 #include "simulator/files/records/Record.h"
 
+#include <algorithm>
 #include <cassert>
 
 namespace simulator::drawing {
@@ -71,6 +72,13 @@ public:
     [[nodiscard]] float fixed(std::uint16_t id, float otherwise) const noexcept;  ///< of a 16.16 number
     [[nodiscard]] float points(std::uint16_t id, float otherwise) const noexcept; ///< of a length in EMU
     [[nodiscard]] bool flag(std::uint16_t id, std::uint16_t bit, bool otherwise) const noexcept;
+    /// True where some table has a property whose id matches.
+    template <typename Match> [[nodiscard]] bool hasAny(const Match& match) const noexcept {
+        return std::any_of(tables_.begin(), tables_.end(), [&match](const PropertyTable* table) {
+            return std::any_of(table->all().begin(), table->all().end(),
+                               [&match](const Property& property) { return match(property.id); });
+        });
+    }
     /// The shape's own text, up to its zero.
     [[nodiscard]] std::u16string text(std::uint16_t id) const;
     /// The shape's own property; null where it has none.

@@ -3,12 +3,13 @@
 #include "automation/Text.h"
 #include "simulator/document/NewShape.h"
 #include "simulator/files/drawing/Codes.h"
-#include "simulator/files/drawing/DepthCodes.h"
+#include "simulator/files/drawing/ExtrusionCodes.h"
 #include "simulator/files/drawing/FillCodes.h"
 #include "simulator/files/drawing/FreeformCodes.h"
 #include "simulator/files/drawing/LayoutCodes.h"
 #include "simulator/files/drawing/LineCodes.h"
 #include "simulator/files/drawing/PropertyIds.h"
+#include "simulator/files/drawing/ShadowCodes.h"
 #include "simulator/files/drawing/WordArtCodes.h"
 
 namespace simulator::drawing {

@@ -217,6 +217,7 @@ std::shared_ptr<const PresentationOrigin> makeBlank() {
     blank->document = documentObject;
     const Presentation usual;
     blank->snapToGrid = usual.snapToGrid;
+    blank->gridDistance = usual.gridDistance;
     blank->slideWidth = usual.slideWidth;
     blank->slideHeight = usual.slideHeight;
     return blank;

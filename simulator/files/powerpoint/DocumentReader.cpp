@@ -50,6 +50,7 @@ public:
         origin_->slideWidth = presentation->slideWidth;
         origin_->slideHeight = presentation->slideHeight;
         origin_->snapToGrid = presentation->snapToGrid;
+        origin_->gridDistance = presentation->gridDistance;
         origin_->tags = presentation->tags;
         origin_->colors = presentation->colors;
         presentation->origin = origin_;

@@ -3,6 +3,7 @@
 #include "simulator/files/Bytes.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
+#include "simulator/files/powerpoint/GridSpacing.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
@@ -68,6 +69,7 @@ void readSettings(const Record& document, Presentation& presentation) {
     presentation.slideHeight = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
     if (const Record* const list = document.find(type::DocInfoList)) {
         presentation.tags = readTags(*list);
+        presentation.gridDistance = readGridSpacing(*list).value_or(presentation.gridDistance);
     }
     const Record* const view = slideView(document);
     presentation.snapToGrid = view == nullptr || view->data.size() <= snapPlace || view->data[snapPlace] != 0;
@@ -79,6 +81,9 @@ void writeSettings(Record& document, const Presentation& presentation, const Pre
     }
     if (!(presentation.tags == origin.tags)) {
         putTags(docInfoList(document), presentation.tags);
+    }
+    if (presentation.gridDistance != origin.gridDistance) {
+        writeGridSpacing(docInfoList(document), presentation.gridDistance);
     }
     if (presentation.snapToGrid != origin.snapToGrid) {
         writeSnapToGrid(document, presentation.snapToGrid);

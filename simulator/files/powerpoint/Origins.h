@@ -16,6 +16,7 @@ public:
     std::uint32_t document = 0; ///< number of the object that is the document
 
     bool snapToGrid = true; ///< as read, as all that follows
+    float gridDistance = 0;
     float slideWidth = 0;
     float slideHeight = 0;
     ColorScheme colors;

@@ -47,6 +47,9 @@ void overlay(const TextException& exception, const FontTable& fonts, CharacterFo
     overlayStyle(format.bold, exception, bold);
     overlayStyle(format.italic, exception, italic);
     overlayStyle(format.underline, exception, underline);
+    overlayStyle(format.shadow, exception, shadow);
+    overlayStyle(format.emboss, exception, emboss);
+    overlayStyle(format.autoRotateNumbers, exception, uprightNumbers);
     const std::u16string* const font = exception.has(fields[Font]) ? fonts.name(exception.values[Font]) : nullptr;
     if (font != nullptr) {
         format.fontName = *font;
@@ -56,6 +59,9 @@ void overlay(const TextException& exception, const FontTable& fonts, CharacterFo
     }
     if (exception.has(fields[character::Color])) {
         format.color = textColor(exception.values[character::Color], format.color);
+    }
+    if (exception.has(fields[Position])) {
+        format.baselineOffset = static_cast<float>(static_cast<std::int16_t>(exception.values[Position])) / 100;
     }
 }
 
@@ -78,11 +84,16 @@ void overlay(const TextException& exception, ParagraphFormat& format) {
 TextException codeOf(const CharacterFormat& format, FontTable& fonts) {
     using namespace character;
     TextException code;
-    code.set(Style, bold | italic | underline,
-             (format.bold ? bold : 0) | (format.italic ? italic : 0) | (format.underline ? underline : 0));
+    code.set(Style, bold | italic | underline | shadow | emboss | uprightNumbers,
+             (format.bold ? bold : 0) | (format.italic ? italic : 0) | (format.underline ? underline : 0) |
+                 (format.shadow ? shadow : 0) | (format.emboss ? emboss : 0) |
+                 (format.autoRotateNumbers ? uprightNumbers : 0));
     code.set(Font, fields[Font].bits, fonts.number(format.fontName));
     code.set(Size, fields[Size].bits, rounded(format.size));
     code.set(character::Color, fields[character::Color].bits, colorCode(format.color));
+    if (format.baselineOffset != 0) {
+        code.set(Position, fields[Position].bits, rounded(format.baselineOffset * 100) & 0xFFFFU);
+    }
     return code;
 }
 

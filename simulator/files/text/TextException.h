@@ -21,6 +21,9 @@ inline constexpr std::array<Field, 8> fields{
 inline constexpr std::uint32_t bold = 1;
 inline constexpr std::uint32_t italic = 2;
 inline constexpr std::uint32_t underline = 4;
+inline constexpr std::uint32_t shadow = 0x10;
+inline constexpr std::uint32_t uprightNumbers = 0x80;
+inline constexpr std::uint32_t emboss = 0x200;
 inline constexpr std::uint32_t extension = 0x3C00; ///< the place in the list of later versions' formats
 inline constexpr unsigned extensionShift = 10;
 } // namespace character

@@ -40,6 +40,7 @@ TEST(PresentationFile, KeepsEverythingOfADocument) {
     const PresentationPtr written = richPresentation();
     const PresentationPtr read = powerpoint::readPresentation(powerpoint::writePresentation(*written));
     EXPECT_EQ(read->snapToGrid, written->snapToGrid);
+    EXPECT_EQ(read->gridDistance, written->gridDistance);
     EXPECT_EQ(read->slideWidth, written->slideWidth);
     EXPECT_EQ(read->slideHeight, written->slideHeight);
     EXPECT_EQ(read->colors, written->colors);
@@ -68,6 +69,9 @@ TEST(PresentationFile, KeepsEveryKind) {
         const ShapePtr shape = newShape::autoShape(type, {10, 10, 50, 51.125F});
         shape->rotation = static_cast<float>(type) * 5;
         shape->line.dashStyle = 1 + type % 8;
+        shape->threeD.direction = shape->threeD.lighting = 1 + type % 9;
+        shape->threeD.softness = 1 + type % 3;
+        shape->threeD.material = 1 + type % 4;
         shape->fill.type = msoFillGradient;
         shape->fill.gradientStyle = 1 + type % 7;
         shape->fill.gradientVariant = 1 + type % 4;

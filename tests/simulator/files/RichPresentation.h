@@ -18,13 +18,14 @@ inline ShapePtr richRectangle() {
     shape->tags.add(u"Identite", u"ZOR1");
     shape->tags.add(u"Vide", u"");
     shape->fill = {false, msoFillGradient, Color::direct(1), Color::of(ppAccent3), 0.25F, 0, 3, 4};
-    shape->line = {false, 2.25F, Color::direct(0xABCDEF), 4};
-    shape->shadow = {true, 6, Color::direct(3), -2.5F, 1.1F, true};
-    shape->threeD = {true, 11, 72.3F};
+    shape->line = {false, 2.25F, Color::direct(0xABCDEF), 4, Color::direct(7)};
+    shape->shadow = {true, 6, Color::direct(3), -2.5F, 1.1F, true, 0.5F};
+    shape->threeD = {true, 11, 72.3F, 5, 6, 3, 4, true, -90, 30.5F, true, Color::direct(8)};
     TextStory& text = *shape->text;
     text.replace({}, u"Un été\và part\r\rFin\r");
-    text.format({3, 4},
-                [](CharacterFormat& format) { format = {u"Comic Sans MS", 14, true, true, true, Color::direct(9)}; });
+    text.format({3, 4}, [](CharacterFormat& format) {
+        format = {u"Comic Sans MS", 14, true, true, true, Color::direct(9), true, true, true, -0.25F};
+    });
     text.formatParagraphs({16, 0}, [](ParagraphFormat& format) {
         format = {ppAlignJustify, 4, ppBulletNumbered, 0x25A0, 0.9F, 0.2F, 0.3F};
     });
@@ -36,6 +37,7 @@ inline ShapePtr richRectangle() {
 inline PresentationPtr richPresentation() {
     auto presentation = std::make_shared<Presentation>();
     presentation->snapToGrid = false;
+    presentation->gridDistance = 28.375F;
     presentation->slideWidth = 793.75F;
     presentation->slideHeight = 1122.5F;
     presentation->colors.colors[3] = 0x7F8081;

@@ -1,4 +1,4 @@
-#include "simulator/files/drawing/DepthCodes.h"
+#include "simulator/files/drawing/ShadowCodes.h"
 
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
@@ -11,6 +11,7 @@ Shadow readShadow(const Looks& looks) {
     shadow.visible = looks.flag(property::shadowFlags, flag::shadowed, false);
     shadow.obscured = looks.flag(property::shadowFlags, flag::shadowObscured, false);
     shadow.color = colorOf(looks.number(property::shadowColor, gray), shadow.color);
+    shadow.transparency = 1 - looks.fixed(property::shadowOpacity, 1);
     shadow.offsetX = looks.points(property::shadowOffsetX, shadow.offsetX);
     shadow.offsetY = looks.points(property::shadowOffsetY, shadow.offsetY);
     return shadow;
@@ -20,20 +21,11 @@ void writeShadow(PropertyTable& properties, const Shadow& shadow) {
     properties.setFlag(property::shadowFlags, flag::shadowed, shadow.visible);
     properties.setFlag(property::shadowFlags, flag::shadowObscured, shadow.obscured);
     properties.set(property::shadowColor, codeOf(shadow.color));
+    if (shadow.transparency != 0) {
+        properties.set(property::shadowOpacity, code((1 - double{shadow.transparency}) * fixedPoint));
+    }
     properties.set(property::shadowOffsetX, emu(shadow.offsetX));
     properties.set(property::shadowOffsetY, emu(shadow.offsetY));
-}
-
-ThreeD readThreeD(const Looks& looks) {
-    ThreeD threeD;
-    threeD.visible = looks.flag(property::extrusionFlags, flag::extruded, false);
-    threeD.depth = looks.points(property::extrusionDepth, threeD.depth);
-    return threeD;
-}
-
-void writeThreeD(PropertyTable& properties, const ThreeD& threeD) {
-    properties.setFlag(property::extrusionFlags, flag::extruded, threeD.visible);
-    properties.set(property::extrusionDepth, emu(threeD.depth));
 }
 
 } // namespace simulator::drawing
