@@ -4,11 +4,11 @@
 #include "host/language/Interpreter.h"
 #include "host/language/Operators.h"
 #include "host/reason/Told.h"
+#include "host/reason/Ways.h"
 #include "host/run/WorldStage.h"
 #include "host/world/Members.h"
 
 #include <algorithm>
-#include <map>
 
 namespace host::reason {
 
@@ -43,7 +43,7 @@ private:
             const Value found = interpreter_.evaluate(equation.actual);
             const Value wanted = interpreter_.evaluate(equation.wanted);
             if (!language::areEqual(found, wanted)) {
-                const Path path = pathOf(equation.actual);
+                const Path path = ways_.of(equation.actual);
                 add(equation.actual.place, path.place(),
                     path.behind() + " is " + toldWithUnits(path, found) + " and should be " +
                         toldWithUnits(path, wanted));
@@ -67,8 +67,7 @@ private:
             return false;
         }
         if (assignment != nullptr) {
-            const auto& variable = std::get<Reference>(assignment->target.node);
-            variables_[automation::lowerCase(variable.name)] = pathOf(assignment->value);
+            ways_.follow(*assignment);
         }
         return true;
     }
@@ -76,7 +75,7 @@ private:
     /// What cannot be reached: the failure's place says which member it is.
     void addMissing(const Expression& expression, const language::Failure& failure) {
         const Expression* const culprit = at(failure.remark.place, expression);
-        const Path path = pathOf(culprit != nullptr ? *culprit : expression);
+        const Path path = ways_.of(culprit != nullptr ? *culprit : expression);
         const std::string sought = soughtText(expression);
         if (!sought.empty()) {
             add(failure.remark.place, path.place(), "its text does not hold " + sought);
@@ -96,25 +95,6 @@ private:
             remarks_.push_back({position, place + (place.empty() ? "" : ": ") + what});
         }
         place_ = place;
-    }
-
-    [[nodiscard]] Path pathOf(const Expression& expression) {
-        const auto* const reference = std::get_if<Reference>(&expression.node);
-        if (reference == nullptr) {
-            return {};
-        }
-        std::vector<Value> arguments;
-        for (const Expression& argument : reference->arguments) {
-            arguments.push_back(interpreter_.evaluate(argument));
-        }
-        if (reference->object) {
-            return pathOf(*reference->object).to(reference->name, std::move(arguments));
-        }
-        const auto variable = variables_.find(automation::lowerCase(reference->name));
-        if (variable == variables_.end()) {
-            return Path().to(reference->name, std::move(arguments));
-        }
-        return arguments.empty() ? variable->second : variable->second.to({}, std::move(arguments));
     }
 
     /// The part of an expression that is at a place of the file.
@@ -139,7 +119,7 @@ private:
 
     WorldStage stage_;
     language::Interpreter interpreter_;
-    std::map<std::u16string, Path> variables_;
+    Ways ways_{[this](const Expression& argument) { return interpreter_.evaluate(argument); }};
     std::vector<Remark> remarks_;
     std::string place_; ///< of the last remark
 };

@@ -38,9 +38,9 @@ void Explainer::explain(Reading& reading) {
     const bool isPlainSuccess = !reading.error && reading.causeErreur.empty();
     const bool isAsBefore = !reading.erreurGenerale && !reading.error && reading.causeErreur == before_;
     reading.reason = isPlainSuccess ? ""
-                     : isAsBefore
-                         ? "It may be left from the check before, as no check clears it. " + reasonOf(*trail_, reading)
-                         : reasonOf(*trail_, reading);
+                     : isAsBefore   ? "It may be left from the check before, as no check clears it. " +
+                                        reasonOf(*trail_, reading, delivered_)
+                                  : reasonOf(*trail_, reading, delivered_);
     before_ = reading.erreurGenerale ? u"" : reading.causeErreur;
 }
 

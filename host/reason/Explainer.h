@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/reason/Trail.h"
+#include "host/reason/Ways.h"
 #include "host/run/Witness.h"
 
 namespace host::reason {
@@ -13,7 +14,8 @@ public:
     /// `contract` must outlive this object. What passes through the observer of a world can be explained; in a world
     /// without one only what a verdict means. Calls pass through the other observer, too.
     explicit Explainer(const language::Contract& contract, automation::ObserverPtr other = nullptr)
-        : contract_(contract), trail_(std::make_shared<Trail>(std::move(other))) {}
+        : contract_(contract), delivered_(valuesStated(contract.delivered)),
+          trail_(std::make_shared<Trail>(std::move(other))) {}
 
     [[nodiscard]] automation::ObserverPtr observer() const noexcept { return trail_; }
 
@@ -22,6 +24,7 @@ public:
 
 private:
     const language::Contract& contract_;
+    std::map<std::string, automation::Value> delivered_;
     std::shared_ptr<Trail> trail_;
     std::u16string before_; ///< the letter of the check before, of the same preparation
 };

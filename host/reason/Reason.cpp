@@ -1,6 +1,7 @@
 #include "host/reason/Reason.h"
 
 #include "automation/Text.h"
+#include "host/language/Operators.h"
 #include "host/language/Words.h"
 #include "host/reason/Listing.h"
 #include "host/reason/Told.h"
@@ -14,6 +15,7 @@ namespace {
 
 using automation::Border;
 using Accesses = std::vector<Access>;
+using Delivered = std::map<std::string, automation::Value>;
 
 /// More than so many values are too many for a sentence.
 constexpr std::size_t most = 12;
@@ -43,8 +45,8 @@ Accesses filtered(const Accesses& all, const std::function<bool(const Access&)>&
 
 class Finder {
 public:
-    Finder(const Trail& trail, const Reading& reading)
-        : trail_(trail), reading_(reading), topic_(reading.meaning), marks_(trail.marks()) {}
+    Finder(const Trail& trail, const Reading& reading, const Delivered& delivered)
+        : trail_(trail), reading_(reading), delivered_(delivered), topic_(reading.meaning), marks_(trail.marks()) {}
 
     [[nodiscard]] std::string reason() const {
         if (trail_.accesses().empty()) {
@@ -189,7 +191,22 @@ private:
                    (mark.empty() ? " has no mark" : " is marked " + automation::toUtf8(mark));
         }
         const std::string value = access.error ? " has raised it" : " is " + told(access.path, access.value);
-        return access.path.behind() + value;
+        return access.path.behind() + value + asDelivered(access);
+    }
+
+    /// ` (delivered: 481.625)` where the shape of this mark had another value then, and the meaning speaks of a change.
+    [[nodiscard]] std::string asDelivered(const Access& access) const {
+        const std::string mark = topic_.isOfChange() ? markOf(access.path.owner()) : "";
+        for (const Mark& given : trail_.given()) {
+            const Path path = given.bearer.to(access.path.member());
+            const auto value = given.identity == mark && !given.bearer.topShape().isEmpty()
+                                   ? delivered_.find(path.display())
+                                   : delivered_.end();
+            if (value != delivered_.end() && !access.error && !language::areEqual(value->second, access.value)) {
+                return " (delivered: " + told(path, value->second) + ")";
+            }
+        }
+        return {};
     }
 
     /// ` (ZOR4)`, ` (no mark)`, or nothing where nobody has asked.
@@ -237,14 +254,15 @@ private:
 
     const Trail& trail_;
     const Reading& reading_;
+    const Delivered& delivered_;
     Topic topic_;
     std::vector<Mark> marks_;
 };
 
 } // namespace
 
-std::string reasonOf(const Trail& trail, const Reading& reading) {
-    return Finder(trail, reading).reason();
+std::string reasonOf(const Trail& trail, const Reading& reading, const Delivered& delivered) {
+    return Finder(trail, reading, delivered).reason();
 }
 
 } // namespace host::reason

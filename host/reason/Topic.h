@@ -13,6 +13,8 @@ public:
     [[nodiscard]] bool isOfMarks() const;
     /// True where it speaks of what the learner has added.
     [[nodiscard]] bool isOfNew() const { return holds("drawn") || holds("new "); }
+    /// True where it speaks of what the learner has changed, or should have.
+    [[nodiscard]] bool isOfChange() const { return holds("moved") || holds("resized"); }
     /// True where it speaks of the slides as such.
     [[nodiscard]] bool isOfSlides() const { return holds("slide"); }
     /// True where it names the member by one of the words that stand for it.
