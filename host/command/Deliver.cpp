@@ -13,15 +13,15 @@ namespace host {
 namespace {
 
 struct DeliverRequest {
-    std::int32_t question = 0;
+    std::string question; ///< its number, or a scenario file
     std::string folder;
 };
 
 /// Writes the files that a question's scenario file builds. A file that is there already is never touched, nor is
 /// anything written then.
 ExitCode deliver(const DeliverRequest& request, const CommandContext& at) {
-    const language::ScenarioFile file = load(at.library.fileOf(request.question));
-    const auto files = courseOf(file, {}, at.worlds.embedded).filesFor(request.question);
+    const language::ScenarioFile file = load(at.library.fileNamed(request.question));
+    const auto files = courseOf(file, {}, at.worlds.embedded).filesFor(file.question);
     const std::filesystem::path folder = pathOf(request.folder);
     std::vector<OutputFile> outputs;
     for (const auto& [name, content] : files) {
@@ -42,7 +42,7 @@ ExitCode deliver(const DeliverRequest& request, const CommandContext& at) {
 
 Action addDeliver(CLI::App& command) {
     const auto request = std::make_shared<DeliverRequest>();
-    addQuestion(command, "question", request->question)->required();
+    addScenarioFile(command, request->question);
     command.add_option("folder", request->folder, "Folder for the files; made where it is not there")->required();
     return [request](const CommandContext& at) { return deliver(*request, at); };
 }

@@ -47,7 +47,8 @@ constexpr const char* recheckExamples = R"(  exercise-host recheck Méthodologie
   exercise-host recheck DIR --question 306    all presentations below a folder
   exercise-host recheck DIR --question 306 --json)";
 
-constexpr const char* deliverExamples = R"(  exercise-host deliver 311 DIR)";
+constexpr const char* deliverExamples = R"(  exercise-host deliver 311 DIR
+  exercise-host deliver mine.scn DIR    what a file of your own delivers)";
 
 constexpr const char* listExamples = R"(  exercise-host list
   exercise-host list 306 mine.scn)";

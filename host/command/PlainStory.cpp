@@ -2,6 +2,7 @@
 
 #include "automation/Text.h"
 #include "host/language/Folding.h"
+#include "host/language/Words.h"
 
 #include <iomanip>
 #include <ostream>
@@ -19,7 +20,9 @@ void PlainStory::sentence(std::string_view text) {
 }
 
 void PlainStory::statement(std::size_t line, std::string_view text) {
-    unfolded(out_) << std::setw(7) << line << "  " << text << std::endl;
+    std::string lines(text);
+    replaceAll(lines, "\n", "\n         "); // as deep as the first
+    unfolded(out_) << std::setw(7) << line << "  " << lines << std::endl;
 }
 
 void PlainStory::call(const automation::TracedCall& traced) {

@@ -181,7 +181,12 @@ void Interpreter::perform(const Assignment& assignment) {
 void Interpreter::perform(const Check& check) {
     const Reading reading = stage_.testePoint();
     if (!check.expected.matches(reading)) {
-        throw Failure({place_, "expected " + check.expected.display() + ", the host reads " + reading.explained()});
+        const bool isRaised =
+            check.expected.kind == Expectation::Kind::Success && reading.error && reading.error->number() == 0;
+        throw Failure({place_, "expected " + check.expected.display() + ", the host reads " + reading.explained() +
+                                   (isRaised ? "; where that is the success, the file says so before its course: "
+                                               "error 0 \"SERVICE TestePoint\": \"...\""
+                                             : "")});
     }
 }
 

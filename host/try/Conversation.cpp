@@ -3,6 +3,7 @@
 #include "automation/MemberTable.h"
 #include "automation/Text.h"
 #include "host/language/Folding.h"
+#include "host/language/Likeness.h"
 #include "host/language/Parser.h"
 #include "host/language/StatementReader.h"
 #include "host/language/Words.h"
@@ -159,8 +160,20 @@ void Conversation::obey(const std::string& line) {
         out_ << explained(error) << '\n';
     } catch (const language::Failure& failure) {
         out_ << explained(failure) << '\n';
+        suggestVerb(line.substr(0, stop), failure);
     } catch (const std::exception& error) {
         out_ << error.what() << '\n';
+    }
+}
+
+void Conversation::suggestVerb(const std::string& word, const language::Failure& failure) {
+    std::vector<std::u16string> names;
+    for (const Verb& verb : verbs()) {
+        names.push_back(verb.act == nullptr ? std::u16string() : fromUtf8(verb.name));
+    }
+    const std::u16string like = language::suggestion(fromUtf8(word), {names.begin(), names.end()});
+    if (failure.remark.place.column == 1 && !like.empty()) {
+        out_ << "Of what this conversation takes" << toUtf8(like) << " help tells all.\n";
     }
 }
 
@@ -310,8 +323,8 @@ void Conversation::saved(const std::u16string& title, const std::string& file) {
     out_ << "Scenario \"" << toUtf8(title) << "\" is in " << file << ", with " << counted(open_->moves(), "move")
          << " and " << counted(open_->checks(), "check") << ".\n";
     if (!course_.isBuilt()) {
-        out_ << "The moves were made on the course's own files; verify will judge it on the presentation that the "
-                "scenario file builds.\n";
+        out_ << "The moves were made on the course's own files: verify judges it there with --course, else on the "
+                "presentation that the scenario file builds.\n";
     }
 }
 

@@ -39,6 +39,8 @@ private:
     bool close();
     void obey(const std::string& line);
     void perform(const std::string& line);
+    /// Where a name is unknown that is nearly a verb.
+    void suggestVerb(const std::string& word, const language::Failure& failure);
     void print(const std::string& expression);
     void judge(const Expectation* expected);
 

@@ -341,7 +341,9 @@ TEST(Language, ChecksTellVerdictsApart) {
     FakeStage stage;
     stage.reading.error = zero;
     EXPECT_EQ(outcomeOf(stage, "check success"), "t.scn:4:1: expected a success, the host reads the error 0 [CLASSE "
-                                                 "Question0305 - SERVICE TestePoint]");
+                                                 "Question0305 - SERVICE TestePoint]; where that is the success, the "
+                                                 "file says so before its course: error 0 \"SERVICE TestePoint\": "
+                                                 "\"...\"");
     stage.reading = verdicts[4].second;
     EXPECT_EQ(outcomeOf(stage, "check remark \"F\""), "t.scn:4:1: expected a success with the remark \"F\", the host "
                                                       "reads the letter \"C\" with the complement \" 3\", \"\"");

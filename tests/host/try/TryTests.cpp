@@ -111,6 +111,7 @@ TEST_F(TryTest, AWholeConversationAnswersLineByLine) {
         {"undo", "There is no move to take back.\n"},
         {"check success", "Scenarios that end so: \"nothing drawn\""},
         {"?s", "'s' is neither a variable"},
+        {"qiut", "Of what this conversation takes: quit? help tells all.\n"},
         {"# a remark", ""},
     };
     std::string typed;
@@ -193,8 +194,8 @@ TEST_F(TryTest, ASavedScenarioExpectsAllThatTheHostReads) {
 
 TEST_F(TryTest, ASavedScenarioThatDoesNotStageTheCoursesOwnFilesSaysSo) {
     const std::string saved = "Scenario \"mine\" is in " + file("mine.scn") + ", with 0 moves and 1 check.\n";
-    const std::string otherDeck = "The moves were made on the course's own files; verify will judge it on the "
-                                  "presentation that the scenario file builds.\n";
+    const std::string otherDeck = "The moves were made on the course's own files: verify judges it there with "
+                                  "--course, else on the presentation that the scenario file builds.\n";
     const std::string closed = "The question is closed, and everything is as it was before.\n";
     const std::string typed = "check\nsave! " + file("mine.scn") + "\n";
     EXPECT_TRUE(talk("export " + file("07305314.ppt") + "\n" + typed).ends_with(saved + closed));
