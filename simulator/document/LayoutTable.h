@@ -37,7 +37,7 @@ struct Layout {
 /// The place of a placeholder on a slide of 720 x 540 points, and the size of text in it.
 struct LayoutPlace {
     Frame frame;
-    float textSize;
+    float textSize = 0;
 };
 
 /// All layouts of PowerPoint 2003.
