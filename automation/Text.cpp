@@ -64,6 +64,33 @@ char32_t nextUtf8(std::string_view text, std::size_t& position) {
     return point;
 }
 
+/// Capitals from the first to the last of a row, each or every second, and how far the small letters stand from them.
+/// Those of ASCII are left to lowerCase.
+struct Capitals {
+    char16_t first;
+    char16_t last;
+    int step;
+    int shift;
+};
+constexpr auto inRows = std::to_array<Capitals>({
+    {u'À', u'Ö', 1, 32}, {u'Ø', u'Þ', 1, 32}, {u'Ā', u'Į', 2, 1},    {u'Ĳ', u'Ķ', 2, 1},  {u'Ĺ', u'Ň', 2, 1},
+    {u'Ŋ', u'Ŷ', 2, 1},  {u'Ź', u'Ž', 2, 1},  {u'Ơ', u'Ƥ', 2, 1},    {u'ǋ', u'Ǜ', 2, 1},  {u'Ǟ', u'Ǯ', 2, 1},
+    {u'Ǹ', u'Ȟ', 2, 1},  {u'Ȣ', u'Ȳ', 2, 1},  {u'Ɇ', u'Ɏ', 2, 1},    {u'Έ', u'Ί', 1, 37}, {u'Α', u'Ρ', 1, 32},
+    {u'Σ', u'Ϋ', 1, 32}, {u'Ϙ', u'Ϯ', 2, 1},  {u'Ͻ', u'Ͽ', 1, -130}, {u'Ѐ', u'Џ', 1, 80}, {u'А', u'Я', 1, 32},
+    {u'Ѡ', u'Ҁ', 2, 1},  {u'Ҋ', u'Ҿ', 2, 1},  {u'Ӂ', u'Ӎ', 2, 1},    {u'Ӑ', u'Ԯ', 2, 1}, {u'Ա', u'Ֆ', 1, 48},
+    {u'Ḁ', u'Ẕ', 2, 1},  {u'Ạ', u'Ỿ', 2, 1},  {u'Ἀ', u'Ἇ', 1, -8},   {u'Ἐ', u'Ἕ', 1, -8}, {u'Ἠ', u'Ἧ', 1, -8},
+    {u'Ἰ', u'Ἷ', 1, -8}, {u'Ὀ', u'Ὅ', 1, -8}, {u'Ὑ', u'Ὗ', 2, -8},   {u'Ὠ', u'Ὧ', 1, -8}, {u'ᾈ', u'ᾏ', 1, -8},
+    {u'ᾘ', u'ᾟ', 1, -8}, {u'ᾨ', u'ᾯ', 1, -8}, {u'Ὲ', u'Ή', 1, -86},
+});
+
+/// All other capitals, each before its small letter.
+constexpr std::u16string_view inPairs =
+    u"İiŸÿƁɓƂƃƄƅƆɔƇƈƉɖƊɗƋƌƎǝƏəƐɛƑƒƓɠƔɣƖɩƗɨƘƙƜɯƝɲƟɵƦʀƧƨƩʃ"
+    u"ƬƭƮʈƯưƱʊƲʋƳƴƵƶƷʒƸƹƼƽǄǆǅǆǇǉǈǉǊǌǱǳǲǳǴǵǶƕǷƿȠƞȺⱥȻȼȽƚ"
+    u"ȾⱦɁɂɃƀɄʉɅʌͰͱͲͳͶͷͿϳΆάΌόΎύΏώϏϗϴθϷϸϹϲϺϻӀӏẞßᾸᾰᾹᾱᾺὰ"
+    u"ΆάᾼᾳῌῃῘῐῙῑῚὶΊίῨῠῩῡῪὺΎύῬῥῸὸΌόῺὼΏώ"
+    u"ῼῳ";
+
 } // namespace
 
 std::string toUtf8(std::u16string_view text) {
@@ -91,24 +118,20 @@ std::u16string fromUtf8(std::string_view text) {
 }
 
 char16_t lowerCase(char16_t letter) noexcept {
-    const auto within = [letter](char16_t first, char16_t last) { return letter >= first && letter <= last; };
-    const auto shifted = [letter](int by) { return static_cast<char16_t>(letter + by); };
-    if (within(u'A', u'Z') || (within(0x00C0, 0x00DE) && letter != 0x00D7)) {
-        return shifted(32);
+    if (letter < 0x80) {
+        return static_cast<char16_t>(letter >= u'A' && letter <= u'Z' ? letter + 32 : letter);
     }
-    if (letter == 0x0178) {
-        return 0x00FF;
+    for (const Capitals& row : inRows) {
+        if (letter >= row.first && letter <= row.last && (letter - row.first) % row.step == 0) {
+            return static_cast<char16_t>(letter + row.shift);
+        }
     }
-    const bool evenCapital = within(0x0100, 0x012F) || within(0x0132, 0x0137) || within(0x014A, 0x0177) ||
-                             within(0x0218, 0x021B) || within(0x0460, 0x0481) || within(0x1E00, 0x1E95);
-    const bool oddCapital = within(0x0139, 0x0148) || within(0x0179, 0x017E);
-    if ((evenCapital && letter % 2 == 0) || (oddCapital && letter % 2 == 1)) {
-        return shifted(1);
+    for (std::size_t place = 0; place < inPairs.size(); place += 2) {
+        if (inPairs[place] == letter) {
+            return inPairs[place + 1];
+        }
     }
-    if ((within(0x0391, 0x03AB) && letter != 0x03A2) || within(0x0410, 0x042F)) {
-        return shifted(32);
-    }
-    return within(0x0400, 0x040F) ? shifted(80) : letter;
+    return letter;
 }
 
 std::u16string lowerCase(std::u16string_view text) {

@@ -13,7 +13,8 @@ namespace automation {
 /// The UTF-16 form of a UTF-8 text; an ill-formed byte becomes U+FFFD.
 [[nodiscard]] std::u16string fromUtf8(std::string_view text);
 
-/// The text in lower case, letter by letter (Latin, Greek and Cyrillic letters; others stay as they are).
+/// The text in lower case, letter by letter as Unicode has it for Latin (to U+024F, and U+1E00 to U+1EFF), Greek,
+/// Cyrillic (to U+052F) and Armenian letters; others stay as they are.
 [[nodiscard]] std::u16string lowerCase(std::u16string_view text);
 
 /// One UTF-16 unit in lower case.

@@ -194,7 +194,21 @@ TEST(Text, SurvivesTheWayToUtf8AndBack) {
     EXPECT_EQ(fromUtf8("a\xC3"), u"a\uFFFD");
     EXPECT_EQ(fromUtf8("\xC0\xAF"), u"\uFFFD\uFFFD") << "overlong";
     EXPECT_EQ(toUtf8(std::u16string(1, char16_t(0xD800))), "\xEF\xBF\xBD");
-    EXPECT_EQ(lowerCase(u"ÉÈÇÀŒŸ MÉTHODOLOGIE.PPT ×"), u"éèçàœÿ méthodologie.ppt ×");
+}
+
+TEST(Text, IsInLowerCaseAsUnicodeHasIt) {
+    EXPECT_EQ(lowerCase(u"ÉÈÇÀŒŸ MÉTHODOLOGIE.PPT × ƠƯǍǅẞ ΆΈΊΌΎΏΑΡΣΫς ἈὙᾼῌ ЀЯѠӀ ԱՖ"),
+              u"éèçàœÿ méthodologie.ppt × ơưǎǆß άέίόύώαρσϋς ἀὑᾳῃ ѐяѡӏ աֆ");
+    int capitals = 0;
+    int sum = 0;
+    for (char16_t letter = 0; letter < 0x2000; ++letter) {
+        const char16_t small = lowerCase(letter);
+        EXPECT_EQ(lowerCase(small), small) << static_cast<int>(letter);
+        capitals += small != letter ? 1 : 0;
+        sum += small != letter ? small : 0;
+    }
+    EXPECT_EQ(capitals, 689) << "of Latin, Greek, Cyrillic and Armenian in Unicode 14";
+    EXPECT_EQ(sum, 2121938) << "of their small letters";
 }
 
 } // namespace automation_tests
