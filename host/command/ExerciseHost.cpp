@@ -41,7 +41,8 @@ constexpr const char* verifyExamples = R"(  exercise-host verify                
   exercise-host verify --report F.html --junit F.xml)";
 
 constexpr const char* conformExamples = R"(  exercise-host conform                 all of PowerPoint's classes
-  exercise-host conform Shape --powerpoint)";
+  exercise-host conform Shape --powerpoint
+  exercise-host conform --json          every expectation, for a program)";
 
 constexpr const char* recheckExamples = R"(  exercise-host recheck Méthodologie.ppt --question 306
   exercise-host recheck DIR --question 306    all presentations below a folder

@@ -101,6 +101,12 @@ TEST_F(HostTest, ConformTellsWhatPowerPointDoesOtherwiseAndWhatHangsOnIt) {
     EXPECT_NE(out.find("    this decides 0306 B\nSlides: 1 agree, 2 differ, 1 cannot be told\n"), std::string::npos)
         << out;
     EXPECT_EQ(out.find("0308"), std::string::npos) << out;
+    const auto object = nlohmann::json::parse(said({"conform", "--json"}, ExitCode::FellShort));
+    const auto& broken = object["classes"][0]["promises"][1];
+    EXPECT_EQ(broken["decides"], "0306 B");
+    EXPECT_EQ(broken["expectations"][0]["kept"], "differs");
+    EXPECT_EQ(broken["expectations"][1]["kept"], "cannot tell");
+    EXPECT_EQ(object["classes"][0]["promises"][2]["asTaken"], true) << object;
     static_cast<void>(said({"conform", "Shapes"}, ExitCode::WrongUsage));
     static_cast<void>(said({"verify"}, ExitCode::WrongUsage));
 }
