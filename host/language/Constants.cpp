@@ -47,22 +47,52 @@ constexpr auto runs = std::to_array<Run>({
     {u"msoScaleFrom", 0, u"TopLeft Middle BottomRight"},
     {u"msoAnchor", 1, u"None Center"},
     {u"msoAnchor", 1, u"Top TopBaseline Middle Bottom BottomBaseLine"},
-    {u"msoEditing", 0, u"Auto Corner"},
+    {u"msoEditing", 0, u"Auto Corner Smooth Symmetric"},
     {u"msoSegment", 0, u"Line Curve"},
     {u"msoConnector", 1, u"Straight Elbow Curve"},
     {u"msoTextOrientation", 1, u"Horizontal Upward Downward VerticalFarEast Vertical HorizontalRotatedFarEast"},
     {u"msoFill", 1, u"Solid Patterned Gradient Textured Background Picture"},
     {u"msoGradient", 1, u"Horizontal Vertical DiagonalUp DiagonalDown FromCorner FromTitle FromCenter"},
     {u"msoPattern", 1,
-     u"5Percent 10Percent 20Percent 25Percent 30Percent 40Percent 50Percent 60Percent 70Percent 75Percent 80Percent "
-     u"90Percent DarkHorizontal DarkVertical DarkDownwardDiagonal DarkUpwardDiagonal SmallCheckerBoard Trellis"},
-    {u"msoTexture", 1, u"Papyrus Canvas Denim WovenMat WaterDroplets"},
+     u"5Percent 10Percent 20Percent 25Percent 30Percent 40Percent 50Percent 60Percent 70Percent 75Percent "
+     u"80Percent 90Percent DarkHorizontal DarkVertical DarkDownwardDiagonal DarkUpwardDiagonal SmallCheckerBoard "
+     u"Trellis LightHorizontal LightVertical LightDownwardDiagonal LightUpwardDiagonal SmallGrid DottedDiamond "
+     u"WideDownwardDiagonal WideUpwardDiagonal DashedUpwardDiagonal DashedDownwardDiagonal NarrowVertical "
+     u"NarrowHorizontal DashedVertical DashedHorizontal LargeConfetti LargeGrid HorizontalBrick LargeCheckerBoard "
+     u"SmallConfetti ZigZag SolidDiamond DiagonalBrick OutlinedDiamond Plaid Sphere Weave DottedGrid Divot Shingle "
+     u"Wave"},
+    {u"msoTexture", 1,
+     u"Papyrus Canvas Denim WovenMat WaterDroplets PaperBag FishFossil Sand GreenMarble WhiteMarble BrownMarble "
+     u"Granite Newsprint RecycledPaper Parchment Stationery BlueTissuePaper PinkTissuePaper PurpleMesh Bouquet "
+     u"Cork Walnut Oak MediumWood"},
+    {u"msoGradient", 1,
+     u"EarlySunset LateSunset Nightfall Daybreak Horizon Desert Ocean CalmWater Fire Fog Moss Peacock Wheat "
+     u"Parchment Mahogany Rainbow RainbowII Gold GoldII Brass Chrome ChromeII Silver Sapphire"},
+    {u"msoArrowhead", 1, u"None Triangle Open Stealth Diamond Oval"},
+    {u"msoArrowhead", 1, u"Short LengthMedium Long"},
+    {u"msoArrowhead", 1, u"Narrow WidthMedium Wide"},
+    {u"msoExtrusion", 1, u"BottomRight Bottom BottomLeft Right None Left TopRight Top TopLeft"},
+    {u"msoExtrusionColor", 1, u"Automatic Custom"},
+    {u"msoLighting", 1, u"TopLeft Top TopRight Left None Right BottomLeft Bottom BottomRight"},
+    {u"msoLighting", 1, u"Dim Normal Bright"},
+    {u"msoMaterial", 1, u"Matte Plastic Metal WireFrame"},
+    {u"msoTextEffectAlignment", 1, u"Left Centered Right LetterJustify WordJustify StretchJustify"},
+    {u"msoOrientation", 1, u"Horizontal Vertical"},
+    {u"msoColorType", 1, u"RGB Scheme"},
+    {u"msoGradient", 1, u"OneColor TwoColors PresetColors"},
+    {u"ppArrange", 1, u"Tiled Cascade"},
+    {u"ppBaselineAlign", 1, u"Baseline Top Center FarEast50"},
+    {u"ppDateTime", 1,
+     u"Mdyy ddddMMMMddyyyy dMMMMyyyy MMMMdyyyy dMMMyy MMMMyy MMyy MMddyyHmm MMddyyhmmAMPM Hmm Hmmss hmmAMPM "
+     u"hmmssAMPM"},
+    {u"ppPaste", 0, u"Default Bitmap EnhancedMetafile MetafilePicture GIF JPG PNG Text HTML RTF OLEObject Shape"},
+    {u"ppSlideSize", 1, u"OnScreen LetterPaper A4Paper 35MM Overhead Banner Custom"},
     {u"msoLine", 1, u"Solid SquareDot RoundDot Dash DashDot DashDotDot LongDash LongDashDot"},
     {u"msoAlign", 0, u"Lefts Centers Rights Tops Middles Bottoms"},
     {u"msoDistribute", 0, u"Horizontally Vertically"},
     {u"msoBar", 0, u"Left Top Right Bottom Floating Popup MenuBar"},
     {u"ppAutoSize", 0, u"None ShapeToFitText"},
-    {u"ppBullet", 1, u"Unnumbered Numbered Picture"},
+    {u"ppBullet", 0, u"None Unnumbered Numbered Picture"},
     {u"ppAlign", 1, u"Left Center Right Justify"},
     {u"ppWindow", 1, u"Normal Minimized Maximized"},
     {u"ppView", 1,

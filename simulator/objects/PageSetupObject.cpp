@@ -5,6 +5,8 @@ namespace simulator {
 namespace {
 constexpr float smallest = 72;
 constexpr float largest = 4032;
+constexpr std::int32_t horizontal = 1;
+constexpr std::int32_t vertical = 2;
 } // namespace
 
 const automation::MemberTable& PageSetupObject::members() const {
@@ -13,7 +15,7 @@ const automation::MemberTable& PageSetupObject::members() const {
     static const automation::MemberTable table{
         property<&This::slideHeight, &This::setSlideHeight>(u"SlideHeight"),
         property<&This::slideWidth, &This::setSlideWidth>(u"SlideWidth"),
-        property<&This::slideOrientation>(u"SlideOrientation"),
+        property<&This::slideOrientation, &This::setSlideOrientation>(u"SlideOrientation"),
     };
     return table;
 }
@@ -30,7 +32,15 @@ void PageSetupObject::setSlideHeight(float points) {
 
 std::int32_t PageSetupObject::slideOrientation() const {
     const PresentationPtr presentation = node();
-    return presentation->slideWidth >= presentation->slideHeight ? 1 : 2;
+    return presentation->slideWidth >= presentation->slideHeight ? horizontal : vertical;
+}
+
+void PageSetupObject::setSlideOrientation(std::int32_t orientation) {
+    errors::demandWithin(orientation, horizontal, vertical, u"PageSetup.SlideOrientation");
+    if (orientation != slideOrientation()) {
+        nodes().change(
+            [](Presentation& presentation) { std::swap(presentation.slideWidth, presentation.slideHeight); });
+    }
 }
 
 } // namespace simulator

@@ -18,6 +18,7 @@ public:
     void setSlideHeight(float points);
     /// 1 (msoOrientationHorizontal) or 2 (msoOrientationVertical).
     [[nodiscard]] std::int32_t slideOrientation() const;
+    void setSlideOrientation(std::int32_t orientation);
 };
 
 } // namespace simulator

@@ -6,10 +6,10 @@
 #include "simulator/objects/FillFormatObject.h"
 #include "simulator/objects/GroupShapesObject.h"
 #include "simulator/objects/LineFormatObject.h"
-#include "simulator/objects/NodesObject.h"
 #include "simulator/objects/PlaceholderFormatObject.h"
 #include "simulator/objects/ShadowFormatObject.h"
 #include "simulator/objects/ShapeCopies.h"
+#include "simulator/objects/ShapeNodesObject.h"
 #include "simulator/objects/ShapeObject.h"
 #include "simulator/objects/ShapeRangeObject.h"
 #include "simulator/objects/ShapeSelecting.h"
@@ -179,12 +179,12 @@ std::shared_ptr<PlaceholderFormatObject> ShapeMembers::placeholderFormat() const
     return std::make_shared<PlaceholderFormatObject>(session(), shape);
 }
 
-std::shared_ptr<NodesObject> ShapeMembers::shapeNodes() const {
+std::shared_ptr<ShapeNodesObject> ShapeMembers::shapeNodes() const {
     const ShapePtr shape = nodes().only();
     if (shape->type != msoFreeform) {
         errors::invalidRequest(u"Shape.Nodes", u"La forme n'est pas une forme libre.");
     }
-    return std::make_shared<NodesObject>(session(), shape);
+    return std::make_shared<ShapeNodesObject>(session(), shape);
 }
 
 std::shared_ptr<GroupShapesObject> ShapeMembers::groupItems() const {

@@ -8,7 +8,7 @@ class ApplicationObject;
 class FillFormatObject;
 class GroupShapesObject;
 class LineFormatObject;
-class NodesObject;
+class ShapeNodesObject;
 class PlaceholderFormatObject;
 class ShadowFormatObject;
 class ShapeObject;
@@ -59,7 +59,7 @@ public:
     /// Raises an invalid request for a shape that cannot hold text, as the members below do for shapes of other kinds.
     [[nodiscard]] std::shared_ptr<TextFrameObject> textFrame() const;
     [[nodiscard]] std::shared_ptr<PlaceholderFormatObject> placeholderFormat() const;
-    [[nodiscard]] std::shared_ptr<NodesObject> shapeNodes() const;
+    [[nodiscard]] std::shared_ptr<ShapeNodesObject> shapeNodes() const;
     [[nodiscard]] std::shared_ptr<GroupShapesObject> groupItems() const;
     [[nodiscard]] std::shared_ptr<ShapeObject> parentGroup() const;
     [[nodiscard]] MsoTriState child() const;
