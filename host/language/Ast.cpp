@@ -26,6 +26,12 @@ std::vector<const std::vector<Statement>*> blocksOf(const Statement& statement) 
         blocks.push_back(&numbers->body);
     } else if (const auto* const each = std::get_if<ForEach>(&statement.node)) {
         blocks.push_back(&each->body);
+    } else if (const auto* const loop = std::get_if<While>(&statement.node)) {
+        blocks.push_back(&loop->body);
+    } else if (const auto* const selection = std::get_if<SelectCase>(&statement.node)) {
+        for (const Case& one : selection->cases) {
+            blocks.push_back(&one.body);
+        }
     }
     return blocks;
 }

@@ -137,10 +137,36 @@ struct ForEach {
     std::vector<Statement> body;
 };
 
+/// `While condition`, `Do While condition`, `Do Until condition`.
+struct While {
+    Expression condition; ///< for going on
+    std::vector<Statement> body;
+};
+
+/// Values from the first to the last; one alone where there is no last.
+struct CaseRange {
+    Expression first;
+    std::optional<Expression> last;
+};
+
+/// `Case first To last, value`; `Case Else` where there are no values.
+struct Case {
+    std::vector<CaseRange> ranges;
+    std::vector<Statement> body;
+};
+
+/// `Select Case subject`: the first case that has its value.
+struct SelectCase {
+    Expression subject;
+    std::vector<Case> cases;
+};
+
 struct Statement {
     Position place;
     std::u16string text; ///< as it is written, without blanks around it and comments; a block has its lines, indented
-    std::variant<Call, Assignment, Check, ExpectValues, ExpectError, Declaration, With, If, ForNumbers, ForEach> node;
+    std::variant<Call, Assignment, Check, ExpectValues, ExpectError, Declaration, With, If, ForNumbers, ForEach, While,
+                 SelectCase>
+        node;
 };
 
 /// The statements inside one, block by block.

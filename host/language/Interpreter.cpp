@@ -5,6 +5,8 @@
 #include "host/language/Likeness.h"
 #include "host/language/Operators.h"
 
+#include <algorithm>
+
 namespace host::language {
 
 namespace {
@@ -114,8 +116,7 @@ void Interpreter::perform(const With& with) {
 
 void Interpreter::perform(const If& choice) {
     for (const auto& branch : choice.branches) {
-        const auto holds = [&] { return valueOf(*branch.condition).to<bool>(); };
-        if (!branch.condition || placed(branch.condition->place, holds)) {
+        if (!branch.condition || holds(*branch.condition)) {
             return performAll(branch.body);
         }
     }
@@ -155,6 +156,36 @@ void Interpreter::perform(const ForEach& loop) {
         variables_[automation::lowerCase(loop.variable)] = element;
         performAll(loop.body);
     }
+}
+
+void Interpreter::perform(const While& loop) {
+    while (holds(loop.condition)) {
+        performAll(loop.body);
+    }
+}
+
+void Interpreter::perform(const SelectCase& selection) {
+    const Value subject = plain(valueOf(selection.subject));
+    for (const Case& each : selection.cases) {
+        const auto isIn = [&](const CaseRange& range) { return contains(range, subject); };
+        if (each.ranges.empty() || std::any_of(each.ranges.begin(), each.ranges.end(), isIn)) {
+            return performAll(each.body);
+        }
+    }
+}
+
+bool Interpreter::holds(const Expression& condition) {
+    const Value value = valueOf(condition);
+    return placed(condition.place, [&] { return value.to<bool>(); });
+}
+
+bool Interpreter::contains(const CaseRange& range, const Value& value) {
+    const Value first = valueOf(range.first);
+    const Value last = range.last ? valueOf(*range.last) : first;
+    return placed(range.first.place, [&] {
+        return apply(Operator::GreaterOrEqual, value, first).to<bool>() &&
+               apply(Operator::LessOrEqual, value, last).to<bool>();
+    });
 }
 
 void Interpreter::perform(const Call& call) {
@@ -271,6 +302,9 @@ Value Interpreter::head(const Reference& reference, const Name& name, std::span<
     }
     if (name.matches(u"Array")) {
         return automation::Array(arguments.begin(), arguments.end());
+    }
+    if (functions_.members().find(name) != nullptr) {
+        return functions_.invoke(name, Access::GetOrCall, arguments);
     }
     if (const ObjectPtr object = stage_.object(reference.name)) {
         return itself(object);

@@ -3,6 +3,7 @@
 #include "automation/Object.h"
 #include "automation/Unmoved.h"
 #include "host/language/Ast.h"
+#include "host/language/Functions.h"
 
 #include <map>
 
@@ -48,11 +49,15 @@ private:
     void perform(const If& choice);
     void perform(const ForNumbers& loop);
     void perform(const ForEach& loop);
+    void perform(const While& loop);
+    void perform(const SelectCase& selection);
     void perform(const Statement& statement);
     void performAll(const std::vector<Statement>& statements);
 
     automation::Value valueOf(const Expression& expression);
     automation::Value valueOf(const Reference& reference, Position place);
+    [[nodiscard]] bool holds(const Expression& condition);
+    [[nodiscard]] bool contains(const CaseRange& range, const automation::Value& value);
     automation::Value valueOf(const Operation& operation, Position place);
     std::vector<automation::Value> argumentsOf(const Reference& reference);
     automation::Value head(const Reference& reference, const automation::Name& name,
@@ -61,8 +66,9 @@ private:
 
     Stage& stage_;
     std::map<std::u16string, automation::Value> variables_; ///< by their names in lower case
-    std::vector<automation::Value> subjects_;               ///< of the With around, the innermost one last
-    Position place_;                                        ///< of the statement being performed
+    Functions functions_;
+    std::vector<automation::Value> subjects_; ///< of the With around, the innermost one last
+    Position place_;                          ///< of the statement being performed
 };
 
 } // namespace host::language

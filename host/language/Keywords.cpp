@@ -11,23 +11,21 @@ namespace {
 using automation::equalIgnoringCase;
 using Words = std::vector<std::u16string_view>;
 
-const Words own{u"And", u"As",  u"Dim",  u"Each", u"Else", u"ElseIf", u"End",  u"For", u"If",   u"In", u"Is",
-                u"Mod", u"New", u"Next", u"Not",  u"Or",   u"Set",    u"Step", u"Sub", u"Then", u"To", u"With"};
+const Words own{u"And", u"As",   u"Case", u"Dim",  u"Do",  u"Each",  u"Else", u"ElseIf", u"End", u"For",
+                u"If",  u"In",   u"Is",   u"Loop", u"Mod", u"New",   u"Next", u"Not",    u"Or",  u"Select",
+                u"Set", u"Step", u"Sub",  u"Then", u"To",  u"Until", u"Wend", u"While",  u"With"};
 
 /// What the macro language has beside them.
-const Words foreign{u"AddressOf", u"Attribute", u"Call",   u"Case",  u"Const",    u"Declare", u"Do",
-                    u"Enum",      u"Eqv",       u"Erase",  u"Exit",  u"Function", u"GoSub",   u"GoTo",
-                    u"Imp",       u"Let",       u"Like",   u"Loop",  u"Null",     u"On",      u"Option",
-                    u"Private",   u"Property",  u"Public", u"ReDim", u"Resume",   u"Select",  u"Static",
-                    u"Stop",      u"Type",      u"TypeOf", u"Until", u"Wend",     u"While",   u"Xor"};
+const Words foreign{u"AddressOf", u"Attribute", u"Call",     u"Const",  u"Declare", u"Enum",     u"Eqv",
+                    u"Erase",     u"Exit",      u"Function", u"GoSub",  u"GoTo",    u"Imp",      u"Let",
+                    u"Like",      u"Null",      u"On",       u"Option", u"Private", u"Property", u"Public",
+                    u"ReDim",     u"Resume",    u"Static",   u"Stop",   u"Type",    u"TypeOf",   u"Xor"};
 
-/// What its library has.
-const Words foreignProcedures{u"Abs",    u"Asc",   u"CDbl",    u"Chr",   u"CInt",     u"CLng",      u"CreateObject",
-                              u"CStr",   u"Date",  u"Debug",   u"Dir",   u"Err",      u"Fix",       u"Format",
-                              u"InStr",  u"Int",   u"IsEmpty", u"LCase", u"Left",     u"Len",       u"Mid",
-                              u"MsgBox", u"Now",   u"Replace", u"Right", u"Rnd",      u"Round",     u"InputBox",
-                              u"Shell",  u"Split", u"Sqr",     u"Str",   u"Timer",    u"Trim",      u"TypeName",
-                              u"UBound", u"UCase", u"Val",     u"CSng",  u"SendKeys", u"GetObject", u"DoEvents"};
+/// What its library has beside Functions.
+const Words foreignProcedures{u"CreateObject", u"Date",  u"Dir",      u"Err",       u"Fix",     u"Format",
+                              u"IsEmpty",      u"LCase", u"Now",      u"Rnd",       u"Round",   u"InputBox",
+                              u"Shell",        u"Split", u"Sqr",      u"Str",       u"Timer",   u"TypeName",
+                              u"UCase",        u"Val",   u"SendKeys", u"GetObject", u"DoEvents"};
 
 const Words foreignSigns{u"^", u"\\"};
 
@@ -47,10 +45,10 @@ bool isForeignProcedure(std::u16string_view name) {
 }
 
 const std::vector<std::u16string_view>& verbs() {
-    static const Words all{u"before",     u"check", u"class",  u"contested", u"course",   u"delivered",
-                           u"documented", u"error", u"expect", u"letter",    u"question", u"remark",
-                           u"scenario",   u"task",  u"Dim",    u"ElseIf",    u"End",      u"For",
-                           u"If",         u"Next",  u"Set",    u"With"};
+    static const Words all{u"before", u"check",  u"class",  u"contested", u"course", u"delivered", u"documented",
+                           u"error",  u"expect", u"letter", u"question",  u"remark", u"scenario",  u"task",
+                           u"Case",   u"Dim",    u"Do",     u"ElseIf",    u"End",    u"For",       u"If",
+                           u"Loop",   u"Next",   u"Select", u"Set",       u"Wend",   u"While",     u"With"};
     return all;
 }
 

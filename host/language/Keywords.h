@@ -15,9 +15,9 @@ namespace host::language {
 
 /// How a message goes on behind a part of the macro language that scenarios do not have.
 constexpr std::string_view notOwn =
-    "is a part of the macro language that scenarios do not have: they have If, For, For Each and With";
+    "is a part of the macro language that scenarios do not have: they have If, Select Case, For, Do, While and With";
 
-/// True for what the macro language's own library has: MsgBox, InStr, Debug. They may name variables.
+/// True for what the macro language's own library has: InputBox, Split. They may name variables.
 [[nodiscard]] bool isForeignProcedure(std::u16string_view name);
 
 /// Raises SyntaxError for a word or a sign of the macro language that scenarios do not have.

@@ -72,10 +72,9 @@ private:
         const Position place = here();
         const char16_t c = peek();
         if (startsName(c)) {
-            return {TokenKind::Name,
-                    place,
-                    std::u16string(take([](char16_t x) { return startsName(x) || isDigit(x); })),
-                    {}};
+            std::u16string name(take([](char16_t x) { return startsName(x) || isDigit(x); }));
+            position_ += peek() == u'$' ? 1 : 0; // says that a function gives a text
+            return {TokenKind::Name, place, std::move(name), {}};
         }
         if (isDigit(c) || (c == u'.' && isDigit(peek(1)))) {
             return {TokenKind::Number, place, {}, number()};

@@ -2,6 +2,7 @@
 
 #include "automation/Text.h"
 #include "host/language/Constants.h"
+#include "host/language/Functions.h"
 #include "host/language/Keywords.h"
 #include "host/language/Likeness.h"
 #include "host/language/PowerPointNames.h"
@@ -146,7 +147,8 @@ LineParser::Node LineParser::callOrAssignment() {
         if (!reference.arguments.empty() || reference.name.empty()) {
             fail("expected '=' or the end of the line");
         }
-        if (reference.object == nullptr && !isMemberInPowerPoint(u"Application", reference.name)) {
+        if (reference.object == nullptr && !isMemberInPowerPoint(u"Application", reference.name) &&
+            !isFunction(reference.name)) {
             throw SyntaxError({head.place, isForeignProcedure(reference.name)
                                                ? head.display() + ' ' + std::string(notOwn)
                                                : "expected a statement, found " + head.display() +

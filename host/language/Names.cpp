@@ -2,6 +2,7 @@
 
 #include "automation/Text.h"
 #include "host/language/Constants.h"
+#include "host/language/Functions.h"
 #include "host/language/Likeness.h"
 #include "host/language/PowerPointNames.h"
 
@@ -77,6 +78,24 @@ private:
         repeat(loop.variable, loop.body);
     }
 
+    void visit(const While& loop) {
+        visit(loop.condition);
+        setAllOf(loop.body);
+        read(loop.body);
+    }
+    void visit(const SelectCase& selection) {
+        visit(selection.subject);
+        for (const Case& each : selection.cases) {
+            for (const CaseRange& range : each.ranges) {
+                visit(range.first);
+                if (range.last) {
+                    visit(*range.last);
+                }
+            }
+            read(each.body);
+        }
+    }
+
     /// What one pass through a loop sets is set in the next.
     void repeat(const std::u16string& variable, const std::vector<Statement>& body) {
         set(variable);
@@ -121,7 +140,7 @@ private:
     }
 
     void require(const std::u16string& name, Position place) const {
-        if (!variables_.contains(automation::lowerCase(name)) && !isReserved(name) &&
+        if (!variables_.contains(automation::lowerCase(name)) && !isReserved(name) && !isFunction(name) &&
             !isMemberInPowerPoint(u"Application", name)) {
             const std::vector<std::u16string_view> variables(variables_.begin(), variables_.end());
             throw SyntaxError({place, automation::toUtf8(unknownName(name, variables))});

@@ -12,6 +12,9 @@ using automation::toUtf8;
 constexpr std::u16string_view endWith = u"End With";
 constexpr std::u16string_view endIf = u"End If";
 constexpr std::u16string_view endFor = u"Next";
+constexpr std::u16string_view endDo = u"Loop";
+constexpr std::u16string_view endWhile = u"Wend";
+constexpr std::u16string_view endSelect = u"End Select";
 constexpr std::size_t mostTokens = 1000;
 
 /// What stands from a token to the one taken last.
@@ -29,7 +32,7 @@ Statement simple(LineParser& words, const LogicalLine& line) {
 void requireNoCheck(const Statement& statement) {
     if (std::holds_alternative<Check>(statement.node)) {
         throw SyntaxError(
-            {statement.place, "expected 'check' outside of With, If and For: it is one moment of a scenario"});
+            {statement.place, "expected 'check' outside of With, If and loops: it is one moment of a scenario"});
     }
 }
 
@@ -107,7 +110,8 @@ void StatementReader::part(LineParser& words, const LogicalLine& line) {
     if (isOpen() && open_.back().closing.empty() && words.peek().isWord(u"expect")) {
         words.fail("expected the statement that must raise the error");
     }
-    if (!takesFrame(words) && !closing(words) && !branching(words, line) && !opening(words, line)) {
+    if (!takesFrame(words) && !closing(words) && !branching(words, line) && !caseLine(words, line) &&
+        !opening(words, line)) {
         put(simple(words, line));
     }
 }
@@ -121,6 +125,11 @@ bool StatementReader::opening(LineParser& words, const LogicalLine& line) {
         beginFor(words);
     } else if (words.takeWord(u"If")) {
         beginIf(words, line);
+    } else if (words.peek().isWord(u"Do") || words.peek().isWord(u"While")) {
+        beginWhile(words);
+    } else if (words.takeWords(u"Select", u"Case")) {
+        begin(SelectCase{{first.place, Omitted{}}, {}}, first.place, endSelect);
+        std::get<SelectCase>(open_.back().statement.node).subject = words.expression();
     } else {
         return false;
     }
@@ -152,6 +161,23 @@ void StatementReader::beginFor(LineParser& words) {
     }
 }
 
+void StatementReader::beginWhile(LineParser& words) {
+    const Position place = words.peek().place;
+    const bool isDo = words.takeWord(u"Do");
+    const bool isUntil = isDo && words.takeWord(u"Until");
+    if (!isUntil) {
+        words.requireWord(u"While");
+    }
+    begin(While{{place, Omitted{}}, {}}, place, isDo ? endDo : endWhile);
+    Expression condition = words.expression();
+    if (isUntil) {
+        Operation inverse{Operator::Not, {}};
+        inverse.operands.push_back(std::move(condition));
+        condition = {place, std::move(inverse)};
+    }
+    std::get<While>(open_.back().statement.node).condition = std::move(condition);
+}
+
 void StatementReader::beginIf(LineParser& words, const LogicalLine& line) {
     const Token first = words.last();
     begin(If{}, first.place, endIf);
@@ -168,6 +194,30 @@ void StatementReader::beginIf(LineParser& words, const LogicalLine& line) {
     }
     open_.back().statement.text = sourceFrom(first, words, line);
     put(end());
+}
+
+/// Takes a line that begins with `Case`.
+bool StatementReader::caseLine(LineParser& words, const LogicalLine& line) {
+    const Token first = words.peek();
+    if (!words.takeWord(u"Case")) {
+        return false;
+    }
+    auto* const selection = isOpen() ? std::get_if<SelectCase>(&open_.back().statement.node) : nullptr;
+    if (selection == nullptr) {
+        throw SyntaxError({first.place, "expected 'Select Case' before 'Case'"});
+    }
+    Case& added = selection->cases.emplace_back();
+    open_.back().body = &added.body;
+    if (!words.takeWord(u"Else")) {
+        do {
+            added.ranges.push_back({words.expression(), {}});
+            if (words.takeWord(u"To")) {
+                added.ranges.back().last = words.expression();
+            }
+        } while (words.takeSymbol(u","));
+    }
+    open_.back().statement.text += u'\n' + sourceFrom(first, words, line);
+    return true;
 }
 
 bool StatementReader::branching(LineParser& words, const LogicalLine& line) {
@@ -193,10 +243,13 @@ bool StatementReader::branching(LineParser& words, const LogicalLine& line) {
 
 bool StatementReader::closing(LineParser& words) {
     const Position place = words.peek().place;
-    const std::u16string_view found = words.takeWords(u"End", u"With") ? endWith
-                                      : words.takeWords(u"End", u"If") ? endIf
-                                      : words.takeWord(u"Next")        ? endFor
-                                                                       : std::u16string_view();
+    const std::u16string_view found = words.takeWords(u"End", u"With")     ? endWith
+                                      : words.takeWords(u"End", u"If")     ? endIf
+                                      : words.takeWords(u"End", u"Select") ? endSelect
+                                      : words.takeWord(u"Next")            ? endFor
+                                      : words.takeWord(u"Loop")            ? endDo
+                                      : words.takeWord(u"Wend")            ? endWhile
+                                                                           : std::u16string_view();
     if (found.empty()) {
         return false;
     }
@@ -227,6 +280,8 @@ void StatementReader::begin(decltype(Statement::node) node, Position place, std:
         open.body = &each->body;
     } else if (auto* const numbers = std::get_if<ForNumbers>(&open.statement.node)) {
         open.body = &numbers->body;
+    } else if (auto* const loop = std::get_if<While>(&open.statement.node)) {
+        open.body = &loop->body;
     } else if (auto* const failure = std::get_if<ExpectError>(&open.statement.node)) {
         open.body = &failure->statements;
     }
@@ -258,6 +313,9 @@ void StatementReader::put(Statement statement) {
         return;
     }
     requireNoCheck(statement);
+    if (around.body == nullptr) {
+        throw SyntaxError({statement.place, "expected 'Case' behind 'Select Case'"});
+    }
     around.statement.text += u"\n  " + indented(statement.text);
     around.body->push_back(std::move(statement));
 }

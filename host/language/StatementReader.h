@@ -39,16 +39,18 @@ private:
     /// A block of which more is to come.
     struct Open {
         Statement statement;
-        std::vector<Statement>* body;
-        std::u16string_view closing; ///< its last words; empty for an `expect error`
+        std::vector<Statement>* body; ///< null before the first `Case`
+        std::u16string_view closing;  ///< its last words; empty for an `expect error`
     };
 
     void part(LineParser& words, const LogicalLine& line);
     bool opening(LineParser& words, const LogicalLine& line);
     bool branching(LineParser& words, const LogicalLine& line);
+    bool caseLine(LineParser& words, const LogicalLine& line);
     bool closing(LineParser& words);
     void beginIf(LineParser& words, const LogicalLine& line);
     void beginFor(LineParser& words);
+    void beginWhile(LineParser& words);
     void begin(decltype(Statement::node) node, Position place, std::u16string_view closing);
     [[nodiscard]] Statement end();
     void put(Statement statement);

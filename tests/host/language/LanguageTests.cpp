@@ -96,9 +96,9 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
          "t.scn:4:11: expected a constant of PowerPoint or Office that is known here, found "
          "'ppEffectAppear'; its number may stand in its place"},
         {"s.Left = 1E400", "t.scn:4:10: expected a number that fits into 64 bits"},
-        {"MsgBox \"x\"",
-         "t.scn:4:1: 'MsgBox' is a part of the macro language that scenarios do not have: they have If, "
-         "For, For Each and With"},
+        {"InputBox \"x\"",
+         "t.scn:4:1: 'InputBox' is a part of the macro language that scenarios do not have: they have If, "
+         "Select Case, For, Do, While and With"},
         {"Set 3 = s", "t.scn:4:5: expected a variable or a member, found 3"},
         {"Set Host = s", "t.scn:4:5: expected a variable, found the fixed name 'Host'"},
         {"msoTrue = 3", "t.scn:4:1: expected a variable, found the fixed name 'msoTrue'"},
@@ -112,10 +112,12 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"expect s.Left", "t.scn:4:14: expected '=', found the end of the line"},
         {"expect error 91 Host.Fermer", "t.scn:4:17: expected ':', found 'Host'"},
         {"expect error 91:\nscenario \"u\"", "t.scn:5:1: expected the statement that must raise the error"},
-        {"x = 3 ^ 2", "t.scn:4:7: '^' is a part of the macro language that scenarios do not have: they have If, For, "
-                      "For Each and With"},
-        {"Do While x", "t.scn:4:1: 'Do' is a part of the macro language that scenarios do not have: they have If, For, "
-                       "For Each and With"},
+        {"x = 3 ^ 2", "t.scn:4:7: '^' is a part of the macro language that scenarios do not have: they have If, "
+                      "Select Case, For, Do, While and With"},
+        {"Do", "t.scn:4:3: expected 'While', found the end of the line"},
+        {"Case 3", "t.scn:4:1: expected 'Select Case' before 'Case'"},
+        {"Select Case 3\nx = 1", "t.scn:5:1: expected 'Case' behind 'Select Case'"},
+        {"While True\nLoop", "t.scn:5:1: expected 'Wend' before 'Loop'"},
         {"chekc \"C\" complement \" 3\"", "t.scn:4:1: expected a statement, found 'chekc': check?"},
         {"Dim s As Shap", "t.scn:4:10: expected a type of the macro language or a class of PowerPoint, found 'Shap': "
                           "Shape or Shapes?"},
@@ -129,8 +131,8 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"If True Then\nElse\nElse\nEnd If", "t.scn:6:1: expected 'If' before 'Else'"},
         {"End With", "t.scn:4:1: expected the beginning of the block that ends with 'End With'"},
         {"With s\nscenario \"u\"", "t.scn:5:1: expected 'End With' before"},
-        {"If True Then check \"A\"", "t.scn:4:14: expected 'check' outside of With, If and For: it is one moment of a "
-                                     "scenario"},
+        {"If True Then check \"A\"", "t.scn:4:14: expected 'check' outside of With, If and loops: it is one moment of "
+                                     "a scenario"},
         {"s.Delete", "t.scn:4:1: 's' is neither a variable nor a member of PowerPoint's application"},
         {"expect Hots.Folder = ActivePresentatoin.Path",
          "t.scn:4:8: 'Hots' is neither a variable nor a member of PowerPoint's application: Host?"},
@@ -257,6 +259,16 @@ TEST(Language, RecordedMacrosMeanWhatTheyMeanInTheMacroLanguage) {
         {"y = 2\nIf y = 1 Then\n x = 1\nElseIf y = 2 Then\n x = 22\nElse\n x = 3\nEnd If", "x = 22"},
         {"x = \"\"\nFor i = 3 To 1 Step -1\n For k = 1 To i: x = x & k: Next k\nNext", "x = \"123121\", i = 0"},
         {"x = 0\nFor i = 1 To 0\nx = 1\nNext i", "x = 0, i = 1"},
+        {"x = 1\nDo While x < 9\nx = x * 2\nLoop\ny = 9\nDo Until y < 3\ny = y - 3: Loop\nWhile x > 10\nx = x - "
+         "5\nWend",
+         "x = 6, y = 0"},
+        {"x = \"\"\nFor i = 1 To 5\nSelect Case i\nCase 1, 4\nx = x & \"a\"\nCase 2 To 3\nx = x & \"b\"\nCase Else\n"
+         "x = x & \"c\"\nEnd Select\nNext",
+         "x = \"abbac\""},
+        {"x = Chr(65) & Left$(\"abc\", 2) & Right(\"abc\", 1) & Mid$(\"abcd\", 2, 2) & Trim(\" é \") & CStr(12)",
+         "x = \"Aabcbcé12\", Len(x) = 9, InStr(x, \"bc\") = 3, InStr(4, x, \"bc\") = 5, Asc(x) = 65"},
+        {"x = Replace(\"aXbX\", \"X\", \"XX\")\nDebug.Print x\nIf MsgBox(\"?\", Title:=\"t\") = 1 Then MsgBox x",
+         "x = \"aXXbXX\", Int(-1.5) = -2, Abs(-3) = 3, CLng(\"7\") + CDbl(\"0.5\") = 7.5, UBound(Array(1, 2)) = 1"},
         {"x = 0\nFor Each n In Array(1, 2.5, \"4\")\nIf n > 1 Then x = x + n / 1\nNext n", "x = 6.5, n = \"4\""},
         {"With Host\nx = .Left\nWith .Thing\ny = .Text\nEnd With\nz = .Text & .Text\nEnd With",
          "x = 110.1, y = \"faire\", z = \"fairefaire\""},
