@@ -1,6 +1,7 @@
 """Runs the suites that CMakeLists.txt beside this registers, side by side, and adds up what they say.
 
-The last line is "N passed, N failed"; the exit code is 1 where anything failed. A suite that could not begin, since what it needs
+The last line is "N passed, N failed", with ", N skipped" behind it where a test or suite says "skipped: " and why, or GoogleTest
+counts such; the exit code is 1 where anything failed. A suite that could not begin, since what it needs
 failed, counts as failed. What each suite has printed stands in build/suites/log/."""
 import argparse
 import json
@@ -19,6 +20,7 @@ BUILD = ROOT / "build/suites"
 LOG = BUILD / "log"
 TIERS = ("quick", "all", "long")
 TOTALS = re.compile(r"(\d+) passed, (\d+) failed")
+SKIPPED = re.compile(r"skipped: |\[  SKIPPED \] (\d+) tests?, listed")
 STARTED = re.compile(r" *Start +(\d+): ")
 SAID = re.compile(r"(\d+): (.*)")
 ENDED = re.compile(r" *\d+/\d+ Test +#(\d+): .*?(Passed|\*\*\*[\w ]*?) +([\d.]+) sec")
@@ -75,11 +77,11 @@ class Screen:
 
 
 def run(selection, jobs):
-    """Runs suites; how many tests passed and failed."""
+    """Runs suites; how many tests passed, failed and were skipped."""
     suites = listed(selection)
     shutil.rmtree(LOG, ignore_errors=True)
     LOG.mkdir(parents=True)
-    names, said, passed, failed = {}, {}, 0, 0
+    names, said, passed, failed, left_out = {}, {}, 0, 0, 0
     screen = Screen({name: seconds for name, (_, _, seconds) in suites.items()}, jobs)
     ctest = subprocess.Popen(["ctest", "--test-dir", BUILD, "-V", "-j", str(jobs), *selection],
                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8", errors="replace")
@@ -104,15 +106,19 @@ def run(selection, jobs):
             if bad:
                 for each in [each for each in lines if not re.match(r"\[ +(OK|RUN) +\]", each)][-60:]:
                     screen.say("    " + each)
-            skipped = next((each for each in lines if not bad and each.startswith("skipped: ")), None)
-            outcome = skipped or f"{good:5d} passed, {bad} failed" if lines or bad == 0 else "did not run: what it needs failed"
+            skipped = [int(found[1] or 1) for found in map(SKIPPED.match, lines) if found]
+            outcome = f"{good:5d} passed, {bad} failed" + (f", {sum(skipped)} skipped" if skipped else "")
+            if not lines and bad:
+                outcome = "did not run: what it needs failed"
+            elif skipped and not good + bad:
+                outcome = next(each for each in lines if SKIPPED.match(each))
             if suites[name][0] != "setup" or bad:
                 screen.say(f"{name:52s}{outcome}  ({seconds:.0f} s)")
-                passed, failed = passed + good, failed + bad
+                passed, failed, left_out = passed + good, failed + bad, left_out + sum(skipped)
             else:
                 screen.say(f"{name:52s}      ready  ({seconds:.0f} s)")
     ctest.wait()
-    return passed, failed
+    return passed, failed, left_out
 
 
 def selection_of(asked, groups):
@@ -145,12 +151,12 @@ def main():
                 print(f"{group:12s}{name:52s}{' '.join(sorted(tiers, key=TIERS.index))}")
         return 0
     begun = time.monotonic()
-    passed, failed = run(selection_of(asked, groups), len(os.sched_getaffinity(0)))
-    if passed + failed == 0:
+    passed, failed, skipped = run(selection_of(asked, groups), len(os.sched_getaffinity(0)))
+    if passed + failed + skipped == 0:
         print("nothing ran" + (": nothing failed last" if asked.failed else ""))
         return 0 if asked.failed else 1
     print(f"in {(time.monotonic() - begun) / 60:.1f} minutes, on {len(os.sched_getaffinity(0))} processors")
-    print(f"{passed} passed, {failed} failed")
+    print(f"{passed} passed, {failed} failed" + (f", {skipped} skipped" if skipped else ""))
     return 1 if failed else 0
 
 
