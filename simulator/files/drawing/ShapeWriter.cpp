@@ -58,6 +58,14 @@ std::uint32_t textKind(const Shape& shape) noexcept {
     return shape.placeholder ? textKindOf(*shape.placeholder) : std::uint32_t{text::kind::Other};
 }
 
+/// The kind of a text that has changed: the one that it has, unless its shape has become another placeholder. What its
+/// runs do not say comes from the styles of that kind.
+std::uint32_t textKind(const Shape& shape, const ShapeOrigin& origin, const std::vector<Record>& block) {
+    const bool isTold =
+        std::any_of(block.begin(), block.end(), [](const Record& each) { return each.is(type::TextHeaderAtom); });
+    return isTold && shape.placeholder == origin.asRead->placeholder ? text::kindOf(block) : textKind(shape);
+}
+
 Record clientDataOf(const Shape& shape) {
     Record data = Record::container(type::ArtClientData, {});
     if (shape.placeholder) {
@@ -151,10 +159,10 @@ Record ShapeWriter::own(const Shape& shape, bool placesAreNew) {
     if (reference == nullptr) {
         return record;
     }
-    std::vector<Record> block =
-        *shape.text == *origin->asRead->text
-            ? origin->outlineText
-            : text::changedText(origin->outlineText, *origin->asRead->text, *shape.text, textKind(shape), fonts_);
+    std::vector<Record> block = *shape.text == *origin->asRead->text
+                                    ? origin->outlineText
+                                    : text::changedText(origin->outlineText, *origin->asRead->text, *shape.text,
+                                                        textKind(shape, *origin, origin->outlineText), fonts_);
     if (place == outlinePlaces_.end()) { // a second shape with this text: it takes it with it
         box->children.erase(box->children.begin() + (reference - box->children.data()));
         box->children.insert(box->children.begin(), block.begin(), block.end());
@@ -215,8 +223,8 @@ void ShapeWriter::patchText(Record& record, const Shape& shape, const ShapeOrigi
         std::erase_if(record.children, [](const Record& child) { return child.is(type::ArtClientTextbox); });
     } else if (box != nullptr && origin.asRead->text) {
         if (!readsTheSame(*shape.text, *origin.asRead->text)) {
-            box->children =
-                text::changedText(box->children, *origin.asRead->text, *shape.text, textKind(shape), fonts_);
+            box->children = text::changedText(box->children, *origin.asRead->text, *shape.text,
+                                              textKind(shape, origin, box->children), fonts_);
         }
     } else {
         record.children.push_back(

@@ -7,6 +7,8 @@
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/text/TextRecords.h"
+#include "simulator/files/text/TextStyles.h"
 
 #include <gtest/gtest.h>
 
@@ -63,6 +65,7 @@ std::string withTitleInOutline() {
     Record& list = *document.record.find(type::SlideListWithText, slideList::slides);
     list.children.insert(list.children.end(), box.children.begin(), box.children.end());
     files::putNumber(list.children.front().data, SlideEntry::textCountPlace, 1);
+    list.find(type::TextHeaderAtom)->data = number(text::kind::CenterTitle);
     list.children.push_back(Record::atom(type::TextRulerAtom, number(0)));
     box.children = {Record::atom(type::OutlineTextRefAtom, number(0)), Record::atom(0x2BAD, "unknown")};
     return edited(file, {document, last});
@@ -88,6 +91,7 @@ TEST(OutlineFile, TextsOfTheOutlineAreReadAndGoBackThere) {
     const Record& list = *origin->objects.find(origin->document)->find(type::SlideListWithText, slideList::slides);
     EXPECT_EQ(files::utf16Text(list.demand(type::TextCharsAtom).data), u"Créer le plan");
     EXPECT_TRUE(list.children.back().is(type::TextRulerAtom));
+    EXPECT_EQ(text::kindOf(list.children), std::uint32_t{text::kind::CenterTitle});
     const PresentationPtr again = readPresentation(changed);
     EXPECT_EQ(*again->slides().front()->shapes()[0]->text, title);
 }
