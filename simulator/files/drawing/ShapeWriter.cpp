@@ -202,8 +202,11 @@ Record ShapeWriter::patched(const Shape& shape, const ShapeOrigin& origin, bool 
     const Record before = fresh(*origin.asRead, 0, origin.group != 0);
     const Record now = fresh(shape, ids_.shapeOf(shape.id), isChild);
     patchHead(record, before, now);
-    patchProperties(record, PropertyTable(before.demand(type::ArtProperties)),
-                    PropertyTable(now.demand(type::ArtProperties)));
+    PropertyTable wanted(now.demand(type::ArtProperties));
+    if (shape.name != origin.asRead->name) {
+        wanted.setText(property::name, shape.name); // the record may say the former one, usual as it is
+    }
+    patchProperties(record, PropertyTable(before.demand(type::ArtProperties)), wanted);
     patchPlace(record, before, now, placesAreNew);
     patchClientData(record, *origin.asRead, shape, clientDataOf(*origin.asRead), clientDataOf(shape));
     patchText(record, shape, origin);
