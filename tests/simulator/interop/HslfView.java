@@ -13,13 +13,16 @@ import java.util.List;
 import java.util.Locale;
 import org.apache.poi.ddf.EscherChildAnchorRecord;
 import org.apache.poi.ddf.EscherClientAnchorRecord;
+import org.apache.poi.ddf.EscherComplexProperty;
 import org.apache.poi.ddf.EscherContainerRecord;
 import org.apache.poi.ddf.EscherOptRecord;
 import org.apache.poi.ddf.EscherProperties;
+import org.apache.poi.ddf.EscherProperty;
 import org.apache.poi.ddf.EscherRecord;
 import org.apache.poi.ddf.EscherSimpleProperty;
 import org.apache.poi.ddf.EscherSpRecord;
 import org.apache.poi.ddf.EscherSpgrRecord;
+import org.apache.poi.hslf.model.textproperties.TextProp;
 import org.apache.poi.hslf.record.HSLFEscherClientDataRecord;
 import org.apache.poi.hslf.record.Record;
 import org.apache.poi.hslf.record.TextHeaderAtom;
@@ -64,7 +67,7 @@ public class HslfView {
             List<? extends Record> client = clientOf(own);
             lines.add(String.join("\t", "shape", String.valueOf(depth), isGroup ? "group" : kindOf(head.getShapeType()),
                 isGroup ? "0" : placeholderIn(client), frameOf(place, turnOf(own)), fixed(turnOf(own)),
-                String.valueOf(head.getFlags() >> 6 & 3), isGroup ? "-" : fillOf(shape), textOf(shape), tagsIn(client)));
+                String.valueOf(head.getFlags() >> 6 & 3), isGroup ? "-" : fillOf(shape), textOf(shape), tagsIn(client), nameOf(own)));
             if (isGroup) {
                 double turn = turnOf(own);
                 if (lies(turn)) {
@@ -150,7 +153,7 @@ public class HslfView {
                 }
                 // It takes the document's style of other texts where the master has one of its own.
                 boolean isOwn = run.getCharacterStyle().findByName("font.size") != null;
-                String now = (isOwn || run.getTextParagraph().getRunType() != TextHeaderAtom.OTHER_TYPE ? run.getFontSize() : "?") + (run.isBold() ? "b" : "") + (run.isItalic() ? "i" : "");
+                String now = (isOwn || run.getTextParagraph().getRunType() != TextHeaderAtom.OTHER_TYPE ? run.getFontSize() : "?") + (run.isBold() ? "b" : "") + (run.isItalic() ? "i" : "") + "#" + colorOf(run);
                 if (!now.equals(looks) && length != 0) {
                     runs.append(length).append(':').append(looks).append(' ');
                     length = 0;
@@ -160,6 +163,40 @@ public class HslfView {
             }
         }
         return plain(text) + "\t" + (length == 0 ? "" : runs + String.valueOf(length) + ":" + looks);
+    }
+
+    /** A colour of letters, as the file has it; "?" for one that they inherit. */
+    static String colorOf(HSLFTextRun run) {
+        TextProp color = run.getCharacterStyle().findByName("font.color");
+        int kind = color == null ? -1 : color.getValue() >>> 24;
+        return kind >= 0 && kind < 8 ? String.valueOf(kind << 24) : kind == 0xFE ? Integer.toUnsignedString(color.getValue()) : "?";
+    }
+
+    /** "?" where the file does not say one; empty where arrays before it are not measured as HSLF does, which misplaces it. */
+    static String nameOf(EscherContainerRecord own) {
+        EscherOptRecord all = own.getChildById(EscherOptRecord.RECORD_ID);
+        for (EscherProperty each : all == null ? List.<EscherProperty>of() : all.getEscherProperties()) {
+            boolean isOfPath = each.getPropertyNumber() >= 0x145 && each.getPropertyNumber() <= 0x158;
+            if (isOfPath && each instanceof EscherComplexProperty && isMisplacing(((EscherComplexProperty) each).getComplexData())) {
+                return "";
+            }
+        }
+        EscherProperty name = HSLFShape.getEscherProperty(own.getChildById(EscherOptRecord.RECORD_ID), EscherProperties.GROUPSHAPE__SHAPENAME);
+        if (!(name instanceof EscherComplexProperty)) {
+            return "?";
+        }
+        String text = new String(((EscherComplexProperty) name).getComplexData(), StandardCharsets.UTF_16LE);
+        int end = text.indexOf('\0');
+        return end == 0 || text.isEmpty() ? "?" : plain(end < 0 ? text : text.substring(0, end));
+    }
+
+    static boolean isMisplacing(byte[] array) {
+        ByteBuffer bytes = ByteBuffer.wrap(array).order(ByteOrder.LITTLE_ENDIAN);
+        if (array.length < 6) {
+            return false;
+        }
+        int size = bytes.getShort(4);
+        return array.length != 6 + bytes.getShort(0) * (size < 0 ? -size >> 2 : size);
     }
 
     static List<? extends Record> clientOf(EscherContainerRecord own) {

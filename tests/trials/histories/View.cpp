@@ -22,6 +22,7 @@ constexpr std::size_t firstPlace = 4;
 constexpr std::size_t lastPlace = 7;
 constexpr std::size_t fillPlace = 10;
 constexpr std::size_t runsPlace = 12;
+constexpr std::size_t namePlace = 14;
 
 /// A text on one line, without blanks that part fields.
 std::string plain(std::u16string text) {
@@ -68,6 +69,13 @@ std::string fillOf(const Shape& shape) {
     return code.str();
 }
 
+/// A colour of letters, as files have it.
+std::uint32_t codeOf(const Color& color) {
+    constexpr std::uint32_t direct = 0xFE000000;
+    return color.scheme == ppNotSchemeColor ? direct + static_cast<std::uint32_t>(color.rgb)
+                                            : static_cast<std::uint32_t>(color.scheme - 1) << 24U;
+}
+
 std::string runsOf(const TextStory& story) {
     std::string list;
     std::size_t length = 0;
@@ -77,7 +85,7 @@ std::string runsOf(const TextStory& story) {
             const CharacterFormat& format = runs[place].format;
             std::ostringstream looks;
             looks << std::fixed << std::setprecision(1) << format.size << (format.bold ? "b" : "")
-                  << (format.italic ? "i" : "");
+                  << (format.italic ? "i" : "") << '#' << codeOf(format.color);
             return looks.str();
         };
         length += runs[i].length;
@@ -99,7 +107,8 @@ void add(const Shape& shape, int depth, std::vector<std::string>& lines) {
     }
     line << '\t' << shape.rotation << '\t' << (shape.horizontalFlip ? 1 : 0) + (shape.verticalFlip ? 2 : 0) << '\t'
          << fillOf(shape) << '\t' << (shape.text ? plain(shape.text->text()) : "") << '\t'
-         << (shape.text && !shape.text->text().empty() ? runsOf(*shape.text) : "") << '\t' << tagsOf(shape.tags);
+         << (shape.text && !shape.text->text().empty() ? runsOf(*shape.text) : "") << '\t' << tagsOf(shape.tags) << '\t'
+         << plain(shape.name);
     lines.push_back(line.str());
     for (const ShapePtr& item : shape.items()) {
         add(*item, depth + 1, lines);
@@ -116,11 +125,12 @@ std::vector<std::string> fieldsOf(const std::string& line) {
     return fields;
 }
 
-/// True where texts are the same, with "?" in the second one for any number.
+/// True where texts are the same, with "?" in the second one for any number, or for one that the first does not tell
+/// either.
 bool matches(std::string_view text, std::string_view pattern) {
     for (const char each : pattern) {
         if (each == '?') {
-            text.remove_prefix(std::min(text.find_first_not_of("0123456789."), text.size()));
+            text.remove_prefix(std::min(text.find_first_not_of("0123456789.?"), text.size()));
         } else if (!text.starts_with(each)) {
             return false;
         } else {
@@ -128,6 +138,48 @@ bool matches(std::string_view text, std::string_view pattern) {
         }
     }
     return text.empty();
+}
+
+/// One run at the head of a list of them: what it looks like, and how many characters are left of it.
+struct Head {
+    std::size_t length = 0;
+    std::string looks;
+    std::istringstream rest;
+
+    explicit Head(const std::string& runs) : rest(runs) { next(); }
+    void drop(std::size_t many) {
+        length -= many;
+        if (length == 0) {
+            next();
+        }
+    }
+
+private:
+    void next() {
+        std::string run;
+        rest >> run;
+        const std::size_t colon = run.find(':');
+        length = run.empty() ? 0 : std::stoul(run);
+        looks = run.empty() ? "" : run.substr(colon + 1);
+    }
+};
+
+/// True where every character looks the same in both; they may be told in runs of other lengths.
+bool runsAgree(const std::string& ours, const std::string& theirs) {
+    Head left(ours);
+    Head right(theirs);
+    while (left.length != 0 && right.length != 0 && matches(left.looks, right.looks)) {
+        const std::size_t shared = std::min(left.length, right.length);
+        left.drop(shared);
+        right.drop(shared);
+    }
+    return left.length == 0 && right.length == 0;
+}
+
+/// A name that no file has to tell ends in a number.
+bool isUsual(std::string_view name) {
+    const std::size_t digits = name.find_last_not_of("0123456789") + 1;
+    return digits > 0 && digits < name.size() && name[digits - 1] == '_';
 }
 
 bool agree(const std::string& ours, const std::string& theirs) {
@@ -140,7 +192,10 @@ bool agree(const std::string& ours, const std::string& theirs) {
         const bool isNear =
             i >= firstPlace && i <= lastPlace && std::abs(std::stod(left[i]) - std::stod(right[i])) <= 1;
         const bool isUntold = (i == kindPlace || i == fillPlace) && (left[i] == "?" || right[i] == "?");
-        if (left[i] != right[i] && !isNear && !isUntold && !(i == runsPlace && matches(left[i], right[i]))) {
+        const bool isUntoldName =
+            i == namePlace && (right[i].empty() || left[i].empty() || (right[i] == "?" && isUsual(left[i])));
+        const bool areAlike = i == runsPlace ? runsAgree(left[i], right[i]) : left[i] == right[i];
+        if (!areAlike && !isNear && !isUntold && !isUntoldName) {
             return false;
         }
     }
