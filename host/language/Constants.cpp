@@ -37,7 +37,13 @@ constexpr auto runs = std::to_array<Run>({
      u"FlowchartSequentialAccessStorage FlowchartMagneticDisk FlowchartDirectAccessStorage FlowchartDisplay Explosion1 "
      u"Explosion2 4pointStar 5pointStar 8pointStar 16pointStar 24pointStar 32pointStar UpRibbon DownRibbon "
      u"CurvedUpRibbon CurvedDownRibbon VerticalScroll HorizontalScroll Wave DoubleWave RectangularCallout "
-     u"RoundedRectangularCallout OvalCallout CloudCallout LineCallout1 LineCallout2 LineCallout3 LineCallout4"},
+     u"RoundedRectangularCallout OvalCallout CloudCallout LineCallout1 LineCallout2 LineCallout3 LineCallout4 "
+     u"LineCallout1AccentBar LineCallout2AccentBar LineCallout3AccentBar LineCallout4AccentBar LineCallout1NoBorder "
+     u"LineCallout2NoBorder LineCallout3NoBorder LineCallout4NoBorder LineCallout1BorderandAccentBar "
+     u"LineCallout2BorderandAccentBar LineCallout3BorderandAccentBar LineCallout4BorderandAccentBar "
+     u"ActionButtonCustom ActionButtonHome ActionButtonHelp ActionButtonInformation ActionButtonBackorPrevious "
+     u"ActionButtonForwardorNext ActionButtonBeginning ActionButtonEnd ActionButtonReturn ActionButtonDocument "
+     u"ActionButtonSound ActionButtonMovie Balloon"},
     {u"msoShape", -2, u"Mixed"},
     {u"msoPresetThreeDFormat", -2, u"Mixed"},
     {u"mso", 1, u"AutoShape Callout Chart Comment Freeform Group EmbeddedOLEObject FormControl Line"},

@@ -58,6 +58,26 @@ Value plain(const Value& value) {
     return value.isObject() ? reach(value, automation::defaultMember, Access::GetOrCall, {}) : value;
 }
 
+/// Sets a property. Without `Set`, one that cannot be set but holds an object stands for its default member.
+void put(const Value& object, const Name& name, std::span<Value> arguments, bool isSet) {
+    try {
+        reach(object, name, Access::Put, arguments);
+    } catch (const Error& error) {
+        if (isSet || !error.is(RunTimeError::MemberNotFound)) {
+            throw;
+        }
+        Value held;
+        try {
+            held = reach(object, name, Access::Get, arguments.first(arguments.size() - 1));
+        } catch (const Error&) { // there is no such member at all
+        }
+        if (!held.isObject() || held.to<ObjectPtr>() == nullptr) {
+            throw;
+        }
+        reach(held, automation::defaultMember, Access::Put, arguments.last(1));
+    }
+}
+
 /// The names of arguments, as a call takes them.
 std::vector<std::u16string_view> viewsOf(const std::vector<std::u16string>& names) {
     return {names.begin(), names.end()};
@@ -206,7 +226,7 @@ void Interpreter::perform(const Assignment& assignment) {
     arguments.push_back(std::move(value));
     const std::vector<std::u16string_view> parameters = viewsOf(target.parameters);
     const Name name(target.name, {}, parameters);
-    placed(assignment.target.place, [&] { return reach(object, name, Access::Put, arguments); });
+    placed(assignment.target.place, [&] { put(object, name, arguments, assignment.isSet); });
 }
 
 void Interpreter::perform(const Check& check) {
