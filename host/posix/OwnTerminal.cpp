@@ -90,6 +90,7 @@ std::size_t OwnTerminal::columns(std::FILE* output) {
         return 0;
     }
     winsize size{};
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system tells it in no other way
     const bool isKnown = ioctl(fileno(output), TIOCGWINSZ, &size) == 0 && size.ws_col != 0;
     return isKnown ? size.ws_col : usual;
 }

@@ -2,7 +2,6 @@
 
 #include "host/world/TemporaryFolder.h"
 
-#include <io.h>
 #include <windows.h>
 
 #include <atomic>
@@ -54,7 +53,7 @@ bool OwnTerminal::takesColours() {
 }
 
 std::size_t OwnTerminal::columns(std::FILE* output) {
-    auto* const handle = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(output)));
+    const HANDLE handle = GetStdHandle(output == stderr ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE);
     CONSOLE_SCREEN_BUFFER_INFO info{};
     return GetConsoleScreenBufferInfo(handle, &info) == FALSE
                ? 0
