@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -25,15 +26,10 @@ public:
     [[nodiscard]] constexpr bool isDefault() const noexcept { return text_.empty(); }
 
     [[nodiscard]] constexpr bool matches(const Name& other) const noexcept {
-        if (hash_ != other.hash_ || text_.size() != other.text_.size()) {
-            return false;
-        }
-        for (std::size_t i = 0; i < text_.size(); ++i) {
-            if (fold(text_[i]) != fold(other.text_[i])) {
-                return false;
-            }
-        }
-        return true;
+        return hash_ == other.hash_ && text_.size() == other.text_.size() &&
+               (std::equal(text_.begin(), text_.end(), other.text_.begin()) ||
+                std::equal(text_.begin(), text_.end(), other.text_.begin(),
+                           [](char16_t left, char16_t right) { return fold(left) == fold(right); }));
     }
 
 private:

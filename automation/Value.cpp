@@ -109,16 +109,6 @@ Value Value::reference(Value& variable, Original* original) noexcept {
     return Value(further != nullptr ? *further : Reference{&variable, original});
 }
 
-const Value& Value::target() const noexcept {
-    const Value* const behind = variable();
-    return behind != nullptr ? *behind : *this;
-}
-
-Value* Value::variable() const noexcept {
-    const auto* const reference = std::get_if<Reference>(&storage_);
-    return reference != nullptr ? reference->variable : nullptr;
-}
-
 void Value::write(Value value) {
     if (const auto* const reference = std::get_if<Reference>(&storage_)) {
         *reference->variable = std::move(value);
@@ -130,7 +120,7 @@ void Value::write(Value value) {
     }
 }
 
-template <> bool Value::to<bool>() const {
+template <> bool Value::converted<bool>() const {
     if (is<bool>()) {
         return as<bool>();
     }
@@ -145,15 +135,15 @@ template <> bool Value::to<bool>() const {
     return number(*this) != 0;
 }
 
-template <> std::int16_t Value::to<std::int16_t>() const {
+template <> std::int16_t Value::converted<std::int16_t>() const {
     return whole<std::int16_t>(*this);
 }
 
-template <> std::int32_t Value::to<std::int32_t>() const {
+template <> std::int32_t Value::converted<std::int32_t>() const {
     return whole<std::int32_t>(*this);
 }
 
-template <> float Value::to<float>() const {
+template <> float Value::converted<float>() const {
     if (is<float>()) {
         return as<float>();
     }
@@ -164,11 +154,11 @@ template <> float Value::to<float>() const {
     return single;
 }
 
-template <> double Value::to<double>() const {
+template <> double Value::converted<double>() const {
     return number(*this);
 }
 
-template <> std::u16string Value::to<std::u16string>() const {
+template <> std::u16string Value::converted<std::u16string>() const {
     return visit(Overloaded{
         [](Empty) { return std::u16string(); },
         [](Missing) -> std::u16string { raise(RunTimeError::TypeMismatch); },
@@ -185,14 +175,14 @@ template <> std::u16string Value::to<std::u16string>() const {
     });
 }
 
-template <> ObjectPtr Value::to<ObjectPtr>() const {
+template <> ObjectPtr Value::converted<ObjectPtr>() const {
     if (!isObject()) {
         raise(RunTimeError::ObjectRequired);
     }
     return as<ObjectPtr>();
 }
 
-template <> Array Value::to<Array>() const {
+template <> Array Value::converted<Array>() const {
     if (!is<Array>()) {
         raise(RunTimeError::TypeMismatch);
     }

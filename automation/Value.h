@@ -84,10 +84,16 @@ public:
     static Value reference(Value& variable, Original* original = nullptr) noexcept;
 
     /// The value itself, or the variable behind a by-reference argument.
-    [[nodiscard]] const Value& target() const noexcept;
+    [[nodiscard]] const Value& target() const noexcept {
+        const Value* const behind = variable();
+        return behind != nullptr ? *behind : *this;
+    }
 
     /// The variable behind a by-reference argument; null for a value.
-    [[nodiscard]] Value* variable() const noexcept;
+    [[nodiscard]] Value* variable() const noexcept {
+        const auto* const reference = std::get_if<Reference>(&storage_);
+        return reference != nullptr ? reference->variable : nullptr;
+    }
 
     /// Writes the variable behind a by-reference argument, and its original, before the call ends; a value itself.
     void write(Value value);
@@ -103,15 +109,28 @@ public:
     [[nodiscard]] bool isObject() const noexcept { return is<ObjectPtr>(); }
 
     /// The value as bool, std::int16_t, std::int32_t, float, double, std::u16string, ObjectPtr, Array or an enumeration
-    /// (through its 32-bit number).
-    template <typename T> [[nodiscard]] T to() const {
+    /// (through its 32-bit number). What is held as that type is given without a conversion, and a value that nobody
+    /// needs any more gives it away.
+    ///@{
+    template <typename T> [[nodiscard]] T to() const& {
         if constexpr (Enumeration<T>) {
             return static_cast<T>(to<std::int32_t>());
-        } else {
-            static_assert(std::is_same_v<T, Value>, "no such automation type");
+        } else if constexpr (std::is_same_v<T, Value>) {
             return target();
+        } else {
+            const T* const held = std::get_if<T>(&storage_);
+            return held != nullptr ? *held : converted<T>();
         }
     }
+    template <typename T> [[nodiscard]] T to() && {
+        if constexpr (Enumeration<T> || std::is_same_v<T, Value>) {
+            return std::as_const(*this).to<T>();
+        } else {
+            T* const held = std::get_if<T>(&storage_);
+            return held != nullptr ? std::move(*held) : converted<T>();
+        }
+    }
+    ///@}
 
     /// The value as a reader would write it, for traces and messages: texts in quotes, objects as <object>.
     [[nodiscard]] std::u16string display() const;
@@ -127,19 +146,22 @@ public:
 private:
     explicit Value(const Reference& by) noexcept : storage_(by) {}
 
+    /// The value, or the variable behind it, as another type than the one held here.
+    template <typename T> [[nodiscard]] T converted() const;
+
     using Storage = std::variant<Empty, Missing, bool, std::int16_t, std::int32_t, float, double, std::u16string,
                                  ObjectPtr, Array, Reference>;
 
     Storage storage_;
 };
 
-template <> bool Value::to<bool>() const;
-template <> std::int16_t Value::to<std::int16_t>() const;
-template <> std::int32_t Value::to<std::int32_t>() const;
-template <> float Value::to<float>() const;
-template <> double Value::to<double>() const;
-template <> std::u16string Value::to<std::u16string>() const;
-template <> ObjectPtr Value::to<ObjectPtr>() const;
-template <> Array Value::to<Array>() const;
+template <> bool Value::converted<bool>() const;
+template <> std::int16_t Value::converted<std::int16_t>() const;
+template <> std::int32_t Value::converted<std::int32_t>() const;
+template <> float Value::converted<float>() const;
+template <> double Value::converted<double>() const;
+template <> std::u16string Value::converted<std::u16string>() const;
+template <> ObjectPtr Value::converted<ObjectPtr>() const;
+template <> Array Value::converted<Array>() const;
 
 } // namespace automation

@@ -24,7 +24,7 @@ template <FixedText ClassName> class Facade : public automation::LateBound {
 public:
     using LateBound::LateBound;
     /// The object that a member answered with.
-    explicit Facade(const automation::Value& answer) : LateBound(answer.to<automation::ObjectPtr>()) {}
+    explicit Facade(automation::Value&& answer) : LateBound(std::move(answer).to<automation::ObjectPtr>()) {}
 
 protected:
     template <FixedText Member> static constexpr automation::Name memberName{Member.view(), ClassName.view()};
