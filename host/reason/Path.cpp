@@ -149,4 +149,17 @@ bool Path::isBelow(const Path& other) const {
     return other.steps_.size() <= steps_.size() && std::equal(other.steps_.begin(), other.steps_.end(), steps_.begin());
 }
 
+std::size_t Path::Hash::operator()(const Path& path) const {
+    constexpr std::size_t factor = 31;
+    const std::hash<std::u16string> hashOf;
+    std::size_t hash = 0;
+    for (const Step& step : path.steps_) {
+        hash = hash * factor + hashOf(step.member);
+        for (const Value& argument : step.arguments) {
+            hash = hash * factor + hashOf(argument.display());
+        }
+    }
+    return hash;
+}
+
 } // namespace host::reason

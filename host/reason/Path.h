@@ -55,6 +55,10 @@ public:
     [[nodiscard]] bool isBelow(const Path& other) const;
 
     friend bool operator==(const Path&, const Path&) = default;
+    /// For tables of ways.
+    struct Hash {
+        [[nodiscard]] std::size_t operator()(const Path& path) const;
+    };
 
 private:
     [[nodiscard]] Path first(std::size_t steps) const;

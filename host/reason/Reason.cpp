@@ -8,6 +8,8 @@
 #include "host/reason/Topic.h"
 
 #include <algorithm>
+#include <functional>
+#include <unordered_set>
 
 namespace host::reason {
 
@@ -32,10 +34,9 @@ bool isWord(const Access& access) {
 /// Those that are wanted, each value as it was read last.
 Accesses filtered(const Accesses& all, const std::function<bool(const Access&)>& isWanted) {
     Accesses wanted;
+    std::unordered_set<std::reference_wrapper<const Path>, Path::Hash, std::equal_to<>> known;
     std::for_each(all.rbegin(), all.rend(), [&](const Access& access) {
-        const bool isKnown =
-            std::any_of(wanted.begin(), wanted.end(), [&](const Access& other) { return other.path == access.path; });
-        if (!isKnown && isWanted(access)) {
+        if (isWanted(access) && known.insert(access.path).second) {
             wanted.push_back(access);
         }
     });

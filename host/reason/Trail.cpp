@@ -28,18 +28,18 @@ bool Access::isMark() const {
 }
 
 Value Trail::around(const automation::Crossing& crossing, const Next& next) {
-    const Path path = pathOf(crossing);
+    Path path = pathOf(crossing);
     try {
         Value result = other_ ? other_->around(crossing, next) : next();
         if (result.isObject()) {
             if (const automation::ObjectPtr object = result.to<automation::ObjectPtr>()) {
                 // What the system hands out is the application.
-                origins_[object.get()] = crossing.object == nullptr ? Path() : path;
+                origins_[object.get()] = crossing.object == nullptr ? Path() : std::move(path);
             }
         } else if (crossing.member == u"Add" && crossing.target == u"Tags") {
             given_.push_back({path.owner().owner(), textIn(crossing.arguments.back())});
         } else if (crossing.access != automation::Access::Put && !result.isEmpty()) {
-            accesses_.push_back({crossing.border, path, result, std::nullopt});
+            accesses_.push_back({crossing.border, std::move(path), result, std::nullopt});
         }
         return result;
     } catch (const automation::Error& error) {
