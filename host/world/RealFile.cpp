@@ -17,9 +17,9 @@ fs::path pathOf(const std::string& name) {
 }
 
 Bytes contentsOf(const fs::path& path) {
-    std::optional<Bytes> content;
+    std::optional<std::string> content;
     try {
-        content = simulator::files::wholeFile<Bytes>(path);
+        content = simulator::files::wholeFile(path);
     } catch (const std::ios_base::failure&) { // raised in the middle of a file
         content.reset();
     }
@@ -31,7 +31,7 @@ Bytes contentsOf(const fs::path& path) {
                                                             : " is not there";
         throw std::runtime_error(path.string() + what);
     }
-    return *std::move(content);
+    return {content->begin(), content->end()};
 }
 
 void writeContents(const fs::path& path, std::string_view content) {

@@ -1,7 +1,9 @@
 #include "simulator/files/Bytes.h"
 
 #include <array>
+#include <bit>
 #include <charconv>
+#include <cstring>
 
 namespace simulator::files {
 
@@ -11,14 +13,9 @@ std::string hex(std::uint64_t number) {
     return "0x" + std::string(digits.data(), end);
 }
 
-std::string_view ByteReader::take(std::size_t length) {
-    if (length > left()) {
-        throw DamagedPresentation(std::string(what_) + " ends at byte " + std::to_string(bytes_.size()) + ", where " +
-                                  std::to_string(length - left()) + " more are needed");
-    }
-    const std::string_view taken = bytes_.substr(place_, length);
-    place_ += length;
-    return taken;
+void ByteReader::raiseEnd(std::size_t length) const {
+    throw DamagedPresentation(std::string(what_) + " ends at byte " + std::to_string(bytes_.size()) + ", where " +
+                              std::to_string(length - left()) + " more are needed");
 }
 
 std::string utf16Bytes(std::u16string_view text) {
@@ -30,11 +27,10 @@ std::string utf16Bytes(std::u16string_view text) {
 }
 
 std::u16string utf16Text(std::string_view bytes) {
+    static_assert(std::endian::native == std::endian::little);
     std::u16string text(bytes.size() / 2, u'\0');
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto low = static_cast<unsigned char>(bytes[2 * i]);
-        const auto high = static_cast<unsigned char>(bytes[2 * i + 1]);
-        text[i] = static_cast<char16_t>(low | (high << 8U));
+    if (!text.empty()) {
+        std::memcpy(text.data(), bytes.data(), text.size() * sizeof(char16_t));
     }
     return text;
 }

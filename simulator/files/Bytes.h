@@ -30,12 +30,21 @@ public:
         return static_cast<T>(value);
     }
 
-    [[nodiscard]] std::string_view take(std::size_t length);
+    [[nodiscard]] std::string_view take(std::size_t length) {
+        if (length > left()) {
+            raiseEnd(length);
+        }
+        const std::string_view taken = bytes_.substr(place_, length);
+        place_ += length;
+        return taken;
+    }
     void skip(std::size_t length) { (void)take(length); }
     [[nodiscard]] std::size_t place() const noexcept { return place_; }
     [[nodiscard]] std::size_t left() const noexcept { return bytes_.size() - place_; }
 
 private:
+    [[noreturn]] void raiseEnd(std::size_t length) const;
+
     std::string_view bytes_;
     std::string_view what_;
     std::size_t place_ = 0;

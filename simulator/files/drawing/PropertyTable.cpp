@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 
 namespace simulator::drawing {
 
@@ -15,7 +14,8 @@ namespace {
 constexpr std::uint16_t idMask = 0x3FFF;
 constexpr std::uint16_t pictureBit = 0x4000;
 constexpr std::uint16_t complexBit = 0x8000;
-constexpr std::size_t arrayHeader = 6; // its length
+constexpr std::size_t propertySize = 6; // its head and value
+constexpr std::size_t arrayHeader = 6;  // its length
 constexpr std::uint8_t tableVersion = 3;
 
 constexpr std::array arrays{property::vertices,        property::segments,    property::connections,
@@ -44,6 +44,7 @@ ArrayHead::ArrayHead(files::ByteReader& in) : count(in.read<std::uint16_t>()) {
 
 PropertyTable::PropertyTable(const records::Record& record) {
     files::ByteReader in(record.data, "a table of drawing properties");
+    properties_.reserve(std::min<std::size_t>(record.instance, record.data.size() / propertySize));
     asFarAsSound([&] {
         for (std::size_t i = 0; i < record.instance; ++i) {
             const auto head = in.read<std::uint16_t>();
@@ -81,22 +82,19 @@ void PropertyTable::put(Property property) {
     properties_.insert(after, std::move(property));
 }
 
-void PropertyTable::merge(const PropertyTable& other) {
-    std::map<std::uint16_t, Property> merged;
-    for (const PropertyTable* const table : {static_cast<const PropertyTable*>(this), &other}) {
-        for (const Property& property : table->properties_) {
-            const auto [place, isNew] = merged.emplace(property.id, property);
-            if (!isNew && property::areFlags(property.id)) {
-                const std::uint32_t said = property.value & 0xFFFF0000U;
-                place->second.value = (place->second.value & ~(said >> 16U)) | said | (property.value & said >> 16U);
-            } else {
-                place->second = property;
-            }
+void PropertyTable::merge(PropertyTable other) {
+    properties_.reserve(properties_.size() + other.properties_.size());
+    for (Property& property : other.properties_) {
+        const auto place = std::lower_bound(properties_.begin(), properties_.end(), property.id,
+                                            [](const Property& each, std::uint16_t id) { return each.id < id; });
+        if (place == properties_.end() || place->id != property.id) {
+            properties_.insert(place, std::move(property));
+        } else if (property::areFlags(property.id)) {
+            const std::uint32_t said = property.value & 0xFFFF0000U;
+            place->value = (place->value & ~(said >> 16U)) | said | (property.value & said >> 16U);
+        } else {
+            *place = std::move(property);
         }
-    }
-    properties_.clear();
-    for (auto& [id, property] : merged) {
-        properties_.push_back(std::move(property));
     }
 }
 

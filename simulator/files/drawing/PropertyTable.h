@@ -36,9 +36,9 @@ public:
 
     [[nodiscard]] const std::vector<Property>& all() const noexcept { return properties_; }
     [[nodiscard]] const Property* find(std::uint16_t id) const noexcept;
-    /// Takes over the properties of another table, in the order of ids; where both have one, the other's, of
-    /// flags those that count.
-    void merge(const PropertyTable& other);
+    /// Takes over the properties of another table into this one, which is in the order of ids; where both have one,
+    /// the other's, of flags those that count.
+    void merge(PropertyTable other);
     /// Puts a property in the place of the one with its id, or where the order of ids wants it.
     void put(Property property);
     void remove(std::uint16_t id) noexcept;
