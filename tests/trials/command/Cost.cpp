@@ -89,15 +89,17 @@ bool printLargeDeck(const WorldMaker& makeWorld, std::ostream& out) {
 }
 
 /// For instruments that count the instructions of a check: nothing stands around the calls.
-bool printOneCheck(std::size_t slides, const CommandContext& at) {
+bool printOneCheck(const CostRequest& request, const CommandContext& at) {
     cost::DeckSize size;
-    size.slides = slides;
+    size.slides = *request.slides;
     const language::ScenarioFile file = cost::largeDeck(size);
-    const QuestionCost cost = cost::unobservedCostOf(file, Course(file, at.worlds.embedded), at.worlds.embedded);
-    at.out << "Question 306's check on a deck of " << slides << " slides takes " << std::fixed << std::setprecision(1)
-           << cost.testePoint.time.count() << " ms of processor time\n";
+    const auto costOf = request.isExplained ? cost::explainedCostOf : cost::unobservedCostOf;
+    const QuestionCost cost = costOf(file, Course(file, at.worlds.embedded), at.worlds.embedded);
+    at.out << "Question 306's check on a deck of " << size.slides << " slides takes " << std::fixed
+           << std::setprecision(1) << cost.testePoint.time.count() << " ms of processor time\n";
     Bounds bounds{at.out};
     bounds.hold(file.scenarios.front().lastExpectation()->matches(cost.reading), "the verdict is wrong");
+    bounds.hold(cost.reading.reason.empty() != request.isExplained, "the verdict is not explained");
     return bounds.isGood;
 }
 
@@ -149,8 +151,12 @@ bool printAll(const CostRequest& request, const CommandContext& at) {
     if (at.worlds.remote) {
         return printRemoteCosts(request, at);
     }
+    if (!request.reader.empty()) {
+        printReadingCost(request, at);
+        return true;
+    }
     if (request.slides) {
-        return printOneCheck(*request.slides, at);
+        return printOneCheck(request, at);
     }
     const bool isGood = printQuestions(request, at);
     return printLargeDeck(at.worlds.embedded, at.out) && isGood;
@@ -171,6 +177,9 @@ Action addCost(CLI::App& command) {
         .add_option("--rounds", request->rounds,
                     "With --powerpoint: only check a small deck, so many times, beside a bare client and a script")
         ->check(CLI::PositiveNumber);
+    command.add_flag("--explained", request->isExplained, "With --slides: also say why the verdict is what it is");
+    command.add_option("--reader", request->reader,
+                       "Folder of the second reader's pipes: read the large deck's file beside it");
     return
         [request](const CommandContext& at) { return printAll(*request, at) ? ExitCode::Good : ExitCode::FellShort; };
 }

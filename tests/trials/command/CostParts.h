@@ -11,6 +11,8 @@ struct CostRequest {
     std::vector<std::int32_t> questions; ///< all where none is named
     std::size_t runs = 0;                ///< questions of a long run; 0 for what questions cost
     std::optional<std::size_t> slides;   ///< of the large deck; in this process it alone is checked, once
+    bool isExplained = false;            ///< the host also says why it reads what it reads of that check
+    std::filesystem::path reader;        ///< of presentations, beside which the large deck's file is read instead
     std::size_t rounds = 0;              ///< of a small deck's checks beside others; 0 for all that is measured
 };
 
@@ -44,5 +46,8 @@ printGrowth(cost::DeckSize size,
 /// Prints what questions cost through COM, and a large deck's check beside the same check as a script; true where all
 /// is within its bounds.
 [[nodiscard]] bool printRemoteCosts(const CostRequest& request, const CommandContext& at);
+
+/// Prints in what time the large deck's file is read, here and by the second reader.
+void printReadingCost(const CostRequest& request, const CommandContext& at);
 
 } // namespace trials

@@ -14,7 +14,8 @@ language::ScenarioFile largeDeck(DeckSize size) {
         ordinary += "clarté" + blank;
         first += (i < 4 ? "créer" : "clarté") + blank;
     }
-    std::string text = "question 306\ncourse\n  Presentations.Add\n  Set deck = ActivePresentation.Slides\n";
+    std::string text = "question 306\nremark \"F\" \"\"\"créer\"\" stands four times\"\ncourse\n  Presentations.Add\n  "
+                       "Set deck = ActivePresentation.Slides\n";
     for (std::size_t slide = 1; slide <= size.slides; ++slide) {
         text += "  Set shapes = deck.Add(" + std::to_string(slide) + ", ppLayoutBlank).Shapes\n";
         for (std::size_t shape = 1; shape <= size.shapesOnSlide; ++shape) {

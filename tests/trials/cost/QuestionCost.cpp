@@ -1,5 +1,6 @@
 #include "tests/trials/cost/QuestionCost.h"
 
+#include "host/reason/Explainer.h"
 #include "host/run/FirstMoves.h"
 #include "tests/trials/StandIn.h"
 #include "tests/trials/trace/TraceLog.h"
@@ -18,6 +19,10 @@ Milliseconds processorTime() {
     return Milliseconds(1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC);
 }
 
+OperationCost timed() {
+    return {.time = processorTime()};
+}
+
 Milliseconds clockTime() {
     return std::chrono::steady_clock::now().time_since_epoch();
 }
@@ -25,14 +30,16 @@ Milliseconds clockTime() {
 /// One run of a question in a world of its own.
 class MeasuredRun {
 public:
-    MeasuredRun(const language::ScenarioFile& file, const Course& course, World& world, Meter meter)
+    MeasuredRun(const language::ScenarioFile& file, const Course& course, World& world, Meter meter,
+                Witness* witness = nullptr)
         : meter_(std::move(meter)) {
-        withHost(file, course, world, [&](TrainingHost& host) {
+        const auto work = [&](TrainingHost& host) {
             cost.initQuestion = measure([&] { host.initQuestion(file.question, world.hostFolder()); });
             performFirstMoves(file, world, host);
             cost.testePoint = measure([&] { cost.reading = host.check(); });
             cost.fermer = measure([&] { host.fermer(); });
-        });
+        };
+        withHost(file, course, world, work, witness);
     }
 
     QuestionCost cost;
@@ -63,10 +70,10 @@ QuestionCost observedCostOf(const language::ScenarioFile& file, const Course& co
 } // namespace
 
 void withHost(const language::ScenarioFile& file, const Course& course, World& world,
-              const std::function<void(TrainingHost&)>& work) {
+              const std::function<void(TrainingHost&)>& work, Witness* witness) {
     Witness nobody;
     world.powerPoint().start();
-    TrainingHost host(world, course, file.question, nobody);
+    TrainingHost host(world, course, file.question, witness == nullptr ? nobody : *witness);
     host.application = world.powerPoint().application();
     host.window = world.powerPoint().window();
     work(host);
@@ -83,8 +90,12 @@ PrescribedCalls::PrescribedCalls(std::int32_t question, HostCall operation)
 }
 
 QuestionCost unobservedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
-    const Meter timer = [] { return OperationCost{0, 0, 0, processorTime(), {}, {}}; };
-    return MeasuredRun(file, course, *makeWorld(nullptr), timer).cost;
+    return MeasuredRun(file, course, *makeWorld(nullptr), timed).cost;
+}
+
+QuestionCost explainedCostOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld) {
+    reason::Explainer explainer(file.contract);
+    return MeasuredRun(file, course, *makeWorld(explainer.observer()), timed, &explainer).cost;
 }
 
 QuestionCost costOf(const language::ScenarioFile& file, const Course& course, const WorldMaker& makeWorld, int runs) {

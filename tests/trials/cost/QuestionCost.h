@@ -51,9 +51,10 @@ struct QuestionCost {
     [[nodiscard]] Milliseconds time() const noexcept { return initQuestion.time + testePoint.time + fermer.time; }
 };
 
-/// Starts PowerPoint in a world, has a host with its files and its PowerPoint do something, and leaves the module.
+/// Starts PowerPoint in a world, has a host with its files and its PowerPoint do something, and leaves the module; a
+/// witness may see it.
 void withHost(const language::ScenarioFile& file, const Course& course, World& world,
-              const std::function<void(TrainingHost&)>& work);
+              const std::function<void(TrainingHost&)>& work, Witness* witness = nullptr);
 
 /// Counts the calls of a question whose learner performs the first moves of its file, and takes the shortest processor
 /// time of several runs that nobody observes. `course` holds the file's files. Raises what the module raises.
@@ -63,6 +64,10 @@ void withHost(const language::ScenarioFile& file, const Course& course, World& w
 /// The same, run once, with the processor time alone.
 [[nodiscard]] QuestionCost unobservedCostOf(const language::ScenarioFile& file, const Course& course,
                                             const WorldMaker& makeWorld);
+
+/// The same, when the host says why it reads what it reads.
+[[nodiscard]] QuestionCost explainedCostOf(const language::ScenarioFile& file, const Course& course,
+                                           const WorldMaker& makeWorld);
 
 /// The calls to PowerPoint that the check takes, after the first moves of the file.
 [[nodiscard]] std::vector<trace::RecordedCall> callsOfCheck(const language::ScenarioFile& file, const Course& course,

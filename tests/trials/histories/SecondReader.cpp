@@ -4,8 +4,8 @@
 
 namespace trials::histories {
 
-std::vector<std::string> SecondReader::view(const std::filesystem::path& file) {
-    asked_ << file.string() << std::endl;
+std::vector<std::string> SecondReader::answerTo(const std::string& question) {
+    asked_ << question << std::endl;
     std::vector<std::string> lines;
     for (std::string line; std::getline(answered_, line);) {
         if (line == "end") {

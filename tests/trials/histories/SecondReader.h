@@ -16,9 +16,15 @@ public:
 
     /// What it sees in a file, in the lines of `viewOf`; one line, "refused" and why, where it cannot read it. Raises
     /// std::runtime_error where the program is there no more.
-    [[nodiscard]] std::vector<std::string> view(const std::filesystem::path& file);
+    [[nodiscard]] std::vector<std::string> view(const std::filesystem::path& file) { return answerTo(file.string()); }
+    /// Processor time in which it reads a file, in microseconds.
+    [[nodiscard]] long timeOf(const std::filesystem::path& file) {
+        return std::stol(answerTo("time\t" + file.string()).front());
+    }
 
 private:
+    [[nodiscard]] std::vector<std::string> answerTo(const std::string& question);
+
     std::ofstream asked_;
     std::ifstream answered_;
 };
