@@ -42,6 +42,9 @@ constexpr auto classes = std::to_array<PublishedClass>({
      u"ActionControl ActiveMenuBar AdaptiveMenus Add AddEx Application Count Creator DisableAskAQuestionDropdown "
      u"DisableCustomize DisplayFonts DisplayKeysInTooltips DisplayTooltips FindControl FindControls Item "
      u"LargeButtons MenuAnimationStyle Parent ReleaseFocus"},
+    {u"ConnectorFormat",
+     u"Application BeginConnect BeginConnected BeginConnectedShape BeginConnectionSite BeginDisconnect Creator "
+     u"EndConnect EndConnected EndConnectedShape EndConnectionSite EndDisconnect Parent Type"},
     {u"DocumentWindow",
      u"Activate Active ActivePane Application BlackAndWhite Caption Close FitToPage Height HWND LargeScroll Left "
      u"NewWindow Panes Parent PointsToScreenPixelsX PointsToScreenPixelsY Presentation RangeFromPoint "
@@ -149,7 +152,7 @@ constexpr auto classes = std::to_array<PublishedClass>({
 constexpr std::u16string_view otherClasses =
     u"ActionSetting ActionSettings AddIn AddIns Adjustments AnimationBehavior AnimationBehaviors AnimationPoint "
     u"AnimationPoints AnimationSettings AutoCorrect Borders CalloutFormat CanvasShapes Cell CellRange ColorEffect "
-    u"ColorScheme ColorSchemes Column Columns CommandEffect Comment Comments ConnectorFormat DefaultWebOptions "
+    u"ColorScheme ColorSchemes Column Columns CommandEffect Comment Comments DefaultWebOptions "
     u"Design Designs Diagram DiagramNode DiagramNodeChildren DiagramNodes Effect EffectInformation EffectParameters "
     u"ExtraColors FilterEffect Fonts HeaderFooter HeadersFooters Hyperlink Hyperlinks LinkFormat Master "
     u"MotionEffect NamedSlideShow NamedSlideShows ObjectVerbs OCXExtender OLEFormat Options PictureFormat "

@@ -55,6 +55,13 @@ enum MsoAlignCmd : std::int32_t {
 
 enum MsoDistributeCmd : std::int32_t { msoDistributeHorizontally = 0, msoDistributeVertically = 1 };
 
+enum MsoConnectorType : std::int32_t {
+    msoConnectorTypeMixed = -2,
+    msoConnectorStraight = 1,
+    msoConnectorElbow = 2,
+    msoConnectorCurve = 3,
+};
+
 enum MsoFlipCmd : std::int32_t { msoFlipHorizontal = 0, msoFlipVertical = 1 };
 
 enum MsoScaleFrom : std::int32_t { msoScaleFromTopLeft = 0, msoScaleFromMiddle = 1, msoScaleFromBottomRight = 2 };

@@ -73,6 +73,13 @@ ShapePtr line(const Node& begin, const Node& end) {
     return shape;
 }
 
+ShapePtr connector(MsoConnectorType type, const Node& begin, const Node& end) {
+    ShapePtr shape = line(begin, end);
+    shape->type = msoAutoShape;
+    shape->connector = Connector{type, {}, {}};
+    return shape;
+}
+
 ShapePtr picture(std::u16string_view fileName, const Frame& frame) {
     ShapePtr shape = make(msoPicture, frame);
     makeClear(*shape);

@@ -9,6 +9,8 @@ namespace simulator::newShape {
 [[nodiscard]] ShapePtr textBox(const Frame& frame);
 /// A line from one point to another.
 [[nodiscard]] ShapePtr line(const Node& begin, const Node& end);
+/// A connector from one point to another.
+[[nodiscard]] ShapePtr connector(MsoConnectorType type, const Node& begin, const Node& end);
 /// A picture; its alternative text is the name of its file, without folder and extension.
 [[nodiscard]] ShapePtr picture(std::u16string_view fileName, const Frame& frame);
 /// A WordArt object, as large as its text needs.

@@ -1,5 +1,6 @@
 #include "simulator/document/Shape.h"
 
+#include "simulator/document/Connecting.h"
 #include "simulator/document/Order.h"
 
 #include <algorithm>
@@ -117,11 +118,13 @@ void Shape::setFrame(const Frame& frame) {
     place(
         {toMasterUnits(frame.left), toMasterUnits(frame.top), toMasterUnits(frame.width), toMasterUnits(frame.height)});
     refitGroups();
+    followConnections(*this);
 }
 
 void Shape::turnTo(float degrees) {
     rotation = degrees;
     refitGroups();
+    followConnections(*this);
 }
 
 void Shape::place(const Frame& frame) {

@@ -58,6 +58,24 @@ struct Node {
     friend bool operator==(const Node&, const Node&) = default;
 };
 
+/// One end of a connector: the shape that it holds on to, by its id on the slide (0 for none), and the connection site
+/// there, from 1.
+struct ConnectorEnd {
+    std::int32_t shape = 0;
+    std::int32_t site = 0;
+
+    friend bool operator==(const ConnectorEnd&, const ConnectorEnd&) = default;
+};
+
+/// What makes a shape a connector.
+struct Connector {
+    MsoConnectorType type = msoConnectorStraight;
+    ConnectorEnd begin;
+    ConnectorEnd end;
+
+    friend bool operator==(const Connector&, const Connector&) = default;
+};
+
 /// A shape of a slide, or an item of a group. It lives as long as its slide or group holds it; those who look at it
 /// hold it weakly, and find it gone when it has been deleted.
 class Shape {
@@ -79,6 +97,7 @@ public:
     ThreeD threeD;
     std::optional<TextStory> text; ///< nothing for a shape that cannot hold text
     std::optional<TextEffect> textEffect;
+    std::optional<Connector> connector;
     std::optional<PpPlaceholderType> placeholder;
     std::vector<Node> nodes;      ///< of a freeform
     bool closed = false;          ///< a freeform whose last corner joins its first
@@ -86,7 +105,8 @@ public:
     OriginPtr origin;
 
     [[nodiscard]] const Frame& frame() const noexcept { return frame_; }
-    /// Moves and resizes; the items of a group and the corners of a freeform follow. Lengths are kept in master units.
+    /// Moves and resizes; the items of a group, the corners of a freeform and the connectors that hold on to it follow.
+    /// Lengths are kept in master units.
     void setFrame(const Frame& frame);
     /// Turns it to an angle in degrees; its frame stays what it is without the turn.
     void turnTo(float degrees);

@@ -26,7 +26,12 @@ bool bearsName(const Shape& shape, std::u16string_view name) noexcept {
 } // namespace
 
 void Slide::add(const ShapePtr& shape, std::u16string_view baseName) {
-    forEachInside(*shape, [this](Shape& part) { part.id = ++lastShapeId_; });
+    forEachInside(*shape, [this](Shape& part) {
+        part.id = ++lastShapeId_;
+        if (part.connector) {
+            part.connector = Connector{part.connector->type, {}, {}}; // a copy holds on to nothing
+        }
+    });
     if (shape->name.empty() || isNameTaken(shape->name)) {
         shape->name = std::u16string(baseName) + u" " + automation::decimal(shape->id);
     }

@@ -1,8 +1,10 @@
 #include "simulator/objects/ShapeMembers.h"
 
+#include "simulator/document/Connecting.h"
 #include "simulator/document/Grouping.h"
 #include "simulator/document/Stacking.h"
 #include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/ConnectorFormatObject.h"
 #include "simulator/objects/FillFormatObject.h"
 #include "simulator/objects/GroupShapesObject.h"
 #include "simulator/objects/LineFormatObject.h"
@@ -58,6 +60,10 @@ const automation::MemberTable& ShapeMembers::sharedMembers() {
         property<&This::parentGroup>(u"ParentGroup"),
         property<&This::child>(u"Child"),
         property<&This::id>(u"Id"),
+        property<&This::connector>(u"Connector"),
+        property<&This::connectorFormat>(u"ConnectorFormat"),
+        property<&This::connectionSiteCount>(u"ConnectionSiteCount"),
+        method<&This::rerouteConnections>(u"RerouteConnections"),
     });
     return table;
 }
@@ -185,6 +191,27 @@ std::shared_ptr<ShapeNodesObject> ShapeMembers::shapeNodes() const {
         errors::invalidRequest(u"Shape.Nodes", u"La forme n'est pas une forme libre.");
     }
     return std::make_shared<ShapeNodesObject>(session(), shape);
+}
+
+MsoTriState ShapeMembers::connector() const {
+    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.connector.has_value()); });
+}
+
+std::shared_ptr<ConnectorFormatObject> ShapeMembers::connectorFormat() const {
+    const ShapePtr shape = nodes().only();
+    if (!shape->connector) {
+        errors::invalidRequest(u"Shape.ConnectorFormat", u"La forme n'est pas un connecteur.");
+    }
+    return std::make_shared<ConnectorFormatObject>(session(), shape);
+}
+
+std::int32_t ShapeMembers::connectionSiteCount() const {
+    return connectionSites(*nodes().only());
+}
+
+void ShapeMembers::rerouteConnections() {
+    (void)connectorFormat();
+    nodes().change([](Shape& shape) { reroute(shape); });
 }
 
 std::shared_ptr<GroupShapesObject> ShapeMembers::groupItems() const {

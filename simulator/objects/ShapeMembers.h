@@ -5,6 +5,7 @@
 namespace simulator {
 
 class ApplicationObject;
+class ConnectorFormatObject;
 class FillFormatObject;
 class GroupShapesObject;
 class LineFormatObject;
@@ -60,6 +61,11 @@ public:
     [[nodiscard]] std::shared_ptr<TextFrameObject> textFrame() const;
     [[nodiscard]] std::shared_ptr<PlaceholderFormatObject> placeholderFormat() const;
     [[nodiscard]] std::shared_ptr<ShapeNodesObject> shapeNodes() const;
+    [[nodiscard]] MsoTriState connector() const;
+    [[nodiscard]] std::shared_ptr<ConnectorFormatObject> connectorFormat() const;
+    [[nodiscard]] std::int32_t connectionSiteCount() const;
+    /// Raises an invalid request for a shape that is no connector.
+    void rerouteConnections();
     [[nodiscard]] std::shared_ptr<GroupShapesObject> groupItems() const;
     [[nodiscard]] std::shared_ptr<ShapeObject> parentGroup() const;
     [[nodiscard]] MsoTriState child() const;

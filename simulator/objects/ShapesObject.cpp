@@ -62,6 +62,7 @@ const automation::MemberTable& ShapesObject::members() const {
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         method<&This::item>(u"Item", u"Index").asDefault(),
+        method<&This::addConnector>(u"AddConnector", u"Type BeginX BeginY EndX EndY"),
         method<&This::addCurve>(u"AddCurve", u"SafeArrayOfPoints"),
         method<&This::addLine>(u"AddLine", u"BeginX BeginY EndX EndY"),
         method<&This::addPicture>(u"AddPicture", u"FileName LinkToFile SaveWithDocument Left Top Width Height"),
@@ -127,6 +128,12 @@ std::shared_ptr<ShapeObject> ShapesObject::addTextEffect(std::int32_t presetText
 
 std::shared_ptr<ShapeObject> ShapesObject::addLine(float beginX, float beginY, float endX, float endY) {
     return add(newShape::line({beginX, beginY}, {endX, endY}));
+}
+
+std::shared_ptr<ShapeObject> ShapesObject::addConnector(MsoConnectorType type, float beginX, float beginY, float endX,
+                                                        float endY) {
+    errors::demandWithin(type, msoConnectorStraight, msoConnectorCurve, u"Shapes.AddConnector");
+    return add(newShape::connector(type, {beginX, beginY}, {endX, endY}));
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::addCurve(const automation::Value& safeArrayOfPoints) {

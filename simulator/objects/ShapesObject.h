@@ -36,6 +36,9 @@ public:
                                                const std::u16string& fontName, float fontSize, MsoTriState fontBold,
                                                MsoTriState fontItalic, float left, float top);
     std::shared_ptr<ShapeObject> addLine(float beginX, float beginY, float endX, float endY);
+    /// A connector of a type from 1 (msoConnectorStraight) to 3, which holds on to no shape yet.
+    std::shared_ptr<ShapeObject> addConnector(MsoConnectorType type, float beginX, float beginY, float endX,
+                                              float endY);
     /// Takes an array of points, each an array of two coordinates: corners with two control points between each two.
     std::shared_ptr<ShapeObject> addCurve(const automation::Value& safeArrayOfPoints);
     /// Takes an array of points, each an array of two coordinates; a first point repeated at the end closes the line.

@@ -174,9 +174,20 @@ Outline freeformOutline(const Shape& shape) {
 
 } // namespace
 
+Outline connectorOutline(MsoConnectorType type, const Frame& frame) {
+    const std::string_view way = type == msoConnectorElbow   ? "M0 0 50 0 50 100 100 100"
+                                 : type == msoConnectorCurve ? "M0 0C50 0 50 100 100 100"
+                                                             : "M0 0 100 100";
+    return {Stretched(way, frame).path(), {}, true};
+}
+
 Outline outlineOf(const Shape& shape) {
     switch (shape.type) {
-    case msoAutoShape: return autoShapeOutline(shape.autoShapeType, shape.frame());
+    case msoAutoShape:
+        if (shape.connector) {
+            return connectorOutline(shape.connector->type, shape.frame());
+        }
+        return autoShapeOutline(shape.autoShapeType, shape.frame());
     case msoFreeform: return freeformOutline(shape);
     case msoLine: return {Stretched("M0 0 100 100", shape.frame()).path(), {}, true};
     default: return {Stretched(findOutline(msoShapeRectangle)->path, shape.frame()).path(), {}};

@@ -139,6 +139,14 @@ ShapePtr ShapeReader::single(const Record& record, const Mapping& mapping, std::
     shape->type = shape->placeholder ? msoPlaceholder : typeOf(head.kind, looks);
     shape->autoShapeType =
         shape->type == msoAutoShape ? autoShapeTypeOf(head.kind).value_or(msoShapeMixed) : msoShapeMixed;
+    if (shape->type == msoAutoShape && head.kind >= kind::straightConnector && head.kind <= kind::lastConnector) {
+        const bool isElbow = head.kind >= kind::firstElbow && head.kind < kind::firstCurve;
+        shape->connector = Connector{head.kind < kind::firstElbow ? msoConnectorStraight
+                                     : isElbow                    ? msoConnectorElbow
+                                                                  : msoConnectorCurve,
+                                     {},
+                                     {}};
+    }
     readIdentity(record, looks, *shape);
     shape->setFrame(frameOf(edges.value_or(Edges()), shape->rotation));
     shape->fill = readFill(looks);

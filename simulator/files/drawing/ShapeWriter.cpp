@@ -33,12 +33,18 @@ std::uint16_t kindOf(const Shape& shape) noexcept {
     case msoTextBox: return kind::textBox;
     case msoAutoShape: break;
     }
+    if (shape.connector) {
+        return shape.connector->type == msoConnectorElbow   ? kind::elbow
+               : shape.connector->type == msoConnectorCurve ? kind::curve
+                                                            : kind::straightConnector;
+    }
     return drawing::kindOf(shape.autoShapeType);
 }
 
 Record headOf(const Shape& shape, std::uint32_t number, bool isChild) {
     std::uint32_t flags = shapeFlag::anchored;
     flags |= shape.type == msoGroup ? shapeFlag::group : shapeFlag::typed;
+    flags |= shape.connector ? shapeFlag::connector : 0U;
     flags |= isChild ? shapeFlag::child : 0U;
     flags |= shape.horizontalFlip ? shapeFlag::horizontalFlip : 0U;
     flags |= shape.verticalFlip ? shapeFlag::verticalFlip : 0U;

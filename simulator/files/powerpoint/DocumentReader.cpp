@@ -1,6 +1,7 @@
 #include "simulator/files/powerpoint/DocumentReader.h"
 
 #include "simulator/files/Bytes.h"
+#include "simulator/files/drawing/ConnectionRules.h"
 #include "simulator/files/drawing/DrawingGroup.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/ShapeReader.h"
@@ -169,6 +170,7 @@ private:
         for (const ShapePtr& shape : drawing::ShapeReader(context).read(drawing)) {
             slide.insert(shape, slide.shapes().size());
         }
+        drawing::readConnections(art, ids, slide);
         slide.keepIds(drawing::backgroundId(art, ids).value_or(1));
     }
 

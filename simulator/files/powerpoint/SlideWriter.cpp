@@ -2,6 +2,7 @@
 
 #include "automation/Text.h"
 #include "simulator/files/Bytes.h"
+#include "simulator/files/drawing/ConnectionRules.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/ShapeWriter.h"
 #include "simulator/files/powerpoint/BlankDocument.h"
@@ -111,6 +112,7 @@ WrittenSlide writeSlide(const Slide& slide, const SlideOrigin* origin, bool isCo
         files::putNumber(written.record.find(type::SlideAtom)->data, slideAtomNotes, 0);
     }
     written.outline = writeShapes(art, slide, ids, target, isNew);
+    drawing::writeConnections(art, ids, slide);
     writeSettings(written.record, slide, origin);
     return written;
 }

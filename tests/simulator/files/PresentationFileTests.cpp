@@ -27,7 +27,7 @@ void expectSame(const std::vector<ShapePtr>& left, const std::vector<ShapePtr>& 
             return std::tie(shape.id, shape.name, shape.type, shape.autoShapeType, shape.rotation, shape.horizontalFlip,
                             shape.verticalFlip, shape.visible, shape.lockAspectRatio, shape.alternativeText, shape.tags,
                             shape.fill, shape.line, shape.shadow, shape.threeD, shape.text, shape.textEffect,
-                            shape.placeholder, shape.nodes, shape.closed, shape.formerGroup);
+                            shape.connector, shape.placeholder, shape.nodes, shape.closed, shape.formerGroup);
         };
         EXPECT_TRUE(plain(a) == plain(b)) << automation::toUtf8(a.name);
         EXPECT_EQ(a.frame(), b.frame()) << automation::toUtf8(a.name);
