@@ -13,6 +13,7 @@ void Mischief::begin(World& world, std::vector<Trouble> troubles) {
 
 void Mischief::calling(HostCall call) {
     isPreparing_ = call == HostCall::InitQuestion;
+    isUnread_ = false;
     ++hostCalls_;
     const bool isRunning = world_->powerPoint().window() != 0;
     const auto due = std::find_if(troubles_.begin(), troubles_.end(),
@@ -28,13 +29,17 @@ void Mischief::calling(HostCall call) {
     }
 }
 
-void Mischief::called(HostCall /*call*/, const Error* /*error*/) {
+void Mischief::called(HostCall /*call*/, const Error* error) {
+    barsUnread_ += isUnread_ && error == nullptr ? 1 : 0;
     if (armed_ == nullptr) {
         return;
     }
-    const bool hasStruck = isRemote_ ? armed_->fault.hasStruck(*world_) : strike_.hasStruck();
-    struck_ += hasStruck ? 1 : 0;
-    if (isRemote_ && world_->powerPoint().window() != 0) {
+    if (!isRemote_) {
+        struck_ += strike_.hasStruck() ? 1 : 0;
+    } else if (world_->powerPoint().window() == 0) {
+        struck_ += armed_->fault.isDeath() ? 1 : 0; // or else the host has ended it
+    } else {
+        struck_ += armed_->fault.hasStruck(*world_) ? 1 : 0;
         torture::Fault::disarm();
     }
     armed_ = nullptr;
@@ -45,6 +50,8 @@ automation::Value Mischief::around(const automation::Crossing& crossing, const N
     if (!strike_.observer) {
         return next();
     }
+    const bool isOfBars = crossing.target.starts_with(u"CommandBar") || crossing.member == u"CommandBars";
+    const bool isOnce = armed_->fault.lasting == torture::Fault::Lasting::Once;
     bool isPassed = false;
     try {
         return strike_.observer->around(crossing, [&] {
@@ -52,8 +59,7 @@ automation::Value Mischief::around(const automation::Crossing& crossing, const N
             return next();
         });
     } catch (const Error&) {
-        const bool isOfBars = crossing.target.starts_with(u"CommandBar") || crossing.member == u"CommandBars";
-        barsUnread_ += !isPassed && isPreparing_ && isOfBars ? 1 : 0;
+        isUnread_ = isUnread_ || (!isPassed && isPreparing_ && isOfBars && isOnce);
         throw;
     }
 }

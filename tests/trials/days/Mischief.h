@@ -31,6 +31,7 @@ private:
     const Trouble* armed_ = nullptr;
     torture::Strike strike_;
     bool isPreparing_ = false; ///< InitQuestion is on its way
+    bool isUnread_ = false;    ///< and may not have been able to read a bar
     std::size_t struck_ = 0;
     std::size_t barsUnread_ = 0;
 };
