@@ -2,7 +2,6 @@
 
 namespace trials::days {
 
-using automation::Border;
 using automation::Error;
 
 void Mischief::begin(World& world, std::vector<Trouble> troubles) {

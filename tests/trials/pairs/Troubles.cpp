@@ -7,7 +7,6 @@ namespace trials::pairs {
 namespace {
 
 using automation::RunTimeError;
-using torture::Fault;
 using torture::Strike;
 using MemoryLasting = ScarceMemory::Lasting;
 
