@@ -67,8 +67,8 @@ void print(const Checker& each, std::ostream& out) {
 bool printBeside(const cost::DeckSize& size, std::size_t rounds, const CommandContext& at) {
     std::ostream& out = at.out;
     out << "Question 306's check: slides " << size.slides << ", text shapes on each " << size.shapesOnSlide
-        << ", words in each " << size.wordsInShape << ".\nCalls to PowerPoint's process, and times in the median of "
-        << rounds << " rounds:\n\n            Invoke  look-ups  interfaces  releases  others       ms  us/Invoke"
+        << ", words in each " << size.wordsInShape << ".\nCalls to PowerPoint's process, and the median of times in "
+        << rounds << " round(s):\n\n            Invoke  look-ups  interfaces  releases  others       ms  us/Invoke"
         << std::endl;
     const language::ScenarioFile file = cost::largeDeck(size);
     const Course course(file, at.worlds.embedded);
