@@ -253,6 +253,16 @@ TEST_F(ModuleFaults, BarsAreTriedOneByOneUnlessPowerPointDoesNotAnswerAtAll) {
         std::int32_t error;
         int tried;
     };
+    simulator::CommandBarSet& all = machine.session()->settings().commandBars;
+    all.bars[all.find(u"Drawing")].position = simulator::msoBarTop;
+    const auto stand = [&] {
+        std::vector<std::pair<bool, simulator::MsoBarPosition>> bars;
+        for (const simulator::CommandBar& bar : all.bars) {
+            bars.emplace_back(bar.visible, bar.position);
+        }
+        return bars;
+    };
+    const auto found = stand();
     for (const Case refused : {Case{75, 4}, Case{isGone, 1}, Case{automation::remote::callRejected, 1},
                                Case{automation::remote::retryLater, 1}}) {
         init();
@@ -263,8 +273,20 @@ TEST_F(ModuleFaults, BarsAreTriedOneByOneUnlessPowerPointDoesNotAnswerAtAll) {
         EXPECT_EQ(tried, refused.tried) << refused.error;
         calls->fails = nullptr;
         module.Fermer();
+        EXPECT_EQ(stand(), found) << refused.error;
         deliver();
     }
+}
+
+TEST_F(ModuleFaults, DialogsAreClosedWhereACallIsRefusedAndThereAlone) {
+    calls->fails = [](const Crossing& crossing) { return crossing.border == automation::Border::Automation; };
+    for (const std::int32_t number : {automation::remote::callRejected, automation::remote::retryLater, 75}) {
+        machine.openDialog(u"Police");
+        calls->error = automation::Error(number, u"", u"");
+        EXPECT_EQ(errorNumber([&] { init(); }), number);
+        EXPECT_EQ(machine.dialogs(), number == 75 ? 1U : 0U);
+    }
+    calls->fails = nullptr;
 }
 
 TEST_F(ModuleFaults, OfTwoBarsOfOneNameTheFirstCounts) {

@@ -22,12 +22,18 @@ protected:
 
 /// How PowerPoint is obtained: what comes between the key of the recent folders and the learner's settings.
 TEST_F(ModuleTrace, AttachesToARunningPowerPoint) {
-    machine.startPowerPoint();
-    EXPECT_EQ(obtaining(), R"~(Servers.attach("PowerPoint.application.11")
+    for (int again = 0; again < 2; ++again) {
+        machine.startPowerPoint();
+        EXPECT_EQ(obtaining(), R"~(Servers.attach("PowerPoint.application.11")
 Application.Visible = -1
 Windows.findWindow("PP11FrameClass")
 Application.ShowStartupDialog
 )~");
+        module.Quitter(application, window);
+        static_cast<void>(calls->take());
+        window = -1;
+        deliver();
+    }
 }
 
 TEST_F(ModuleTrace, LeavesTheHostsPowerPointRunning) {
@@ -63,6 +69,14 @@ Application.Visible = -1
 Windows.findWindow("PP11FrameClass")
 Application.ShowStartupDialog
 )~");
+}
+
+TEST_F(ModuleTrace, GivesNoPowerPointBackThatItHasQuitAndCannotReplace) {
+    bringPowerPoint();
+    machine.hidePowerPoint();
+    machine.uninstallPowerPoint();
+    EXPECT_NE(errorNumber([&] { init(); }), noError);
+    EXPECT_EQ(application.get(), nullptr);
 }
 
 TEST_F(ModuleTrace, QuitsAHiddenPowerPointAndStartsAnother) {
