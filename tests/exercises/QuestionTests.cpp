@@ -267,6 +267,7 @@ TEST_F(Questions, KeepEachFolderInItsOwnKeyForOlderVersions) {
     const std::u16string longFolder = u"D:\\" + std::u16string(400, u'x');
     machine.setRegistryText(key + u"PictureDir", u"", longFolder);
     k73053::UserSettings settings(machine.services().registry, u"10.0");
+    settings.createKey();
     settings.SauveParamUser(application);
     settings.ChangeDir(u"E:\\", u"T:\\");
     EXPECT_EQ(machine.registryText(key + u"Default", u""), u"E:\\");

@@ -289,6 +289,13 @@ TEST_F(ModuleFaults, DialogsAreClosedWhereACallIsRefusedAndThereAlone) {
     calls->fails = nullptr;
 }
 
+TEST_F(ModuleFaults, ACheckSaysWhyPowerPointCannotBeAsked) {
+    init();
+    calls->answer(u"findWindow", platform::WindowHandle(0));
+    module.TestePoint();
+    EXPECT_EQ(module.CauseErreur(), u"AM");
+}
+
 TEST_F(ModuleFaults, OfTwoBarsOfOneNameTheFirstCounts) {
     std::vector<simulator::CommandBar>& bars = machine.session()->settings().commandBars.bars;
     bars.push_back(bars.front());

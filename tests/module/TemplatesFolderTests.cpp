@@ -1,6 +1,7 @@
 #include "host/world/TemporaryFolder.h"
 #include "module/TemplatesFolder.h"
 #include "simulator/Machine.h"
+#include "tests/support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -33,6 +34,10 @@ TEST(TemplatesFolder, IsTheLearnersOwnWhereThereIsOne) {
         ASSERT_TRUE(key.set(u"UserTemplates", data + u"x", data.size())); // no NUL follows
         EXPECT_EQ(k73053::templatesFolder(registry), expected);
     }
+    machine.denyRegistryKey(generalKey);
+    EXPECT_EQ(errorNumber([&] { static_cast<void>(k73053::templatesFolder(registry)); }),
+              static_cast<std::int32_t>(0x800403E8U));
+    machine.denyRegistryKey(generalKey, false);
     machine.deleteRegistryValue(generalKey, u"UserTemplates");
     EXPECT_EQ(k73053::templatesFolder(registry), ordinary);
 }
