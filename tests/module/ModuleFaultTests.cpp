@@ -238,12 +238,12 @@ TEST_F(ModuleFaults, APowerPointThatDiesWhileItIsAttachedToIsReplaced) {
     std::vector<std::u16string> reached;
     calls->fails = [&](const Crossing& crossing) {
         const bool isFirst = crossing.member == u"Visible" && crossing.target == u"Application" &&
-                             std::find(reached.begin(), reached.end(), u"create") == reached.end();
-        reached.emplace_back(crossing.member);
+                             std::find(reached.begin(), reached.end(), u"Servers.create") == reached.end();
+        reached.push_back(std::u16string(crossing.target) + u'.' + std::u16string(crossing.member));
         return isFirst;
     };
     init();
-    EXPECT_EQ(std::count(reached.begin(), reached.end(), u"create"), 1);
+    EXPECT_EQ(std::count(reached.begin(), reached.end(), u"Servers.create"), 1);
     calls->fails = nullptr;
 }
 

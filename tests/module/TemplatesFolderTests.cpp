@@ -1,5 +1,6 @@
 #include "host/world/TemporaryFolder.h"
 #include "module/TemplatesFolder.h"
+#include "platform/observed/ObservedServices.h"
 #include "simulator/Machine.h"
 #include "tests/support/Errors.h"
 
@@ -34,10 +35,17 @@ TEST(TemplatesFolder, IsTheLearnersOwnWhereThereIsOne) {
         ASSERT_TRUE(key.set(u"UserTemplates", data + u"x", data.size())); // no NUL follows
         EXPECT_EQ(k73053::templatesFolder(registry), expected);
     }
-    machine.denyRegistryKey(generalKey);
-    EXPECT_EQ(errorNumber([&] { static_cast<void>(k73053::templatesFolder(registry)); }),
+    struct ReadOnly final : automation::Observer {
+        automation::Value around(const automation::Crossing& crossing, const Next& next) override {
+            if (crossing.display().find(u"General\", 3") != std::u16string::npos) {
+                automation::raise(automation::RunTimeError::PathAccess);
+            }
+            return next();
+        }
+    };
+    const platform::ObservedServices observed(machine.services(), std::make_shared<ReadOnly>());
+    EXPECT_EQ(errorNumber([&] { static_cast<void>(k73053::templatesFolder(observed.services().registry)); }),
               static_cast<std::int32_t>(0x800403E8U));
-    machine.denyRegistryKey(generalKey, false);
     machine.deleteRegistryValue(generalKey, u"UserTemplates");
     EXPECT_EQ(k73053::templatesFolder(registry), ordinary);
 }
