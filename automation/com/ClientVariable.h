@@ -11,6 +11,7 @@ namespace automation::com {
 
 /// A variable of a client's, as a value for the length of one call. It holds no object beside that value: once the call
 /// lets go of it, the client's own reference is the last one.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): nothing is derived from it
 class ClientVariable final : public Original, Unmoved {
 public:
     /// The by-reference VARIANT that refers to the variable, which must outlive this, and what stands there.

@@ -138,7 +138,8 @@ HRESULT statusOf(const Error& error) noexcept {
     }
     const bool leaves = number > 0 && number <= lastRunTimeNumber;
     const auto low = static_cast<std::uint32_t>(leaves ? number : static_cast<int>(RunTimeError::InvalidProcedureCall));
-    return static_cast<HRESULT>(runTimeBase + low);
+    const std::uint32_t status = runTimeBase + low;
+    return static_cast<HRESULT>(status);
 }
 
 void forgetError() noexcept {

@@ -63,7 +63,7 @@ public:
 
 protected:
     [[nodiscard]] IUnknown* identity() noexcept { return static_cast<First*>(this); }
-    [[nodiscard]] ReferenceCount& count() noexcept { return count_; }
+    [[nodiscard]] ReferenceCount& references() noexcept { return count_; }
 
     /// The interface of that identity, without a reference; null where there is none. A class adds those that its own
     /// are derived from.

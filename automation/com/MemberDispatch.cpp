@@ -168,6 +168,7 @@ HRESULT getIdsOfNames(const MemberTable& members, LPOLESTR* names, UINT count, D
     });
 }
 
+// NOLINTNEXTLINE(bugprone-exception-escape): `guarded` catches what the call raises
 HRESULT invoke(Published& object, DISPID id, WORD flags, const DISPPARAMS* parameters, VARIANT* result,
                EXCEPINFO* raised) noexcept {
     const auto call = [&] {

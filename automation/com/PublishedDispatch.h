@@ -13,7 +13,8 @@ template <typename First, typename... Others>
 class PublishedDispatch : public ComObject<First, Others..., ISupportErrorInfo> {
 public:
     explicit PublishedDispatch(std::shared_ptr<Published> object)
-        : object_(*object), standing_(std::move(object), static_cast<First*>(this), this->identity(), this->count()) {}
+        : object_(*object),
+          standing_(std::move(object), static_cast<First*>(this), this->identity(), this->references()) {}
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
         forgetError();
@@ -36,6 +37,7 @@ public:
         return IsEqualIID(reserved, IID_NULL) ? member_dispatch::getIdsOfNames(object_.members(), names, count, ids)
                                               : DISP_E_UNKNOWNINTERFACE;
     }
+    // NOLINTNEXTLINE(bugprone-exception-escape): `member_dispatch::invoke` lets none out
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID /*locale*/, WORD flags, DISPPARAMS* parameters,
                                      VARIANT* result, EXCEPINFO* raised, UINT* /*wrongArgument*/) noexcept override {
         const ComPtr<IUnknown> alive = held();

@@ -9,7 +9,7 @@ namespace automation::com {
 /// A VARIANT that owns what it holds. A by-reference one does not own what it refers to.
 class Variant : public VARIANT {
 public:
-    Variant() noexcept { VariantInit(this); }
+    Variant() noexcept : VARIANT{} { VariantInit(this); }
     ~Variant() { VariantClear(this); }
     Variant(const Variant&) = delete;
     Variant& operator=(const Variant&) = delete;

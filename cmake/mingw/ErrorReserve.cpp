@@ -10,9 +10,9 @@
 
 extern "C" {
 #ifdef _WIN64
-extern void* imported asm("__imp_malloc");
+extern void* importedMalloc asm("__imp_malloc");
 #else
-extern void* imported asm("__imp__malloc");
+extern void* importedMalloc asm("__imp__malloc");
 #endif
 }
 
@@ -20,9 +20,9 @@ namespace {
 
 void import(void* function) {
     DWORD before = 0;
-    VirtualProtect(&imported, sizeof(imported), PAGE_READWRITE, &before);
-    imported = function;
-    VirtualProtect(&imported, sizeof(imported), before, &before);
+    VirtualProtect(&importedMalloc, sizeof(importedMalloc), PAGE_READWRITE, &before);
+    importedMalloc = function;
+    VirtualProtect(&importedMalloc, sizeof(importedMalloc), before, &before);
 }
 
 void*& was() {
@@ -38,7 +38,7 @@ void* refuse(std::size_t /*size*/) {
 
 /// Runs after the constructors of the runtime, which is linked behind.
 [[gnu::constructor]] void useReserve() {
-    was() = imported;
+    was() = importedMalloc;
     import(reinterpret_cast<void*>(&refuse));
     abi::__cxa_free_exception(abi::__cxa_allocate_exception(1));
 }

@@ -26,13 +26,13 @@ DWORD WINAPI allocate() {
 
 extern "C" {
 #ifdef _WIN64
-extern decltype(&allocate) const imported asm("__imp_TlsAlloc");
+extern decltype(&allocate) const importedTlsAlloc asm("__imp_TlsAlloc");
 extern PIMAGE_TLS_CALLBACK const whenThreadsEnd asm("__xl_f");
 #else
-extern decltype(&allocate) const imported asm("__imp__TlsAlloc@0");
+extern decltype(&allocate) const importedTlsAlloc asm("__imp__TlsAlloc@0");
 extern PIMAGE_TLS_CALLBACK const whenThreadsEnd asm("___xl_f");
 #endif
-decltype(&allocate) const imported = &allocate;
+decltype(&allocate) const importedTlsAlloc = &allocate;
 }
 
 namespace {

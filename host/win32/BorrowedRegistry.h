@@ -19,7 +19,7 @@ public:
     /// Writes the key, too, where it is missing. Raises the system's error.
     void setText(std::u16string_view key, std::u16string_view name, std::u16string_view text) override;
     void remove(std::u16string_view key, std::u16string_view name) override;
-    void deny(std::u16string_view key, bool denied) override;
+    void deny(std::u16string_view path, bool denied) override;
     void setMeasurementSystem(std::u16string_view system) override;
     /// Writes a string value anywhere in the registry, and its key where it is missing. Raises the system's error.
     void change(HKEY root, const std::wstring& key, const std::wstring& name, const std::wstring& text);

@@ -37,7 +37,7 @@ bool isModalAbove(HWND dialog, HWND frame) noexcept {
 }
 
 struct DialogCount {
-    HWND frame;
+    HWND frame = nullptr;
     std::size_t count = 0;
 };
 

@@ -72,6 +72,7 @@ std::vector<Entry> entriesFor(const std::wstring& libraryPath) {
 
 std::vector<std::wstring> serverKeys() {
     std::vector<std::wstring> keys;
+    keys.reserve(table::classes.size());
     for (const auto& row : table::classes) {
         keys.push_back(serverKey(row));
     }

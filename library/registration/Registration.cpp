@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <optional>
-#include <ranges>
+#include <utility>
 
 namespace library {
 
@@ -44,7 +44,7 @@ bool isOtherRegistered(HKEY root) {
 
 /// An entry with what was there before it.
 struct Written {
-    Written(HKEY root, const Entry& written) : entry(written), standing(pathOf(entry.key)) {
+    Written(HKEY root, Entry written) : entry(std::move(written)), standing(pathOf(entry.key)) {
         if (const auto key = RegistryKey::open(root, standing, KEY_QUERY_VALUE)) {
             former = key.value(entry.name);
         }
@@ -83,9 +83,7 @@ void registerLibrary(Scope scope, const std::wstring& libraryPath) {
             write(root, entry);
         }
     } catch (...) {
-        for (const Written& each : written | std::views::reverse) {
-            tryToTakeBack(root, each);
-        }
+        std::for_each(written.rbegin(), written.rend(), [&](const Written& each) { tryToTakeBack(root, each); });
         throw;
     }
 }
@@ -94,11 +92,11 @@ void unregisterLibrary(Scope scope) {
     const HKEY root = rootOf(scope);
     const auto entries = entriesFor({});
     const auto removeAll = [&](bool shared) {
-        for (const Entry& entry : entries | std::views::reverse) {
+        std::for_each(entries.rbegin(), entries.rend(), [&](const Entry& entry) {
             if (entry.isShared == shared) {
                 remove(root, entry);
             }
-        }
+        });
     };
     // On a system of one bitness only, the keys of the other one are its own: they are gone when they are asked for.
     removeAll(false);

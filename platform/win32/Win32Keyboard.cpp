@@ -39,9 +39,9 @@ void press(WORD key) {
 /// The thread that has the keyboard, with its state of the keys shared for the length of a scope.
 class ActiveThread : automation::Unmoved {
 public:
-    ActiveThread() : window_(GetForegroundWindow()), thread_(GetWindowThreadProcessId(window_, nullptr)) {
-        isShared_ = !isOwn() && AttachThreadInput(GetCurrentThreadId(), thread_, TRUE) != FALSE;
-    }
+    ActiveThread()
+        : window_(GetForegroundWindow()), thread_(GetWindowThreadProcessId(window_, nullptr)),
+          isShared_(!isOwn() && AttachThreadInput(GetCurrentThreadId(), thread_, TRUE) != FALSE) {}
     ~ActiveThread() {
         if (isShared_) {
             AttachThreadInput(GetCurrentThreadId(), thread_, FALSE);

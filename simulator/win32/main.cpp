@@ -23,8 +23,10 @@ void perform(const Options& options) {
 /// A program with windows has no console of its own: it writes to the one that it was started from.
 void useConsole() {
     if (GetStdHandle(STD_ERROR_HANDLE) == nullptr && AttachConsole(ATTACH_PARENT_PROCESS) != FALSE) {
+        // NOLINTBEGIN(cppcoreguidelines-owning-memory): they stay open as long as the program runs
         std::freopen("CONOUT$", "w", stdout);
         std::freopen("CONOUT$", "w", stderr);
+        // NOLINTEND(cppcoreguidelines-owning-memory)
     }
 }
 

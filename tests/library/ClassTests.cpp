@@ -198,6 +198,7 @@ TEST_F(ClassTest, ServesClientsOfAnotherApartment) {
 
 TEST_F(ClassTest, ServesSeveralThreads) {
     std::vector<std::jthread> threads;
+    threads.reserve(8);
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&] {
             CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);

@@ -42,7 +42,7 @@ RegistryContent classesContent(HKEY root, REGSAM view) {
 RegistryContent allClassesContent() {
     RegistryContent all;
     for (HKEY const root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
-        for (const REGSAM view : {KEY_WOW64_32KEY, KEY_WOW64_64KEY}) {
+        for (const REGSAM view : {REGSAM{KEY_WOW64_32KEY}, REGSAM{KEY_WOW64_64KEY}}) {
             const std::wstring whose = (root == HKEY_CURRENT_USER ? L"user " : L"machine ") + std::to_wstring(view);
             for (auto& [name, seen] : classesContent(root, view)) {
                 all[whose + L' ' + name] = seen;

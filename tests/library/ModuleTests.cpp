@@ -112,7 +112,7 @@ TEST_F(ModuleTest, GivesTheTextsOfACheckByTheHostsInterface) {
 TEST_F(ModuleTest, BringsPowerPointToTheFront) {
     startPowerPoint();
     deliver(314, 1);
-    const auto powerPoint = reinterpret_cast<HWND>(static_cast<std::intptr_t>(window_));
+    auto* const powerPoint = reinterpret_cast<HWND>(static_cast<std::intptr_t>(window_));
     const tests::TestWindow other({.style = WS_OVERLAPPEDWINDOW | WS_VISIBLE});
     const struct {
         const char* what;

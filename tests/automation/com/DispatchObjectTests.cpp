@@ -32,7 +32,7 @@ public:
         lookUps.emplace_back(names[0]);
         *ids = static_cast<DISPID>(names[0][0]);
         const HRESULT status = next(lookUpStatuses);
-        std::this_thread::sleep_for(status == S_OK ? lookUpTime : lookUpTime.zero());
+        std::this_thread::sleep_for(status == S_OK ? lookUpTime : std::chrono::milliseconds::zero());
         return status;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale*/, WORD flags, DISPPARAMS* given,
@@ -45,7 +45,7 @@ public:
             }
         }
         const HRESULT status = next(statuses);
-        if (status == S_OK && result != nullptr && answer) {
+        if (status == S_OK && result != nullptr && answer != nullptr) {
             result->vt = VT_DISPATCH;
             result->pdispVal = ComPtr(answer).release();
         }

@@ -25,7 +25,7 @@ HRESULT readItemOfNone(HMODULE library) {
     IClassFactory* factory = nullptr;
     TableauTexte* texts = nullptr;
     BSTR text = nullptr;
-    const auto entry = reinterpret_cast<void*>(GetProcAddress(library, "DllGetClassObject"));
+    auto* const entry = reinterpret_cast<void*>(GetProcAddress(library, "DllGetClassObject"));
     reinterpret_cast<decltype(&DllGetClassObject)>(entry)(CLSID_ComplementInfo, IID_IClassFactory,
                                                           reinterpret_cast<void**>(&factory));
     factory->CreateInstance(nullptr, IID_TableauTexte, reinterpret_cast<void**>(&texts));

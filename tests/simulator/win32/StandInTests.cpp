@@ -263,9 +263,11 @@ TEST(StandInCommandLineTest, StartsAPowerPointAsItsSwitchesSay) {
         DWORD code;
         std::function<bool(const LateBound&)> isAsAskedFor;
     } cases[] = {
-        {L"", good, [&](const LateBound&) { return IsWindowVisible(frame()) && !IsIconic(frame()); }},
-        {L"/Hidden", good, [&](const LateBound&) { return IsWindow(frame()) && !IsWindowVisible(frame()); }},
-        {L"/Minimised", good, [&](const LateBound&) { return IsWindowVisible(frame()) && IsIconic(frame()); }},
+        {L"", good, [&](const LateBound&) { return IsWindowVisible(frame()) != FALSE && IsIconic(frame()) == FALSE; }},
+        {L"/Hidden", good,
+         [&](const LateBound&) { return IsWindow(frame()) != FALSE && IsWindowVisible(frame()) == FALSE; }},
+        {L"/Minimised", good,
+         [&](const LateBound&) { return IsWindowVisible(frame()) != FALSE && IsIconic(frame()) != FALSE; }},
         {L"/Slow:300", good,
          [&](const LateBound& application) {
              const auto start = Clock::now();
@@ -274,6 +276,7 @@ TEST(StandInCommandLineTest, StartsAPowerPointAsItsSwitchesSay) {
         {L"/Busy:2", good,
          [&](const LateBound& application) {
              constexpr auto refused = automation::remote::callRejected;
+             // NOLINTNEXTLINE(misc-redundant-expression): it is asked again
              return askOnce(application) == refused && askOnce(application) == refused &&
                     askOnce(application) == noError;
          }},
