@@ -141,32 +141,4 @@ TEST_F(MachineTest, HasNoActivePresentationWhileInvisible) {
     EXPECT_EQ(active(u"WindowState"), noError);
 }
 
-TEST_F(MachineTest, KeepsSettingsFromOneRunToTheNext) {
-    const auto bars = [this] { return ask(powerPoint(), u"CommandBars"); };
-    machine.startPowerPoint();
-    powerPoint().put(u"ShowStartupDialog", 0);
-    bars().put(u"DisplayTooltips", false);
-    ask(bars(), u"Item", u"Task Pane").put(u"Visible", false);
-    ask(bars(), u"Item", u"drawing").put(u"Position", 1);
-    machine.endPowerPoint();
-    machine.startPowerPoint();
-    EXPECT_EQ(number(powerPoint(), u"ShowStartupDialog"), 0);
-    EXPECT_EQ(number(bars(), u"DisplayTooltips"), 0);
-    EXPECT_EQ(number(ask(bars(), u"Item", u"Task Pane"), u"Visible"), 0);
-    EXPECT_EQ(number(ask(bars(), u"Item", u"Drawing"), u"Position"), 1);
-}
-
-TEST_F(MachineTest, HoldsTheLearnersSettings) {
-    constexpr std::u16string_view general = u"SOFTWARE\\Microsoft\\Office\\11.0\\Common\\General";
-    EXPECT_EQ(machine.registryText(general, u"templates"), u"Modèles");
-    EXPECT_EQ(machine.registryText(general, u"UserTemplates"), u"");
-    EXPECT_EQ(
-        machine.registryText(u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders", u"AppData"),
-        u"C:\\Documents and Settings\\Eleve\\Application Data");
-    for (const std::u16string_view name : {u"Default", u"MultimediaDir", u"PictureDir", u"TemplateDir"}) {
-        EXPECT_NE(machine.registryText(u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList", name), u"");
-    }
-    EXPECT_EQ(platform::queryLocale(services.locale, 0x400, platform::Locale::measurementSystem), u"0");
-}
-
 } // namespace machine_tests

@@ -25,7 +25,12 @@ private:
     std::vector<std::string>& sentences_;
 };
 
-/// What is said of each outcome of a file: a line for every sentence, the first time that it is said.
+/// The verdict and its meaning, which stand before what was read.
+std::string_view outcomeOf(std::string_view sentence) {
+    return sentence.substr(0, sentence.find(". "));
+}
+
+/// What is said of each outcome of a file: a line for every one.
 std::string sentencesOf(const std::filesystem::path& path) {
     const host::language::ScenarioFile file = host::load(path);
     const host::Runner runner(file, host::makeEmbeddedWorld);
@@ -40,8 +45,9 @@ std::string sentencesOf(const std::filesystem::path& path) {
         };
         EXPECT_TRUE(runner.run(scenario, makeWitness, explainer.observer()).failures.empty());
     }
-    std::stable_sort(sentences.begin(), sentences.end());
-    sentences.erase(std::unique(sentences.begin(), sentences.end()), sentences.end());
+    std::sort(sentences.begin(), sentences.end());
+    const auto isSame = [](const auto& left, const auto& right) { return outcomeOf(left) == outcomeOf(right); };
+    sentences.erase(std::unique(sentences.begin(), sentences.end(), isSame), sentences.end());
     std::string text = path.stem().string() + '\n';
     for (const std::string& sentence : sentences) {
         text += "  " + sentence + '\n';
