@@ -16,7 +16,7 @@ namespace simulator::files {
         return std::nullopt;
     }
     // One byte more than there are: a file that says that it has none may be one that cannot be read.
-    std::string bytes(std::filesystem::file_size(path) + 1, '\0');
+    std::string bytes(static_cast<std::size_t>(std::filesystem::file_size(path)) + 1, '\0');
     const std::streamsize read = file.rdbuf()->sgetn(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(read));
     return bytes;
