@@ -1,12 +1,17 @@
-#include "automation/observe/CallCounter.h"
+#include "automation/Text.h"
 #include "automation/observe/CallTrace.h"
+#include "exercises/Catalogue.h"
+#include "host/world/TemporaryFolder.h"
 #include "module/Session.h"
 #include "module/Staging.h"
 #include "module/UserSettings.h"
+#include "platform/observed/ObservedServices.h"
+#include "simulator/Machine.h"
 #include "simulator/system/EmbeddedWindows.h"
-#include "tests/exercises/QuestionBench.h"
 #include "tests/support/Errors.h"
-#include "tests/trials/memory/ScarceMemory.h"
+#include "tests/support/Script.h"
+
+#include <gtest/gtest.h>
 
 namespace question_tests {
 
@@ -282,25 +287,6 @@ TEST_F(Questions, KeepEachFolderInItsOwnKeyForOlderVersions) {
     settings.RestaureParamUser();
     EXPECT_EQ(machine.registryText(key + u"MultimediaDir", u""), u"C:\\MultimediaDir")
         << "the exercise's folder is never taken for the learner's";
-}
-
-TEST(Check, ReportsWhereverMemoryRunsOut) {
-    tests::QuestionBench bench(311);
-    bench.prepare(std::make_shared<automation::CallCounter>());
-    bench.work();
-    bench.question->TestePoint();
-    bool hasStruck = true;
-    std::size_t position = 0;
-    while (hasStruck) {
-        std::int32_t raised = noError;
-        {
-            const trials::ScarceMemory scarce(++position);
-            raised = errorNumber([&] { bench.question->TestePoint(); });
-            hasStruck = trials::ScarceMemory::hasStruck();
-        }
-        EXPECT_EQ(raised, hasStruck ? 7 : noError) << "allocation " << position;
-    }
-    EXPECT_GT(position, 100U);
 }
 
 } // namespace question_tests

@@ -36,13 +36,6 @@ Application.ShowStartupDialog
     }
 }
 
-TEST_F(ModuleTrace, LeavesTheHostsPowerPointRunning) {
-    bringPowerPoint();
-    static_cast<void>(obtaining());
-    module.Quitter(application, window);
-    EXPECT_TRUE(machine.isPowerPointRunning());
-}
-
 TEST_F(ModuleTrace, TakesTheSamePowerPointAgain) {
     init();
     module.Fermer();

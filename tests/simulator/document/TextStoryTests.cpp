@@ -44,31 +44,6 @@ std::string levels(const TextStory& story) {
     return digits;
 }
 
-TEST(TextStory, KnowsItsWordsAndParagraphs) {
-    struct Case {
-        std::u16string text;
-        Texts words;
-        Texts paragraphs;
-    };
-    const std::vector<Case> cases{
-        {u"", {}, {}},
-        {u"faire", {u"faire"}, {u"faire"}},
-        {u"Il faut  faire, l'été !", {u"Il ", u"faut  ", u"faire, ", u"l'été ", u"!"}, {u"Il faut  faire, l'été !"}},
-        {u"créer \rRègles", {u"créer ", u"Règles"}, {u"créer \r", u"Règles"}},
-        {u"  deux\r\r mots", {u"  ", u"deux", u" ", u"mots"}, {u"  deux\r", u"\r", u" mots"}},
-        {u"un\vdeux \vtrois", {u"un\vdeux ", u"\vtrois"}, {u"un\vdeux \vtrois"}},
-        {u"a\u00A0\tb ", {u"a\u00A0\t", u"b "}, {u"a\u00A0\tb "}},
-        {u"a\r", {u"a"}, {u"a\r"}},
-        {u"\r\r", {}, {u"\r", u"\r"}},
-        {u"   ", {u"   "}, {u"   "}},
-    };
-    for (const Case& test : cases) {
-        const TextStory story = storyOf(test.text);
-        EXPECT_EQ(pieces(story, story.words()), test.words) << automation::toUtf8(test.text);
-        EXPECT_EQ(pieces(story, story.paragraphs()), test.paragraphs) << automation::toUtf8(test.text);
-    }
-}
-
 TEST(TextStory, KeepsParagraphFormatsWithTheirParagraphs) {
     struct Case {
         Span span;

@@ -2,7 +2,6 @@
 #include "simulator/Machine.h"
 #include "simulator/document/Constants.h"
 #include "simulator/files/WholeFile.h"
-#include "tests/support/Errors.h"
 #include "tests/support/Script.h"
 
 #include <gtest/gtest.h>
@@ -146,13 +145,6 @@ TEST_F(PictureTest, WordArtFillsItsFrame) {
                               std::int32_t{msoFalse}, 10, 20);
     art.put(u"Width", 333);
     EXPECT_TRUE(holdsInOrder(picture(), {"textLength=\"333\"", ">Conseils</text>"}));
-}
-
-TEST_F(PictureTest, OtherFiltersAndPlacesAreRefused) {
-    EXPECT_EQ(errorNumber([&] { say(slide, u"Export", u"C:\\x.png", u"PNG"); }), requestRefused);
-    EXPECT_EQ(errorNumber([&] { say(slide, u"Export", u"C:\\no\\x.svg", u"SVG"); }), requestRefused);
-    say(slide, u"Delete");
-    EXPECT_EQ(errorNumber([&] { say(slide, u"Export", u"C:\\x.svg", u"SVG"); }), objectGone);
 }
 
 } // namespace picture_tests

@@ -50,19 +50,6 @@ TEST(EmbeddedRegistry, ReadsIntoBuffersOfAnySize) {
     EXPECT_EQ(registry.query(key, u"Default", length, data), EmbeddedRegistry::invalidHandle);
 }
 
-TEST(EmbeddedRegistry, EnumeratesNamesAsTheyWereWritten) {
-    EmbeddedRegistry registry;
-    registry.setText(path, u"UserTemplates", u"");
-    registry.setText(path, u"Templates", u"Modèles");
-    registry.setText(path, u"USERTEMPLATES", u"x");
-    const OpenKey key(registry, path, Registry::read);
-    std::vector<std::u16string> names;
-    for (std::u16string name; key.enumerate(static_cast<std::uint32_t>(names.size()), name);) {
-        names.push_back(name);
-    }
-    EXPECT_EQ(names, (std::vector<std::u16string>{u"UserTemplates", u"Templates"}));
-}
-
 TEST(EmbeddedRegistry, GrantsAccessKeyByKeyAndCountsHandles) {
     EmbeddedRegistry registry;
     registry.setText(path, u"Default", u"x");

@@ -1,10 +1,7 @@
 #include "simulator/system/EmbeddedKeyboard.h"
-#include "simulator/system/EmbeddedLocale.h"
 #include "simulator/system/EmbeddedMainWindow.h"
 
 #include <gtest/gtest.h>
-
-#include <array>
 
 namespace embedded_windows_tests {
 
@@ -116,21 +113,6 @@ TEST_F(EmbeddedWindowsTest, AnswersForWindowsThatAreGone) {
     windows.show(gone, WindowSystem::showMaximized);
     windows.send(gone, WindowSystem::closeMessage);
     EXPECT_NE(windows.create({.className = u"PP11FrameClass"}), gone);
-}
-
-TEST(EmbeddedLocale, AnswersInTwoSteps) {
-    simulator::EmbeddedLocale locale;
-    constexpr std::int32_t item = platform::Locale::measurementSystem;
-    std::array<char, 2> buffer{'x', 'x'};
-    EXPECT_EQ(locale.getInfo(0x400, item, {}), 2);
-    EXPECT_EQ(locale.getInfo(0x400, item, std::span(buffer).first(1)), 0);
-    EXPECT_EQ(locale.getInfo(0x400, item, buffer), 2);
-    EXPECT_EQ(buffer, (std::array<char, 2>{'0', '\0'}));
-    EXPECT_EQ(locale.getInfo(0x400, 1, buffer), 0);
-    locale.setItem(item, "1");
-    EXPECT_EQ(platform::queryLocale(locale, 0x400, item), u"1");
-    locale.setItem(item, "");
-    EXPECT_EQ(locale.getInfo(0x400, item, {}), 0);
 }
 
 } // namespace embedded_windows_tests

@@ -85,14 +85,6 @@ TEST_F(StandInTest, IsOnePowerPointWithARealWindow) {
     EXPECT_EQ(application_.get(u"WindowState"), Value(maximized)) << "an invisible one answers";
 }
 
-TEST_F(StandInTest, GoesWithQuit) {
-    application_.call(u"Quit");
-    EXPECT_EQ(IsWindow(frame_), FALSE);
-    EXPECT_EQ(errorNumber([&] { servers_.attach(powerPoint); }), 429);
-    EXPECT_EQ(WaitForSingleObject(process_, 30000), WAIT_OBJECT_0);
-    EXPECT_TRUE(automation::remote::isDead(errorNumber([&] { application_.get(u"Name"); })));
-}
-
 TEST_F(StandInTest, ClosesDialogsFromTheTopAndByEscape) {
     show();
     const LateBound controls = control();
