@@ -57,7 +57,7 @@ Value MemberTable::invoke(Object& object, const Name& name, Access access, std::
         return member->write(object, arguments);
     }
     if (member->isIndexable && !arguments.empty()) {
-        const ObjectPtr collection = member->read(object, {}).to<ObjectPtr>();
+        const auto collection = member->read(object, {}).to<ObjectPtr>();
         if (!collection) {
             raise(RunTimeError::ObjectNotSet);
         }

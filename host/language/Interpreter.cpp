@@ -33,7 +33,7 @@ template <typename Step> decltype(auto) placed(Position place, const Step& step)
 }
 
 ObjectPtr objectIn(const Value& value) {
-    ObjectPtr object = value.to<ObjectPtr>();
+    auto object = value.to<ObjectPtr>();
     if (!object) {
         automation::raise(RunTimeError::ObjectNotSet);
     }

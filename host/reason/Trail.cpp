@@ -32,7 +32,7 @@ Value Trail::around(const automation::Crossing& crossing, const Next& next) {
     try {
         Value result = other_ ? other_->around(crossing, next) : next();
         if (result.isObject()) {
-            if (const automation::ObjectPtr object = result.to<automation::ObjectPtr>()) {
+            if (const auto object = result.to<automation::ObjectPtr>()) {
                 // What the system hands out is the application.
                 origins_[object.get()] = crossing.object == nullptr ? Path() : std::move(path);
             }

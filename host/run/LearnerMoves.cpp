@@ -146,7 +146,7 @@ void LearnerMoves::type(const std::u16string& text) const {
     }
     const std::int32_t before = number(range, u"Start") - 1;
     const LateBound whole = rangeOf(itemOf(memberOf(selected, u"ShapeRange"), 1));
-    const std::u16string all = whole.get(u"Text").to<std::u16string>();
+    const auto all = whole.get(u"Text").to<std::u16string>();
     const bool startsParagraph = before == 0 || all.at(static_cast<std::size_t>(before) - 1) == u'\r';
     typeCorrected(range, text, startsParagraph);
 }
@@ -156,8 +156,7 @@ void LearnerMoves::correctSpelling(const std::u16string& wrong, const std::u16st
         forEachItem(memberOf(slide, u"Shapes"), [&](const LateBound& shape) {
             std::int32_t after = 0;
             while (number(shape, u"HasTextFrame") != 0) {
-                const ObjectPtr changed =
-                    rangeOf(shape).call(u"Replace", wrong, right, after, yes, yes).to<ObjectPtr>();
+                const auto changed = rangeOf(shape).call(u"Replace", wrong, right, after, yes, yes).to<ObjectPtr>();
                 if (!changed) {
                     break;
                 }
@@ -193,7 +192,7 @@ void LearnerMoves::saveAs(const std::u16string& name, const std::u16string& type
     }
     const LateBound deck = presentation();
     const bool hasFolder = name.find(u'\\') != std::u16string::npos;
-    const std::u16string folder = deck.get(u"Path").to<std::u16string>();
+    const auto folder = deck.get(u"Path").to<std::u16string>();
     deck.call(u"SaveAs", hasFolder || folder.empty() ? name : folder + u"\\" + name, found->second);
 }
 

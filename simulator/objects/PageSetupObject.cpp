@@ -5,8 +5,9 @@ namespace simulator {
 namespace {
 constexpr float smallest = 72;
 constexpr float largest = 4032;
-constexpr std::int32_t horizontal = 1;
-constexpr std::int32_t vertical = 2;
+/// MsoOrientation.
+constexpr std::int32_t msoOrientationHorizontal = 1;
+constexpr std::int32_t msoOrientationVertical = 2;
 } // namespace
 
 const automation::MemberTable& PageSetupObject::members() const {
@@ -32,11 +33,11 @@ void PageSetupObject::setSlideHeight(float points) {
 
 std::int32_t PageSetupObject::slideOrientation() const {
     const PresentationPtr presentation = node();
-    return presentation->slideWidth >= presentation->slideHeight ? horizontal : vertical;
+    return presentation->slideWidth >= presentation->slideHeight ? msoOrientationHorizontal : msoOrientationVertical;
 }
 
 void PageSetupObject::setSlideOrientation(std::int32_t orientation) {
-    errors::demandWithin(orientation, horizontal, vertical, u"PageSetup.SlideOrientation");
+    errors::demandWithin(orientation, msoOrientationHorizontal, msoOrientationVertical, u"PageSetup.SlideOrientation");
     if (orientation != slideOrientation()) {
         nodes().change(
             [](Presentation& presentation) { std::swap(presentation.slideWidth, presentation.slideHeight); });

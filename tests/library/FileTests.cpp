@@ -72,10 +72,10 @@ const std::vector<Known> windowsXP{
     {"advapi32.dll", "Windows XP",
      "InitializeAcl InitializeSecurityDescriptor RegGetKeySecurity RegSetKeySecurity SetSecurityDescriptorDacl"},
     {"kernel32.dll", "Windows 2000",
-     "CloseHandle DuplicateHandle GetConsoleMode GetConsoleOutputCP GetHandleInformation GetLocaleInfoA GetStdHandle "
-     "GetSystemTimeAdjustment GetSystemTimeAsFileTime GetTickCount IsDBCSLeadByteEx MultiByteToWideChar "
-     "QueryPerformanceCounter QueryPerformanceFrequency ReadConsoleW SetConsoleCtrlHandler SetConsoleMode "
-     "SetConsoleOutputCP SetLocaleInfoW SetSystemTime WideCharToMultiByte lstrcmpiA lstrcmpiW"},
+     "CloseHandle DuplicateHandle GetConsoleMode GetConsoleOutputCP GetConsoleScreenBufferInfo GetHandleInformation "
+     "GetLocaleInfoA GetStdHandle GetSystemTimeAdjustment GetSystemTimeAsFileTime GetTickCount IsDBCSLeadByteEx "
+     "MultiByteToWideChar QueryPerformanceCounter QueryPerformanceFrequency ReadConsoleW SetConsoleCtrlHandler "
+     "SetConsoleMode SetConsoleOutputCP SetLocaleInfoW SetSystemTime WideCharToMultiByte lstrcmpiA lstrcmpiW"},
     {"kernel32.dll", "Windows XP",
      "AddVectoredExceptionHandler AssignProcessToJobObject CreateDirectoryW CreateEventA CreateEventW CreateFileW "
      "CreateHardLinkW CreateIoCompletionPort CreateJobObjectW CreateMutexW CreateProcessW CreateSemaphoreA "
@@ -84,16 +84,16 @@ const std::vector<Known> windowsXP{
      "FreeLibrary GetCommandLineW GetCurrentProcess GetCurrentProcessId GetCurrentThread GetCurrentThreadId "
      "GetDiskFreeSpaceExW GetEnvironmentVariableW GetFileAttributesW GetFileInformationByHandle GetFileSizeEx "
      "GetFileType GetFullPathNameW GetLastError GetModuleFileNameW GetModuleHandleA GetModuleHandleExW "
-     "GetModuleHandleW GetProcAddress GetProcessAffinityMask GetProcessTimes GetQueuedCompletionStatus GetStartupInfoA "
-     "GetTempPathW GetThreadContext GetThreadPriority GetThreadTimes GetVolumeInformationW InitializeCriticalSection "
-     "InitializeCriticalSectionAndSpinCount IsDebuggerPresent LeaveCriticalSection LoadLibraryA LoadLibraryW LocalFree "
-     "MoveFileExW OpenEventW OpenProcess OpenThread OutputDebugStringA PostQueuedCompletionStatus QueueUserAPC "
-     "RaiseException ReadFile ReleaseMutex ReleaseSemaphore RemoveDirectoryW RemoveVectoredExceptionHandler ResetEvent "
-     "ResumeThread SetEndOfFile SetEvent SetFileAttributesW SetFilePointer SetInformationJobObject SetLastError "
-     "SetProcessAffinityMask SetThreadContext SetThreadPriority SetUnhandledExceptionFilter SetWaitableTimer Sleep "
-     "SleepEx SuspendThread TerminateProcess TerminateThread TlsAlloc TlsFree TlsGetValue TlsSetValue "
-     "TryEnterCriticalSection VerSetConditionMask VerifyVersionInfoW VirtualProtect VirtualQuery "
-     "WaitForMultipleObjects WaitForSingleObject WriteFile"},
+     "GetModuleHandleW GetProcAddress GetProcessAffinityMask GetProcessTimes GetQueuedCompletionStatus "
+     "GetStartupInfoA GetTempPathW GetThreadContext GetThreadPriority GetThreadTimes GetVolumeInformationW "
+     "InitializeCriticalSection InitializeCriticalSectionAndSpinCount IsDebuggerPresent LeaveCriticalSection "
+     "LoadLibraryA LoadLibraryW LocalFree MoveFileExW OpenEventW OpenProcess OpenThread OutputDebugStringA "
+     "PostQueuedCompletionStatus QueueUserAPC RaiseException ReadFile ReleaseMutex ReleaseSemaphore RemoveDirectoryW "
+     "RemoveVectoredExceptionHandler ResetEvent ResumeThread SetEndOfFile SetEvent SetFileAttributesW SetFilePointer "
+     "SetInformationJobObject SetLastError SetProcessAffinityMask SetThreadContext SetThreadPriority "
+     "SetUnhandledExceptionFilter SetWaitableTimer Sleep SleepEx SuspendThread TerminateProcess TerminateThread "
+     "TlsAlloc TlsFree TlsGetValue TlsSetValue TryEnterCriticalSection VerSetConditionMask VerifyVersionInfoW "
+     "VirtualProtect VirtualQuery WaitForMultipleObjects WaitForSingleObject WriteFile"},
     {"ole32.dll", "Windows 2000",
      "CLSIDFromProgID CoCreateInstance CoGetClassObject CoInitializeEx CoRegisterClassObject CoRegisterMessageFilter "
      "CoRevokeClassObject CoUninitialize StringFromGUID2"},
@@ -119,14 +119,13 @@ const std::vector<Known> windowsXP{
     {"msvcrt.dll", "none",
      "__getmainargs __initenv __mb_cur_max __p__acmdln __p__commode __p__fmode __set_app_type __setusermatherr "
      "_amsg_exit _assert _beginthreadex _cexit _close _endthreadex _errno _exit _fdopen _filelengthi64 _fileno "
-     "_findclose _fstat64 _get_osfhandle _initterm _iob _isatty _lock _lseeki64 _onexit _read _setjmp3 _snwprintf "
-     "_strdup _telli64 _ultoa _unlock _wchdir _wchmod _wfindfirst _wfindnext _wfopen _wfullpath _wgetcwd _wmkdir "
-     "_wopen _write _wstat64 _wutime abort atoi calloc exit fclose fflush fgetpos fopen fprintf fputc fputs fputwc "
-     "fread free fsetpos fwprintf fwrite getc getenv getwc islower isspace isupper iswctype localeconv longjmp malloc "
-     "memchr memcmp memcpy memmove memset printf putc putwc realloc setlocale setvbuf signal strchr strcmp strcoll "
-     "strerror strftime strlen strncmp strncpy strtol strxfrm towlower towupper ungetc ungetwc vfprintf wcscat wcscmp "
-     "wcscoll "
-     "wcscpy wcsftime wcslen wcstoul wcsxfrm"},
+     "_findclose _fstat64 _get_osfhandle _hypot _initterm _iob _isatty _lock _lseeki64 _onexit _read _setjmp3 "
+     "_snwprintf _strdup _telli64 _ultoa _unlock _wchdir _wchmod _wfindfirst _wfindnext _wfopen _wfullpath _wgetcwd "
+     "_wmkdir _wopen _write _wstat64 _wutime abort atoi calloc exit fclose fflush fgetpos fopen fprintf fputc fputs "
+     "fputwc fread free fsetpos fwprintf fwrite getc getenv getwc islower isspace isupper iswctype localeconv longjmp "
+     "malloc memchr memcmp memcpy memmove memset printf putc putwc realloc setlocale setvbuf signal strchr strcmp "
+     "strcoll strerror strftime strlen strncmp strncpy strtol strtoul strxfrm towlower towupper ungetc ungetwc "
+     "vfprintf wcscat wcscmp wcscoll wcscpy wcsftime wcslen wcstoul wcsxfrm"},
 };
 
 bool isKnown(const std::string& library, const std::string& function) {

@@ -116,7 +116,7 @@ TEST_F(DispatchObjectTest, LooksANameUpOncePerClassAndServer) {
     server_->answer = childServer.get();
     constexpr Name visible{u"Visible", u"Application"};
     for (int i = 0; i < 3; ++i) {
-        const ObjectPtr child = invoke(visible).to<ObjectPtr>();
+        const auto child = invoke(visible).to<ObjectPtr>();
         child->invoke({u"VISIBLE", u"application"}, Access::Get, {});
         child->invoke({u"Visible", u"Shape"}, Access::Get, {});
         child->invoke(u"Unscoped", Access::Get, {});
@@ -309,7 +309,7 @@ TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
         connectAnew();
         const auto childServer = makeCom<Server>();
         server_->answer = childServer.get();
-        const ObjectPtr child = invoke(u"M").to<ObjectPtr>();
+        const auto child = invoke(u"M").to<ObjectPtr>();
         server_->statuses = {number};
         for (const Name& name : {Name(u"M"), Name(u"M"), Name(u"Other")}) {
             EXPECT_EQ(numberRaised(name), number);
@@ -330,7 +330,7 @@ TEST_F(DispatchObjectTest, NeverCallsADeadServer) {
 TEST_F(DispatchObjectTest, IsTheSameByIdentity) {
     const auto other = makeCom<Server>();
     server_->answer = server_.get();
-    const ObjectPtr itself = invoke(u"Self").to<ObjectPtr>();
+    const auto itself = invoke(u"Self").to<ObjectPtr>();
     EXPECT_NE(itself, object_);
     EXPECT_TRUE(isSame(itself, object_));
     EXPECT_FALSE(isSame(objectOf(other.get()), object_));

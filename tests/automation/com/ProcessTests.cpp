@@ -67,7 +67,7 @@ TEST_F(ProcessTest, PassesValuesErrorsAndObjects) {
     }
     EXPECT_EQ(elements.call(u"Next"), Value(Missing()));
 
-    const ObjectPtr child = remote_.get(u"Child").to<ObjectPtr>();
+    const auto child = remote_.get(u"Child").to<ObjectPtr>();
     EXPECT_TRUE(isSame(child, remote_.get(u"Child").to<ObjectPtr>()));
     EXPECT_FALSE(isSame(child, remote_.object()));
     EXPECT_TRUE(isSame(remote_.call(u"Echo", child).to<ObjectPtr>(), child));
@@ -94,7 +94,7 @@ TEST_F(ProcessTest, WaitsForABusyServer) {
 
 TEST_F(ProcessTest, OutlivesAServerThatDies) {
     EXPECT_EQ(remote_.get(u"Number"), Value(7));
-    const ObjectPtr child = remote_.get(u"Child").to<ObjectPtr>();
+    const auto child = remote_.get(u"Child").to<ObjectPtr>();
     const std::int32_t number = errorNumber([&] { remote_.call(u"Die"); });
     EXPECT_TRUE(remote::isDead(number)) << std::hex << number;
     EXPECT_EQ(numberRaised(), number);

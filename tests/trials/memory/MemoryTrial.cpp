@@ -30,6 +30,7 @@ Answer answerOf(const Outcome& outcome, const Outcome& flawless) {
 Assessment assess(const Outcome& outcome, const Outcome& flawless, HostCall call) {
     Assessment assessment{answerOf(outcome, flawless), outcome.findings};
     std::vector<std::string>& findings = assessment.findings;
+    findings.insert(findings.end(), outcome.presentations.begin(), outcome.presentations.end());
     if (assessment.answer == Answer::Wrong) {
         findings.push_back("the host gets" + (outcome.error ? " " + inWords(*outcome.error) : " no error") +
                            (outcome.reading ? ", " + outcome.reading->display() : ""));

@@ -24,14 +24,15 @@ bool isSame(const Outcome& left, const Outcome& right) {
            (!left.reading || torture::isSameVerdict(*left.reading, *right.reading));
 }
 
-/// True for an error that a trouble leads to: its own, what the registry or the locale makes of it, or that PowerPoint
-/// is gone.
+/// True for an error that a trouble leads to: its own, what the registry or the locale makes of it or a working file
+/// that could not be removed, or that PowerPoint is gone.
 bool mayRaise(const Trouble& trouble, const Error& error) {
     const bool isOfSystem = trouble.fault && trouble.fault->kind == Fault::Kind::AccessDenied;
     const bool isOfMemory = trouble.number() == Trouble().number() && error.is(RunTimeError::OutOfMemory);
     const bool isOfDeath = automation::remote::isDead(trouble.number()) && automation::remote::isDead(error.number());
     return error.number() == trouble.number() || isOfMemory || isOfDeath ||
-           (isOfSystem && (error.number() == registryError || error.is(RunTimeError::TypeMismatch)));
+           (isOfSystem && (error.number() == registryError || error.is(RunTimeError::TypeMismatch) ||
+                           error.is(RunTimeError::FileAlreadyExists)));
 }
 
 Answer answerOf(const Outcome& outcome, const Outcome& flawless, const std::array<Trouble, 2>& troubles) {
@@ -89,9 +90,12 @@ Assessment assess(const Aftermath& both, const Aftermath& alone, const Aftermath
     if (outcome.bars.size() > unread) {
         findings.insert(findings.end(), outcome.bars.begin(), outcome.bars.end());
     }
-    // One whose window cannot be seen is taken for one that nobody uses.
-    if (outcome.powerPointEnded && std::none_of(troubles.begin(), troubles.end(), hidesPowerPoint)) {
-        findings.emplace_back("the learner's PowerPoint has been ended");
+    // One whose window cannot be seen is taken for one that nobody uses; it may fail on its way to its end.
+    if (std::none_of(troubles.begin(), troubles.end(), hidesPowerPoint)) {
+        findings.insert(findings.end(), outcome.presentations.begin(), outcome.presentations.end());
+        if (outcome.powerPointEnded) {
+            findings.emplace_back("the learner's PowerPoint has been ended");
+        }
     }
     return assessment;
 }

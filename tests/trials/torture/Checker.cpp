@@ -27,6 +27,7 @@ Assessment Checker::assess(const Outcome& outcome, std::size_t position, const F
     const Expected expected = expectedFor(question_, operation_, route_, position, fault);
     Assessment assessment{Answer::Wrong, outcome.findings};
     std::vector<std::string>& findings = assessment.findings;
+    findings.insert(findings.end(), outcome.presentations.begin(), outcome.presentations.end());
     if (!outcome.isStruck) {
         findings.emplace_back("the fault has not struck");
     }

@@ -16,7 +16,7 @@ std::vector<std::u16string> barsOf(const LateBound& application) {
     std::vector<std::u16string> all;
     for (std::int32_t i = 1; i <= countOf(bars); ++i) {
         const LateBound bar(bars.get(u"Item", i).to<ObjectPtr>());
-        std::u16string text = bar.get(u"Name").to<std::u16string>();
+        auto text = bar.get(u"Name").to<std::u16string>();
         for (const std::u16string_view member : {u"Visible", u"Enabled", u"Position"}) {
             text.append(u" ").append(bar.get(member).display());
         }

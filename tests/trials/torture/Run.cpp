@@ -98,7 +98,7 @@ Outcome Run::runIn(World& world, Operation operation, Tampering& tampering, bool
     }
     outcome.bars = barsChanged(before, after);
     if (brought && !outcome.powerPointEnded) {
-        comparePresentations(before, after, outcome.findings);
+        comparePresentations(before, after, outcome.presentations);
     }
     for (const std::string& open : world.leftOpen()) {
         outcome.findings.push_back(open);

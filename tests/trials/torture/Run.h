@@ -28,6 +28,7 @@ struct Outcome {
     bool isStruck = true;                   ///< the call that was to fail has been reached
     bool powerPointEnded = false;           ///< the learner's PowerPoint no longer ran when the module was left
     std::vector<std::string> bars;          ///< what is amiss with the command bars
+    std::vector<std::string> presentations; ///< what is amiss with those of the learner
     std::vector<std::string> findings;      ///< what else is amiss
 };
 

@@ -88,7 +88,7 @@ void Torture::run(const Ground& ground, std::span<const Fault> faults, const Str
     const auto& [totals, report, progress] = audience;
     const auto& [operation, flawless, route, positions] = ground;
     const std::string place = "question " + std::to_string(file_.question) + ", " + operation.display();
-    for (const auto& findings : {flawless.findings, flawless.bars}) {
+    for (const auto& findings : {flawless.findings, flawless.bars, flawless.presentations}) {
         for (const std::string& finding : findings) {
             ++totals.findings;
             report(place + ", nothing failed: " + finding);
