@@ -36,7 +36,6 @@ TEST_F(MachineTest, StartsOnePowerPointForWhoeverAsks) {
     EXPECT_EQ(errorNumber([&] { services.servers.attach(programmaticId); }), cannotCreate);
     EXPECT_EQ(errorNumber([&] { services.servers.create(u"Word.Application.11"); }), cannotCreate);
     EXPECT_FALSE(machine.isPowerPointRunning());
-    EXPECT_EQ(machine.application(), nullptr);
 
     const LateBound created(services.servers.create(programmaticId));
     const platform::WindowHandle window = services.windows.findWindow(u"PP11FrameClass");
@@ -48,7 +47,6 @@ TEST_F(MachineTest, StartsOnePowerPointForWhoeverAsks) {
 
     created.put(u"Visible", msoTrue);
     EXPECT_TRUE(services.windows.isVisible(window));
-    EXPECT_EQ(number(created, u"HWND"), window);
 
     machine.uninstallPowerPoint();
     EXPECT_TRUE(isSame(services.servers.attach(programmaticId), created.object()));
@@ -93,8 +91,6 @@ TEST_F(MachineTest, RefusesCallsWhileBusyAndOnceEnded) {
         EXPECT_FALSE(machine.isPowerPointRunning());
         expectBoth(remote::serverUnavailable);
         EXPECT_EQ(services.windows.findWindow(u"PP11FrameClass"), 0);
-        EXPECT_EQ(services.windows.findWindow(u"#32770"), 0);
-        EXPECT_EQ(machine.mainWindow(), 0);
         EXPECT_EQ(machine.dialogs(), 0U);
     }
 }

@@ -7,6 +7,7 @@ import pathlib
 import subprocess
 import sys
 import tempfile
+import time
 
 from browser import SHIFT, Page, Player, chromium
 from questions import GESTURES, QUESTIONS, Keys
@@ -141,7 +142,9 @@ def speed(driver, host, folder):
         driver.execute_script(WATCH)
         for step in range(100):
             page.press(Keys.ARROW_RIGHT if step % 2 else Keys.ARROW_LEFT)
-        times = sorted(driver.execute_script("return times"))
+        end = time.monotonic() + 10  # the last frame comes in its own time
+        while len(times := sorted(driver.execute_script("return times"))) < 100 and time.monotonic() < end:
+            time.sleep(0.02)
         check("a hundred gestures are seen", "" if len(times) == 100 else len(times))
         print(f"A gesture is on the screen after {times[50]:.0f} ms (median of 100), {times[95]:.0f} ms (95 of 100)")
 
