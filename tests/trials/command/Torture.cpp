@@ -44,7 +44,7 @@ ExitCode runAll(const TortureRequest& request, const CommandContext& at, const c
             watch.next(place);
             at.progress.at(place, n, all);
         };
-        torment(file, random, totals, report, advance);
+        torment(file, random, torture::Audience(file.question, totals, report, advance));
     }
     at.progress.clear();
     at.out << totals.failed << ' ' << what << "s failed:";
@@ -59,13 +59,12 @@ ExitCode runAll(const TortureRequest& request, const CommandContext& at, const c
 /// refuses or is late.
 ExitCode runTorture(const TortureRequest& request, const CommandContext& at) {
     return runAll(request, at, "call",
-                  [&](const language::ScenarioFile& file, std::mt19937& random, Totals& totals, const auto& report,
-                      const auto& advance) {
+                  [&](const language::ScenarioFile& file, std::mt19937& random, const torture::Audience& audience) {
                       const torture::Torture torture(file, at.worlds.embedded, request.every, random);
                       if (at.worlds.remote) {
-                          torture.runRemote(at.worlds.remote, totals, report, advance);
+                          torture.runRemote(at.worlds.remote, audience);
                       } else {
-                          torture.run(totals, report, advance);
+                          torture.run(audience);
                       }
                   });
 }
@@ -73,18 +72,16 @@ ExitCode runTorture(const TortureRequest& request, const CommandContext& at) {
 /// Makes allocations fail, one by one.
 ExitCode runMemory(const TortureRequest& request, const CommandContext& at) {
     return runAll(request, at, "allocation",
-                  [&](const language::ScenarioFile& file, std::mt19937& random, Totals& totals, const auto& report,
-                      const auto& advance) {
-                      memory::MemoryTrial(file, at.worlds.embedded, request.every, random).run(totals, report, advance);
+                  [&](const language::ScenarioFile& file, std::mt19937& random, const torture::Audience& audience) {
+                      memory::MemoryTrial(file, at.worlds.embedded, request.every, random).run(audience);
                   });
 }
 
 /// Makes a second thing fail in the operation in which one has failed.
 ExitCode runPairs(const TortureRequest& request, const CommandContext& at) {
     return runAll(request, at, "pair",
-                  [&](const language::ScenarioFile& file, std::mt19937& random, Totals& totals, const auto& report,
-                      const auto& advance) {
-                      pairs::PairTrial(file, at.worlds.embedded, request.every, random).run(totals, report, advance);
+                  [&](const language::ScenarioFile& file, std::mt19937& random, const torture::Audience& audience) {
+                      pairs::PairTrial(file, at.worlds.embedded, request.every, random).run(audience);
                   });
 }
 

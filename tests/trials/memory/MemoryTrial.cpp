@@ -1,6 +1,7 @@
 #include "tests/trials/memory/MemoryTrial.h"
 
 #include "tests/trials/memory/FileTrial.h"
+#include "tests/trials/memory/Judge.h"
 #include "tests/trials/memory/ScarceWorld.h"
 
 namespace trials::memory {
@@ -47,8 +48,7 @@ Assessment assess(const Outcome& outcome, const Outcome& flawless, HostCall call
 
 } // namespace
 
-void MemoryTrial::run(torture::Totals& totals, const torture::Report& report, const torture::Progress& progress) const {
-    const Audience audience{totals, report, progress};
+void MemoryTrial::run(const torture::Audience& audience) const {
     for (const torture::Operation& operation : torture::operations) {
         std::optional<Outcome> flawless;
         std::size_t before = 0; ///< allocations until the module's first call, those of the host among them
@@ -84,31 +84,15 @@ void MemoryTrial::run(torture::Totals& totals, const torture::Report& report, co
     }
 }
 
-void MemoryTrial::run(const std::string& operation, const Struck& struck, const Audience& audience) const {
-    const auto tell = [&](const std::string& what, const std::vector<std::string>& findings) {
-        for (const std::string& finding : findings) {
-            ++audience.totals.findings;
-            audience.report("question " + std::to_string(file_.question) + ", " + operation + ", " + what + ": " +
-                            finding);
-        }
-    };
+void MemoryTrial::run(const std::string& operation, const Struck& struck, const torture::Audience& audience) const {
     const Result flawless = struck(0, Lasting::Once);
-    tell("nothing failed", flawless.assessment.findings);
+    audience.tell(operation + ", nothing failed", flawless.assessment.findings);
     for (std::size_t n = 1 + random_() % every_; n <= flawless.asked; n += every_) {
-        audience.progress(operation, n, flawless.asked);
+        audience.hasComeTo(operation, n, flawless.asked);
         for (const Lasting lasting : {Lasting::Once, Lasting::FromThereOn}) {
             const std::string what =
-                "allocation " + std::to_string(n) + (lasting == Lasting::Once ? "" : " from there on");
-            const std::ptrdiff_t before = ScarceMemory::alive();
-            {
-                const Result result = struck(n, lasting);
-                tell(what, result.assessment.findings);
-                ++audience.totals.failed;
-                ++audience.totals.outcomes.at(static_cast<std::size_t>(result.assessment.answer));
-            }
-            if (ScarceMemory::alive() != before) {
-                tell(what, {std::to_string(ScarceMemory::alive() - before) + " allocations are not given back"});
-            }
+                operation + ", allocation " + std::to_string(n) + (lasting == Lasting::Once ? "" : " from there on");
+            judge(audience, what, [&] { return std::optional(struck(n, lasting).assessment); });
         }
     }
 }

@@ -16,8 +16,7 @@ public:
                 std::mt19937& random)
         : file_(file), makeWorld_(makeWorld), course_(file, makeWorld), every_(every), random_(random) {}
 
-    /// Adds to the totals.
-    void run(torture::Totals& totals, const torture::Report& report, const torture::Progress& progress) const;
+    void run(const torture::Audience& audience) const;
 
 private:
     /// What came of an operation, and how many allocations it has asked for.
@@ -27,14 +26,8 @@ private:
     };
     /// An operation in which an allocation fails; none where its position is 0.
     using Struck = std::function<Result(std::size_t position, ScarceMemory::Lasting lasting)>;
-    /// Whoever is told how it goes.
-    struct Audience {
-        torture::Totals& totals;
-        const torture::Report& report;
-        const torture::Progress& progress;
-    };
 
-    void run(const std::string& operation, const Struck& struck, const Audience& audience) const;
+    void run(const std::string& operation, const Struck& struck, const torture::Audience& audience) const;
 
     const language::ScenarioFile& file_;
     const WorldMaker& makeWorld_;

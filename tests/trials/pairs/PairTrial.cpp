@@ -1,5 +1,7 @@
 #include "tests/trials/pairs/PairTrial.h"
 
+#include "tests/trials/memory/Judge.h"
+
 #include <algorithm>
 
 namespace trials::pairs {
@@ -145,37 +147,26 @@ std::optional<Trouble> PairTrial::second(const Trouble& first, const Aftermath& 
     return all.empty() ? std::nullopt : std::optional(all[random_() % all.size()]);
 }
 
-void PairTrial::run(torture::Totals& totals, const torture::Report& report, const torture::Progress& progress) const {
+void PairTrial::run(const torture::Audience& audience) const {
     for (const torture::Operation& operation : torture::operations) {
         const Aftermath flawless = meet(operation, {});
         const std::size_t calls = flawless.borders.size();
         for (std::size_t n = 1 + random_() % every_; n <= calls; n += every_) {
-            progress(operation.display(), n, calls);
+            audience.hasComeTo(operation.display(), n, calls);
             for (const Trouble& first : firsts(flawless, n)) {
                 const Aftermath alone = meet(operation, {first});
                 const std::optional<Trouble> then = second(first, alone);
                 if (!then) {
                     continue;
                 }
-                const auto tell = [&](const std::string& finding) {
-                    ++totals.findings;
-                    report("question " + std::to_string(file_.question) + ", " + operation.display() + ", " +
-                           first.display() + ", then " + then->display() + ": " + finding);
-                };
-                const std::ptrdiff_t before = ScarceMemory::alive();
-                {
+                const std::string what = operation.display() + ", " + first.display() + ", then " + then->display();
+                memory::judge(audience, what, [&] {
                     const Aftermath both = meet(operation, {first, *then});
-                    if (!both.outcome.isStruck && !(first.fault && then->fault)) {
-                        continue; // what was allocated once and kept is not asked for again
-                    }
-                    const Assessment assessment = assess(both, alone, flawless, {first, *then}, operation);
-                    ++totals.failed;
-                    ++totals.outcomes.at(static_cast<std::size_t>(assessment.answer));
-                    std::for_each(assessment.findings.begin(), assessment.findings.end(), tell);
-                }
-                if (ScarceMemory::alive() != before) {
-                    tell(std::to_string(ScarceMemory::alive() - before) + " allocations are not given back");
-                }
+                    // What was allocated once and kept is not asked for again.
+                    const bool isReached = both.outcome.isStruck || (first.fault && then->fault);
+                    return isReached ? std::optional(assess(both, alone, flawless, {first, *then}, operation))
+                                     : std::nullopt;
+                });
             }
         }
     }

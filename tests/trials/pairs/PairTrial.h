@@ -27,8 +27,7 @@ public:
     PairTrial(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every, std::mt19937& random)
         : file_(file), makeWorld_(makeWorld), course_(file, makeWorld), every_(every), random_(random) {}
 
-    /// Adds to the totals.
-    void run(torture::Totals& totals, const torture::Report& report, const torture::Progress& progress) const;
+    void run(const torture::Audience& audience) const;
 
 private:
     [[nodiscard]] Aftermath meet(torture::Operation operation, std::vector<Trouble> troubles) const;

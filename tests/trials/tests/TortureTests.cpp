@@ -162,8 +162,8 @@ TEST(TortureTests, FindsNothing) {
     for (const std::filesystem::path& path : host::Library(SCENARIOS).filesOfCourse({})) {
         const host::language::ScenarioFile file = host::load(path);
         trials::torture::Torture(file, host::makeEmbeddedWorld, file.question == 313 ? 60 : none, random)
-            .run(
-                totals, [](const std::string& finding) { ADD_FAILURE() << finding; }, [](const auto&, auto, auto) {});
+            .run({file.question, totals, [](const std::string& finding) { ADD_FAILURE() << finding; },
+                  [](const auto&, auto, auto) {}});
     }
     for (const Answer answer : {Answer::Reported, Answer::Straight, Answer::Silence}) {
         EXPECT_NE(totals.outcomes.at(static_cast<std::size_t>(answer)), 0U);

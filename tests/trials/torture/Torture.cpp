@@ -41,7 +41,7 @@ Torture::Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld
                  std::mt19937& random)
     : file_(file), course_(file, makeWorld), run_(file, course_, makeWorld), every_(every), random_(random) {}
 
-void Torture::run(Totals& totals, const Report& report, const Progress& progress) const {
+void Torture::run(const Audience& audience) const {
     for (const Operation& operation : operations) {
         const Rehearsal rehearsal = rehearse(file_.question, run_, operation);
         std::vector<std::size_t> positions(rehearsal.route.size());
@@ -50,13 +50,11 @@ void Torture::run(Totals& totals, const Report& report, const Progress& progress
             ObservedCalls observed([&](World& world) { return fault.at(n, world); });
             return run_.run(operation, observed, leavesFoldersWritable(fault));
         };
-        run({operation, rehearsal.outcome, rehearsal.route, positions}, Fault::all(), struck,
-            {totals, report, progress});
+        run({operation, rehearsal.outcome, rehearsal.route, positions}, Fault::all(), struck, audience);
     }
 }
 
-void Torture::runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const Report& report,
-                        const Progress& progress) const {
+void Torture::runRemote(const WorldMaker& makeRemoteWorld, const Audience& audience) const {
     const Run remote(file_, course_, makeRemoteWorld);
     for (const Operation& operation : operations) {
         if (operation.arrival == Arrival::Started || operation.call == HostCall::Quitter || operation.isHeld) {
@@ -79,20 +77,16 @@ void Torture::runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const
             RemoteCalls troubled(fault, n);
             return remote.run(operation, troubled, leavesFoldersWritable(fault));
         };
-        run({operation, flawless, route, positions}, Fault::remote(), struck, {totals, report, progress});
+        run({operation, flawless, route, positions}, Fault::remote(), struck, audience);
     }
 }
 
 void Torture::run(const Ground& ground, std::span<const Fault> faults, const Struck& struck,
                   const Audience& audience) const {
-    const auto& [totals, report, progress] = audience;
     const auto& [operation, flawless, route, positions] = ground;
-    const std::string place = "question " + std::to_string(file_.question) + ", " + operation.display();
+    const std::string name = operation.display();
     for (const auto& findings : {flawless.findings, flawless.bars, flawless.presentations}) {
-        for (const std::string& finding : findings) {
-            ++totals.findings;
-            report(place + ", nothing failed: " + finding);
-        }
+        audience.tell(name + ", nothing failed", findings);
     }
     const Checker checker(file_.question, operation, flawless, route);
     for (std::size_t n = 1 + random_() % every_; n <= positions.size(); n += every_) {
@@ -101,15 +95,9 @@ void Torture::run(const Ground& ground, std::span<const Fault> faults, const Str
             if (!fault.fits(call.border)) {
                 continue;
             }
-            progress(operation.display(), n, positions.size());
-            const Assessment assessment = checker.assess(struck(fault, n), positions[n - 1], fault);
-            ++totals.failed;
-            ++totals.outcomes.at(static_cast<std::size_t>(assessment.answer));
-            for (const std::string& finding : assessment.findings) {
-                ++totals.findings;
-                report(place + ", call " + std::to_string(n) + " " + toUtf8(call.text) + ", " + fault.display() + ": " +
-                       finding);
-            }
+            audience.hasComeTo(name, n, positions.size());
+            audience.judge(name + ", call " + std::to_string(n) + " " + toUtf8(call.text) + ", " + fault.display(),
+                           checker.assess(struck(fault, n), positions[n - 1], fault));
         }
     }
 }

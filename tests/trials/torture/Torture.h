@@ -1,22 +1,10 @@
 #pragma once
 
-#include "tests/trials/torture/Checker.h"
+#include "tests/trials/torture/Audience.h"
 
 #include <random>
 
 namespace trials::torture {
-
-/// What came of all the calls that were made to fail.
-struct Totals {
-    std::size_t failed = 0; ///< calls made to fail, each once for every fault
-    std::array<std::size_t, answers> outcomes{};
-    std::size_t findings = 0;
-};
-
-/// Told of what is wrong, in words.
-using Report = std::function<void(const std::string&)>;
-/// Told where it has come to: the operation, the number of what fails in it, and how many there are.
-using Progress = std::function<void(const std::string&, std::size_t, std::size_t)>;
 
 /// Makes every call of every operation of one question fail in every way that fits it.
 class Torture {
@@ -25,22 +13,15 @@ public:
     /// outlive this object.
     Torture(const language::ScenarioFile& file, const WorldMaker& makeWorld, std::size_t every, std::mt19937& random);
 
-    /// Adds to the totals. Raises language::Failure where the scenario itself falls short.
-    void run(Totals& totals, const Report& report, const Progress& progress) const;
+    /// Raises language::Failure where the scenario itself falls short.
+    void run(const Audience& audience) const;
     /// The same with worlds whose PowerPoint is in a process of its own: it misbehaves at the calls that reach it,
     /// which must be those that the module makes in this process. The host brings PowerPoint.
-    void runRemote(const WorldMaker& makeRemoteWorld, Totals& totals, const Report& report,
-                   const Progress& progress) const;
+    void runRemote(const WorldMaker& makeRemoteWorld, const Audience& audience) const;
 
 private:
     /// An operation in which a fault strikes the n-th call.
     using Struck = std::function<Outcome(const Fault&, std::size_t)>;
-    /// Whoever is told how it goes.
-    struct Audience {
-        Totals& totals;
-        const Report& report;
-        const Progress& progress;
-    };
 
     /// An operation as it goes when nothing fails, and the calls on its route that can be made to fail.
     struct Ground {
