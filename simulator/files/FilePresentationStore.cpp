@@ -2,9 +2,9 @@
 
 #include "automation/Text.h"
 #include "automation/Unmoved.h"
-#include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/Outline.h"
 #include "simulator/files/WholeFile.h"
+#include "simulator/files/bytes/DamagedPresentation.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
 #include "simulator/files/powerpoint/DocumentWriter.h"
 #include "simulator/process/Errors.h"

@@ -1,7 +1,7 @@
 #include "simulator/files/compound/CompoundReader.h"
 
 #include "automation/Text.h"
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/Layout.h"
 #include "simulator/files/compound/SectorTable.h"
 

@@ -1,6 +1,6 @@
 #include "simulator/files/compound/SectorTable.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/Layout.h"
 
 #include <limits>

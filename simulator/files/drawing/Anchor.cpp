@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/Anchor.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/records/RecordTypes.h"

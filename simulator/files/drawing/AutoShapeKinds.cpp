@@ -1,7 +1,7 @@
 #include "simulator/files/drawing/AutoShapeKinds.h"
 
 #include "simulator/document/Constants.h"
-#include "simulator/files/Tables.h"
+#include "simulator/files/bytes/Tables.h"
 #include "simulator/files/drawing/PropertyIds.h"
 
 #include <array>

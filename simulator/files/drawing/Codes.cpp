@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/Codes.h"
 
-#include "simulator/files/ColorBits.h"
+#include "simulator/files/bytes/ColorBits.h"
 
 namespace simulator::drawing {
 

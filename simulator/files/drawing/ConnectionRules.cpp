@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/ConnectionRules.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/DrawingGroup.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "simulator/files/drawing/FillCodes.h"
 
-#include "simulator/files/ColorBits.h"
-#include "simulator/files/Tables.h"
+#include "simulator/files/bytes/ColorBits.h"
+#include "simulator/files/bytes/Tables.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
 

@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/LineCodes.h"
 
-#include "simulator/files/Tables.h"
+#include "simulator/files/bytes/Tables.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
 

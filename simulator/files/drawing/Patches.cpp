@@ -2,8 +2,8 @@
 
 #include "simulator/files/drawing/FreeformCodes.h"
 #include "simulator/files/drawing/ShapeHead.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 #include "simulator/files/text/TextRecords.h"
 
 #include <algorithm>
@@ -59,7 +59,7 @@ bool differs(const Record& before, const Record& now, std::uint16_t wanted) {
 void putNumbering(Record& data, const Shape& asRead, const Shape& shape, const Record& now) {
     const TextStory none;
     if (text::numberingHasChanged(asRead.text ? *asRead.text : none, shape.text ? *shape.text : none)) {
-        powerpoint::putData(data, text::extensionTag, powerpoint::readData(now, text::extensionTag));
+        records::putData(data, text::extensionTag, records::readData(now, text::extensionTag));
     }
 }
 
@@ -164,7 +164,7 @@ void patchClientData(Record& record, const Shape& asRead, const Shape& shape, co
         }
     }
     if (!(asRead.tags == shape.tags)) {
-        powerpoint::putTags(data, shape.tags);
+        records::putTags(data, shape.tags);
     }
     putNumbering(data, asRead, shape, now);
     std::erase_if(record.children, [](const Record& child) {

@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/Placeholders.h"
 
-#include "simulator/files/Tables.h"
+#include "simulator/files/bytes/Tables.h"
 #include "simulator/files/text/TextStyles.h"
 
 #include <array>

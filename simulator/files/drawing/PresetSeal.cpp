@@ -1,9 +1,9 @@
 #include "simulator/files/drawing/PresetSeal.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/PropertyIds.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 
 namespace simulator::drawing::preset {
 
@@ -52,7 +52,7 @@ bool isWorthSaying(const Shape& shape) noexcept {
 
 void read(const Record& record, const PropertyTable& properties, Shape& shape) {
     const Record* const client = record.find(type::ArtClientData);
-    const auto data = client == nullptr ? std::nullopt : powerpoint::readData(*client, tagName);
+    const auto data = client == nullptr ? std::nullopt : records::readData(*client, tagName);
     if (!data) {
         return;
     }
@@ -73,7 +73,7 @@ void write(Record& record, const Shape& shape) {
     Record* client = record.find(type::ArtClientData);
     if (!isWorthSaying(shape)) {
         if (client != nullptr) {
-            powerpoint::putData(*client, tagName, std::nullopt);
+            records::putData(*client, tagName, std::nullopt);
         }
         return;
     }
@@ -92,7 +92,7 @@ void write(Record& record, const Shape& shape) {
     put(effect, shape.textEffect ? shape.textEffect->preset : 0);
     put(shadow, shape.shadow.type);
     put(threeD, shape.threeD.preset);
-    powerpoint::putData(*client, tagName, out.bytes());
+    records::putData(*client, tagName, out.bytes());
 }
 
 } // namespace simulator::drawing::preset

@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/PropertyTable.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/records/RecordTypes.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/DrawingIds.h"
 #include "simulator/files/records/Record.h"
 #include "simulator/files/records/RecordTypes.h"

@@ -2,7 +2,7 @@
 
 #include "automation/Text.h"
 #include "simulator/document/NewShape.h"
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/AutoShapeKinds.h"
 #include "simulator/files/drawing/ExtrusionCodes.h"
 #include "simulator/files/drawing/FillCodes.h"
@@ -14,9 +14,9 @@
 #include "simulator/files/drawing/ShadowCodes.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/WordArtCodes.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 
 #include <algorithm>
 
@@ -196,7 +196,7 @@ void ShapeReader::readIdentity(const Record& record, const Looks& looks, Shape& 
     const Property* const regroup = looks.own(property::regroup);
     shape.formerGroup = regroup == nullptr ? 0 : static_cast<std::int32_t>(regroup->value);
     if (const Record* const client = record.find(type::ArtClientData)) {
-        shape.tags = powerpoint::readTags(*client);
+        shape.tags = records::readTags(*client);
     }
 }
 

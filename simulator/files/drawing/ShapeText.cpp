@@ -1,11 +1,11 @@
 #include "simulator/files/drawing/ShapeText.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/LayoutCodes.h"
 #include "simulator/files/drawing/Placeholders.h"
 #include "simulator/files/drawing/PropertyIds.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 
 namespace simulator::drawing {
 
@@ -16,7 +16,7 @@ namespace type = records::type;
 
 text::Numbering numberingIn(const Record& record) {
     const Record* const client = record.find(type::ArtClientData);
-    const auto data = client == nullptr ? std::nullopt : powerpoint::readData(*client, text::extensionTag);
+    const auto data = client == nullptr ? std::nullopt : records::readData(*client, text::extensionTag);
     if (!data || data->size() < records::headerSize) {
         return {};
     }

@@ -1,6 +1,6 @@
 #include "simulator/files/drawing/ShapeWriter.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/Anchor.h"
 #include "simulator/files/drawing/AutoShapeKinds.h"
 #include "simulator/files/drawing/Patches.h"
@@ -9,8 +9,8 @@
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/ShapeProperties.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 #include "simulator/files/text/TextRecords.h"
 
 #include <algorithm>
@@ -77,9 +77,9 @@ Record clientDataOf(const Shape& shape) {
     if (shape.placeholder) {
         data.children.push_back(placeholderAtom(*shape.placeholder));
     }
-    powerpoint::putTags(data, shape.tags);
+    records::putTags(data, shape.tags);
     if (shape.text && text::isNumbered(*shape.text)) {
-        powerpoint::putData(data, text::extensionTag, bytesOf(text::numberingRecord()));
+        records::putData(data, text::extensionTag, bytesOf(text::numberingRecord()));
     }
     return data;
 }

@@ -1,7 +1,7 @@
 #include "simulator/files/powerpoint/BlankDocument.h"
 
 #include "simulator/document/NewShape.h"
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/DrawingIds.h"
 #include "simulator/files/drawing/PropertyIds.h"

@@ -1,7 +1,7 @@
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
 
-#include "simulator/files/Bytes.h"
-#include "simulator/files/ColorBits.h"
+#include "simulator/files/bytes/Bytes.h"
+#include "simulator/files/bytes/ColorBits.h"
 
 namespace simulator::powerpoint {
 

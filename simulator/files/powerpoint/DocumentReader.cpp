@@ -1,6 +1,6 @@
 #include "simulator/files/powerpoint/DocumentReader.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/ConnectionRules.h"
 #include "simulator/files/drawing/DrawingGroup.h"
 #include "simulator/files/drawing/ShapeHead.h"
@@ -10,9 +10,9 @@
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
 #include "simulator/files/powerpoint/Streams.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 
 #include <set>
 
@@ -149,7 +149,7 @@ private:
         const Record* const name = record.find(type::CString, slideNameInstance);
         slide->name = name == nullptr ? std::u16string() : files::utf16Text(name->data);
         slide->layout = SlideAtom(record).layout;
-        slide->tags = readTags(record);
+        slide->tags = records::readTags(record);
         origin->document = origin_;
         origin->object = entry.object();
         origin->entry = std::move(entry);

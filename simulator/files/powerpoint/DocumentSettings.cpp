@@ -1,12 +1,12 @@
 #include "simulator/files/powerpoint/DocumentSettings.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/powerpoint/GridSpacing.h"
 #include "simulator/files/powerpoint/Streams.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 
 #include <algorithm>
 
@@ -68,7 +68,7 @@ void readSettings(const Record& document, Presentation& presentation) {
     presentation.slideWidth = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
     presentation.slideHeight = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
     if (const Record* const list = document.find(type::DocInfoList)) {
-        presentation.tags = readTags(*list);
+        presentation.tags = records::readTags(*list);
         presentation.gridDistance = readGridSpacing(*list).value_or(presentation.gridDistance);
     }
     const Record* const view = slideView(document);
@@ -80,7 +80,7 @@ void writeSettings(Record& document, const Presentation& presentation, const Pre
         writeSize(document.find(type::DocumentAtom)->data, presentation.slideWidth, presentation.slideHeight);
     }
     if (!(presentation.tags == origin.tags)) {
-        putTags(docInfoList(document), presentation.tags);
+        records::putTags(docInfoList(document), presentation.tags);
     }
     if (presentation.gridDistance != origin.gridDistance) {
         writeGridSpacing(docInfoList(document), presentation.gridDistance);

@@ -1,6 +1,6 @@
 #include "simulator/files/powerpoint/DocumentWriter.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/powerpoint/BlankDocument.h"
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
 #include "simulator/files/powerpoint/DocumentSettings.h"

@@ -1,11 +1,11 @@
 #include "simulator/files/powerpoint/GridSpacing.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/Codes.h"
-#include "simulator/files/powerpoint/Tags.h"
 #include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordReader.h"
 #include "simulator/files/records/RecordTypes.h"
+#include "simulator/files/records/Tags.h"
 
 namespace simulator::powerpoint {
 
@@ -44,7 +44,7 @@ Place findGrid(const std::string& extension) {
 } // namespace
 
 std::optional<float> readGridSpacing(const Record& settings) {
-    const auto extension = readData(settings, tagName);
+    const auto extension = records::readData(settings, tagName);
     const Place place = extension ? findGrid(*extension) : Place();
     std::optional<float> points;
     if (place.isThere) {
@@ -58,13 +58,13 @@ std::optional<float> readGridSpacing(const Record& settings) {
 }
 
 void writeGridSpacing(Record& settings, float points) {
-    std::string extension = readData(settings, tagName).value_or(std::string());
+    std::string extension = records::readData(settings, tagName).value_or(std::string());
     const Place place = findGrid(extension);
     const std::uint32_t units = drawing::code(double{points} * unitsPerPoint);
     const Record atom = Record::atom(
         type::GridSpacing10Atom, files::ByteWriter().write<std::uint32_t>(units).write<std::uint32_t>(units).take());
     extension.replace(place.offset, place.isThere ? records::sizeOfRecord(extension, place.offset) : 0, bytesOf(atom));
-    putData(settings, tagName, extension);
+    records::putData(settings, tagName, extension);
 }
 
 } // namespace simulator::powerpoint

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "simulator/document/Constants.h"
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "simulator/files/powerpoint/PersistReader.h"
 
 #include "automation/Text.h"
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/Damage.h"

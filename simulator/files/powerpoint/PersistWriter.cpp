@@ -1,6 +1,6 @@
 #include "simulator/files/powerpoint/PersistWriter.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/CompoundWriter.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/RecordTypes.h"

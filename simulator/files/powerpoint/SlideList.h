@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/records/Record.h"
 
 /// The lists of a document's slides, masters and notes, with the outline of each slide.

@@ -1,7 +1,7 @@
 #include "simulator/files/powerpoint/SlideWriter.h"
 
 #include "automation/Text.h"
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/ConnectionRules.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/ShapeWriter.h"
@@ -9,7 +9,7 @@
 #include "simulator/files/powerpoint/Layouts.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
 #include "simulator/files/powerpoint/Streams.h"
-#include "simulator/files/powerpoint/Tags.h"
+#include "simulator/files/records/Tags.h"
 
 #include <algorithm>
 
@@ -89,7 +89,7 @@ void writeSettings(Record& record, const Slide& slide, const SlideOrigin* origin
     }
     writeName(record, slide, origin);
     if (!(slide.tags == (origin == nullptr ? TagList() : origin->tags))) {
-        putTags(record, slide.tags);
+        records::putTags(record, slide.tags);
     }
 }
 

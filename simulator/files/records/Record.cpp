@@ -1,6 +1,6 @@
 #include "simulator/files/records/Record.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
 

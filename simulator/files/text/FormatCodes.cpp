@@ -1,6 +1,6 @@
 #include "simulator/files/text/FormatCodes.h"
 
-#include "simulator/files/ColorBits.h"
+#include "simulator/files/bytes/ColorBits.h"
 
 #include <cmath>
 

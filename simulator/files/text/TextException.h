@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 
 #include <array>
 #include <span>

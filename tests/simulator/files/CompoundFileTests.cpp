@@ -1,4 +1,4 @@
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
 

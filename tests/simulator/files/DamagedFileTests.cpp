@@ -1,6 +1,6 @@
 #include "automation/Text.h"
-#include "simulator/files/Bytes.h"
 #include "simulator/files/WholeFile.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
 #include "simulator/files/powerpoint/DocumentReader.h"

@@ -1,5 +1,5 @@
 #include "simulator/document/SlideLayout.h"
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/CompoundReader.h"
 #include "simulator/files/compound/CompoundWriter.h"
 #include "simulator/files/powerpoint/DocumentReader.h"

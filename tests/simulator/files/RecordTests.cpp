@@ -1,4 +1,4 @@
-#include "simulator/files/DamagedPresentation.h"
+#include "simulator/files/bytes/DamagedPresentation.h"
 #include "simulator/files/records/RecordReader.h"
 #include "simulator/files/records/RecordTypes.h"
 

@@ -1,6 +1,6 @@
 #include "host/command/Options.h"
-#include "simulator/files/DamagedPresentation.h"
 #include "simulator/files/WholeFile.h"
+#include "simulator/files/bytes/DamagedPresentation.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
 #include "simulator/files/powerpoint/DocumentWriter.h"
 #include "tests/trials/command/Commands.h"

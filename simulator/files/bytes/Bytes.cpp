@@ -1,4 +1,4 @@
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 
 #include <array>
 #include <bit>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/files/DamagedPresentation.h"
+#include "simulator/files/bytes/DamagedPresentation.h"
 
 #include <concepts>
 #include <cstdint>

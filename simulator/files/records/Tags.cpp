@@ -1,16 +1,13 @@
-#include "simulator/files/powerpoint/Tags.h"
+#include "simulator/files/records/Tags.h"
 
-#include "simulator/files/Bytes.h"
+#include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/records/RecordTypes.h"
 
 #include <algorithm>
 
-namespace simulator::powerpoint {
+namespace simulator::records {
 
 namespace {
-
-using records::Record;
-namespace type = records::type;
 
 constexpr std::uint16_t nameInstance = 0;
 constexpr std::uint16_t valueInstance = 1;
@@ -101,4 +98,4 @@ void putData(Record& owner, std::u16string_view name, const std::optional<std::s
     dropEmptyTags(owner);
 }
 
-} // namespace simulator::powerpoint
+} // namespace simulator::records
