@@ -2,8 +2,8 @@
 
 #include "host/world/TemporaryFolder.h"
 
-#include <fcntl.h>
 #include <sys/ioctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -11,7 +11,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <string_view>
-#include <thread>
 
 namespace host {
 
@@ -19,34 +18,21 @@ namespace {
 
 constexpr std::array endings{SIGINT, SIGTERM, SIGHUP, SIGPIPE};
 
-/// Signals go from the handler, which may do next to nothing, to the thread that cleans up.
-struct Bell {
-    int read = -1;
-    int write = -1;
-};
-
-Bell& bell() {
-    static Bell one;
-    return one;
-}
-
-void ring(int signal) {
-    const int error = errno;
-    const auto number = static_cast<unsigned char>(signal);
-    const bool isHeard = ::write(bell().write, &number, 1) == 1;
-    while (isHeard && signal == SIGPIPE) { // NOLINT(bugprone-infinite-loop): the other thread ends the program
-        pause();                           // nobody reads what would be written next
+/// Ends the program as the signal would, without temporary folders. It may come while memory is being allocated or a
+/// folder made, so that another program has to remove them.
+void cleanUp(int signal) {
+    if (const std::filesystem::path* const root = TemporaryFolder::root(); root != nullptr) {
+        const pid_t remover = _Fork(); // `fork` waits for the heap
+        if (remover == 0) {
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the others take texts that may be changed
+            execl("/bin/rm", "rm", "-rf", "--", root->c_str(), nullptr);
+            _exit(EXIT_FAILURE);
+        }
+        while (remover > 0 && waitpid(remover, nullptr, 0) < 0 && errno == EINTR) {
+        }
     }
-    errno = error;
-}
-
-void cleanUpAtTheBell() {
-    unsigned char signal = 0;
-    while (::read(bell().read, &signal, 1) != 1) {
-    }
-    TemporaryFolder::removeAll();
     std::signal(signal, SIG_DFL);
-    kill(getpid(), signal);
+    raise(signal);
 }
 
 /// What the starter of the program wants to be ignored, `nohup` say, stays so.
@@ -54,7 +40,9 @@ void handle(int signal, void (*from)(int), void (*to)(int)) {
     struct sigaction action {};
     if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler == from) {
         action.sa_handler = to;
-        action.sa_flags = SA_RESTART;
+        for (const int other : endings) {
+            sigaddset(&action.sa_mask, other);
+        }
         sigaction(signal, &action, nullptr);
     }
 }
@@ -62,20 +50,14 @@ void handle(int signal, void (*from)(int), void (*to)(int)) {
 } // namespace
 
 OwnTerminal::OwnTerminal() {
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
-        return;
-    }
-    bell() = {ends[0], ends[1]};
-    std::thread(cleanUpAtTheBell).detach();
     for (const int signal : endings) {
-        handle(signal, SIG_DFL, ring);
+        handle(signal, SIG_DFL, cleanUp);
     }
 }
 
 OwnTerminal::~OwnTerminal() {
     for (const int signal : endings) {
-        handle(signal, ring, SIG_DFL);
+        handle(signal, cleanUp, SIG_DFL);
     }
 }
 

@@ -18,6 +18,9 @@ public:
     /// Removes all of them, before the program ends without leaving its scopes. No other is made from then on: who
     /// tries to waits for the end.
     static void removeAll();
+    /// The folder that holds all of them and nothing else, for a signal handler, which must not call `removeAll`; null
+    /// as long as none has been made.
+    [[nodiscard]] static const std::filesystem::path* root() noexcept;
 
 private:
     std::filesystem::path path_;
