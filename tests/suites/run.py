@@ -112,6 +112,8 @@ def run(selection, jobs):
                 outcome = "did not run: what it needs failed"
             elif skipped and not good + bad:
                 outcome = next(each for each in lines if SKIPPED.match(each))
+            else:
+                outcome += "".join(f": {why}" for each, why in zip(lines, lines[1:]) if each.endswith(": Skipped"))
             if suites[name][0] != "setup" or bad:
                 screen.say(f"{name:52s}{outcome}  ({seconds:.0f} s)")
                 passed, failed, left_out = passed + good, failed + bad, left_out + sum(skipped)
