@@ -21,31 +21,29 @@ public:
     static constexpr std::u16string_view Prefixe = u"ZOR";
 
     // Marking and lookup.
-    std::int16_t NbDiapositives =
-        0; ///< slides found by the last `MarqueDiapositives`; rewritten by `VerifieDiapositives`
-    std::int16_t FormeNonTrouvee = 0; ///< -1 when the last `ChercheForme` found nothing, else 0
-    std::int32_t NiveauForme =
-        0; ///< 0: the last shape found carries the identity itself; n: an item at group level n does
-    std::int16_t NbFormesLibres = 0; ///< freeforms met inside groups when asked for "msoFreeform"; only counted
-    std::int16_t NbParchemins = 0;   ///< horizontal scrolls met when asked for "msoShapeHorizontalScroll"; only counted
+    std::int16_t NbDiapositives{};  ///< slides that `MarqueDiapositives` found; rewritten by `VerifieDiapositives`
+    std::int16_t FormeNonTrouvee{}; ///< -1 when the last `ChercheForme` found nothing, else 0
+    std::int32_t NiveauForme{};     ///< 0: the last shape found carries the identity; n: an item at group level n
+    std::int16_t NbFormesLibres{};  ///< freeforms met inside groups when asked for "msoFreeform"; only counted
+    std::int16_t NbParchemins{};    ///< horizontal scrolls met when asked for "msoShapeHorizontalScroll"; only counted
 
     // Set for the current question.
     std::u16string PremierFichier; ///< working name of the question's first file
     std::u16string DossierHote;    ///< the host's folder, as the host gives it
 
-    std::int32_t SystemeMesure = 0; ///< 0 metric, 1 U.S., as the last question 318 found it
+    std::int32_t SystemeMesure{}; ///< 0 metric, 1 U.S., as the last question 318 found it
 
     // Results of `VerifiePresentation`.
-    bool PresentationOuverte = false;
-    bool OuverteSousNom = false;
-    bool DansDossierHote = false;
-    bool PresentationActive = false;
+    bool PresentationOuverte{};
+    bool OuverteSousNom{};
+    bool DansDossierHote{};
+    bool PresentationActive{};
 
     // Results of `VerifieDiapositives`, which keep their values when it is not run.
-    bool DiapoC = false;
-    bool DiapoD = false;
-    bool DiapoE = false;
-    bool DiapositivesConformes = false;
+    bool DiapoC{};
+    bool DiapoD{};
+    bool DiapoE{};
+    bool DiapositivesConformes{};
 
     /// Marks slide i "ZORi"; returns the number of slides, as 16 bits.
     std::int16_t MarqueDiapositives(const ppt::Application& application);

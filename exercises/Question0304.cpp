@@ -5,7 +5,7 @@ namespace exercises {
 class Question0304 final : public Question {
 public:
     Question0304(std::int32_t number, const Environment& environment)
-        : Question(number, environment, {{u"", u"Plan exo 3.rtf", false}, {u"", u"Plan exo 3.ppt", false}}) {}
+        : Question(number, environment, {{u"", u"Plan exo 3.rtf"}, {u"", u"Plan exo 3.ppt"}}) {}
 
 private:
     void prepare() override { prepareSlides(); }

@@ -7,7 +7,7 @@ namespace exercises {
 class Question0305 final : public Question {
 public:
     Question0305(std::int32_t number, const Environment& environment)
-        : Question(number, environment, {{u"17305305.doc", u"Conseils.doc", false}}) {}
+        : Question(number, environment, {{u"17305305.doc", u"Conseils.doc"}}) {}
 
 private:
     void prepare() override { prepareSlides(); }

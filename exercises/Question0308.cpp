@@ -2,6 +2,7 @@
 
 #include "automation/Integer.h"
 
+#include <algorithm>
 #include <array>
 
 namespace exercises {
@@ -12,8 +13,8 @@ using automation::increase;
 using automation::narrow;
 
 std::u16string_view trim(std::u16string_view text) {
-    const auto first = text.find_first_not_of(u' ');
-    return first == std::u16string_view::npos ? u"" : text.substr(first, text.find_last_not_of(u' ') - first + 1);
+    const std::u16string_view kept = text.substr(0, text.find_last_not_of(u' ') + 1);
+    return kept.substr(std::min(kept.find_first_not_of(u' '), kept.size()));
 }
 
 } // namespace

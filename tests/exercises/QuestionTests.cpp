@@ -1,5 +1,6 @@
 #include "automation/Text.h"
 #include "automation/observe/CallTrace.h"
+#include "collections/Sequence.h"
 #include "exercises/Catalogue.h"
 #include "host/world/TemporaryFolder.h"
 #include "module/Session.h"
@@ -168,7 +169,11 @@ TEST_F(Questions, KeepTheirFrameBetweenCreationAndClosing) {
     const ObjectPtr files = question->FichiersDeTravail();
     EXPECT_EQ(question->FichiersDeTravail(), files);
     EXPECT_EQ(say(LateBound(files), u"count"), automation::Value(2));
-    EXPECT_EQ(errorNumber([&] { ask(LateBound(files), u"Item", 3); }), 9);
+    for (const std::int32_t outside : {0, 3}) {
+        EXPECT_EQ(errorNumber([&] { ask(LateBound(files), u"Item", outside); }), 9);
+    }
+    std::vector<bool> full(std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(errorNumber([&] { collections::append(full, true); }), 6);
 
     const auto early = errorOf([&] { question->TestePoint(); });
     ASSERT_TRUE(early) << "there is no application before Prepare";
@@ -178,6 +183,10 @@ TEST_F(Questions, KeepTheirFrameBetweenCreationAndClosing) {
     EXPECT_NE(first, nullptr);
     EXPECT_EQ(errorNumber([&] { question->TestePoint(); }), 91);
     EXPECT_NE(question->ComplementInfo(), first) << "each attempt has its own";
+
+    EXPECT_EQ(errorNumber([&] { say(LateBound(question), u"Prepare", application.object(), u"C:\\"); }),
+              requestRefused);
+    EXPECT_EQ(question->PathDossierParDefaut(), u"C:\\") << "the third argument may be left out";
 
     machine.createFile(u"Plan exo 3.rtf");
     for (int number = exercises::firstQuestion; number <= exercises::lastQuestion; ++number) {

@@ -110,6 +110,7 @@ TEST_F(ModuleFaults, EveryOperationIsRefusedInEveryCallOfEveryOther) {
     runs([&] { module.TestePoint(); });
     EXPECT_FALSE(module.ErreurGenerale());
     EXPECT_EQ(module.CauseErreur(), u"");
+    EXPECT_TRUE(module.Complement()) << "question 301 finds nothing wrong, but it has been asked";
     runs([&] { module.Fermer(); });
     runs([&] { module.Quitter(application, window); });
     EXPECT_FALSE(machine.isPowerPointRunning());
