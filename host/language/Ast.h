@@ -50,6 +50,7 @@ enum class Operator : std::uint8_t {
     Add,
     Subtract,
     Modulo,
+    DivideWhole,
     Multiply,
     Divide,
     Negate,
@@ -65,7 +66,7 @@ struct Expression {
     std::variant<Literal, Omitted, Subject, Reference, Operation> node;
 };
 
-/// `x = value`, `x.Member = value`, with or without `Set`.
+/// `x = value`, `x(index) = value`, `x.Member = value`, with or without `Set`.
 struct Assignment {
     Expression target; ///< a reference
     Expression value;
@@ -99,9 +100,26 @@ struct ExpectError {
     std::vector<Statement> statements;
 };
 
-/// Variables with the values that their types begin with; one that is set already keeps its value.
+/// `first To last`, the places of a dimension of an array; from 0 where there is no first.
+struct Bounds {
+    std::optional<Expression> first;
+    Expression last;
+};
+
+/// A variable, with what it, or each element of it, begins with.
+struct Declared {
+    std::u16string name;
+    bool isArray = false;
+    std::vector<Bounds> dimensions; ///< none for an array that has no elements yet
+    automation::Value initial;
+};
+
+/// `Dim`: a variable that is set already keeps its value. `ReDim`: every one becomes an array anew, with the elements
+/// that it has where they are to be preserved.
 struct Declaration {
-    std::vector<std::pair<std::u16string, automation::Value>> variables;
+    std::vector<Declared> variables;
+    bool isAnew = false;
+    bool preserves = false;
 };
 
 /// Statements in which a dot that begins a name stands behind an object.

@@ -262,7 +262,8 @@ bool looksLikeConstant(std::u16string_view name) {
 }
 
 std::vector<std::u16string_view> reservedNames() {
-    return {u"Application", u"Array", u"Files", u"Host", u"Learner", u"PowerPoint", u"Registry", u"RGB"};
+    return {u"Application", u"Array",      u"Files",    u"Host", u"LBound",
+            u"Learner",     u"PowerPoint", u"Registry", u"RGB",  u"UBound"};
 }
 
 bool isReserved(std::u16string_view name) {

@@ -22,7 +22,7 @@ struct Infix {
 };
 constexpr std::size_t levelOfNot = 2;
 constexpr std::size_t levelOfTerms = 4;
-constexpr std::size_t levelOfOperands = 8;
+constexpr std::size_t levelOfOperands = 9;
 constexpr auto infixes = std::to_array<Infix>({
     {u"Or", Operator::Or, 0},
     {u"And", Operator::And, 1},
@@ -37,8 +37,9 @@ constexpr auto infixes = std::to_array<Infix>({
     {u"+", Operator::Add, 5},
     {u"-", Operator::Subtract, 5},
     {u"Mod", Operator::Modulo, 6},
-    {u"*", Operator::Multiply, 7},
-    {u"/", Operator::Divide, 7},
+    {u"\\", Operator::DivideWhole, 7},
+    {u"*", Operator::Multiply, 8},
+    {u"/", Operator::Divide, 8},
 });
 
 const Infix* infixAt(const Token& token, std::size_t level) {

@@ -56,8 +56,6 @@ const automation::MemberTable& Functions::members() const {
         method<&This::as<std::int32_t>>(u"CLng", u"Expression"),
         method<&This::as<float>>(u"CSng", u"Expression"),
         method<&This::as<double>>(u"CDbl", u"Expression"),
-        method<&This::lowerBound>(u"LBound"),
-        method<&This::upperBound>(u"UBound"),
         method<&This::message>(u"MsgBox", u"Prompt Buttons Title"),
         automation::property<&This::debug>(u"Debug"),
     };

@@ -28,10 +28,6 @@ private:
     [[nodiscard]] double floor(double number) const;
     [[nodiscard]] double abs(double number) const;
     template <typename T> [[nodiscard]] T as(const Value& value) const { return value.to<T>(); }
-    [[nodiscard]] std::int32_t lowerBound(const automation::Array& /*array*/) const { return 0; }
-    [[nodiscard]] std::int32_t upperBound(const automation::Array& array) const {
-        return static_cast<std::int32_t>(array.size()) - 1;
-    }
     [[nodiscard]] std::int32_t message(const Value& prompt, const std::optional<Value>& buttons,
                                        const std::optional<Value>& title) const;
     [[nodiscard]] automation::ObjectPtr debug() const;

@@ -2,6 +2,7 @@
 
 #include "automation/Elements.h"
 #include "automation/Text.h"
+#include "host/language/Arrays.h"
 #include "host/language/Likeness.h"
 #include "host/language/Operators.h"
 
@@ -124,9 +125,33 @@ void Interpreter::performAll(const std::vector<Statement>& statements) {
 }
 
 void Interpreter::perform(const Declaration& declaration) {
-    for (const auto& [name, value] : declaration.variables) {
-        variables_.try_emplace(automation::lowerCase(name), value);
+    for (const Declared& declared : declaration.variables) {
+        const std::u16string name = automation::lowerCase(declared.name);
+        const bool isNew = variables_.find(name) == variables_.end();
+        if (isNew || declaration.isAnew) {
+            Value value = declared.isArray ? dimensioned(declared) : declared.initial;
+            if (declaration.preserves && !isNew) {
+                keepElements(value, variables_[name]);
+            }
+            variables_[name] = std::move(value);
+        }
     }
+}
+
+Value Interpreter::dimensioned(const Declared& declared) {
+    const auto numberOf = [this](const Expression& expression) {
+        const Value value = valueOf(expression);
+        return placed(expression.place, [&] { return plain(value).to<std::int32_t>(); });
+    };
+    std::vector<Dimension> dimensions;
+    std::vector<std::int32_t> firsts;
+    for (const Bounds& bounds : declared.dimensions) {
+        firsts.push_back(bounds.first ? numberOf(*bounds.first) : 0);
+        dimensions.push_back({firsts.back(), numberOf(bounds.last)});
+    }
+    Value array = placed(place_, [&] { return arrayOf(dimensions, declared.initial); });
+    firsts_[automation::lowerCase(declared.name)] = std::move(firsts);
+    return array;
 }
 
 void Interpreter::perform(const With& with) {
@@ -218,8 +243,7 @@ void Interpreter::perform(const Assignment& assignment) {
     value =
         placed(assignment.value.place, [&] { return assignment.isSet ? Value(value.to<ObjectPtr>()) : plain(value); });
     if (!target.object) {
-        variables_[automation::lowerCase(target.name)] = std::move(value);
-        return;
+        return placed(assignment.target.place, [&] { setVariable(target, std::move(value)); });
     }
     const Value object = valueOf(*target.object);
     std::vector<Value> arguments = argumentsOf(target);
@@ -227,6 +251,21 @@ void Interpreter::perform(const Assignment& assignment) {
     const std::vector<std::u16string_view> parameters = viewsOf(target.parameters);
     const Name name(target.name, {}, parameters);
     placed(assignment.target.place, [&] { put(object, name, arguments, assignment.isSet); });
+}
+
+void Interpreter::setVariable(const Reference& target, Value value) {
+    const std::u16string name = automation::lowerCase(target.name);
+    if (target.arguments.empty()) {
+        firsts_.erase(name);
+        variables_[name] = std::move(value);
+        return;
+    }
+    const std::vector<Value> indices = argumentsOf(target);
+    const auto variable = variables_.find(name);
+    if (variable == variables_.end()) {
+        automation::raise(RunTimeError::TypeMismatch);
+    }
+    setElement(variable->second, indices, firstsOf(name), std::move(value));
 }
 
 void Interpreter::perform(const Check& check) {
@@ -289,6 +328,9 @@ Value Interpreter::valueOf(const Reference& reference, Position place) {
     const std::vector<std::u16string_view> parameters = viewsOf(reference.parameters);
     const Name name(reference.name, {}, parameters);
     return placed(place, [&] {
+        if (object.is<automation::Array>() && reference.name.empty()) {
+            return elementOf(object, arguments, {});
+        }
         return reference.object ? reach(object, name, Access::GetOrCall, arguments) : head(reference, name, arguments);
     });
 }
@@ -315,13 +357,17 @@ Value Interpreter::head(const Reference& reference, const Name& name, std::span<
         return arguments.empty() ? value : reach(value, Name({}, {}, name.parameters()), Access::GetOrCall, arguments);
     };
     if (const auto variable = variables_.find(automation::lowerCase(reference.name)); variable != variables_.end()) {
-        return itself(variable->second);
+        const Value& held = variable->second;
+        return held.is<automation::Array>() ? elementOf(held, arguments, firstsOf(variable->first)) : itself(held);
     }
     if (name.matches(u"RGB")) {
         return colorOf(automation::parameters::inOrder(u"Red Green Blue", name.parameters(), Access::Call, arguments));
     }
     if (name.matches(u"Array")) {
         return automation::Array(arguments.begin(), arguments.end());
+    }
+    if (name.matches(u"LBound") || name.matches(u"UBound")) {
+        return boundOf(reference, arguments);
     }
     if (functions_.members().find(name) != nullptr) {
         return functions_.invoke(name, Access::GetOrCall, arguments);
@@ -330,6 +376,39 @@ Value Interpreter::head(const Reference& reference, const Name& name, std::span<
         return itself(object);
     }
     return name.matches(u"Application") ? itself(stage_.application()) : memberOfApplication(name, arguments);
+}
+
+/// `LBound` and `UBound` of an array, in its first dimension or another.
+std::int32_t Interpreter::boundOf(const Reference& reference, std::span<const Value> arguments) {
+    if (arguments.empty()) {
+        automation::raise(RunTimeError::ArgumentNotOptional);
+    }
+    const auto dimension = arguments.size() > 1 ? arguments[1].to<std::int32_t>() : 1;
+    if (dimension < 1 || dimension > mostDimensions) {
+        automation::raise(RunTimeError::SubscriptOutOfRange);
+    }
+    const auto outer = static_cast<std::size_t>(dimension) - 1;
+    const Value* array = &arguments.front();
+    for (std::size_t depth = 0; depth < outer; ++depth) {
+        const bool isArray = array->is<automation::Array>() && !array->as<automation::Array>().empty();
+        array = isArray ? &array->as<automation::Array>().front() : array;
+        if (!isArray || !array->is<automation::Array>()) {
+            automation::raise(RunTimeError::SubscriptOutOfRange);
+        }
+    }
+    const auto size = array->to<automation::Array>().size();
+    const auto* const named = std::get_if<Reference>(&reference.arguments.front().node);
+    const bool isVariable = named != nullptr && !named->object && named->arguments.empty();
+    const std::span<const std::int32_t> firsts =
+        isVariable ? firstsOf(automation::lowerCase(named->name)) : std::span<const std::int32_t>();
+    const std::int32_t lowest = outer < firsts.size() ? firsts[outer] : 0;
+    const bool isUpper = automation::equalIgnoringCase(reference.name, u"UBound");
+    return isUpper ? lowest + static_cast<std::int32_t>(size) - 1 : lowest;
+}
+
+std::span<const std::int32_t> Interpreter::firstsOf(const std::u16string& variable) const {
+    const auto found = firsts_.find(variable);
+    return found == firsts_.end() ? std::span<const std::int32_t>() : found->second;
 }
 
 Value Interpreter::memberOfApplication(const Name& name, std::span<Value> arguments) {

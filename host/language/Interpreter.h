@@ -36,7 +36,10 @@ public:
     /// Raises Failure where reading it raises.
     [[nodiscard]] automation::Value evaluate(const Expression& expression);
     /// Drops what the variables hold.
-    void forget() noexcept { variables_.clear(); }
+    void forget() noexcept {
+        variables_.clear();
+        firsts_.clear();
+    }
 
 private:
     void perform(const Call& call);
@@ -60,12 +63,17 @@ private:
     [[nodiscard]] bool contains(const CaseRange& range, const automation::Value& value);
     automation::Value valueOf(const Operation& operation, Position place);
     std::vector<automation::Value> argumentsOf(const Reference& reference);
+    [[nodiscard]] std::span<const std::int32_t> firstsOf(const std::u16string& variable) const;
+    void setVariable(const Reference& target, automation::Value value);
+    [[nodiscard]] automation::Value dimensioned(const Declared& declared);
+    [[nodiscard]] std::int32_t boundOf(const Reference& reference, std::span<const automation::Value> arguments);
     automation::Value head(const Reference& reference, const automation::Name& name,
                            std::span<automation::Value> arguments);
     automation::Value memberOfApplication(const automation::Name& name, std::span<automation::Value> arguments);
 
     Stage& stage_;
-    std::map<std::u16string, automation::Value> variables_; ///< by their names in lower case
+    std::map<std::u16string, automation::Value> variables_;      ///< by their names in lower case
+    std::map<std::u16string, std::vector<std::int32_t>> firsts_; ///< where the dimensions of arrays among them begin
     Functions functions_;
     std::vector<automation::Value> subjects_; ///< of the With around, the innermost one last
     Position place_;                          ///< of the statement being performed

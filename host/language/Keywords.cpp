@@ -11,15 +11,15 @@ namespace {
 using automation::equalIgnoringCase;
 using Words = std::vector<std::u16string_view>;
 
-const Words own{u"And", u"As",   u"Case", u"Dim",  u"Do",  u"Each",  u"Else", u"ElseIf", u"End", u"For",
-                u"If",  u"In",   u"Is",   u"Loop", u"Mod", u"New",   u"Next", u"Not",    u"Or",  u"Select",
-                u"Set", u"Step", u"Sub",  u"Then", u"To",  u"Until", u"Wend", u"While",  u"With"};
+const Words own{u"And", u"As",   u"Call", u"Case", u"Dim", u"Do",    u"Each", u"Else",  u"ElseIf", u"End",   u"For",
+                u"If",  u"In",   u"Is",   u"Loop", u"Mod", u"New",   u"Next", u"Not",   u"Or",     u"ReDim", u"Select",
+                u"Set", u"Step", u"Sub",  u"Then", u"To",  u"Until", u"Wend", u"While", u"With"};
 
 /// What the macro language has beside them.
-const Words foreign{u"AddressOf", u"Attribute", u"Call",     u"Const",  u"Declare", u"Enum",     u"Eqv",
-                    u"Erase",     u"Exit",      u"Function", u"GoSub",  u"GoTo",    u"Imp",      u"Let",
-                    u"Like",      u"Null",      u"On",       u"Option", u"Private", u"Property", u"Public",
-                    u"ReDim",     u"Resume",    u"Static",   u"Stop",   u"Type",    u"TypeOf",   u"Xor"};
+const Words foreign{u"AddressOf", u"Attribute", u"Const",  u"Declare", u"Enum",     u"Eqv",    u"Erase",
+                    u"Exit",      u"Function",  u"GoSub",  u"GoTo",    u"Imp",      u"Let",    u"Like",
+                    u"Null",      u"On",        u"Option", u"Private", u"Property", u"Public", u"Resume",
+                    u"Static",    u"Stop",      u"Type",   u"TypeOf",  u"Xor"};
 
 /// What its library has beside Functions.
 const Words foreignProcedures{u"CreateObject", u"Date",  u"Dir",      u"Err",       u"Fix",     u"Format",
@@ -27,7 +27,7 @@ const Words foreignProcedures{u"CreateObject", u"Date",  u"Dir",      u"Err",   
                               u"Shell",        u"Split", u"Sqr",      u"Str",       u"Timer",   u"TypeName",
                               u"UCase",        u"Val",   u"SendKeys", u"GetObject", u"DoEvents"};
 
-const Words foreignSigns{u"^", u"\\"};
+const Words foreignSigns{u"^"};
 
 bool isAmong(const Words& words, std::u16string_view name) {
     return std::any_of(words.begin(), words.end(),
@@ -45,10 +45,11 @@ bool isForeignProcedure(std::u16string_view name) {
 }
 
 const std::vector<std::u16string_view>& verbs() {
-    static const Words all{u"before", u"check",  u"class",  u"contested", u"course", u"delivered", u"documented",
-                           u"error",  u"expect", u"letter", u"question",  u"remark", u"scenario",  u"task",
-                           u"Case",   u"Dim",    u"Do",     u"ElseIf",    u"End",    u"For",       u"If",
-                           u"Loop",   u"Next",   u"Select", u"Set",       u"Wend",   u"While",     u"With"};
+    static const Words all{u"before",     u"check",  u"class",  u"contested", u"course",   u"delivered",
+                           u"documented", u"error",  u"expect", u"letter",    u"question", u"remark",
+                           u"scenario",   u"task",   u"Call",   u"Case",      u"Dim",      u"Do",
+                           u"ElseIf",     u"End",    u"For",    u"If",        u"Loop",     u"Next",
+                           u"ReDim",      u"Select", u"Set",    u"Wend",      u"While",    u"With"};
     return all;
 }
 

@@ -1,6 +1,7 @@
 #include "host/language/LineParser.h"
 
 #include "automation/Text.h"
+#include "host/language/Arrays.h"
 #include "host/language/Constants.h"
 #include "host/language/Functions.h"
 #include "host/language/Keywords.h"
@@ -21,8 +22,10 @@ Statement LineParser::statement() {
         result.node = check();
     } else if (takeWord(u"expect")) {
         result.node = takeWord(u"error") ? expectedFailure() : expectation();
-    } else if (takeWord(u"Dim")) {
+    } else if (peek().isWord(u"Dim") || peek().isWord(u"ReDim")) {
         result.node = declaration();
+    } else if (takeWord(u"Call")) {
+        result.node = call();
     } else if (takeWord(u"Set")) {
         if (peek().kind != TokenKind::Name && !peek().isSymbol(u".")) {
             fail("expected a variable or a member");
@@ -128,7 +131,9 @@ void LineParser::requireAssignable(const Expression& target) {
         throw SyntaxError(
             {target.place, "expected a variable, found the fixed name '" + automation::toUtf8(reference.name) + "'"});
     }
-    if (reference.name.empty() || (!isVariable && reference.object == nullptr)) {
+    const bool isElement = reference.object == nullptr && reference.parameters.empty() && !isReserved(reference.name) &&
+                           !isFunction(reference.name) && !isMemberInPowerPoint(u"Application", reference.name);
+    if (reference.name.empty() || (!isVariable && !isElement && reference.object == nullptr)) {
         throw SyntaxError({target.place, "expected a variable or a member before '='"});
     }
 }
@@ -168,13 +173,46 @@ std::u16string LineParser::variable() {
     return found;
 }
 
+LineParser::Node LineParser::call() {
+    if ((peek().kind != TokenKind::Name || isKeyword(peek().text)) && !peek().isSymbol(u".")) {
+        fail("expected a member");
+    }
+    return Call{chain()};
+}
+
 LineParser::Node LineParser::declaration() {
     Declaration node;
+    node.isAnew = take().isWord(u"ReDim");
+    node.preserves = node.isAnew && takeWord(u"Preserve");
     do {
-        std::u16string declared = variable();
-        node.variables.emplace_back(std::move(declared), takeWord(u"As") ? initialValue() : automation::Value());
+        const Position place = peek().place;
+        node.variables.push_back(declared());
+        if (node.isAnew && node.variables.back().dimensions.empty()) {
+            throw SyntaxError({place, "expected an array with its bounds, as in ReDim a(1 To 3)"});
+        }
     } while (takeSymbol(u","));
     return node;
+}
+
+Declared LineParser::declared() {
+    Declared result{variable(), takeSymbol(u"("), {}, {}};
+    if (result.isArray && !takeSymbol(u")")) {
+        do {
+            if (result.dimensions.size() == mostDimensions) {
+                fail("expected at most " + std::to_string(mostDimensions) + " dimensions");
+            }
+            result.dimensions.push_back({std::nullopt, expression()});
+            if (takeWord(u"To")) {
+                Bounds& bounds = result.dimensions.back();
+                bounds.first = std::exchange(bounds.last, expression());
+            }
+        } while (takeSymbol(u","));
+        requireSymbol(u")");
+    }
+    if (takeWord(u"As")) {
+        result.initial = initialValue();
+    }
+    return result;
 }
 
 automation::Value LineParser::initialValue() {

@@ -27,7 +27,9 @@ private:
     Node expectedFailure();
     Node assignment(Expression target, bool isSet);
     Node callOrAssignment();
+    Node call();
     Node declaration();
+    Declared declared();
     automation::Value initialValue();
     std::vector<std::u16string> complement();
     ExpectedError expectedError();

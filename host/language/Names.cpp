@@ -12,6 +12,11 @@ namespace host::language {
 
 namespace {
 
+/// False for an element of an array, and for a member.
+bool isVariable(const Reference& target) {
+    return !target.object && target.arguments.empty();
+}
+
 class Names {
 public:
     void read(const std::vector<Statement>& statements) {
@@ -32,10 +37,10 @@ private:
     void visit(const Assignment& assignment) {
         visit(assignment.value);
         const auto& target = std::get<Reference>(assignment.target.node);
-        if (target.object) {
-            visit(assignment.target);
-        } else {
+        if (isVariable(target)) {
             set(target.name);
+        } else {
+            visit(assignment.target);
         }
     }
     void visit(const ExpectValues& expectation) {
@@ -47,8 +52,14 @@ private:
     /// What must raise may raise by its name.
     void visit(const ExpectError& expectation) { setAllOf(expectation.statements); }
     void visit(const Declaration& declaration) {
-        for (const auto& [name, value] : declaration.variables) {
-            set(name);
+        for (const Declared& declared : declaration.variables) {
+            for (const Bounds& bounds : declared.dimensions) {
+                visit(bounds.last);
+                if (bounds.first) {
+                    visit(*bounds.first);
+                }
+            }
+            set(declared.name);
         }
     }
     void visit(const With& with) {
@@ -129,7 +140,7 @@ private:
     void setAllOf(const std::vector<Statement>& statements) {
         for (const Statement& statement : statements) {
             if (const auto* const assignment = std::get_if<Assignment>(&statement.node)) {
-                if (const auto& target = std::get<Reference>(assignment->target.node); !target.object) {
+                if (const auto& target = std::get<Reference>(assignment->target.node); isVariable(target)) {
                     set(target.name);
                 }
             }

@@ -49,7 +49,7 @@ Value wholeOf(Operator sign, std::int64_t a, std::int64_t b) {
     if (b == 0) {
         automation::raise(RunTimeError::DivisionByZero);
     }
-    return wholeResult(a % b);
+    return wholeResult(sign == Operator::DivideWhole ? a / b : a % b);
 }
 
 Value realOf(Operator sign, double a, double b) {
@@ -70,7 +70,7 @@ Value reckoned(Operator sign, const Value& left, const Value& right) {
         return left.as<std::u16string>() + right.as<std::u16string>();
     }
     const bool areWhole = isWhole(left) && isWhole(right) && sign != Operator::Divide;
-    if (areWhole || sign == Operator::Modulo) {
+    if (areWhole || sign == Operator::Modulo || sign == Operator::DivideWhole) {
         return wholeOf(sign, left.to<std::int32_t>(), right.to<std::int32_t>());
     }
     return realOf(sign, left.to<double>(), right.to<double>());
@@ -125,6 +125,7 @@ Value apply(Operator sign, const Value& left, const Value& right) {
     case Operator::Subtract:
     case Operator::Multiply:
     case Operator::Divide:
+    case Operator::DivideWhole:
     case Operator::Modulo: return reckoned(sign, plainValue(left), plainValue(right));
     default: return holds(sign, plainValue(left), plainValue(right));
     }
