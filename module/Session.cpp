@@ -73,13 +73,11 @@ bool Session::PowerPointVisible() {
     return false;
 }
 
-bool Session::isHung() const noexcept {
-    bool isHung = true;
-    ignoringErrors([&] { isHung = services_.windows.isHung(window_); });
-    return isHung;
+bool Session::isHung() const {
+    return services_.windows.isHung(window_);
 }
 
-bool Session::PowerPointRepond() const noexcept {
+bool Session::PowerPointRepond() const {
     if (isHung()) {
         return false;
     }

@@ -29,11 +29,11 @@ public:
     /// True if PowerPoint's window is visible. Otherwise an invisible PowerPoint that still answers is quit.
     [[nodiscard]] bool PowerPointVisible();
 
-    /// True if PowerPoint hangs, or where that cannot be asked: a call to it would not come back.
-    [[nodiscard]] bool isHung() const noexcept;
+    /// True if PowerPoint hangs: a call to it would not come back.
+    [[nodiscard]] bool isHung() const;
 
     /// True if PowerPoint answers at once: its window state can be read and written. A busy one is not waited for.
-    [[nodiscard]] bool PowerPointRepond() const noexcept;
+    [[nodiscard]] bool PowerPointRepond() const;
 
     /// Maximises PowerPoint and brings its window to the foreground; false if there is no window.
     bool ActiveFenetre();
