@@ -93,7 +93,9 @@ public:
     static constexpr bool required = !isOptional<Plain>;
 
     Parameter(std::span<Value> arguments, std::size_t position)
-        : argument_(position < arguments.size() ? &arguments[position] : nullptr), plain_(convert(argument_)) {}
+        : argument_(position < arguments.size() ? &arguments[position] : nullptr) {
+        convert();
+    }
 
     [[nodiscard]] P pass() { return static_cast<P>(plain_); }
 
@@ -106,25 +108,20 @@ public:
     }
 
 private:
-    static Plain convert(const Value* argument) {
+    void convert() {
         if constexpr (isOptional<Plain>) {
-            if (argument == nullptr || argument->isMissing()) {
-                return std::nullopt;
+            if (argument_ != nullptr && !argument_->isMissing()) {
+                plain_ = argument_->to<typename Plain::value_type>();
             }
-            return argument->to<typename Plain::value_type>();
-        } else {
-            if (argument->isMissing()) {
-                raise(RunTimeError::ArgumentNotOptional);
-            }
-            if (std::is_same_v<Plain, ObjectPtr> && argument->isEmpty()) {
-                return Plain(); // some clients say so that they have no object
-            }
-            return argument->to<Plain>();
+        } else if (argument_->isMissing()) {
+            raise(RunTimeError::ArgumentNotOptional);
+        } else if (!std::is_same_v<Plain, ObjectPtr> || !argument_->isEmpty()) { // some clients have no object so
+            plain_ = argument_->to<Plain>();
         }
     }
 
     Value* argument_;
-    Plain plain_;
+    Plain plain_{};
 };
 
 /// An object variable is written while the function runs.

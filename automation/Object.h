@@ -37,6 +37,9 @@ public:
 
     /// Number of objects alive in this process.
     [[nodiscard]] static std::size_t alive() noexcept;
+
+private:
+    std::shared_ptr<const int> share_;
 };
 
 /// True when both references are nothing, or stand for the same object.

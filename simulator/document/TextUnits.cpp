@@ -83,18 +83,19 @@ std::span<const Span> touching(const TextStory& story, Span range, const Spans& 
     return {first, last};
 }
 
-template <typename Use> auto withUnits(const TextStory& story, Span range, TextUnit unit, const Use& use) {
+/// What a story is cut into: its own list where it keeps one, else one in `made`. A range is one unit of its own.
+const Spans& unitsOf(const TextStory& story, Span range, TextUnit unit, Spans& made) {
     switch (unit) {
-    case TextUnit::Word: return use(touching(story, range, story.words()));
-    case TextUnit::PlainWord: return use(touching(story, range, plainWordsOf(story)));
-    case TextUnit::Paragraph: return use(touching(story, range, story.paragraphs()));
-    case TextUnit::Sentence: return use(touching(story, range, sentencesOf(story.text())));
-    case TextUnit::Line: return use(touching(story, range, linesOf(story.text())));
-    case TextUnit::Run: return use(touching(story, range, runsOf(story)));
+    case TextUnit::Word: return story.words();
+    case TextUnit::PlainWord: return made = plainWordsOf(story);
+    case TextUnit::Paragraph: return story.paragraphs();
+    case TextUnit::Sentence: return made = sentencesOf(story.text());
+    case TextUnit::Line: return made = linesOf(story.text());
+    case TextUnit::Run: return made = runsOf(story);
     case TextUnit::Range:
     case TextUnit::Character: break;
     }
-    return use(std::span<const Span>(&range, 1));
+    return made = {range};
 }
 
 } // namespace
@@ -103,7 +104,8 @@ std::size_t countUnits(const TextStory& story, Span range, TextUnit unit) {
     if (unit == TextUnit::Character || range.length == 0) {
         return range.length;
     }
-    return withUnits(story, range, unit, [](std::span<const Span> units) { return units.size(); });
+    Spans made;
+    return touching(story, range, unitsOf(story, range, unit, made)).size();
 }
 
 Span spanOfUnits(const TextStory& story, Span range, TextUnit unit, std::size_t first, std::size_t count) {
@@ -111,18 +113,18 @@ Span spanOfUnits(const TextStory& story, Span range, TextUnit unit, std::size_t 
         const std::size_t skipped = std::min(first, range.length == 0 ? 0 : range.length - 1);
         return {range.start + skipped, std::min(count, range.length - skipped)};
     }
-    return withUnits(story, range, unit, [&](std::span<const Span> units) -> Span {
-        if (units.empty() || range.length == 0) {
-            return {range.end(), 0};
-        }
-        const std::size_t found = std::min(first, units.size() - 1);
-        const std::size_t start = std::max(units[found].start, range.start);
-        if (count == 0) {
-            return {start, 0};
-        }
-        const std::size_t last = found + std::min(count, units.size() - found) - 1;
-        return {start, std::min(units[last].end(), range.end()) - start};
-    });
+    Spans made;
+    const std::span<const Span> units = touching(story, range, unitsOf(story, range, unit, made));
+    if (units.empty() || range.length == 0) {
+        return {range.end(), 0};
+    }
+    const std::size_t found = std::min(first, units.size() - 1);
+    const std::size_t start = std::max(units[found].start, range.start);
+    if (count == 0) {
+        return {start, 0};
+    }
+    const std::size_t last = found + std::min(count, units.size() - found) - 1;
+    return {start, std::min(units[last].end(), range.end()) - start};
 }
 
 } // namespace simulator

@@ -80,20 +80,14 @@ std::shared_ptr<ColorFormatObject> FontObject::color() const {
             if (gone()) {
                 errors::invalidRequest(u"ColorFormat", u"Le texte qui portait cette couleur n'existe plus.");
             }
-            TextPart now = part;
-            now.span = anchor->span;
-            now.change(&CharacterFormat::color, color);
+            part.at(anchor->span).change(&CharacterFormat::color, color);
         },
         [part] { return schemeOf(*part.shape()); },
-        [part, anchor] {
-            TextPart now = part;
-            now.span = anchor->span;
-            return !now.common(&CharacterFormat::color);
-        });
+        [part, anchor] { return !part.at(anchor->span).common(&CharacterFormat::color); });
 }
 
 automation::ObjectPtr FontObject::parent() const {
-    return std::make_shared<TextRangeObject>(session(), part_.reference(), part_.span);
+    return std::make_shared<TextRangeObject>(session(), part_);
 }
 
 } // namespace simulator

@@ -37,7 +37,7 @@ std::shared_ptr<BulletFormatObject> ParagraphFormatObject::bullet() const {
 }
 
 automation::ObjectPtr ParagraphFormatObject::parent() const {
-    return std::make_shared<TextRangeObject>(session(), part_.reference(), part_.span);
+    return std::make_shared<TextRangeObject>(session(), part_);
 }
 
 } // namespace simulator

@@ -84,7 +84,7 @@ std::shared_ptr<TextRangeObject> SelectionObject::textRange() const {
     if (selection.type() != ppSelectionText) {
         nothingSelected(u"Selection.TextRange");
     }
-    return std::make_shared<TextRangeObject>(session(), selection.shapes().front(), selection.text());
+    return std::make_shared<TextRangeObject>(session(), TextPart(selection.shapes().front(), selection.text()));
 }
 
 std::shared_ptr<SlideRangeObject> SelectionObject::slideRange() const {

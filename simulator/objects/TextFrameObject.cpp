@@ -14,8 +14,8 @@ constexpr float widest = 1584; ///< points
 
 } // namespace
 
-TextFrameObject::TextFrameObject(SessionPtr session, std::weak_ptr<Shape> shape)
-    : PowerPointObject(std::move(session)), part_(std::move(shape), everything) {}
+TextFrameObject::TextFrameObject(SessionPtr session, const ShapePtr& shape)
+    : PowerPointObject(std::move(session)), part_(shape, everything) {}
 
 const automation::MemberTable& TextFrameObject::members() const {
     using automation::method;
@@ -45,8 +45,8 @@ MsoTriState TextFrameObject::hasText() const {
 }
 
 std::shared_ptr<TextRangeObject> TextFrameObject::textRange() const {
-    const Span whole = part_.read([](const TextStory&, Span span) { return span; });
-    return std::make_shared<TextRangeObject>(session(), part_.reference(), whole);
+    return std::make_shared<TextRangeObject>(session(),
+                                             part_.at(part_.read([](const TextStory&, Span span) { return span; })));
 }
 
 void TextFrameObject::deleteText() {

@@ -13,17 +13,24 @@ namespace simulator {
 /// an invalid request where it cannot hold text.
 class TextPart {
 public:
-    TextPart(std::weak_ptr<Shape> shape, Span stretch) noexcept : span(stretch), shape_(std::move(shape)) {}
+    TextPart(const ShapePtr& shape, Span stretch) noexcept : span(stretch), shape_(shape), pointer_(shape.get()) {}
 
     Span span;
 
     [[nodiscard]] ShapePtr shape() const { return alive(shape_); }
-    [[nodiscard]] const std::weak_ptr<Shape>& reference() const noexcept { return shape_; }
+    /// Another stretch of the same text.
+    [[nodiscard]] TextPart at(Span stretch) const noexcept {
+        TextPart other = *this;
+        other.span = stretch;
+        return other;
+    }
 
-    /// Gives `use` the shape's story and the part of the span that holds text of it.
+    /// Gives `use`, which must not let go of shapes, the shape's story and the part of the span that holds text of it.
     template <typename Use> auto read(const Use& use) const {
-        const ShapePtr held = shape();
-        const TextStory& story = storyOf(*held);
+        if (shape_.expired()) {
+            errors::gone();
+        }
+        const TextStory& story = storyOf(*pointer_);
         return use(story, story.clipped(span));
     }
     /// The same for a change of the story: the shape follows where it fits its text, and the presentation is no longer
@@ -82,6 +89,7 @@ private:
     [[nodiscard]] static TextStory& storyOf(Shape& shape);
 
     std::weak_ptr<Shape> shape_;
+    Shape* pointer_; ///< to be read where the shape is alive: to share it costs more than most reading does
 };
 
 } // namespace simulator

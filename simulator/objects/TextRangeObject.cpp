@@ -44,8 +44,8 @@ std::u16string_view memberNameOf(TextUnit unit) {
 
 } // namespace
 
-TextRangeObject::TextRangeObject(SessionPtr session, std::weak_ptr<Shape> shape, Span span, TextUnit unit)
-    : PowerPointObject(std::move(session)), part_(std::move(shape), span), unit_(unit) {}
+TextRangeObject::TextRangeObject(SessionPtr session, TextPart part, TextUnit unit)
+    : PowerPointObject(std::move(session)), part_(std::move(part)), unit_(unit) {}
 
 const automation::MemberTable& TextRangeObject::members() const {
     using automation::method;
@@ -241,7 +241,7 @@ TextRangeObject::Pointer TextRangeObject::paste() {
 }
 
 automation::ObjectPtr TextRangeObject::parent() const {
-    return std::make_shared<TextFrameObject>(session(), part_.reference());
+    return std::make_shared<TextFrameObject>(session(), part_.shape());
 }
 
 Frame TextRangeObject::bounds() const {
@@ -250,7 +250,7 @@ Frame TextRangeObject::bounds() const {
 }
 
 TextRangeObject::Pointer TextRangeObject::at(Span span, TextUnit unit) const {
-    return std::make_shared<TextRangeObject>(session(), part_.reference(), span, unit);
+    return std::make_shared<TextRangeObject>(session(), part_.at(span), unit);
 }
 
 } // namespace simulator

@@ -13,7 +13,7 @@ public:
     using Pointer = std::shared_ptr<TextRangeObject>;
 
     /// `unit` is what the range was asked as, and what it counts.
-    TextRangeObject(SessionPtr session, std::weak_ptr<Shape> shape, Span span, TextUnit unit = TextUnit::Range);
+    TextRangeObject(SessionPtr session, TextPart part, TextUnit unit = TextUnit::Range);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

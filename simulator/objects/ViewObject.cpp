@@ -78,7 +78,7 @@ void ViewObject::paste() const {
         parent()->selection()->textRange()->paste();
     } else if (!clipboard.text.text().empty() && isTextTakenBy(window->selection)) {
         const ShapePtr shape = window->selection.shapes().front();
-        TextRangeObject(session(), shape, {shape->text->text().size(), 0}).paste();
+        TextRangeObject(session(), TextPart(shape, {shape->text->text().size(), 0})).paste();
     } else {
         slide()->shapes()->paste();
     }
