@@ -121,6 +121,7 @@ enum PpPlaceholderType : std::int32_t {
     ppPlaceholderHeader = 14,
     ppPlaceholderFooter = 15,
     ppPlaceholderDate = 16,
+    ppPlaceholderSlideImage = 101, ///< of a notes page: later versions number it so
 };
 
 enum PpColorSchemeIndex : std::int32_t {

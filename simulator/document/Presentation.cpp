@@ -15,13 +15,13 @@ void Presentation::insert(const SlidePtr& slide, std::size_t place) {
     if (slide->name.empty() || isNameTaken(slide->name)) {
         slide->name = u"Slide" + automation::decimal(slide->id - reservedIds);
     }
-    slide->presentation = weak_from_this();
+    slide->settle(weak_from_this());
     order::insert(slides_, slide, place);
 }
 
 void Presentation::remove(const SlidePtr& slide) {
     if (const SlidePtr removed = order::take(slides_, slide)) {
-        removed->presentation.reset();
+        removed->settle({});
     }
 }
 
@@ -42,7 +42,8 @@ void markChanged(Presentation& presentation) noexcept {
     presentation.saved = false;
 }
 
-void markChanged(const Slide& slide) noexcept {
+void markChanged(Slide& slide) noexcept {
+    slide.isTouched = true;
     if (const PresentationPtr presentation = slide.presentation.lock()) {
         markChanged(*presentation);
     }

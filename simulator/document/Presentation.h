@@ -17,8 +17,13 @@ public:
     bool snapToGrid = true;
     float slideWidth = 720;  ///< points
     float slideHeight = 540; ///< points
+    float notesWidth = 540;  ///< points, of notes pages and handouts
+    float notesHeight = 720; ///< points
     ColorScheme colors;
     TagList tags;
+    std::vector<SlidePtr> masters; ///< slide masters and title masters
+    SlidePtr notesMaster;          ///< null where there is none yet
+    SlidePtr handoutMaster;        ///< null where there is none yet
     OriginPtr origin;
 
     [[nodiscard]] const std::vector<SlidePtr>& slides() const noexcept { return slides_; }
@@ -41,7 +46,7 @@ private:
 
 /// Says that something has changed since the presentation was saved: in itself, in a slide, in a shape.
 void markChanged(Presentation& presentation) noexcept;
-void markChanged(const Slide& slide) noexcept;
+void markChanged(Slide& slide) noexcept;
 void markChanged(const Shape& shape) noexcept;
 
 } // namespace simulator

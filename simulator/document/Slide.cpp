@@ -64,11 +64,40 @@ bool Slide::isNameTaken(std::u16string_view wanted) const noexcept {
                        [wanted](const ShapePtr& shape) { return bearsName(*shape, wanted); });
 }
 
+void Slide::settle(const std::weak_ptr<Presentation>& ground) noexcept {
+    presentation = ground;
+    if (notesPage) {
+        notesPage->presentation = ground;
+    }
+}
+
+void Slide::adoptNotesPage(const SlidePtr& page) {
+    notesPage = page;
+    page->owner = weak_from_this();
+    page->presentation = presentation;
+}
+
+void Slide::adoptBackground(const ShapePtr& shape) {
+    background = shape;
+    shape->settle(weak_from_this());
+}
+
 SlidePtr Slide::clone() const {
     auto copy = std::make_shared<Slide>();
+    copy->kind = kind;
     copy->layout = layout;
     copy->tags = tags;
+    copy->followsMasterBackground = followsMasterBackground;
+    copy->displaysMasterShapes = displaysMasterShapes;
+    copy->master = master;
+    copy->isTouched = isTouched;
     copy->origin = origin;
+    if (background) {
+        copy->adoptBackground(background->clone());
+    }
+    if (notesPage) {
+        copy->adoptNotesPage(notesPage->clone());
+    }
     for (const ShapePtr& shape : shapes_) {
         copy->insert(shape->clone(), copy->shapes_.size());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/document/Shape.h"
+#include "simulator/document/SheetKind.h"
 
 #include <algorithm>
 
@@ -10,13 +11,21 @@ class Presentation;
 class Slide;
 using SlidePtr = std::shared_ptr<Slide>;
 
-/// A slide with its shapes, from back to front.
+/// A slide with its shapes, from back to front; or what is made of shapes as one is, a master or a notes page.
 class Slide : public std::enable_shared_from_this<Slide> {
 public:
-    std::int32_t id = 0; ///< unique in the presentation, never used again
+    SheetKind kind = SheetKind::Slide;
+    std::int32_t id = 0; ///< unique in the presentation, never used again; 0 for what is no slide
     std::u16string name;
     PpSlideLayout layout = ppLayoutBlank;
     TagList tags;
+    bool followsMasterBackground = true;
+    bool displaysMasterShapes = true;
+    ShapePtr background;         ///< its own; null where it has none yet
+    std::weak_ptr<Slide> master; ///< the slide master of a slide or a title master
+    SlidePtr notesPage;          ///< of a slide; null where it has none yet
+    std::weak_ptr<Slide> owner;  ///< the slide of a notes page
+    bool isTouched = false;      ///< has changed since it was read or made
     std::weak_ptr<Presentation> presentation;
     OriginPtr origin;
 
@@ -37,7 +46,14 @@ public:
     /// True where a shape or an item of a group has this name, case ignored.
     [[nodiscard]] bool isNameTaken(std::u16string_view wanted) const noexcept;
 
-    /// A copy of the slide and its shapes, tags included.
+    /// Tells a slide and what belongs to it in which presentation they stand.
+    void settle(const std::weak_ptr<Presentation>& ground) noexcept;
+    /// Gives a slide its notes page.
+    void adoptNotesPage(const SlidePtr& page);
+    /// Gives it a background of its own.
+    void adoptBackground(const ShapePtr& shape);
+
+    /// A copy of the slide, its shapes, its background and its notes page, tags included.
     [[nodiscard]] SlidePtr clone() const;
 
 private:

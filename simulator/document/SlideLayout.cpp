@@ -1,5 +1,6 @@
 #include "simulator/document/SlideLayout.h"
 
+#include "simulator/document/Masters.h"
 #include "simulator/document/NewShape.h"
 #include "simulator/document/Presentation.h"
 
@@ -88,6 +89,9 @@ void layOut(Slide& slide, const Layout& layout) {
 }
 
 ShapePtr restorePlaceholder(Slide& slide, PpPlaceholderType type) {
+    if (slide.kind != SheetKind::Slide) {
+        return restoreStandardPlaceholder(slide, type);
+    }
     const Layout* const layout = findLayout(slide.layout);
     if (layout == nullptr) {
         return nullptr;

@@ -13,8 +13,8 @@ void layOut(Slide& slide, const Layout& layout);
 /// none.
 [[nodiscard]] ShapePtr findPlaceholder(const Slide& slide, PpPlaceholderType type) noexcept;
 
-/// Puts a placeholder that the slide's layout has, and that was deleted, back on the slide; null where there is none of
-/// this type to put back.
+/// Puts a placeholder that the slide's layout has, or every master of its kind, and that was deleted, back on it; null
+/// where there is none of this type to put back.
 ShapePtr restorePlaceholder(Slide& slide, PpPlaceholderType type);
 
 } // namespace simulator

@@ -1,9 +1,11 @@
 #include "simulator/objects/PresentationObject.h"
 
+#include "simulator/document/Masters.h"
 #include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/DocumentWindowObject.h"
 #include "simulator/objects/DocumentWindowsObject.h"
+#include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PageSetupObject.h"
 #include "simulator/objects/PresentationsObject.h"
 #include "simulator/objects/SlidesObject.h"
@@ -35,6 +37,12 @@ const automation::MemberTable& PresentationObject::members() const {
         property<&This::application>(u"Application"),
         property<&This::parent>(u"Parent"),
         property<&This::slides>(u"Slides"),
+        property<&This::slideMaster>(u"SlideMaster"),
+        property<&This::hasTitleMaster>(u"HasTitleMaster"),
+        property<&This::titleMaster>(u"TitleMaster"),
+        method<&This::addTitleMaster>(u"AddTitleMaster"),
+        property<&This::notesMaster>(u"NotesMaster"),
+        property<&This::handoutMaster>(u"HandoutMaster"),
         property<&This::pageSetup>(u"PageSetup"),
         property<&This::tags>(u"Tags"),
         property<&This::windows>(u"Windows"),
@@ -118,6 +126,45 @@ std::shared_ptr<DocumentWindowObject> PresentationObject::newWindow() const {
 
 std::shared_ptr<SlidesObject> PresentationObject::slides() const {
     return std::make_shared<SlidesObject>(session(), document());
+}
+
+std::shared_ptr<MasterObject> PresentationObject::slideMaster() const {
+    return objectOf(slideMasterOf(*document()));
+}
+
+MsoTriState PresentationObject::hasTitleMaster() const {
+    const PresentationPtr presentation = document();
+    return triState(titleMasterOf(*presentation, *slideMasterOf(*presentation)) != nullptr);
+}
+
+std::shared_ptr<MasterObject> PresentationObject::titleMaster() const {
+    const PresentationPtr presentation = document();
+    const SlidePtr master = titleMasterOf(*presentation, *slideMasterOf(*presentation));
+    if (!master) {
+        errors::invalidRequest(u"Presentation.TitleMaster", u"La présentation n'a pas de masque de titre.");
+    }
+    return objectOf(master);
+}
+
+std::shared_ptr<MasterObject> PresentationObject::addTitleMaster() const {
+    const PresentationPtr presentation = document();
+    if (titleMasterOf(*presentation, *slideMasterOf(*presentation))) {
+        errors::invalidRequest(u"Presentation.AddTitleMaster", u"La présentation a déjà un masque de titre.");
+    }
+    presentation->saved = false;
+    return objectOf(simulator::addTitleMaster(*presentation));
+}
+
+std::shared_ptr<MasterObject> PresentationObject::notesMaster() const {
+    return objectOf(notesMasterOf(*document()));
+}
+
+std::shared_ptr<MasterObject> PresentationObject::handoutMaster() const {
+    return objectOf(handoutMasterOf(*document()));
+}
+
+std::shared_ptr<MasterObject> PresentationObject::objectOf(const SlidePtr& master) const {
+    return std::make_shared<MasterObject>(session(), master);
 }
 
 std::shared_ptr<TagsObject> PresentationObject::tags() const {

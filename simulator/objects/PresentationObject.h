@@ -9,6 +9,7 @@ namespace simulator {
 class ApplicationObject;
 class DocumentWindowObject;
 class DocumentWindowsObject;
+class MasterObject;
 class PageSetupObject;
 class PresentationsObject;
 class SlidesObject;
@@ -50,6 +51,14 @@ public:
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::shared_ptr<PresentationsObject> parent() const;
     [[nodiscard]] std::shared_ptr<SlidesObject> slides() const;
+    [[nodiscard]] std::shared_ptr<MasterObject> slideMaster() const;
+    [[nodiscard]] MsoTriState hasTitleMaster() const;
+    /// Raises an invalid request where there is none.
+    [[nodiscard]] std::shared_ptr<MasterObject> titleMaster() const;
+    /// Raises an invalid request where there is one.
+    [[nodiscard]] std::shared_ptr<MasterObject> addTitleMaster() const;
+    [[nodiscard]] std::shared_ptr<MasterObject> notesMaster() const;
+    [[nodiscard]] std::shared_ptr<MasterObject> handoutMaster() const;
     /// Another window on it, in front.
     [[nodiscard]] std::shared_ptr<DocumentWindowObject> newWindow() const;
     [[nodiscard]] std::shared_ptr<TagsObject> tags() const;
@@ -71,6 +80,7 @@ public:
 
 private:
     [[nodiscard]] PresentationPtr document() const { return simulator::alive(presentation_); }
+    [[nodiscard]] std::shared_ptr<MasterObject> objectOf(const SlidePtr& master) const;
     [[nodiscard]] std::u16string target(const std::u16string& fileName, PpSaveAsFileType format) const;
 
     std::weak_ptr<Presentation> presentation_;

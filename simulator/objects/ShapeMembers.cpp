@@ -8,6 +8,7 @@
 #include "simulator/objects/FillFormatObject.h"
 #include "simulator/objects/GroupShapesObject.h"
 #include "simulator/objects/LineFormatObject.h"
+#include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PlaceholderFormatObject.h"
 #include "simulator/objects/ShadowFormatObject.h"
 #include "simulator/objects/ShapeCopies.h"
@@ -15,7 +16,6 @@
 #include "simulator/objects/ShapeObject.h"
 #include "simulator/objects/ShapeRangeObject.h"
 #include "simulator/objects/ShapeSelecting.h"
-#include "simulator/objects/SlideObject.h"
 #include "simulator/objects/TagsObject.h"
 #include "simulator/objects/TextEffectFormatObject.h"
 #include "simulator/objects/TextFrameObject.h"
@@ -72,8 +72,8 @@ std::shared_ptr<ApplicationObject> ShapeMembers::application() const {
     return std::make_shared<ApplicationObject>(session());
 }
 
-std::shared_ptr<SlideObject> ShapeMembers::parent() const {
-    return std::make_shared<SlideObject>(session(), nodes().first()->slide);
+std::shared_ptr<PowerPointObject> ShapeMembers::parent() const {
+    return objectOf(session(), nodes().first()->slide);
 }
 
 std::u16string ShapeMembers::name() const {

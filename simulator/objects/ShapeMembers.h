@@ -14,7 +14,6 @@ class PlaceholderFormatObject;
 class ShadowFormatObject;
 class ShapeObject;
 class ShapeRangeObject;
-class SlideObject;
 class TagsObject;
 class TextEffectFormatObject;
 class TextFrameObject;
@@ -28,8 +27,8 @@ public:
     using ShapeGeometry::ShapeGeometry;
 
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    /// The slide.
-    [[nodiscard]] std::shared_ptr<SlideObject> parent() const;
+    /// The slide or the master.
+    [[nodiscard]] std::shared_ptr<PowerPointObject> parent() const;
 
     [[nodiscard]] std::u16string name() const;
     /// Raises an invalid request for a name that another shape of the slide bears.

@@ -5,12 +5,12 @@
 #include "simulator/document/TextFit.h"
 #include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/FreeformBuilderObject.h"
+#include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PlaceholdersObject.h"
 #include "simulator/objects/ShapeCopies.h"
 #include "simulator/objects/ShapeObject.h"
 #include "simulator/objects/ShapeRangeObject.h"
 #include "simulator/objects/ShapeSelecting.h"
-#include "simulator/objects/SlideObject.h"
 #include "simulator/objects/TriState.h"
 
 namespace simulator {
@@ -88,8 +88,8 @@ std::shared_ptr<ApplicationObject> ShapesObject::application() const {
     return std::make_shared<ApplicationObject>(session());
 }
 
-std::shared_ptr<SlideObject> ShapesObject::parent() const {
-    return std::make_shared<SlideObject>(session(), node());
+std::shared_ptr<PowerPointObject> ShapesObject::parent() const {
+    return simulator::objectOf(session(), node());
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::item(const automation::Value& index) const {

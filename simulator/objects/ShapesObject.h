@@ -9,9 +9,9 @@ class FreeformBuilderObject;
 class PlaceholdersObject;
 class ShapeObject;
 class ShapeRangeObject;
-class SlideObject;
 
-/// Shapes: the shapes of a slide, from back to front. New shapes come in front, without tags. Lengths are points.
+/// Shapes: the shapes of a slide, a master or a notes page, from back to front. New shapes come in front, without tags.
+/// Lengths are points.
 class ShapesObject final : public NodeSetObject<Slide> {
 public:
     using NodeSetObject::NodeSetObject;
@@ -19,8 +19,8 @@ public:
     [[nodiscard]] const automation::MemberTable& members() const override;
 
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    /// The slide.
-    [[nodiscard]] std::shared_ptr<SlideObject> parent() const;
+    /// The slide or the master.
+    [[nodiscard]] std::shared_ptr<PowerPointObject> parent() const;
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->shapes().size()); }
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<ShapeObject> item(const automation::Value& index) const;

@@ -1,8 +1,11 @@
 #include "simulator/objects/SlideMembers.h"
 
+#include "simulator/document/Masters.h"
 #include "simulator/document/SlideLayout.h"
 #include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PresentationObject.h"
+#include "simulator/objects/ShapeRangeObject.h"
 #include "simulator/objects/ShapesObject.h"
 #include "simulator/objects/SlideRangeObject.h"
 #include "simulator/objects/TagsObject.h"
@@ -27,6 +30,11 @@ const automation::MemberTable& SlideMembers::sharedMembers() {
         method<&This::duplicate>(u"Duplicate"),
         method<&This::erase>(u"Delete"),
         property<&This::tags>(u"Tags"),
+        property<&This::master>(u"Master"),
+        property<&This::followMasterBackground, &This::setFollowMasterBackground>(u"FollowMasterBackground"),
+        property<&This::displayMasterShapes, &This::setDisplayMasterShapes>(u"DisplayMasterShapes"),
+        property<&This::background>(u"Background"),
+        property<&This::notesPage>(u"NotesPage"),
         property<&This::slideIndex>(u"SlideIndex"),
         property<&This::slideIndex>(u"SlideNumber"),
         method<&This::moveTo>(u"MoveTo", u"ToPos"),
@@ -51,12 +59,56 @@ std::shared_ptr<TagsObject> SlideMembers::tags() const {
     return std::make_shared<TagsObject>(session(), nodes().only());
 }
 
+std::shared_ptr<MasterObject> SlideMembers::master() const {
+    return std::make_shared<MasterObject>(session(), masterOf(*presentation(), *nodes().only()));
+}
+
+MsoTriState SlideMembers::followMasterBackground() const {
+    return nodes().common(msoTriStateMixed, [](const Slide& slide) { return triState(slide.followsMasterBackground); });
+}
+
+void SlideMembers::setFollowMasterBackground(MsoTriState follows) {
+    const PresentationPtr document = presentation();
+    nodes().change([&document, follows](Slide& slide) {
+        const Fill shown = backgroundOf(*document, slide)->fill;
+        slide.followsMasterBackground = follows != msoFalse;
+        if (!slide.followsMasterBackground) {
+            backgroundOf(*document, slide)->fill = shown;
+        }
+    });
+}
+
+MsoTriState SlideMembers::displayMasterShapes() const {
+    return nodes().common(msoTriStateMixed, [](const Slide& slide) { return triState(slide.displaysMasterShapes); });
+}
+
+void SlideMembers::setDisplayMasterShapes(MsoTriState displayed) {
+    nodes().change([displayed](Slide& slide) { slide.displaysMasterShapes = displayed != msoFalse; });
+}
+
+std::shared_ptr<ShapeRangeObject> SlideMembers::background() const {
+    std::vector<ShapePtr> shapes;
+    for (const SlidePtr& slide : nodes().all()) {
+        shapes.push_back(backgroundOf(*presentation(), *slide));
+    }
+    return std::make_shared<ShapeRangeObject>(session(), shapes);
+}
+
+std::shared_ptr<SlideRangeObject> SlideMembers::notesPage() const {
+    demandSlides(u"Slide.NotesPage");
+    std::vector<SlidePtr> pages;
+    for (const SlidePtr& slide : nodes().all()) {
+        pages.push_back(notesPageOf(*slide));
+    }
+    return std::make_shared<SlideRangeObject>(session(), pages);
+}
+
 std::int32_t SlideMembers::slideIndex() const {
-    return static_cast<std::int32_t>(presentation()->placeOf(*nodes().only())) + 1;
+    return static_cast<std::int32_t>(presentation()->placeOf(*slideItself())) + 1;
 }
 
 std::int32_t SlideMembers::slideId() const {
-    return nodes().only()->id;
+    return slideItself()->id;
 }
 
 std::u16string SlideMembers::name() const {
@@ -64,6 +116,7 @@ std::u16string SlideMembers::name() const {
 }
 
 void SlideMembers::setName(const std::u16string& name) {
+    demandSlides(u"Slide.Name");
     const bool keepsName = automation::equalIgnoringCase(nodes().only()->name, name);
     if (!keepsName && presentation()->isNameTaken(name)) {
         errors::invalidRequest(u"Slide.Name", u"Une autre diapositive porte ce nom.");
@@ -72,10 +125,12 @@ void SlideMembers::setName(const std::u16string& name) {
 }
 
 PpSlideLayout SlideMembers::layout() const {
+    demandSlides(u"Slide.Layout");
     return nodes().common(PpSlideLayout{-2}, [](const Slide& slide) { return slide.layout; });
 }
 
 void SlideMembers::setLayout(PpSlideLayout layout) {
+    demandSlides(u"Slide.Layout");
     const Layout* const known = findLayout(layout);
     if (known == nullptr) {
         errors::invalidValue(u"Slide.Layout");
@@ -84,6 +139,7 @@ void SlideMembers::setLayout(PpSlideLayout layout) {
 }
 
 void SlideMembers::erase() {
+    demandSlides(u"Slide.Delete");
     const PresentationPtr document = presentation();
     for (const SlidePtr& slide : nodes().all()) {
         document->remove(slide);
@@ -92,6 +148,7 @@ void SlideMembers::erase() {
 }
 
 std::shared_ptr<SlideRangeObject> SlideMembers::duplicate() {
+    demandSlides(u"Slide.Duplicate");
     const PresentationPtr document = presentation();
     std::size_t place = 0;
     for (const SlidePtr& slide : nodes().all()) {
@@ -107,6 +164,7 @@ std::shared_ptr<SlideRangeObject> SlideMembers::duplicate() {
 }
 
 void SlideMembers::copy() const {
+    demandSlides(u"Slide.Copy");
     Clipboard& clipboard = session()->clipboard();
     clipboard.shapes.clear();
     clipboard.text = {};
@@ -122,6 +180,7 @@ void SlideMembers::cut() {
 }
 
 void SlideMembers::moveTo(std::int32_t toPos) {
+    demandSlides(u"Slide.MoveTo");
     const PresentationPtr document = presentation();
     document->move(nodes().only(), placeIn(document->slides().size(), toPos, u"Slide.MoveTo"));
     markChanged(*document);
@@ -129,6 +188,7 @@ void SlideMembers::moveTo(std::int32_t toPos) {
 
 void SlideMembers::exportTo(const std::u16string& fileName, const std::u16string& filterName,
                             std::optional<std::int32_t> scaleWidth, std::optional<std::int32_t> scaleHeight) const {
+    demandSlides(u"Slide.Export");
     if (!automation::equalIgnoringCase(filterName, u"SVG")) {
         errors::invalidRequest(u"Slide.Export", u"Le filtre d'exportation « " + filterName + u" » n'est pas installé.");
     }
@@ -146,6 +206,7 @@ void SlideMembers::exportTo(const std::u16string& fileName, const std::u16string
 }
 
 void SlideMembers::select() const {
+    demandSlides(u"Slide.Select");
     const DocumentWindowPtr window = session()->windowOf(*presentation());
     if (!window) {
         errors::invalidRequest(u"Slide.Select", u"La présentation n'est affichée dans aucune fenêtre.");
@@ -153,6 +214,19 @@ void SlideMembers::select() const {
     window->show(nodes().first());
     window->selection.selectSlides(nodes().all());
     window->activePane = DocumentWindow::outlinePane;
+}
+
+SlidePtr SlideMembers::slideItself() const {
+    SlidePtr slide = nodes().only();
+    return slide->kind == SheetKind::NotesPage ? simulator::alive(slide->owner) : slide;
+}
+
+void SlideMembers::demandSlides(std::u16string_view member) const {
+    for (const SlidePtr& slide : nodes().all()) {
+        if (slide->kind != SheetKind::Slide) {
+            errors::invalidRequest(member, u"Ce membre ne vaut pas pour une page de commentaires.");
+        }
+    }
 }
 
 PresentationPtr SlideMembers::presentation() const {

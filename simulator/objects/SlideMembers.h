@@ -7,13 +7,16 @@
 namespace simulator {
 
 class ApplicationObject;
+class MasterObject;
 class PresentationObject;
+class ShapeRangeObject;
 class ShapesObject;
 class SlideRangeObject;
 class TagsObject;
 
 /// The members that Slide and SlideRange have in common; those that read one thing take a range of one slide. Every
-/// member raises `errors::gone` once a slide has been deleted.
+/// member raises `errors::gone` once a slide has been deleted. A notes page is a slide, too, but cannot be copied,
+/// deleted, moved, selected, shown or laid out: that raises an invalid request.
 class SlideMembers : public NodeSetObject<Slide> {
 public:
     using NodeSetObject::NodeSetObject;
@@ -23,7 +26,18 @@ public:
     [[nodiscard]] std::shared_ptr<PresentationObject> parent() const;
     [[nodiscard]] std::shared_ptr<ShapesObject> shapes() const;
     [[nodiscard]] std::shared_ptr<TagsObject> tags() const;
-    /// Place from 1 in the presentation.
+    /// The title master of a title slide, where there is one, or the slide master; the notes master of a notes page.
+    [[nodiscard]] std::shared_ptr<MasterObject> master() const;
+    [[nodiscard]] MsoTriState followMasterBackground() const;
+    /// A slide that no longer follows keeps the background that it showed.
+    void setFollowMasterBackground(MsoTriState follows);
+    [[nodiscard]] MsoTriState displayMasterShapes() const;
+    void setDisplayMasterShapes(MsoTriState displayed);
+    /// The background that is shown: the master's, unless the slide has one of its own.
+    [[nodiscard]] std::shared_ptr<ShapeRangeObject> background() const;
+    /// The notes pages of the slides.
+    [[nodiscard]] std::shared_ptr<SlideRangeObject> notesPage() const;
+    /// Place from 1 in the presentation; of a notes page, its slide's, as below.
     [[nodiscard]] std::int32_t slideIndex() const;
     /// Stays the slide's own wherever it is moved.
     [[nodiscard]] std::int32_t slideId() const;
@@ -55,6 +69,10 @@ protected:
 private:
     /// The presentation of the slides.
     [[nodiscard]] PresentationPtr presentation() const;
+    /// The one slide, or the one whose notes page it is.
+    [[nodiscard]] SlidePtr slideItself() const;
+    /// Raises an invalid request where there is a notes page among the slides.
+    void demandSlides(std::u16string_view member) const;
 };
 
 } // namespace simulator

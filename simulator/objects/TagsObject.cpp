@@ -10,21 +10,16 @@ template <typename Bearer> std::shared_ptr<TagList> tagsOf(const std::shared_ptr
     return std::shared_ptr<TagList>(bearer, &bearer->tags);
 }
 
-std::weak_ptr<Presentation> presentationOf(const std::weak_ptr<Slide>& reference) noexcept {
-    const SlidePtr slide = reference.lock();
-    return slide ? slide->presentation : std::weak_ptr<Presentation>();
-}
-
 } // namespace
 
 TagsObject::TagsObject(SessionPtr session, const PresentationPtr& presentation)
     : PowerPointObject(std::move(session)), tags_(tagsOf(presentation)), presentation_(presentation) {}
 
 TagsObject::TagsObject(SessionPtr session, const SlidePtr& slide)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(slide)), presentation_(slide->presentation) {}
+    : PowerPointObject(std::move(session)), tags_(tagsOf(slide)), slide_(slide) {}
 
 TagsObject::TagsObject(SessionPtr session, const ShapePtr& shape)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(shape)), presentation_(presentationOf(shape->slide)) {}
+    : PowerPointObject(std::move(session)), tags_(tagsOf(shape)), slide_(shape->slide) {}
 
 const automation::MemberTable& TagsObject::members() const {
     using automation::method;
@@ -75,7 +70,9 @@ void TagsObject::remove(const std::u16string& name) {
 
 template <typename Change> void TagsObject::change(const Change& change) {
     change(*simulator::alive(tags_));
-    if (const PresentationPtr presentation = presentation_.lock()) {
+    if (const SlidePtr slide = slide_.lock()) {
+        markChanged(*slide);
+    } else if (const PresentationPtr presentation = presentation_.lock()) {
         markChanged(*presentation);
     }
 }

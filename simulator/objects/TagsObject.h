@@ -32,6 +32,7 @@ private:
     template <typename Change> void change(const Change& change);
 
     std::weak_ptr<TagList> tags_; ///< lives as long as what bears the tags
+    std::weak_ptr<Slide> slide_;  ///< that bears them or the shape that does
     std::weak_ptr<Presentation> presentation_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "automation/Error.h"
 #include "automation/Text.h"
+#include "simulator/document/Masters.h"
 #include "simulator/process/Errors.h"
 
 #include <algorithm>
@@ -94,6 +95,7 @@ PresentationPtr Session::create(bool withWindow) {
     }
     auto presentation = std::make_shared<Presentation>();
     presentation->name = nextName();
+    (void)slideMasterOf(*presentation);
     presentations_.push_back(presentation);
     if (withWindow) {
         addWindow(presentation);

@@ -27,14 +27,14 @@ namespace {
 using records::Record;
 namespace type = records::type;
 
-std::optional<PpPlaceholderType> placeholderIn(const Record& record) {
+std::optional<PpPlaceholderType> placeholderIn(const Record& record, SheetKind sheet) {
     const Record* const client = record.find(type::ArtClientData);
     const Record* const atom = client == nullptr ? nullptr : client->find(type::PlaceholderAtom);
     if (atom == nullptr) {
         return std::nullopt;
     }
     constexpr std::size_t codePlace = 4;
-    return atom->data.size() > codePlace ? placeholderOf(static_cast<std::uint8_t>(atom->data[codePlace]))
+    return atom->data.size() > codePlace ? placeholderOf(static_cast<std::uint8_t>(atom->data[codePlace]), sheet)
                                          : std::nullopt;
 }
 
@@ -86,6 +86,17 @@ std::vector<ShapePtr> ShapeReader::read(const Record& drawing) {
     return members(group, {}, 0);
 }
 
+ShapePtr ShapeReader::readBackground(const Record& drawing) {
+    const Record* const record = drawing.demand(type::ArtDrawing).find(type::ArtShape);
+    if (record == nullptr || !isShape(*record)) {
+        return nullptr;
+    }
+    ShapePtr shape = single(*record, {}, 0);
+    shape->name = u"Background";
+    shape->text.reset();
+    return shape;
+}
+
 std::vector<ShapePtr> ShapeReader::members(const Record& group, const Mapping& mapping, std::int32_t groupId) {
     std::vector<ShapePtr> shapes;
     for (std::size_t place = 1; place < group.children.size(); ++place) {
@@ -135,7 +146,7 @@ ShapePtr ShapeReader::single(const Record& record, const Mapping& mapping, std::
     const Looks looks({&properties, master == nullptr ? &none : &master->properties, &context_.defaults});
 
     auto shape = std::make_shared<Shape>();
-    shape->placeholder = placeholderIn(record);
+    shape->placeholder = placeholderIn(record, context_.sheet);
     shape->type = shape->placeholder ? msoPlaceholder : typeOf(head.kind, looks);
     shape->autoShapeType =
         shape->type == msoAutoShape ? autoShapeTypeOf(head.kind).value_or(msoShapeMixed) : msoShapeMixed;

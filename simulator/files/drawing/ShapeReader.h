@@ -28,16 +28,19 @@ struct SlideContext {
     const DrawingIds& ids;
     const std::vector<std::vector<records::Record>>& outline; ///< the slide's texts that stand apart
     OriginPtr document;
+    SheetKind sheet = SheetKind::Slide;
 };
 
-/// Reads the shapes of a slide.
+/// Reads the shapes of a slide, or of another sheet.
 class ShapeReader {
 public:
     explicit ShapeReader(const SlideContext& context) noexcept
-        : context_(context), texts_(context.text, context.outline) {}
+        : context_(context), texts_(context.text, context.outline, context.sheet) {}
 
     /// The shapes of a drawing, from back to front. Raises DamagedPresentation.
     [[nodiscard]] std::vector<ShapePtr> read(const records::Record& drawing);
+    /// The background of a drawing; null where it has none.
+    [[nodiscard]] ShapePtr readBackground(const records::Record& drawing);
 
 private:
     [[nodiscard]] std::vector<ShapePtr> members(const records::Record& group, const Mapping& mapping,

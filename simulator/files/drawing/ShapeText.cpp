@@ -45,8 +45,9 @@ void ShapeTexts::read(const Record& record, const Looks& looks, Shape& shape, Sh
         }
     }
     if (block->empty() && shape.placeholder) {
-        const std::vector<Record> header{Record::atom(
-            type::TextHeaderAtom, files::ByteWriter().write<std::uint32_t>(textKindOf(*shape.placeholder)).take())};
+        const std::vector<Record> header{
+            Record::atom(type::TextHeaderAtom,
+                         files::ByteWriter().write<std::uint32_t>(textKindOf(*shape.placeholder, sheet_)).take())};
         shape.text = text::readText(header, {}, context_);
     } else {
         shape.text = text::readText(*block, numberingIn(record), context_);
@@ -57,7 +58,7 @@ void ShapeTexts::read(const Record& record, const Looks& looks, Shape& shape, Sh
 bool holdsText(const Shape& shape, std::uint16_t kind) noexcept {
     const bool isConnector = kind >= kind::straightConnector && kind <= kind::lastConnector;
     const bool isContent = kind == kind::pictureFrame || kind == kind::hostControl; // in a placeholder
-    return !isConnector && !isContent &&
+    return !isConnector && !isContent && shape.placeholder != ppPlaceholderSlideImage &&
            (shape.type == msoAutoShape || shape.type == msoTextBox || shape.type == msoPlaceholder ||
             shape.type == msoFreeform);
 }

@@ -12,8 +12,9 @@ namespace simulator::drawing {
 class ShapeTexts {
 public:
     /// `outline` are the slide's texts that stand apart from its shapes.
-    ShapeTexts(const text::TextContext& context, const std::vector<std::vector<records::Record>>& outline) noexcept
-        : context_(context), outline_(outline) {}
+    ShapeTexts(const text::TextContext& context, const std::vector<std::vector<records::Record>>& outline,
+               SheetKind sheet) noexcept
+        : context_(context), outline_(outline), sheet_(sheet) {}
 
     /// Gives a shape its text, and the origin the outline text that it refers to. Raises DamagedPresentation, also
     /// where another shape has that one.
@@ -22,6 +23,7 @@ public:
 private:
     const text::TextContext& context_;
     const std::vector<std::vector<records::Record>>& outline_;
+    SheetKind sheet_;
     std::set<std::uint32_t> taken_; ///< places of outline texts
 };
 

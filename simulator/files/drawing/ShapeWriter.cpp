@@ -54,28 +54,46 @@ Record headOf(const Shape& shape, std::uint32_t number, bool isChild) {
     return Record::atom(type::ArtShapeAtom, out.take(), kindOf(shape), version);
 }
 
-Record placeholderAtom(PpPlaceholderType placeholder) {
+Record placeholderAtom(PpPlaceholderType placeholder, SheetKind sheet) {
     files::ByteWriter out;
-    out.write<std::int32_t>(isTitle(placeholder) ? 0 : 1).write<std::uint8_t>(placeholderCode(placeholder)).fill(3);
+    out.write<std::int32_t>(isTitle(placeholder) ? 0 : 1);
+    out.write<std::uint8_t>(placeholderCode(placeholder, sheet)).fill(3);
     return Record::atom(type::PlaceholderAtom, out.take());
 }
 
-std::uint32_t textKind(const Shape& shape) noexcept {
-    return shape.placeholder ? textKindOf(*shape.placeholder) : std::uint32_t{text::kind::Other};
+std::uint32_t textKind(const Shape& shape, SheetKind sheet) noexcept {
+    return shape.placeholder ? textKindOf(*shape.placeholder, sheet) : std::uint32_t{text::kind::Other};
 }
 
 /// The kind of a text that has changed: the one that it has, unless its shape has become another placeholder. What its
 /// runs do not say comes from the styles of that kind.
-std::uint32_t textKind(const Shape& shape, const ShapeOrigin& origin, const std::vector<Record>& block) {
+std::uint32_t textKind(const Shape& shape, const ShapeOrigin& origin, const std::vector<Record>& block,
+                       SheetKind sheet) {
     const bool isTold =
         std::any_of(block.begin(), block.end(), [](const Record& each) { return each.is(type::TextHeaderAtom); });
-    return isTold && shape.placeholder == origin.asRead->placeholder ? text::kindOf(block) : textKind(shape);
+    return isTold && shape.placeholder == origin.asRead->placeholder ? text::kindOf(block) : textKind(shape, sheet);
 }
 
-Record clientDataOf(const Shape& shape) {
+/// What stands behind a text that is a field of a master alone: the record that makes it one.
+std::optional<Record> fieldOf(const Shape& shape) {
+    constexpr std::u16string_view mark = u"*";
+    if (!shape.placeholder || !shape.text || shape.text->text() != mark) {
+        return std::nullopt;
+    }
+    const auto field = [](std::uint16_t kind) { return Record::atom(kind, std::string(4, '\0')); };
+    switch (*shape.placeholder) {
+    case ppPlaceholderDate: return field(type::GenericDateField);
+    case ppPlaceholderSlideNumber: return field(type::SlideNumberField);
+    case ppPlaceholderFooter: return field(type::FooterField);
+    case ppPlaceholderHeader: return field(type::HeaderField);
+    default: return std::nullopt;
+    }
+}
+
+Record clientDataOf(const Shape& shape, SheetKind sheet) {
     Record data = Record::container(type::ArtClientData, {});
     if (shape.placeholder) {
-        data.children.push_back(placeholderAtom(*shape.placeholder));
+        data.children.push_back(placeholderAtom(*shape.placeholder, sheet));
     }
     records::putTags(data, shape.tags);
     if (shape.text && text::isNumbered(*shape.text)) {
@@ -168,7 +186,7 @@ Record ShapeWriter::own(const Shape& shape, bool placesAreNew) {
     std::vector<Record> block = *shape.text == *origin->asRead->text
                                     ? origin->outlineText
                                     : text::changedText(origin->outlineText, *origin->asRead->text, *shape.text,
-                                                        textKind(shape, *origin, origin->outlineText), fonts_);
+                                                        textKind(shape, *origin, origin->outlineText, sheet_), fonts_);
     if (place == outlinePlaces_.end()) { // a second shape with this text: it takes it with it
         box->children.erase(box->children.begin() + (reference - box->children.data()));
         box->children.insert(box->children.begin(), block.begin(), block.end());
@@ -192,13 +210,16 @@ Record ShapeWriter::fresh(const Shape& shape, std::uint32_t number, bool isChild
     parts.push_back(headOf(shape, number, isChild));
     parts.push_back(writeProperties(shape).record(type::ArtProperties));
     parts.push_back(isChild ? childAnchor(shape.frame(), shape.rotation) : clientAnchor(shape.frame(), shape.rotation));
-    Record data = clientDataOf(shape);
+    Record data = clientDataOf(shape, sheet_);
     if (!data.children.empty()) {
         parts.push_back(std::move(data));
     }
     if (shape.text) {
-        parts.push_back(
-            Record::container(type::ArtClientTextbox, text::textRecords(*shape.text, textKind(shape), fonts_)));
+        std::vector<Record> text = text::textRecords(*shape.text, textKind(shape, sheet_), fonts_);
+        if (std::optional<Record> field = fieldOf(shape)) {
+            text.push_back(std::move(*field));
+        }
+        parts.push_back(Record::container(type::ArtClientTextbox, std::move(text)));
     }
     return Record::container(type::ArtShape, std::move(parts));
 }
@@ -214,7 +235,7 @@ Record ShapeWriter::patched(const Shape& shape, const ShapeOrigin& origin, bool 
     }
     patchProperties(record, PropertyTable(before.demand(type::ArtProperties)), wanted);
     patchPlace(record, before, now, placesAreNew);
-    patchClientData(record, *origin.asRead, shape, clientDataOf(*origin.asRead), clientDataOf(shape));
+    patchClientData(record, *origin.asRead, shape, clientDataOf(*origin.asRead, sheet_), clientDataOf(shape, sheet_));
     patchText(record, shape, origin);
     if (record != origin.record) {
         preset::write(record, shape);
@@ -233,11 +254,11 @@ void ShapeWriter::patchText(Record& record, const Shape& shape, const ShapeOrigi
     } else if (box != nullptr && origin.asRead->text) {
         if (!readsTheSame(*shape.text, *origin.asRead->text)) {
             box->children = text::changedText(box->children, *origin.asRead->text, *shape.text,
-                                              textKind(shape, origin, box->children), fonts_);
+                                              textKind(shape, origin, box->children, sheet_), fonts_);
         }
     } else {
         record.children.push_back(
-            Record::container(type::ArtClientTextbox, text::textRecords(*shape.text, textKind(shape), fonts_)));
+            Record::container(type::ArtClientTextbox, text::textRecords(*shape.text, textKind(shape, sheet_), fonts_)));
     }
 }
 

@@ -8,12 +8,13 @@
 
 namespace simulator::drawing {
 
-/// Writes the shapes of a slide. What a shape was read from is kept where the shape has not changed.
+/// Writes the shapes of a slide, or of another sheet. What a shape was read from is kept where the shape has not
+/// changed.
 class ShapeWriter {
 public:
     /// Ids must have numbers for all shapes; both must outlive this object.
-    ShapeWriter(const DrawingIds& ids, text::FontTable& fonts, const Origin* document) noexcept
-        : ids_(ids), fonts_(fonts), document_(document) {}
+    ShapeWriter(const DrawingIds& ids, text::FontTable& fonts, const Origin* document, SheetKind sheet) noexcept
+        : ids_(ids), fonts_(fonts), document_(document), sheet_(sheet) {}
 
     /// The records of shapes, from back to front.
     [[nodiscard]] std::vector<records::Record> write(const std::vector<ShapePtr>& shapes);
@@ -33,6 +34,7 @@ private:
     const DrawingIds& ids_;
     text::FontTable& fonts_;
     const Origin* document_;
+    SheetKind sheet_;
     std::map<const Shape*, std::uint32_t> outlinePlaces_;
     std::vector<std::vector<records::Record>> outline_;
 };

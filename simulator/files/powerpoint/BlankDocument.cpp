@@ -145,6 +145,12 @@ Record slideAtom(const std::string& layout, std::uint32_t master, bool followsMa
     return Record::atom(type::SlideAtom, out.take(), 0, 2);
 }
 
+Record notesAtom(bool followsMaster) {
+    ByteWriter out;
+    out.write<std::uint32_t>(0).write<std::uint16_t>(followsMaster ? 7 : 0).fill(2); // the slide comes in front
+    return Record::atom(type::NotesAtom, out.take(), 0, 1);
+}
+
 Record shapeAtom(std::uint16_t kind, std::uint32_t number, std::uint32_t flags) {
     ByteWriter out;
     out.write<std::uint32_t>(number).write<std::uint32_t>(flags);
@@ -223,6 +229,15 @@ std::shared_ptr<const PresentationOrigin> makeBlank() {
     return blank;
 }
 
+std::shared_ptr<const SlideOrigin> makeBlankMaster() {
+    auto blank = std::make_shared<SlideOrigin>();
+    blank->document = blankDocument();
+    blank->object = masterObject;
+    blank->drawing = masterDrawing;
+    blank->layout = ppLayoutText;
+    return blank;
+}
+
 } // namespace
 
 const std::shared_ptr<const PresentationOrigin>& blankDocument() {
@@ -230,9 +245,25 @@ const std::shared_ptr<const PresentationOrigin>& blankDocument() {
     return blank;
 }
 
-Record blankSlide(std::uint32_t master) {
-    return Record::container(type::Slide, {slideAtom(layoutBytes(ppLayoutBlank), master, true), emptyDrawing(0, 0),
-                                           Record::atom(type::ColorSchemeAtom, colorBytes({}), shapesSchemeInstance)});
+const std::shared_ptr<const SlideOrigin>& blankMaster() {
+    static const std::shared_ptr<const SlideOrigin> blank = makeBlankMaster();
+    return blank;
+}
+
+Record blankSheet(SheetKind kind, std::uint32_t master) {
+    Record colors = Record::atom(type::ColorSchemeAtom, colorBytes({}), shapesSchemeInstance);
+    switch (kind) {
+    case SheetKind::Slide:
+    case SheetKind::TitleMaster: break;
+    case SheetKind::SlideMaster: return simulator::powerpoint::master();
+    case SheetKind::HandoutMaster: return Record::container(type::Handout, {emptyDrawing(0, 0), std::move(colors)});
+    case SheetKind::NotesPage:
+    case SheetKind::NotesMaster:
+        return Record::container(type::Notes,
+                                 {notesAtom(kind == SheetKind::NotesPage), emptyDrawing(0, 0), std::move(colors)});
+    }
+    return Record::container(
+        type::Slide, {slideAtom(layoutBytes(ppLayoutBlank), master, true), emptyDrawing(0, 0), std::move(colors)});
 }
 
 } // namespace simulator::powerpoint

@@ -8,7 +8,10 @@ namespace simulator::powerpoint {
 /// over.
 [[nodiscard]] const std::shared_ptr<const PresentationOrigin>& blankDocument();
 
-/// A slide without shapes, on the master of the blank document or on another one.
-[[nodiscard]] records::Record blankSlide(std::uint32_t master);
+/// What that file says of its master.
+[[nodiscard]] const std::shared_ptr<const SlideOrigin>& blankMaster();
+
+/// A sheet without shapes; a slide and a title master on a master.
+[[nodiscard]] records::Record blankSheet(SheetKind kind, std::uint32_t master);
 
 } // namespace simulator::powerpoint

@@ -67,6 +67,8 @@ void readSettings(const Record& document, Presentation& presentation) {
     files::ByteReader in(document.demand(type::DocumentAtom).data, "the record of the document");
     presentation.slideWidth = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
     presentation.slideHeight = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
+    presentation.notesWidth = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
+    presentation.notesHeight = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
     if (const Record* const list = document.find(type::DocInfoList)) {
         presentation.tags = records::readTags(*list);
         presentation.gridDistance = readGridSpacing(*list).value_or(presentation.gridDistance);

@@ -1,5 +1,6 @@
 #include "simulator/files/powerpoint/DocumentWriter.h"
 
+#include "simulator/document/Masters.h"
 #include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/powerpoint/BlankDocument.h"
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
@@ -37,9 +38,13 @@ public:
     }
 
     std::string write() {
+        writeMasters();
         const std::vector<SlideEntry> entries = writeSlides();
         dropSlidesThatAreGone(entries);
         putEntries(document(), slideList::slides, entries);
+        writeNotes();
+        writePage(presentation_.notesMaster, notesMasterPlace);
+        writePage(presentation_.handoutMaster, handoutMasterPlace);
         writeSettings(document(), presentation_, *origin_);
         writeColors();
         writeFonts();
@@ -57,34 +62,154 @@ private:
         return environment == nullptr ? nullptr : environment->find(type::FontCollection);
     }
 
-    [[nodiscard]] std::uint32_t masterOfNewSlides() {
-        const std::vector<SlideEntry> masters = entriesIn(document(), slideList::masters);
-        return masters.empty() ? 0 : masters.front().id();
+    /// What this document says of a sheet; null where it comes from elsewhere.
+    [[nodiscard]] const SlideOrigin* originIn(const Slide& sheet) const noexcept {
+        const auto* const origin = dynamic_cast<const SlideOrigin*>(sheet.origin.get());
+        return origin != nullptr && origin->document == origin_ ? origin : nullptr;
+    }
+
+    /// Writes a sheet as an object of its own, or over the one that it was read from.
+    WrittenSlide writeSheet(const Slide& sheet, const SlideOrigin* origin, bool isCopy) {
+        const SlidePtr master = findMaster(presentation_, sheet);
+        return writeSlide(sheet, origin, isCopy, master.get(), {drawings_, fonts_, *origin_, masters_, firstMaster_});
+    }
+
+    /// Puts an object behind the others and answers with its number.
+    std::uint32_t append(Record record) {
+        const std::uint32_t id = objects_.highestId() + 1;
+        objects_.append(id, std::move(record));
+        return id;
+    }
+
+    void writeMasters() {
+        std::vector<SlideEntry> entries = entriesIn(document(), slideList::masters);
+        firstMaster_ = entries.empty() ? 0 : entries.front().id();
+        bool isFirst = true;
+        std::set<std::uint32_t> kept;
+        for (const SlidePtr& master : presentation_.masters) {
+            const SlideOrigin* const origin =
+                isBlank() && std::exchange(isFirst, false) ? blankMaster().get() : originIn(*master);
+            if (origin == nullptr) {
+                entries.push_back(newMaster(*master, entries));
+                putEntries(document(), slideList::masters, entries);
+                continue;
+            }
+            kept.insert(origin->object);
+            for (const SlideEntry& entry : entries) {
+                if (entry.object() == origin->object) {
+                    masters_.emplace(master.get(), entry.id());
+                }
+            }
+            if (isBlank() || master->isTouched) {
+                *objects_.find(origin->object) = writeSheet(*master, origin, false).record;
+            }
+        }
+        const auto isGone = [&](std::uint32_t object) {
+            return origin_->masters.contains(object) && !kept.contains(object);
+        };
+        if (std::erase_if(entries, [&](const SlideEntry& entry) { return isGone(entry.object()); }) != 0) {
+            putEntries(document(), slideList::masters, entries);
+            objects_.eraseIf(isGone);
+        }
+    }
+
+    SlideEntry newMaster(const Slide& master, const std::vector<SlideEntry>& entries) {
+        std::uint32_t id = firstMasterId;
+        for (const SlideEntry& entry : entries) {
+            id = std::max(id, entry.id() + 1);
+        }
+        SlideEntry entry;
+        entry.persist = persistAtom(append(writeSheet(master, nullptr, false).record), 0, id);
+        masters_.emplace(&master, id);
+        return entry;
+    }
+
+    /// Writes a master that the record of the document names at a place.
+    void writePage(const SlidePtr& master, std::size_t place) {
+        if (!master || !master->isTouched) {
+            return;
+        }
+        const SlideOrigin* const origin = originIn(*master);
+        Record written = writeSheet(*master, origin, false).record;
+        if (origin != nullptr) {
+            *objects_.find(origin->object) = std::move(written);
+        } else {
+            const std::uint32_t object = append(std::move(written));
+            files::putNumber(document().find(type::DocumentAtom)->data, place, object);
+        }
     }
 
     std::vector<SlideEntry> writeSlides() {
-        const SlideTarget target{drawings_, fonts_, *origin_, masterOfNewSlides()};
         std::vector<SlideEntry> entries;
         std::set<std::uint32_t> written;
         for (const SlidePtr& slide : presentation_.slides()) {
-            const auto* origin = dynamic_cast<const SlideOrigin*>(slide->origin.get());
-            origin = origin != nullptr && origin->document == origin_ ? origin : nullptr;
+            const SlideOrigin* const origin = originIn(*slide);
             const bool isCopy = origin != nullptr && !written.insert(origin->object).second;
-            WrittenSlide now = writeSlide(*slide, origin, isCopy, target);
+            WrittenSlide now = writeSheet(*slide, origin, isCopy);
             SlideEntry entry = origin == nullptr ? SlideEntry() : origin->entry;
             if (origin == nullptr || isCopy) {
-                const std::uint32_t id = objects_.highestId() + 1;
-                objects_.append(id, std::move(now.record));
-                entry.persist = persistAtom(id, notOutlineAlone, 0);
+                entry.persist = persistAtom(append(std::move(now.record)), notOutlineAlone, 0);
                 entry.texts.clear();
             } else {
                 *objects_.find(origin->object) = std::move(now.record);
             }
+            noteNotes(*slide, entry.object(), origin == nullptr || isCopy);
             entry.setId(static_cast<std::uint32_t>(slide->id));
             entry.setTexts(std::move(now.outline));
             entries.push_back(std::move(entry));
         }
         return entries;
+    }
+
+    /// Writes a notes page over the one that it was read from, or puts it on the list of new ones. One that nobody has
+    /// written on needs no record.
+    void noteNotes(const Slide& slide, std::uint32_t object, bool isNewSlide) {
+        if (!slide.notesPage) {
+            return;
+        }
+        const Slide& page = *slide.notesPage;
+        const SlideOrigin* const origin = originIn(page);
+        if (origin == nullptr || isNewSlide) {
+            if (page.origin || page.isTouched) {
+                newNotes_.emplace_back(&slide, object);
+            }
+            return;
+        }
+        Record& record = *objects_.find(origin->object);
+        if (page.isTouched) {
+            record = writeSheet(page, origin, false).record;
+        }
+        if (Record* const atom = record.find(type::NotesAtom)) {
+            files::putNumber(atom->data, notesAtomSlide, static_cast<std::uint32_t>(slide.id));
+        }
+    }
+
+    void writeNotes() {
+        if (newNotes_.empty()) {
+            return;
+        }
+        if (files::numberAt(document().find(type::DocumentAtom)->data, notesMasterPlace) == 0) {
+            const SlidePtr master = makeSheet(SheetKind::NotesMaster, presentation_);
+            master->isTouched = true;
+            writePage(presentation_.notesMaster && presentation_.notesMaster->isTouched ? nullptr : master,
+                      notesMasterPlace);
+        }
+        std::vector<SlideEntry> entries = entriesIn(document(), slideList::notes);
+        std::uint32_t id = firstNotesId;
+        for (const SlideEntry& entry : entries) {
+            id = std::max(id, entry.id() + 1);
+        }
+        for (const auto& [slide, object] : newNotes_) {
+            const Slide& page = *slide->notesPage;
+            Record written = writeSheet(page, originIn(page), true).record;
+            files::putNumber(written.find(type::NotesAtom)->data, notesAtomSlide,
+                             static_cast<std::uint32_t>(slide->id));
+            files::putNumber(objects_.find(object)->find(type::SlideAtom)->data, slideAtomNotes, id);
+            SlideEntry entry;
+            entry.persist = persistAtom(append(std::move(written)), notOutlineAlone, id++);
+            entries.push_back(std::move(entry));
+        }
+        putEntries(document(), slideList::notes, entries);
     }
 
     /// Slides that were deleted leave with their notes.
@@ -179,13 +304,21 @@ private:
         return edit;
     }
 
+    [[nodiscard]] bool isBlank() const noexcept { return origin_ == blankDocument(); }
+
     static constexpr std::uint32_t notOutlineAlone = 4;
+    static constexpr std::uint32_t firstMasterId = 0x80000000;
+    static constexpr std::uint32_t firstNotesId = 256;
+    static constexpr std::size_t notesAtomSlide = 0;
 
     const Presentation& presentation_;
     std::shared_ptr<const PresentationOrigin> origin_;
     PersistObjects objects_;
     drawing::DrawingGroup drawings_;
     text::FontTable fonts_;
+    std::map<const Slide*, std::uint32_t> masters_; ///< ids of slide masters and title masters
+    std::uint32_t firstMaster_ = 0;
+    std::vector<std::pair<const Slide*, std::uint32_t>> newNotes_; ///< of slides, with the objects that these are
 };
 
 } // namespace

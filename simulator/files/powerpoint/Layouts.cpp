@@ -18,7 +18,7 @@ using Codes = std::array<std::uint8_t, mostPlaceholders>;
 Codes codesOf(const Layout& layout) {
     Codes codes{};
     for (std::size_t i = 0; i < layout.size(); ++i) {
-        codes.at(i) = drawing::placeholderCode(layout.types.at(i));
+        codes.at(i) = drawing::placeholderCode(layout.types.at(i), SheetKind::Slide);
     }
     return codes;
 }

@@ -5,6 +5,8 @@
 #include "simulator/files/powerpoint/PersistObjects.h"
 #include "simulator/files/powerpoint/SlideList.h"
 
+#include <set>
+
 namespace simulator::powerpoint {
 
 /// What a file says of a presentation.
@@ -13,7 +15,8 @@ public:
     compound::Storage file; ///< without what stands in the document's stream
     records::Record userEdit;
     PersistObjects objects;
-    std::uint32_t document = 0; ///< number of the object that is the document
+    std::uint32_t document = 0;      ///< number of the object that is the document
+    std::set<std::uint32_t> masters; ///< numbers of the objects that are slide masters and title masters
 
     bool snapToGrid = true; ///< as read, as all that follows
     float gridDistance = 0;
@@ -23,7 +26,7 @@ public:
     TagList tags;
 };
 
-/// What a file says of a slide.
+/// What a file says of a slide, a master or a notes page.
 class SlideOrigin final : public Origin {
 public:
     OriginPtr document;
@@ -34,6 +37,9 @@ public:
     PpSlideLayout layout = ppLayoutBlank; ///< as read, as all that follows
     std::u16string name;
     TagList tags;
+    bool followsMasterBackground = true;
+    bool displaysMasterShapes = true;
+    std::weak_ptr<const Slide> master; ///< of a slide
 };
 
 } // namespace simulator::powerpoint

@@ -14,6 +14,16 @@ struct SlideAtom {
     std::uint32_t notes = 0;  ///< the id of its notes in the list of notes, 0 where it has none
 };
 
+/// What a slide, a master or a notes page takes over from its master.
+struct Following {
+    explicit Following(const records::Record& sheet);
+
+    bool shapes = true;
+    bool background = true;
+};
+/// Writes it into the record, where it has a place for it.
+void putFollowing(records::Record& sheet, bool shapes, bool background);
+
 /// Places of members in the record.
 inline constexpr std::size_t slideAtomMaster = 12;
 inline constexpr std::size_t slideAtomNotes = 16;

@@ -3,7 +3,10 @@
 #include "automation/Text.h"
 #include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/ConnectionRules.h"
+#include "simulator/files/drawing/FillCodes.h"
+#include "simulator/files/drawing/Patches.h"
 #include "simulator/files/drawing/ShapeHead.h"
+#include "simulator/files/drawing/ShapeOrigin.h"
 #include "simulator/files/drawing/ShapeWriter.h"
 #include "simulator/files/powerpoint/BlankDocument.h"
 #include "simulator/files/powerpoint/Layouts.h"
@@ -50,7 +53,7 @@ std::vector<std::vector<Record>> writeShapes(Record& art, const Slide& slide, co
                                              const SlideTarget& target, bool isNew) {
     const std::size_t before = countShapeRecords(art);
     Record& group = *art.find(type::ArtShapeGroup);
-    drawing::ShapeWriter writer(ids, target.fonts, &target.document);
+    drawing::ShapeWriter writer(ids, target.fonts, &target.document, slide.kind);
     std::vector<Record> shapes = writer.write(slide.shapes());
     group.children.resize(1);
     std::move(shapes.begin(), shapes.end(), std::back_inserter(group.children));
@@ -82,10 +85,41 @@ void writeName(Record& record, const Slide& slide, const SlideOrigin* origin) {
     }
 }
 
+/// The fill of a background, over what its record says.
+void writeBackground(Record& art, const Slide& slide, const SlideTarget& target) {
+    Record* const record = art.find(type::ArtShape);
+    if (!slide.background || record == nullptr) {
+        return;
+    }
+    const drawing::ShapeOrigin* const origin = drawing::originOf(*slide.background, &target.document);
+    drawing::PropertyTable before;
+    if (origin != nullptr) {
+        drawing::writeFill(before, origin->asRead->fill);
+    }
+    drawing::PropertyTable now;
+    drawing::writeFill(now, slide.background->fill);
+    drawing::patchProperties(*record, before, now);
+}
+
+/// A new slide names its master, and one that follows another than it was read with.
+void writeMaster(Record& record, const Slide& slide, const SlideOrigin* origin, const Slide* master,
+                 const SlideTarget& target) {
+    const auto found = target.masters.find(master);
+    const bool isOther = slide.kind == SheetKind::Slide ? origin == nullptr || origin->master.lock().get() != master
+                                                        : slide.kind == SheetKind::TitleMaster && origin == nullptr;
+    if (found != target.masters.end() && isOther) {
+        files::putNumber(record.find(type::SlideAtom)->data, slideAtomMaster, found->second);
+    }
+}
+
 void writeSettings(Record& record, const Slide& slide, const SlideOrigin* origin) {
-    std::string& atom = record.find(type::SlideAtom)->data;
-    if (slide.layout != (origin == nullptr ? ppLayoutBlank : origin->layout)) {
-        atom.replace(0, slideAtomLayoutLength, layoutBytes(slide.layout));
+    Record* const atom = record.find(type::SlideAtom);
+    if (atom != nullptr && slide.layout != (origin == nullptr ? ppLayoutBlank : origin->layout)) {
+        atom->data.replace(0, slideAtomLayoutLength, layoutBytes(slide.layout));
+    }
+    if (slide.displaysMasterShapes != (origin == nullptr || origin->displaysMasterShapes) ||
+        slide.followsMasterBackground != (origin == nullptr || origin->followsMasterBackground)) {
+        putFollowing(record, slide.displaysMasterShapes, slide.followsMasterBackground);
     }
     writeName(record, slide, origin);
     if (!(slide.tags == (origin == nullptr ? TagList() : origin->tags))) {
@@ -95,9 +129,10 @@ void writeSettings(Record& record, const Slide& slide, const SlideOrigin* origin
 
 } // namespace
 
-WrittenSlide writeSlide(const Slide& slide, const SlideOrigin* origin, bool isCopy, const SlideTarget& target) {
-    WrittenSlide written{origin == nullptr ? blankSlide(target.master) : *target.document.objects.find(origin->object),
-                         {}};
+WrittenSlide writeSlide(const Slide& slide, const SlideOrigin* origin, bool isCopy, const Slide* master,
+                        const SlideTarget& target) {
+    WrittenSlide written{
+        origin == nullptr ? blankSheet(slide.kind, target.master) : *target.document.objects.find(origin->object), {}};
     const bool isNew = origin == nullptr || isCopy;
     const DrawingIds former = origin == nullptr ? DrawingIds{0, {0}} : target.drawings.ids(origin->drawing);
     DrawingIds ids = isNew ? target.drawings.add() : former;
@@ -109,8 +144,12 @@ WrittenSlide writeSlide(const Slide& slide, const SlideOrigin* origin, bool isCo
     target.drawings.reserve(ids, highest);
     if (isNew) {
         renumberDrawing(art, former, ids);
-        files::putNumber(written.record.find(type::SlideAtom)->data, slideAtomNotes, 0);
+        if (slide.kind == SheetKind::Slide) {
+            files::putNumber(written.record.find(type::SlideAtom)->data, slideAtomNotes, 0);
+        }
     }
+    writeMaster(written.record, slide, origin, master, target);
+    writeBackground(art, slide, target);
     written.outline = writeShapes(art, slide, ids, target, isNew);
     drawing::writeConnections(art, ids, slide);
     writeSettings(written.record, slide, origin);

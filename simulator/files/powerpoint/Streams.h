@@ -31,6 +31,12 @@ inline constexpr std::size_t highestObject = 20;
 inline constexpr std::size_t encryption = 28; ///< the last one, and only where the document is encrypted
 } // namespace userEdit
 
+/// Places in the record of the document.
+inline constexpr std::size_t notesWidthPlace = 8;
+inline constexpr std::size_t notesHeightPlace = 12;
+inline constexpr std::size_t notesMasterPlace = 24;
+inline constexpr std::size_t handoutMasterPlace = 28;
+
 inline constexpr std::uint16_t shapesSchemeInstance = 1; ///< of the colours in force
 inline constexpr std::uint16_t slideNameInstance = 3;
 inline constexpr std::uint16_t slideViewInstance = 0;

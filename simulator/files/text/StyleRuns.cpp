@@ -1,21 +1,29 @@
 #include "simulator/files/text/StyleRuns.h"
 
+#include "simulator/files/records/RecordTypes.h"
+
 #include <algorithm>
 
 namespace simulator::text {
 
 namespace {
 
-std::vector<StyleRun> readRuns(files::ByteReader& in, std::size_t length, bool ofParagraphs) {
+/// What a run of paragraphs says of itself.
+enum class Said : std::uint8_t { Level, LevelAndLooks, Looks };
+
+std::vector<StyleRun> readRuns(files::ByteReader& in, std::size_t length, Said said) {
     std::vector<StyleRun> runs;
     std::size_t covered = 0;
     while (covered < length && in.left() != 0) {
         StyleRun run;
         const bool isSound = asFarAsSound([&] {
             run.length = std::min<std::size_t>(in.read<std::uint32_t>(), length - covered);
-            run.level = ofParagraphs ? in.read<std::uint16_t>() : std::uint16_t{0};
-            run.exception =
-                ofParagraphs ? TextException::read(in, paragraph::fields) : TextException::read(in, character::fields);
+            run.level = said == Said::Looks ? std::uint16_t{0} : in.read<std::uint16_t>();
+            if (said == Said::LevelAndLooks) {
+                run.exception = TextException::read(in, paragraph::fields);
+            } else if (said == Said::Looks) {
+                run.exception = TextException::read(in, character::fields);
+            }
         });
         if (!isSound) {
             in.skip(in.left());
@@ -41,8 +49,22 @@ StyleRuns StyleRuns::plain(std::size_t length) {
 StyleRuns StyleRuns::read(std::string_view data, std::size_t length) {
     files::ByteReader in(data, "the style record of a text");
     StyleRuns runs;
-    runs.paragraphs = readRuns(in, length, true);
-    runs.characters = readRuns(in, length, false);
+    runs.paragraphs = readRuns(in, length, Said::LevelAndLooks);
+    runs.characters = readRuns(in, length, Said::Looks);
+    return runs;
+}
+
+StyleRuns StyleRuns::of(const std::vector<records::Record>& block, std::size_t length) {
+    StyleRuns runs = plain(length);
+    for (const records::Record& each : block) {
+        if (each.is(records::type::StyleTextPropAtom)) {
+            return read(each.data, length);
+        }
+        if (each.is(records::type::MasterTextPropAtom)) {
+            files::ByteReader in(each.data, "the levels of a master's text");
+            runs.paragraphs = readRuns(in, length, Said::Level);
+        }
+    }
     return runs;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/files/records/Record.h"
 #include "simulator/files/text/TextException.h"
 
 #include <cassert>
@@ -24,6 +25,8 @@ struct StyleRuns {
     static StyleRuns plain(std::size_t length);
     /// The runs for so many characters; what the record leaves out is covered by runs of no exception.
     static StyleRuns read(std::string_view data, std::size_t length);
+    /// Those of a text's records: of its style record, or of the levels that a master's text has in the place of one.
+    static StyleRuns of(const std::vector<records::Record>& block, std::size_t length);
     [[nodiscard]] std::string bytes() const;
 
     /// Adds a run, to the last one where it says the same.

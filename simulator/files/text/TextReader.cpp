@@ -118,9 +118,7 @@ std::uint32_t kindOf(const std::vector<Record>& block) {
 
 TextStory readText(const std::vector<Record>& block, const Numbering& numbering, const TextContext& context) {
     std::u16string text = charactersOf(block);
-    const Record* const styles = find(block, type::StyleTextPropAtom);
-    const StyleRuns runs =
-        styles == nullptr ? StyleRuns::plain(text.size() + 1) : StyleRuns::read(styles->data, text.size() + 1);
+    const StyleRuns runs = StyleRuns::of(block, text.size() + 1);
     return Reading(std::move(text), runs, kindOf(block), numbering, context).story();
 }
 

@@ -221,13 +221,11 @@ std::vector<Record> changedText(const std::vector<Record>& block, const TextStor
         }
         return fresh;
     }
-    const std::size_t length = asRead.text().size() + 1;
-    const auto styles =
-        std::find_if(block.begin(), block.end(), [](const Record& each) { return each.is(type::StyleTextPropAtom); });
-    const StyleRuns before = styles == block.end() ? StyleRuns::plain(length) : StyleRuns::read(styles->data, length);
+    const StyleRuns before = StyleRuns::of(block, asRead.text().size() + 1);
     const Descent descent(asRead.text(), now.text());
     std::vector<Record> changed = block;
     drop(changed, type::TextSpecialInfoAtom);
+    drop(changed, type::MasterTextPropAtom); // the styles say the levels, too
     changed[static_cast<std::size_t>(header - block.begin())].data = headerOf(kind);
     putText(changed, now.text(), changedRuns(before, asRead, now, descent, fonts));
     movePlaces(changed, descent);

@@ -49,9 +49,17 @@ public class HslfView {
             }
             try (FileInputStream file = new FileInputStream(path); HSLFSlideShow show = new HSLFSlideShow(file)) {
                 List<String> lines = new ArrayList<>();
+                for (HSLFSlideMaster master : show.getSlideMasters()) {
+                    tell("master", master, lines);
+                }
+                for (HSLFTitleMaster master : show.getTitleMasters()) {
+                    tell("title master", master, lines);
+                }
                 for (HSLFSlide slide : show.getSlides()) {
-                    lines.add("slide\t" + tagsIn(slide.getSheetContainer().getChildRecords()));
-                    tell(slide.getShapes(), 0, new AffineTransform(), lines);
+                    tell("slide", slide, lines);
+                    if (slide.getNotes() != null) {
+                        tell("notes", slide.getNotes(), lines);
+                    }
                 }
                 lines.forEach(out::println);
             } catch (Throwable refusal) {
@@ -72,6 +80,11 @@ public class HslfView {
             }
         }
         return (ManagementFactory.getThreadMXBean().getCurrentThreadCpuTime() - begun) / 1000;
+    }
+
+    static void tell(String what, HSLFSheet sheet, List<String> lines) throws Exception {
+        lines.add(what + "\t" + tagsIn(sheet.getSheetContainer().getChildRecords()));
+        tell(sheet.getShapes(), 0, new AffineTransform(), lines);
     }
 
     static void tell(List<HSLFShape> shapes, int depth, AffineTransform onSlide, List<String> lines) throws Exception {
@@ -173,9 +186,10 @@ public class HslfView {
                 if (run.getRawText().isEmpty()) {
                     continue;
                 }
+                // On a master it tells no style that the run does not say itself, but for its size.
                 // It takes the document's style of other texts where the master has one of its own.
                 boolean isOwn = run.getCharacterStyle().findByName("font.size") != null;
-                String now = (isOwn || run.getTextParagraph().getRunType() != TextHeaderAtom.OTHER_TYPE ? run.getFontSize() : "?") + (run.isBold() ? "b" : "") + (run.isItalic() ? "i" : "") + "#" + colorOf(run);
+                String now = (isOwn || run.getTextParagraph().getRunType() != TextHeaderAtom.OTHER_TYPE && run.getFontSize() != null ? run.getFontSize() : "?") + (shape.getSheet() instanceof HSLFMasterSheet ? "*" : (run.isBold() ? "b" : "") + (run.isItalic() ? "i" : "")) + "#" + colorOf(run);
                 if (!now.equals(looks) && length != 0) {
                     runs.append(length).append(':').append(looks).append(' ');
                     length = 0;

@@ -29,6 +29,13 @@ void rename(simulator::Shape& shape) {
     }
 }
 
+void rename(simulator::Slide& sheet) {
+    for (const simulator::ShapePtr& shape : sheet.shapes()) {
+        rename(*shape);
+    }
+    simulator::markChanged(sheet);
+}
+
 /// What is seen of a presentation whose shapes have been renamed, with their former names.
 std::vector<std::string> nameBack(std::vector<std::string> lines) {
     for (std::string& line : lines) {
@@ -66,9 +73,13 @@ std::string faultOf(const std::filesystem::path& deck, SecondReader& reader, con
         if (!difference.empty()) {
             return std::string(isRenamed ? "renamed and " : "") + "saved, as the second reader sees it\n" + difference;
         }
+        for (const simulator::SlidePtr& master : read->masters) {
+            rename(*master);
+        }
         for (const simulator::SlidePtr& slide : read->slides()) {
-            for (const simulator::ShapePtr& shape : slide->shapes()) {
-                rename(*shape);
+            rename(*slide);
+            if (slide->notesPage) {
+                rename(*slide->notesPage);
             }
         }
     }

@@ -6,6 +6,8 @@
 #include "simulator/process/Session.h"
 #include "tests/trials/learners/Gestures.h"
 
+#include <array>
+
 namespace trials::histories {
 
 namespace {
@@ -19,6 +21,18 @@ Statements linesOf(std::u16string_view text) {
     }
     return lines;
 }
+
+/// A statement about masters, notes or footers of a slide, "#" being its place and "%" any small number.
+constexpr std::array<std::u16string_view, 9> aboutMasters{
+    u"ActivePresentation.Slides(#).NotesPage.Shapes(2).TextFrame.TextRange.Text = \"Notes %\"",
+    u"ActivePresentation.Slides(#).NotesPage.Shapes(2).TextFrame.TextRange.InsertBefore \"avant % \"",
+    u"ActivePresentation.Slides(#).NotesPage.Shapes.AddShape msoShapeSun, 10%, 20, 30, 40",
+    u"ActivePresentation.Slides(#).FollowMasterBackground = msoFalse",
+    u"ActivePresentation.SlideMaster.Shapes(%).Left = 3%",
+    u"ActivePresentation.SlideMaster.Shapes(2).TextFrame.TextRange.Paragraphs(%).Font.Bold = msoTrue",
+    u"ActivePresentation.SlideMaster.Shapes.AddTextbox(1, 10, 1%, 90, 30).TextFrame.TextRange.Text = \"partout %\"",
+    u"ActivePresentation.AddTitleMaster",
+    u"ActivePresentation.TitleMaster.Delete"};
 
 } // namespace
 
@@ -57,6 +71,14 @@ Statements History::anything(learners::Draw& draw) {
     } else if (draw.percent(8)) {
         text = ground + (draw.percent(30) ? u"" : u".Shapes(" + number(draw.between(1, 4)) + u")") +
                u".Tags.Add \"Nom " + number(draw.between(1, 3)) + u"\", \"é" + number(draw.below(9)) + u"\"";
+    }
+    if (draw.percent(8)) {
+        text = aboutMasters.at(draw.below(aboutMasters.size()));
+        for (std::size_t place = 0; place < text.size(); ++place) {
+            if (text[place] == u'#' || text[place] == u'%') {
+                text.replace(place, 1, text[place] == u'#' ? number(slide) : number(draw.between(1, 5)));
+            }
+        }
     }
     const bool endsPowerPoint = text.starts_with(u"PowerPoint.") || text == u"ActivePresentation.Close";
     Statements done;

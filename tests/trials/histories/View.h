@@ -8,8 +8,9 @@
 namespace trials::histories {
 
 /// What is seen of a presentation, in lines that a second reader of its file can give as well. Fields are parted by
-/// tabs: "slide" and its tags; "shape", depth in groups, kind in the file, placeholder, left, top, width and height in
-/// master units, rotation, flips, fill, text, runs of text (their lengths with size, styles and colour), tags and name.
+/// tabs: "master", "title master", "slide" or "notes" (of the slide before) and its tags; "shape", depth in groups,
+/// kind in the file, placeholder, left, top, width and height in master units, rotation, flips, fill, text, runs of
+/// text (their lengths with size, styles and colour), tags and name; "?" for the shapes of a damaged master.
 [[nodiscard]] std::vector<std::string> viewOf(const simulator::Presentation& presentation);
 
 /// What two views differ in first; empty where they agree. Places may differ by a master unit; "?" is a kind or a

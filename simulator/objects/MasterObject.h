@@ -1,0 +1,36 @@
+#pragma once
+
+#include "simulator/objects/NodeSet.h"
+
+namespace simulator {
+
+class ApplicationObject;
+class PresentationObject;
+class ShapeRangeObject;
+class ShapesObject;
+
+/// Master: a slide master, title master, notes master or handout master.
+class MasterObject final : public NodeSetObject<Slide> {
+public:
+    using NodeSetObject::NodeSetObject;
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    /// The presentation.
+    [[nodiscard]] std::shared_ptr<PresentationObject> parent() const;
+    [[nodiscard]] std::shared_ptr<ShapesObject> shapes() const;
+    [[nodiscard]] std::shared_ptr<ShapeRangeObject> background() const;
+    [[nodiscard]] std::u16string name() const;
+    void setName(const std::u16string& name);
+    /// Points.
+    [[nodiscard]] float width() const;
+    [[nodiscard]] float height() const;
+    /// Raises an invalid request for any but a title master.
+    void erase();
+};
+
+/// The Master or the Slide that a sheet is, gone or not.
+[[nodiscard]] std::shared_ptr<PowerPointObject> objectOf(const SessionPtr& session, const std::weak_ptr<Slide>& sheet);
+
+} // namespace simulator
