@@ -24,6 +24,10 @@ public:
     std::vector<SlidePtr> masters; ///< slide masters and title masters
     SlidePtr notesMaster;          ///< null where there is none yet
     SlidePtr handoutMaster;        ///< null where there is none yet
+    HeadersFooters onSlides;       ///< of slides that have none of their own
+    HeadersFooters onPages;        ///< of notes pages and handouts
+    bool areOnTitleSlides = true;  ///< headers and footers are shown on title slides, too
+    SlideShowSetup slideShow;
     OriginPtr origin;
 
     [[nodiscard]] const std::vector<SlidePtr>& slides() const noexcept { return slides_; }

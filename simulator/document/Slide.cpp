@@ -90,6 +90,8 @@ SlidePtr Slide::clone() const {
     copy->followsMasterBackground = followsMasterBackground;
     copy->displaysMasterShapes = displaysMasterShapes;
     copy->master = master;
+    copy->headersFooters = headersFooters;
+    copy->transition = transition;
     copy->isTouched = isTouched;
     copy->origin = origin;
     if (background) {

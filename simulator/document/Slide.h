@@ -1,7 +1,9 @@
 #pragma once
 
+#include "simulator/document/HeadersFooters.h"
 #include "simulator/document/Shape.h"
 #include "simulator/document/SheetKind.h"
+#include "simulator/document/SlideShow.h"
 
 #include <algorithm>
 
@@ -21,11 +23,13 @@ public:
     TagList tags;
     bool followsMasterBackground = true;
     bool displaysMasterShapes = true;
-    ShapePtr background;         ///< its own; null where it has none yet
-    std::weak_ptr<Slide> master; ///< the slide master of a slide or a title master
-    SlidePtr notesPage;          ///< of a slide; null where it has none yet
-    std::weak_ptr<Slide> owner;  ///< the slide of a notes page
-    bool isTouched = false;      ///< has changed since it was read or made
+    ShapePtr background;                          ///< its own; null where it has none yet
+    std::weak_ptr<Slide> master;                  ///< the slide master of a slide or a title master
+    SlidePtr notesPage;                           ///< of a slide; null where it has none yet
+    std::weak_ptr<Slide> owner;                   ///< the slide of a notes page
+    std::optional<HeadersFooters> headersFooters; ///< of a slide or a title master that has its own
+    Transition transition;
+    bool isTouched = false; ///< has changed since it was read or made
     std::weak_ptr<Presentation> presentation;
     OriginPtr origin;
 

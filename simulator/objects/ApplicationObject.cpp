@@ -3,6 +3,7 @@
 #include "simulator/objects/CommandBarsObject.h"
 #include "simulator/objects/DocumentWindowsObject.h"
 #include "simulator/objects/PresentationsObject.h"
+#include "simulator/objects/SlideShowWindowsObject.h"
 #include "simulator/objects/TriState.h"
 
 namespace simulator {
@@ -20,6 +21,7 @@ const automation::MemberTable& ApplicationObject::members() const {
         property<&This::windows>(u"Windows"),
         property<&This::activeWindow>(u"ActiveWindow"),
         property<&This::activePresentation>(u"ActivePresentation"),
+        property<&This::slideShowWindows>(u"SlideShowWindows"),
         property<&This::commandBars>(u"CommandBars"),
         property<&This::application>(u"Application"),
         property<&This::name>(u"Name").asDefault(),
@@ -52,6 +54,10 @@ std::shared_ptr<PresentationsObject> ApplicationObject::presentations() const {
 
 std::shared_ptr<DocumentWindowsObject> ApplicationObject::windows() const {
     return std::make_shared<DocumentWindowsObject>(session());
+}
+
+std::shared_ptr<SlideShowWindowsObject> ApplicationObject::slideShowWindows() const {
+    return std::make_shared<SlideShowWindowsObject>(session());
 }
 
 std::shared_ptr<CommandBarsObject> ApplicationObject::commandBars() const {

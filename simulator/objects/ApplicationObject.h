@@ -9,6 +9,7 @@ class DocumentWindowObject;
 class DocumentWindowsObject;
 class PresentationObject;
 class PresentationsObject;
+class SlideShowWindowsObject;
 
 /// Application: PowerPoint itself. An invisible one has no active window and no active presentation.
 class ApplicationObject final : public PowerPointObject {
@@ -22,6 +23,7 @@ public:
     [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::shared_ptr<PresentationsObject> presentations() const;
     [[nodiscard]] std::shared_ptr<DocumentWindowsObject> windows() const;
+    [[nodiscard]] std::shared_ptr<SlideShowWindowsObject> slideShowWindows() const;
     [[nodiscard]] std::shared_ptr<CommandBarsObject> commandBars() const;
     /// Raises an invalid request where there is none.
     [[nodiscard]] std::shared_ptr<DocumentWindowObject> activeWindow() const;

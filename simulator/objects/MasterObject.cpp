@@ -3,6 +3,7 @@
 #include "simulator/document/Masters.h"
 #include "simulator/document/Order.h"
 #include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/HeadersFootersObject.h"
 #include "simulator/objects/PresentationObject.h"
 #include "simulator/objects/ShapeRangeObject.h"
 #include "simulator/objects/ShapesObject.h"
@@ -36,6 +37,7 @@ const automation::MemberTable& MasterObject::members() const {
         property<&This::name, &This::setName>(u"Name"),
         property<&This::width>(u"Width"),
         property<&This::height>(u"Height"),
+        property<&This::headersFooters>(u"HeadersFooters"),
         method<&This::erase>(u"Delete"),
     };
     return table;
@@ -57,6 +59,10 @@ std::shared_ptr<ShapeRangeObject> MasterObject::background() const {
     const SlidePtr master = node();
     const ShapePtr shape = backgroundOf(*simulator::alive(master->presentation), *master);
     return std::make_shared<ShapeRangeObject>(session(), shape);
+}
+
+std::shared_ptr<HeadersFootersObject> MasterObject::headersFooters() const {
+    return std::make_shared<HeadersFootersObject>(session(), node());
 }
 
 std::u16string MasterObject::name() const {

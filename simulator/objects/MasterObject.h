@@ -5,6 +5,7 @@
 namespace simulator {
 
 class ApplicationObject;
+class HeadersFootersObject;
 class PresentationObject;
 class ShapeRangeObject;
 class ShapesObject;
@@ -21,6 +22,7 @@ public:
     [[nodiscard]] std::shared_ptr<PresentationObject> parent() const;
     [[nodiscard]] std::shared_ptr<ShapesObject> shapes() const;
     [[nodiscard]] std::shared_ptr<ShapeRangeObject> background() const;
+    [[nodiscard]] std::shared_ptr<HeadersFootersObject> headersFooters() const;
     [[nodiscard]] std::u16string name() const;
     void setName(const std::u16string& name);
     /// Points.

@@ -8,6 +8,8 @@
 #include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PageSetupObject.h"
 #include "simulator/objects/PresentationsObject.h"
+#include "simulator/objects/SlideShowSettingsObject.h"
+#include "simulator/objects/SlideShowWindowObject.h"
 #include "simulator/objects/SlidesObject.h"
 #include "simulator/objects/TagsObject.h"
 #include "simulator/objects/TriState.h"
@@ -43,6 +45,8 @@ const automation::MemberTable& PresentationObject::members() const {
         method<&This::addTitleMaster>(u"AddTitleMaster"),
         property<&This::notesMaster>(u"NotesMaster"),
         property<&This::handoutMaster>(u"HandoutMaster"),
+        property<&This::slideShowSettings>(u"SlideShowSettings"),
+        property<&This::slideShowWindow>(u"SlideShowWindow"),
         property<&This::pageSetup>(u"PageSetup"),
         property<&This::tags>(u"Tags"),
         property<&This::windows>(u"Windows"),
@@ -165,6 +169,20 @@ std::shared_ptr<MasterObject> PresentationObject::handoutMaster() const {
 
 std::shared_ptr<MasterObject> PresentationObject::objectOf(const SlidePtr& master) const {
     return std::make_shared<MasterObject>(session(), master);
+}
+
+std::shared_ptr<SlideShowSettingsObject> PresentationObject::slideShowSettings() const {
+    return std::make_shared<SlideShowSettingsObject>(session(), document());
+}
+
+std::shared_ptr<SlideShowWindowObject> PresentationObject::slideShowWindow() const {
+    const PresentationPtr presentation = document();
+    for (const SlideShowWindowPtr& show : session()->slideShows()) {
+        if (show->presentation.lock() == presentation) {
+            return std::make_shared<SlideShowWindowObject>(session(), show);
+        }
+    }
+    errors::invalidRequest(u"Presentation.SlideShowWindow", u"Le diaporama de la présentation n'est pas en cours.");
 }
 
 std::shared_ptr<TagsObject> PresentationObject::tags() const {

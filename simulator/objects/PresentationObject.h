@@ -12,6 +12,8 @@ class DocumentWindowsObject;
 class MasterObject;
 class PageSetupObject;
 class PresentationsObject;
+class SlideShowSettingsObject;
+class SlideShowWindowObject;
 class SlidesObject;
 class TagsObject;
 
@@ -59,6 +61,9 @@ public:
     [[nodiscard]] std::shared_ptr<MasterObject> addTitleMaster() const;
     [[nodiscard]] std::shared_ptr<MasterObject> notesMaster() const;
     [[nodiscard]] std::shared_ptr<MasterObject> handoutMaster() const;
+    [[nodiscard]] std::shared_ptr<SlideShowSettingsObject> slideShowSettings() const;
+    /// Raises an invalid request where its slide show does not run.
+    [[nodiscard]] std::shared_ptr<SlideShowWindowObject> slideShowWindow() const;
     /// Another window on it, in front.
     [[nodiscard]] std::shared_ptr<DocumentWindowObject> newWindow() const;
     [[nodiscard]] std::shared_ptr<TagsObject> tags() const;

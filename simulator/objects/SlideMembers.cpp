@@ -3,11 +3,13 @@
 #include "simulator/document/Masters.h"
 #include "simulator/document/SlideLayout.h"
 #include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/HeadersFootersObject.h"
 #include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PresentationObject.h"
 #include "simulator/objects/ShapeRangeObject.h"
 #include "simulator/objects/ShapesObject.h"
 #include "simulator/objects/SlideRangeObject.h"
+#include "simulator/objects/SlideShowTransitionObject.h"
 #include "simulator/objects/TagsObject.h"
 #include "simulator/picture/SlidePicture.h"
 
@@ -35,6 +37,8 @@ const automation::MemberTable& SlideMembers::sharedMembers() {
         property<&This::displayMasterShapes, &This::setDisplayMasterShapes>(u"DisplayMasterShapes"),
         property<&This::background>(u"Background"),
         property<&This::notesPage>(u"NotesPage"),
+        property<&This::headersFooters>(u"HeadersFooters"),
+        property<&This::slideShowTransition>(u"SlideShowTransition"),
         property<&This::slideIndex>(u"SlideIndex"),
         property<&This::slideIndex>(u"SlideNumber"),
         method<&This::moveTo>(u"MoveTo", u"ToPos"),
@@ -92,6 +96,16 @@ std::shared_ptr<ShapeRangeObject> SlideMembers::background() const {
         shapes.push_back(backgroundOf(*presentation(), *slide));
     }
     return std::make_shared<ShapeRangeObject>(session(), shapes);
+}
+
+std::shared_ptr<HeadersFootersObject> SlideMembers::headersFooters() const {
+    demandSlides(u"Slide.HeadersFooters");
+    return std::make_shared<HeadersFootersObject>(session(), nodes());
+}
+
+std::shared_ptr<SlideShowTransitionObject> SlideMembers::slideShowTransition() const {
+    demandSlides(u"Slide.SlideShowTransition");
+    return std::make_shared<SlideShowTransitionObject>(session(), nodes());
 }
 
 std::shared_ptr<SlideRangeObject> SlideMembers::notesPage() const {

@@ -7,11 +7,13 @@
 namespace simulator {
 
 class ApplicationObject;
+class HeadersFootersObject;
 class MasterObject;
 class PresentationObject;
 class ShapeRangeObject;
 class ShapesObject;
 class SlideRangeObject;
+class SlideShowTransitionObject;
 class TagsObject;
 
 /// The members that Slide and SlideRange have in common; those that read one thing take a range of one slide. Every
@@ -35,6 +37,8 @@ public:
     void setDisplayMasterShapes(MsoTriState displayed);
     /// The background that is shown: the master's, unless the slide has one of its own.
     [[nodiscard]] std::shared_ptr<ShapeRangeObject> background() const;
+    [[nodiscard]] std::shared_ptr<HeadersFootersObject> headersFooters() const;
+    [[nodiscard]] std::shared_ptr<SlideShowTransitionObject> slideShowTransition() const;
     /// The notes pages of the slides.
     [[nodiscard]] std::shared_ptr<SlideRangeObject> notesPage() const;
     /// Place from 1 in the presentation; of a notes page, its slide's, as below.

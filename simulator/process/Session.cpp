@@ -74,6 +74,7 @@ void Session::end() {
         return;
     }
     windows_.clear();
+    slideShows_.clear();
     presentations_.clear();
     clipboard_.shapes.clear(); // nothing here may ask for memory: an end is whole
     clipboard_.slides.clear();
@@ -190,6 +191,29 @@ void Session::closeWindow(const DocumentWindowPtr& window) {
         close(presentation);
     }
     updateTitle();
+}
+
+SlideShowWindowPtr Session::runSlideShow(const PresentationPtr& presentation) {
+    auto show = std::make_shared<SlideShowWindow>(presentation);
+    if (!show->shown()) {
+        errors::invalidRequest(u"SlideShowSettings.Run", u"Il n'y a aucune diapositive à montrer.");
+    }
+    std::erase_if(slideShows_, [&presentation](const SlideShowWindowPtr& each) {
+        return each->presentation.lock() == presentation || each->isOver();
+    });
+    slideShows_.insert(slideShows_.begin(), show);
+    return show;
+}
+
+const std::vector<SlideShowWindowPtr>& Session::slideShows() {
+    std::erase_if(slideShows_, [](const SlideShowWindowPtr& each) { return each->isOver(); });
+    return slideShows_;
+}
+
+void Session::activate(const SlideShowWindowPtr& show) noexcept {
+    if (const auto found = std::find(slideShows_.begin(), slideShows_.end(), show); found != slideShows_.end()) {
+        std::rotate(slideShows_.begin(), found, found + 1);
+    }
 }
 
 DocumentWindowPtr Session::activeWindow() const {

@@ -4,6 +4,7 @@
 #include "simulator/process/DocumentWindow.h"
 #include "simulator/process/MainWindow.h"
 #include "simulator/process/SavePrompt.h"
+#include "simulator/process/SlideShowWindow.h"
 
 #include <functional>
 
@@ -98,6 +99,13 @@ public:
     void activate(const DocumentWindowPtr& window);
     /// Closes a window, and its presentation with the last one.
     void closeWindow(const DocumentWindowPtr& window);
+    /// Runs the slide show of a presentation in a window of its own, which is no document window; one that runs is
+    /// ended. Raises an invalid request where there is nothing to show.
+    SlideShowWindowPtr runSlideShow(const PresentationPtr& presentation);
+    /// The slide shows that run, the last one started in front.
+    [[nodiscard]] const std::vector<SlideShowWindowPtr>& slideShows();
+
+    void activate(const SlideShowWindowPtr& show) noexcept;
     /// The active document window; null where there is none, or where PowerPoint is invisible.
     [[nodiscard]] DocumentWindowPtr activeWindow() const;
     /// The first window that shows a presentation; null where it has none.
@@ -117,6 +125,7 @@ private:
     State state_ = State::Running;
     std::vector<PresentationPtr> presentations_;
     std::vector<DocumentWindowPtr> windows_;
+    std::vector<SlideShowWindowPtr> slideShows_;
     Clipboard clipboard_;
     std::function<void()> onCall_;
     std::function<void()> onEnd_;

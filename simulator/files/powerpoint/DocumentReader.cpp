@@ -8,8 +8,10 @@
 #include "simulator/files/drawing/ShapeReader.h"
 #include "simulator/files/powerpoint/ColorSchemeAtom.h"
 #include "simulator/files/powerpoint/DocumentSettings.h"
+#include "simulator/files/powerpoint/HeadersFootersRecord.h"
 #include "simulator/files/powerpoint/PersistReader.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
+#include "simulator/files/powerpoint/SlideShowRecords.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
@@ -57,6 +59,10 @@ public:
         origin_->gridDistance = presentation->gridDistance;
         origin_->tags = presentation->tags;
         origin_->colors = presentation->colors;
+        origin_->onSlides = presentation->onSlides;
+        origin_->onPages = presentation->onPages;
+        origin_->areOnTitleSlides = presentation->areOnTitleSlides;
+        origin_->slideShow = presentation->slideShow;
         presentation->origin = origin_;
         readMasters();
         for (SlideEntry& entry : entriesIn(document_, slideList::slides)) {
@@ -228,6 +234,10 @@ private:
             slide.layout = SlideAtom(record).layout;
         }
         slide.tags = records::readTags(record);
+        if (slide.kind == SheetKind::Slide || slide.kind == SheetKind::TitleMaster) {
+            slide.headersFooters = readHeadersFooters(record, headersFooters::ofSheet);
+            slide.transition = readTransition(record);
+        }
         origin->document = origin_;
         origin->object = entry.object();
         origin->entry = std::move(entry);
@@ -236,6 +246,8 @@ private:
         origin->tags = slide.tags;
         origin->followsMasterBackground = slide.followsMasterBackground;
         origin->displaysMasterShapes = slide.displaysMasterShapes;
+        origin->headersFooters = slide.headersFooters;
+        origin->transition = slide.transition;
         origin->master = findMaster(*presentation_, slide);
         slide.origin = origin;
     }

@@ -4,6 +4,8 @@
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/powerpoint/GridSpacing.h"
+#include "simulator/files/powerpoint/HeadersFootersRecord.h"
+#include "simulator/files/powerpoint/SlideShowRecords.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/RecordTypes.h"
 #include "simulator/files/records/Tags.h"
@@ -20,6 +22,7 @@ namespace type = records::type;
 constexpr std::size_t widthPlace = 0;
 constexpr std::size_t heightPlace = 4;
 constexpr std::size_t sizeKindPlace = 34;
+constexpr std::size_t omitTitlesPlace = 37;
 constexpr std::size_t snapPlace = 1;
 
 const Record* slideView(const Record& document) noexcept {
@@ -69,6 +72,11 @@ void readSettings(const Record& document, Presentation& presentation) {
     presentation.slideHeight = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
     presentation.notesWidth = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
     presentation.notesHeight = static_cast<float>(in.read<std::int32_t>()) / drawing::masterUnitsPerPoint;
+    const std::string& atom = document.demand(type::DocumentAtom).data;
+    presentation.areOnTitleSlides = atom.size() <= omitTitlesPlace || atom[omitTitlesPlace] == 0;
+    presentation.onSlides = readHeadersFooters(document, headersFooters::ofSlides).value_or(HeadersFooters());
+    presentation.onPages = readHeadersFooters(document, headersFooters::ofPages).value_or(HeadersFooters());
+    presentation.slideShow = readSlideShow(document);
     if (const Record* const list = document.find(type::DocInfoList)) {
         presentation.tags = records::readTags(*list);
         presentation.gridDistance = readGridSpacing(*list).value_or(presentation.gridDistance);
@@ -83,6 +91,19 @@ void writeSettings(Record& document, const Presentation& presentation, const Pre
     }
     if (!(presentation.tags == origin.tags)) {
         records::putTags(docInfoList(document), presentation.tags);
+    }
+    if (presentation.onSlides != origin.onSlides) {
+        putHeadersFooters(document, headersFooters::ofSlides, presentation.onSlides);
+    }
+    if (presentation.onPages != origin.onPages) {
+        putHeadersFooters(document, headersFooters::ofPages, presentation.onPages);
+    }
+    if (std::string& atom = document.find(type::DocumentAtom)->data;
+        presentation.areOnTitleSlides != origin.areOnTitleSlides && atom.size() > omitTitlesPlace) {
+        atom[omitTitlesPlace] = presentation.areOnTitleSlides ? '\0' : '\1';
+    }
+    if (presentation.slideShow != origin.slideShow) {
+        putSlideShow(document, presentation.slideShow);
     }
     if (presentation.gridDistance != origin.gridDistance) {
         writeGridSpacing(docInfoList(document), presentation.gridDistance);

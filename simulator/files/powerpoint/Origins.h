@@ -24,6 +24,10 @@ public:
     float slideHeight = 0;
     ColorScheme colors;
     TagList tags;
+    HeadersFooters onSlides;
+    HeadersFooters onPages;
+    bool areOnTitleSlides = true;
+    SlideShowSetup slideShow;
 };
 
 /// What a file says of a slide, a master or a notes page.
@@ -39,6 +43,8 @@ public:
     TagList tags;
     bool followsMasterBackground = true;
     bool displaysMasterShapes = true;
+    std::optional<HeadersFooters> headersFooters;
+    Transition transition;
     std::weak_ptr<const Slide> master; ///< of a slide
 };
 

@@ -9,8 +9,10 @@
 #include "simulator/files/drawing/ShapeOrigin.h"
 #include "simulator/files/drawing/ShapeWriter.h"
 #include "simulator/files/powerpoint/BlankDocument.h"
+#include "simulator/files/powerpoint/HeadersFootersRecord.h"
 #include "simulator/files/powerpoint/Layouts.h"
 #include "simulator/files/powerpoint/SlideAtom.h"
+#include "simulator/files/powerpoint/SlideShowRecords.h"
 #include "simulator/files/powerpoint/Streams.h"
 #include "simulator/files/records/Tags.h"
 
@@ -120,6 +122,12 @@ void writeSettings(Record& record, const Slide& slide, const SlideOrigin* origin
     if (slide.displaysMasterShapes != (origin == nullptr || origin->displaysMasterShapes) ||
         slide.followsMasterBackground != (origin == nullptr || origin->followsMasterBackground)) {
         putFollowing(record, slide.displaysMasterShapes, slide.followsMasterBackground);
+    }
+    if (slide.headersFooters != (origin == nullptr ? std::nullopt : origin->headersFooters)) {
+        putHeadersFooters(record, headersFooters::ofSheet, slide.headersFooters);
+    }
+    if (!(slide.transition == (origin == nullptr ? Transition() : origin->transition))) {
+        putTransition(record, slide.transition);
     }
     writeName(record, slide, origin);
     if (!(slide.tags == (origin == nullptr ? TagList() : origin->tags))) {

@@ -23,11 +23,12 @@ Statements linesOf(std::u16string_view text) {
 }
 
 /// A statement about masters, notes or footers of a slide, "#" being its place and "%" any small number.
-constexpr std::array<std::u16string_view, 9> aboutMasters{
+constexpr std::array<std::u16string_view, 10> aboutMasters{
     u"ActivePresentation.Slides(#).NotesPage.Shapes(2).TextFrame.TextRange.Text = \"Notes %\"",
     u"ActivePresentation.Slides(#).NotesPage.Shapes(2).TextFrame.TextRange.InsertBefore \"avant % \"",
     u"ActivePresentation.Slides(#).NotesPage.Shapes.AddShape msoShapeSun, 10%, 20, 30, 40",
     u"ActivePresentation.Slides(#).FollowMasterBackground = msoFalse",
+    u"ActivePresentation.Slides(#).HeadersFooters.Footer.Text = \"pied %\"",
     u"ActivePresentation.SlideMaster.Shapes(%).Left = 3%",
     u"ActivePresentation.SlideMaster.Shapes(2).TextFrame.TextRange.Paragraphs(%).Font.Bold = msoTrue",
     u"ActivePresentation.SlideMaster.Shapes.AddTextbox(1, 10, 1%, 90, 30).TextFrame.TextRange.Text = \"partout %\"",

@@ -1,0 +1,46 @@
+#include "simulator/objects/SlideShowTransitionObject.h"
+
+#include "simulator/document/EntryEffects.h"
+#include "simulator/objects/ApplicationObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& SlideShowTransitionObject::members() const {
+    using automation::property;
+    using This = SlideShowTransitionObject;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::get<&Transition::effect>, &This::setEntryEffect>(u"EntryEffect"),
+        property<&This::get<&Transition::speed>, &This::setSpeed>(u"Speed"),
+        property<&This::get<&Transition::advancesOnClick>, &This::turn<&Transition::advancesOnClick>>(
+            u"AdvanceOnClick"),
+        property<&This::get<&Transition::advancesOnTime>, &This::turn<&Transition::advancesOnTime>>(u"AdvanceOnTime"),
+        property<&This::get<&Transition::advanceTime>, &This::setAdvanceTime>(u"AdvanceTime"),
+        property<&This::get<&Transition::isHidden>, &This::turn<&Transition::isHidden>>(u"Hidden"),
+    };
+    return table;
+}
+
+std::shared_ptr<ApplicationObject> SlideShowTransitionObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+void SlideShowTransitionObject::setEntryEffect(std::int32_t effect) {
+    if (!entryEffect::isKnown(effect)) {
+        errors::invalidValue(u"SlideShowTransition.EntryEffect");
+    }
+    set<&Transition::effect>(effect);
+}
+
+void SlideShowTransitionObject::setSpeed(std::int32_t speed) {
+    errors::demandWithin(speed, 1, 3, u"SlideShowTransition.Speed");
+    set<&Transition::speed>(speed);
+}
+
+void SlideShowTransitionObject::setAdvanceTime(float seconds) {
+    constexpr float longest = 86400;
+    errors::demandWithin(seconds, 0.0F, longest, u"SlideShowTransition.AdvanceTime");
+    set<&Transition::advanceTime>(seconds);
+}
+
+} // namespace simulator

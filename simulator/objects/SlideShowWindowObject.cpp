@@ -1,0 +1,71 @@
+#include "simulator/objects/SlideShowWindowObject.h"
+
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/CollectionLookup.h"
+#include "simulator/objects/PresentationObject.h"
+#include "simulator/objects/SlideShowViewObject.h"
+#include "simulator/objects/TriState.h"
+
+#include <typeinfo>
+
+namespace simulator {
+
+bool OfSlideShow::isSame(const Object& other) const noexcept {
+    const auto* const peer = dynamic_cast<const OfSlideShow*>(&other);
+    return peer != nullptr && typeid(*this) == typeid(other) && isSameReference(window_, peer->window_);
+}
+
+SlideShowWindowPtr OfSlideShow::window() const {
+    SlideShowWindowPtr window = simulator::alive(window_);
+    if (window->isOver()) {
+        errors::gone();
+    }
+    return window;
+}
+
+const automation::MemberTable& SlideShowWindowObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = SlideShowWindowObject;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::presentation>(u"Parent"),
+        property<&This::presentation>(u"Presentation"),
+        property<&This::view>(u"View"),
+        property<&This::isFullScreen>(u"IsFullScreen"),
+        property<&This::active>(u"Active"),
+        method<&This::activate>(u"Activate"),
+        property<&This::length<&Frame::left>, &This::setLength<&Frame::left>>(u"Left"),
+        property<&This::length<&Frame::top>, &This::setLength<&Frame::top>>(u"Top"),
+        property<&This::length<&Frame::width>, &This::setLength<&Frame::width>>(u"Width"),
+        property<&This::length<&Frame::height>, &This::setLength<&Frame::height>>(u"Height"),
+    };
+    return table;
+}
+
+std::shared_ptr<ApplicationObject> SlideShowWindowObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::shared_ptr<PresentationObject> SlideShowWindowObject::presentation() const {
+    return std::make_shared<PresentationObject>(session(), window()->presentation);
+}
+
+std::shared_ptr<SlideShowViewObject> SlideShowWindowObject::view() const {
+    return std::make_shared<SlideShowViewObject>(session(), window());
+}
+
+MsoTriState SlideShowWindowObject::isFullScreen() const {
+    constexpr std::int32_t ppShowTypeWindow = 2;
+    return triState(simulator::alive(window()->presentation)->slideShow.showType != ppShowTypeWindow);
+}
+
+MsoTriState SlideShowWindowObject::active() const {
+    return triState(session()->slideShows().front() == window());
+}
+
+void SlideShowWindowObject::activate() const {
+    session()->activate(window());
+}
+
+} // namespace simulator

@@ -1,0 +1,37 @@
+#include "simulator/objects/SlideShowWindowsObject.h"
+
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/CollectionLookup.h"
+#include "simulator/objects/SlideShowWindowObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& SlideShowWindowsObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = SlideShowWindowsObject;
+    static const automation::MemberTable table{
+        property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
+        property<&This::application>(u"Application"),
+        property<&This::application>(u"Parent"),
+        method<&This::item>(u"Item", u"Index").asDefault(),
+    };
+    return table;
+}
+
+std::shared_ptr<ApplicationObject> SlideShowWindowsObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::int32_t SlideShowWindowsObject::count() const {
+    return static_cast<std::int32_t>(session()->slideShows().size());
+}
+
+std::shared_ptr<SlideShowWindowObject> SlideShowWindowsObject::item(std::int32_t index) const {
+    const std::vector<SlideShowWindowPtr>& shows = session()->slideShows();
+    return std::make_shared<SlideShowWindowObject>(session(),
+                                                   shows[placeIn(shows.size(), index, u"SlideShowWindows.Item")]);
+}
+
+} // namespace simulator
