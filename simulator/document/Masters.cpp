@@ -50,6 +50,9 @@ constexpr StandardPlaceholder slideImage{
     ppPlaceholderSlideImage, {90, 54, 360, 270}, 12, ppAlignLeft, msoAnchorTop, u""};
 constexpr Frame notesFrame{72, 342, 396, 324};
 
+/// What every sheet of a kind has.
+namespace standard {
+
 constexpr std::array slideMaster{
     StandardPlaceholder{ppPlaceholderTitle, {36, 21.625F, 648, 90}, 44, ppAlignCenter, msoAnchorMiddle, titlePrompt},
     StandardPlaceholder{ppPlaceholderBody, {36, 126, 648, 356.375F}, 32, ppAlignLeft, msoAnchorTop, bodyPrompt},
@@ -72,13 +75,15 @@ constexpr std::array notesMaster{
     pageFooter, pageNumber};
 constexpr std::array handoutMaster{pageHeader, pageDate, pageFooter, pageNumber};
 
+} // namespace standard
+
 std::span<const StandardPlaceholder> placeholdersOf(SheetKind kind) noexcept {
     switch (kind) {
-    case SheetKind::SlideMaster: return slideMaster;
-    case SheetKind::TitleMaster: return titleMaster;
-    case SheetKind::NotesPage: return notesPage;
-    case SheetKind::NotesMaster: return notesMaster;
-    case SheetKind::HandoutMaster: return handoutMaster;
+    case SheetKind::SlideMaster: return standard::slideMaster;
+    case SheetKind::TitleMaster: return standard::titleMaster;
+    case SheetKind::NotesPage: return standard::notesPage;
+    case SheetKind::NotesMaster: return standard::notesMaster;
+    case SheetKind::HandoutMaster: return standard::handoutMaster;
     case SheetKind::Slide: break;
     }
     return {};
@@ -184,8 +189,7 @@ SlidePtr addTitleMaster(Presentation& presentation) {
     const SlidePtr beside = slideMasterOf(presentation);
     SlidePtr title;
     settled(title, SheetKind::TitleMaster, presentation)->master = beside;
-    const auto place = std::find(presentation.masters.begin(), presentation.masters.end(), beside);
-    presentation.masters.insert(place + 1, title);
+    presentation.masters.push_back(title);
     return title;
 }
 
