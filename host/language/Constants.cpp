@@ -47,7 +47,8 @@ constexpr auto runs = std::to_array<Run>({
     {u"msoShape", -2, u"Mixed"},
     {u"msoPresetThreeDFormat", -2, u"Mixed"},
     {u"mso", 1, u"AutoShape Callout Chart Comment Freeform Group EmbeddedOLEObject FormControl Line"},
-    {u"mso", 10, u"LinkedOLEObject LinkedPicture OLEControlObject Picture Placeholder TextEffect Media TextBox"},
+    {u"mso", 10,
+     u"LinkedOLEObject LinkedPicture OLEControlObject Picture Placeholder TextEffect Media TextBox ScriptAnchor Table"},
     {u"mso", 0, u"BringToFront SendToBack BringForward SendBackward"},
     {u"mso", 0, u"FlipHorizontal FlipVertical"},
     {u"msoScaleFrom", 0, u"TopLeft Middle BottomRight"},
@@ -144,6 +145,8 @@ constexpr auto runs = std::to_array<Run>({
     {u"ppEffect", 3845,
      u"CircleOut DiamondOut CombHorizontal CombVertical FadeSmoothly Newsflash PlusOut PushDown PushLeft "
      u"PushRight PushUp Wedge Wheel1Spoke Wheel2Spokes Wheel3Spokes Wheel4Spokes Wheel8Spokes"},
+    {u"ppBorder", 1, u"Top Left Bottom Right DiagonalDown DiagonalUp"},
+    {u"ppDirection", 1, u"LeftToRight RightToLeft"},
     {u"ppCase", 1, u"Sentence Lower Upper Title Toggle"},
 });
 

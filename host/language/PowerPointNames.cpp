@@ -24,10 +24,15 @@ constexpr auto classes = std::to_array<PublishedClass>({
      u"DisplayAlerts DisplayGridLines FeatureInstall FileDialog FileSearch Height Help HWND LanguageSettings Left "
      u"Name NewPresentation OperatingSystem Options Path Presentations ProductCode Quit Run ShowStartupDialog "
      u"ShowWindowsInTaskbar SlideShowWindows Top VBE Version Visible Width Windows WindowState"},
+    {u"Borders", u"Application Count Item Parent"},
     {u"BulletFormat",
      u"Application Character Font Number Parent Picture RelativeSize StartValue Style Type UseTextColor UseTextFont "
      u"Visible"},
+    {u"Cell", u"Application Borders Merge Parent Select Selected Shape Split"},
+    {u"CellRange", u"Application Borders Count Item Parent"},
     {u"ColorFormat", u"Application Creator Parent RGB SchemeColor TintAndShade Type"},
+    {u"Column", u"Application Cells Delete Parent Select Width"},
+    {u"Columns", u"Add Application Count Item Parent"},
     {u"CommandBar",
      u"accDoDefaultAction accHitTest accLocation accNavigate accSelect AdaptiveMenu Application BuiltIn Context "
      u"Controls Creator Delete Enabled FindControl Height Id Index Left Name NameLocal Parent Position Protection "
@@ -86,6 +91,8 @@ constexpr auto classes = std::to_array<PublishedClass>({
      u"Signatures SlideMaster Slides SlideShowSettings SlideShowWindow SnapToGrid Sync Tags TemplateName "
      u"TitleMaster UpdateLinks VBASigned VBProject WebOptions WebPagePreview Windows WritePassword"},
     {u"Presentations", u"Add Application CanCheckOut CheckOut Count Item Open Parent"},
+    {u"Row", u"Application Cells Delete Height Parent Select"},
+    {u"Rows", u"Add Application Count Item Parent"},
     {u"Selection",
      u"Application ChildShapeRange Copy Cut Delete HasChildShapeRange Parent ShapeRange SlideRange TextRange Type "
      u"Unselect"},
@@ -127,6 +134,7 @@ constexpr auto classes = std::to_array<PublishedClass>({
      u"Duplicate Export FollowMasterBackground HeadersFooters Hyperlinks Item Layout Master MoveTo Name NotesPage "
      u"Parent PrintSteps Scripts Select Shapes SlideID SlideIndex SlideNumber SlideShowTransition Tags TimeLine"},
     {u"Slides", u"Add Application Count FindBySlideID InsertFromFile Item Parent Paste Range"},
+    {u"Table", u"Application Cell Columns Parent Rows TableDirection"},
     {u"Tags", u"Add AddBinary Application BinaryValue Count Delete Item Name Parent Value"},
     {u"TextEffectFormat",
      u"Alignment Application Creator FontBold FontItalic FontName FontSize KernedPairs NormalizedHeight Parent "
@@ -151,15 +159,15 @@ constexpr auto classes = std::to_array<PublishedClass>({
 /// The names of its other classes.
 constexpr std::u16string_view otherClasses =
     u"ActionSetting ActionSettings AddIn AddIns Adjustments AnimationBehavior AnimationBehaviors AnimationPoint "
-    u"AnimationPoints AnimationSettings AutoCorrect Borders CalloutFormat CanvasShapes Cell CellRange ColorEffect "
-    u"ColorScheme ColorSchemes Column Columns CommandEffect Comment Comments DefaultWebOptions "
+    u"AnimationPoints AnimationSettings AutoCorrect CalloutFormat CanvasShapes ColorEffect "
+    u"ColorScheme ColorSchemes CommandEffect Comment Comments DefaultWebOptions "
     u"Design Designs Diagram DiagramNode DiagramNodeChildren DiagramNodes Effect EffectInformation EffectParameters "
     u"ExtraColors FilterEffect Fonts HeaderFooter HeadersFooters Hyperlink Hyperlinks LinkFormat Master "
     u"MotionEffect NamedSlideShow NamedSlideShows ObjectVerbs OCXExtender OLEFormat Options PictureFormat "
     u"PlaySettings PrintOptions PrintRange PrintRanges PropertyEffect PublishObject PublishObjects RGBColor "
-    u"RotationEffect Row Rows Ruler RulerLevel RulerLevels ScaleEffect Sequence Sequences SetEffect "
+    u"RotationEffect Ruler RulerLevel RulerLevels ScaleEffect Sequence Sequences SetEffect "
     u"SlideShowSettings SlideShowTransition SlideShowView SlideShowWindow SlideShowWindows SoundEffect SoundFormat "
-    u"Table TabStop TabStops TextStyle TextStyleLevel TextStyleLevels TextStyles TimeLine Timing WebOptions";
+    u"TabStop TabStops TextStyle TextStyleLevel TextStyleLevels TextStyles TimeLine Timing WebOptions";
 
 std::vector<std::u16string_view> wordsOf(std::u16string_view text) {
     std::vector<std::u16string_view> words;

@@ -82,7 +82,7 @@ bool holdsOnTo(const Shape& connector, const Shape& shape) noexcept {
 } // namespace
 
 std::int32_t connectionSites(const Shape& shape) noexcept {
-    if (shape.connector || shape.type == msoGroup || shape.type == msoLine) {
+    if (shape.connector || shape.isComposed() || shape.type == msoLine) {
         return 0;
     }
     return shape.autoShapeType == msoShapeOval ? 8 : 4;

@@ -18,6 +18,7 @@ enum MsoShapeType : std::int32_t {
     msoPlaceholder = 14,
     msoTextEffect = 15,
     msoTextBox = 17,
+    msoTable = 19,
 };
 
 inline constexpr std::int32_t msoShapeMixed = -2;
@@ -69,6 +70,17 @@ enum MsoScaleFrom : std::int32_t { msoScaleFromTopLeft = 0, msoScaleFromMiddle =
 enum MsoSegmentType : std::int32_t { msoSegmentLine = 0, msoSegmentCurve = 1 };
 
 enum MsoEditingType : std::int32_t { msoEditingAuto = 0, msoEditingCorner = 1 };
+
+enum PpBorderType : std::int32_t {
+    ppBorderTop = 1,
+    ppBorderLeft = 2,
+    ppBorderBottom = 3,
+    ppBorderRight = 4,
+    ppBorderDiagonalDown = 5,
+    ppBorderDiagonalUp = 6,
+};
+
+enum PpDirection : std::int32_t { ppDirectionLeftToRight = 1, ppDirectionRightToLeft = 2 };
 
 enum PpSlideLayout : std::int32_t {
     ppLayoutTitle = 1,

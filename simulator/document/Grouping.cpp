@@ -13,7 +13,7 @@ ShapePtr group(Slide& slide, const std::vector<ShapePtr>& shapes) {
     auto group = std::make_shared<Shape>();
     group->type = msoGroup;
     group->autoShapeType = msoShapeMixed;
-    slide.add(group, u"Group");
+    slide.add(group);
     for (const ShapePtr& item : items) {
         slide.remove(item);
     }

@@ -154,7 +154,7 @@ SlidePtr makeSheet(SheetKind kind, const Presentation& presentation) {
     sheet->name = kind == SheetKind::SlideMaster ? u"Modèle par défaut" : u"";
     for (const StandardPlaceholder& each : placeholdersOf(kind)) {
         const ShapePtr shape = makePlaceholder(each, kind, presentation);
-        sheet->add(shape, newShape::baseName(*shape));
+        sheet->add(shape);
     }
     return sheet;
 }
@@ -248,7 +248,7 @@ ShapePtr restoreStandardPlaceholder(Slide& sheet, PpPlaceholderType type) {
     for (const StandardPlaceholder& each : placeholdersOf(sheet.kind)) {
         if (each.type == type && !isThere()) {
             ShapePtr shape = makePlaceholder(each, sheet.kind, *sheet.presentation.lock());
-            sheet.add(shape, newShape::baseName(*shape));
+            sheet.add(shape);
             return shape;
         }
     }

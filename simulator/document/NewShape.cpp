@@ -1,5 +1,8 @@
 #include "simulator/document/NewShape.h"
 
+#include "automation/Text.h"
+#include "simulator/document/TableGrid.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -45,6 +48,25 @@ void formatBody(TextStory& text, PpPlaceholderType type) {
         format.alignment = isList ? ppAlignLeft : ppAlignCenter;
         format.bullet = isList ? ppBulletUnnumbered : ppBulletNone;
     });
+}
+
+/// PowerPoint calls a table a group.
+std::u16string_view beginningOfName(const Shape& shape) noexcept {
+    switch (shape.type) {
+    case msoAutoShape:
+        return shape.autoShapeType == msoShapeRectangle ? u"Rectangle"
+               : shape.autoShapeType == msoShapeOval    ? u"Oval"
+                                                        : u"AutoShape";
+    case msoFreeform: return u"Freeform";
+    case msoGroup:
+    case msoTable: return u"Group";
+    case msoLine: return u"Line";
+    case msoPicture: return u"Picture";
+    case msoPlaceholder: return u"Rectangle";
+    case msoTextEffect: return u"WordArt";
+    case msoTextBox: return u"Text Box";
+    }
+    return u"AutoShape";
 }
 
 } // namespace
@@ -124,21 +146,29 @@ ShapePtr placeholder(PpPlaceholderType type, const Frame& frame) {
     return shape;
 }
 
-std::u16string_view baseName(const Shape& shape) noexcept {
-    switch (shape.type) {
-    case msoAutoShape:
-        return shape.autoShapeType == msoShapeRectangle ? u"Rectangle"
-               : shape.autoShapeType == msoShapeOval    ? u"Oval"
-                                                        : u"AutoShape";
-    case msoFreeform: return u"Freeform";
-    case msoGroup: return u"Group";
-    case msoLine: return u"Line";
-    case msoPicture: return u"Picture";
-    case msoPlaceholder: return u"Rectangle";
-    case msoTextEffect: return u"WordArt";
-    case msoTextBox: return u"Text Box";
+ShapePtr table(std::size_t rows, std::size_t columns, const Frame& frame) {
+    constexpr float side = 72; // any, until the edges are put into the frame
+    std::vector<ShapePtr> cells;
+    for (std::size_t row = 0; row < rows; ++row) {
+        for (std::size_t column = 0; column < columns; ++column) {
+            cells.push_back(
+                make(msoAutoShape, {static_cast<float>(column) * side, static_cast<float>(row) * side, side, side}));
+            cells.back()->autoShapeType = msoShapeRectangle;
+            makeClear(*cells.back());
+            cells.back()->text.emplace();
+        }
     }
-    return u"AutoShape";
+    ShapePtr shape = make(msoTable, frame);
+    shape->table.emplace();
+    TableGrid grid(cells, *shape->table);
+    grid.divideBorders(true);
+    grid.stretch(frame);
+    grid.commit(shape);
+    return shape;
+}
+
+std::u16string usualName(const Shape& shape) {
+    return std::u16string(beginningOfName(shape)) + u" " + automation::decimal(shape.id);
 }
 
 } // namespace simulator::newShape

@@ -19,7 +19,11 @@ namespace simulator::newShape {
 [[nodiscard]] ShapePtr freeform(std::vector<Node> corners);
 [[nodiscard]] ShapePtr placeholder(PpPlaceholderType type, const Frame& frame);
 
-/// What the name of a shape begins with until it is given one: "Rectangle", "Text Box" and so on.
-[[nodiscard]] std::u16string_view baseName(const Shape& shape) noexcept;
+/// A table of so many rows and columns, at least one of each, of equal height and width; rows are as high as an empty
+/// line needs where the frame is lower.
+[[nodiscard]] ShapePtr table(std::size_t rows, std::size_t columns, const Frame& frame);
+
+/// The name of a shape until it is given one: "Rectangle 2", "Text Box 3" and so on, with its id.
+[[nodiscard]] std::u16string usualName(const Shape& shape);
 
 } // namespace simulator::newShape

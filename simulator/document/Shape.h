@@ -76,8 +76,17 @@ struct Connector {
     friend bool operator==(const Connector&, const Connector&) = default;
 };
 
-/// A shape of a slide, or an item of a group. It lives as long as its slide or group holds it; those who look at it
-/// hold it weakly, and find it gone when it has been deleted.
+/// What makes a shape a table: its items are cells, which hold text, and lines, the borders of cells. Rows and columns
+/// are where the cells lie (`TableGrid`).
+struct Table {
+    std::vector<float> leastHeights; ///< of its rows, in points; their text may need more
+    bool isRightToLeft = false;      ///< the first column is the rightmost
+
+    friend bool operator==(const Table&, const Table&) = default;
+};
+
+/// A shape of a slide, an item of a group, or a cell or border of a table. It lives as long as its slide or group holds
+/// it; those who look at it hold it weakly, and find it gone when it has been deleted.
 class Shape {
 public:
     std::int32_t id = 0; ///< unique on the slide
@@ -98,6 +107,7 @@ public:
     std::optional<TextStory> text; ///< nothing for a shape that cannot hold text
     std::optional<TextEffect> textEffect;
     std::optional<Connector> connector;
+    std::optional<Table> table;
     std::optional<PpPlaceholderType> placeholder;
     std::vector<Node> nodes;      ///< of a freeform
     bool closed = false;          ///< a freeform whose last corner joins its first
@@ -114,8 +124,12 @@ public:
     /// closed; one that was closed without them staying so is left closed.
     void setNodes(std::vector<Node> corners);
 
-    /// Items of a group, from back to front; empty for any other shape.
+    /// Items of a group, cells and borders of a table, from back to front; empty for any other shape.
     [[nodiscard]] const std::vector<ShapePtr>& items() const noexcept { return items_; }
+    /// True for a shape that is made of items.
+    [[nodiscard]] bool isComposed() const noexcept { return type == msoGroup || type == msoTable; }
+    /// True for the cells and borders of a table.
+    [[nodiscard]] bool isInTable() const noexcept { return group() != nullptr && group()->type == msoTable; }
     /// Gives a group its items and takes its frame from them, or gives it the frame that it is known to have with them.
     static void adopt(const ShapePtr& group, std::vector<ShapePtr> items);
     static void adopt(const ShapePtr& group, std::vector<ShapePtr> items, const Frame& frame);
@@ -134,7 +148,7 @@ public:
     /// Tells a shape and everything in it on which slide they stand; on none for a reference to nothing.
     void settle(const std::weak_ptr<Slide>& ground) noexcept;
 
-    /// The group that holds this shape; null when it stands directly on its slide.
+    /// The group or table that holds this shape; null when it stands directly on its slide.
     [[nodiscard]] ShapePtr group() const noexcept { return group_.lock(); }
 
     /// A copy with everything but its place in a slide or group; items are copied too.
@@ -157,14 +171,16 @@ private:
 [[nodiscard]] Frame boundsOf(const std::vector<ShapePtr>& shapes) noexcept;
 [[nodiscard]] Frame boundsOf(const std::vector<Node>& nodes) noexcept;
 
-/// Visits a shape that is no group, or every such shape inside a group, at any depth.
+/// Visits a shape that is made of no items, or every such shape inside a group, at any depth, and the cells of tables.
 template <typename Visit> void forEachLeaf(const ShapePtr& shape, const Visit& visit) {
-    if (shape->type != msoGroup) {
+    if (!shape->isComposed()) {
         visit(shape);
         return;
     }
     for (const ShapePtr& item : shape->items()) {
-        forEachLeaf(item, visit);
+        if (!(shape->type == msoTable && item->type == msoLine)) {
+            forEachLeaf(item, visit);
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "simulator/document/Slide.h"
 
 #include "automation/Text.h"
+#include "simulator/document/NewShape.h"
 #include "simulator/document/Order.h"
 
 #include <algorithm>
@@ -25,18 +26,25 @@ bool bearsName(const Shape& shape, std::u16string_view name) noexcept {
 
 } // namespace
 
-void Slide::add(const ShapePtr& shape, std::u16string_view baseName) {
+void Slide::add(const ShapePtr& shape) {
     forEachInside(*shape, [this](Shape& part) {
-        part.id = ++lastShapeId_;
+        number(part);
         if (part.connector) {
             part.connector = Connector{part.connector->type, {}, {}}; // a copy holds on to nothing
         }
     });
-    if (shape->name.empty() || isNameTaken(shape->name)) {
-        shape->name = std::u16string(baseName) + u" " + automation::decimal(shape->id);
+    if (isNameTaken(shape->name)) {
+        shape->name = newShape::usualName(*shape);
     }
     shape->settle(weak_from_this());
     shapes_.push_back(shape);
+}
+
+void Slide::number(Shape& shape) {
+    shape.id = ++lastShapeId_;
+    if (shape.name.empty()) {
+        shape.name = newShape::usualName(shape);
+    }
 }
 
 void Slide::insert(const ShapePtr& shape, std::size_t place) {

@@ -35,12 +35,14 @@ public:
 
     [[nodiscard]] const std::vector<ShapePtr>& shapes() const noexcept { return shapes_; }
 
-    /// Puts a shape in front of all others and gives it and its items an id, and a name made of `baseName` and its id
-    /// where it has none, or one that is taken.
-    void add(const ShapePtr& shape, std::u16string_view baseName);
+    /// Puts a shape in front of all others and gives it and its items an id, and the usual name where it
+    /// has none, or one that is taken.
+    void add(const ShapePtr& shape);
     /// Puts a shape at a place from 0 (the back), keeping its id and name.
     void insert(const ShapePtr& shape, std::size_t place);
     void remove(const ShapePtr& shape);
+    /// Gives a shape that has come into a group or table of the slide an id, and a name where it has none.
+    void number(Shape& shape);
     /// Gives ids up to one to no new shape.
     void keepIds(std::int32_t last) noexcept { lastShapeId_ = std::max(lastShapeId_, last); }
     /// Place of a shape from 0 (the back); the number of shapes where it is not on this slide.

@@ -51,7 +51,7 @@ Frame placeOf(const Wanted& wanted, const Slide& slide) {
 ShapePtr addPlaceholder(Slide& slide, const Wanted& wanted) {
     ShapePtr shape = newShape::placeholder(wanted.type, placeOf(wanted, slide));
     shape->text->format({}, [&wanted](CharacterFormat& format) { format.size = wanted.place.textSize; });
-    slide.add(shape, newShape::baseName(*shape));
+    slide.add(shape);
     return shape;
 }
 

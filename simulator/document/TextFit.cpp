@@ -1,5 +1,6 @@
 #include "simulator/document/TextFit.h"
 
+#include "simulator/document/TableGrid.h"
 #include "simulator/document/TextFlow.h"
 
 #include <cmath>
@@ -20,9 +21,48 @@ void resize(Frame& frame, float Frame::*edge, float Frame::*side, float length, 
     frame.*side = length;
 }
 
+/// Makes the rows of a cell as high as its text needs.
+void fitRowsOf(const Shape& cell) {
+    const ShapePtr table = cell.group();
+    TableGrid grid(*table);
+    if (!grid.isWhole()) {
+        return;
+    }
+    const TablePart& part = grid.partOf(cell);
+    const float before = grid.frame().height;
+    grid.fitRows(part.begin(TableAxis::Rows), part.end(TableAxis::Rows) - part.begin(TableAxis::Rows));
+    if (grid.frame().height != before) {
+        grid.commit(table);
+    }
+}
+
 } // namespace
 
+float fittingHeight(const TextStory& text, float width) {
+    const TextLayout& layout = text.layout;
+    const float above = layout.marginTop + layout.marginBottom;
+    return isUpright(layout.orientation)
+               ? roundedUp(above)
+               : roundedUp(flow(text, width - layout.marginLeft - layout.marginRight).height + above);
+}
+
+void resize(Shape& shape, const Frame& frame) {
+    if (shape.type == msoTable) {
+        if (TableGrid grid(shape); grid.isWhole()) {
+            grid.stretch(frame);
+            grid.commit(shape.items().front()->group());
+        }
+        return;
+    }
+    shape.setFrame(frame);
+    fitToText(shape);
+}
+
 void fitToText(Shape& shape) {
+    if (shape.text && shape.isInTable()) {
+        fitRowsOf(shape);
+        return;
+    }
     if (!shape.text || shape.text->layout.autoSize != ppAutoSizeShapeToFitText) {
         return;
     }

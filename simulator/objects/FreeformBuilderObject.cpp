@@ -29,7 +29,7 @@ std::shared_ptr<ShapeObject> FreeformBuilderObject::convertToShape() {
     }
     const ShapePtr shape = newShape::freeform(path_.nodes());
     const SlidePtr slide = simulator::alive(slide_);
-    slide->add(shape, newShape::baseName(*shape));
+    slide->add(shape);
     markChanged(*slide);
     return std::make_shared<ShapeObject>(session(), shape);
 }

@@ -4,7 +4,7 @@ namespace simulator {
 
 ShapeSet leavesOf(const ShapeSet& shapes) {
     if (shapes.size() == 1) {
-        if (const ShapePtr shape = shapes.at(0); shape->type != msoGroup) {
+        if (const ShapePtr shape = shapes.at(0); !shape->isComposed()) {
             return shape;
         }
     }
@@ -13,6 +13,21 @@ ShapeSet leavesOf(const ShapeSet& shapes) {
         forEachLeaf(shape, [&leaves](const ShapePtr& leaf) { leaves.push_back(leaf); });
     }
     return leaves;
+}
+
+ShapeSet outlinesOf(const ShapeSet& shapes) {
+    std::vector<ShapePtr> outlines;
+    for (const ShapePtr& shape : shapes.all()) {
+        const std::size_t before = outlines.size();
+        if (shape->type == msoTable) {
+            std::copy_if(shape->items().begin(), shape->items().end(), std::back_inserter(outlines),
+                         [](const ShapePtr& item) { return item->type == msoLine; });
+        }
+        if (outlines.size() == before) {
+            forEachLeaf(shape, [&outlines](const ShapePtr& leaf) { outlines.push_back(leaf); });
+        }
+    }
+    return outlines;
 }
 
 } // namespace simulator

@@ -84,6 +84,8 @@ using SlideSet = NodeSet<Slide>;
 
 /// The shapes of a set, with the items of groups in the place of the groups.
 [[nodiscard]] ShapeSet leavesOf(const ShapeSet& shapes);
+/// The same, with the borders of tables, where they have any, in the place of their cells.
+[[nodiscard]] ShapeSet outlinesOf(const ShapeSet& shapes);
 
 /// An object of the object model that stands for nodes of a document: two of a class that stand for the same nodes are
 /// the same object.

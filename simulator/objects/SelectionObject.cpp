@@ -28,7 +28,7 @@ ShapePtr outermost(ShapePtr shape) {
 
 std::vector<ShapePtr> groupItems(const Selection& selection) {
     std::vector<ShapePtr> items = selection.shapes();
-    std::erase_if(items, [](const ShapePtr& shape) { return shape->group() == nullptr; });
+    std::erase_if(items, [](const ShapePtr& shape) { return shape->group() == nullptr || shape->isInTable(); });
     return items;
 }
 

@@ -29,10 +29,6 @@ bool isCovered(const Slide& slide, const Shape& shape) {
     });
 }
 
-void add(Slide& slide, const ShapePtr& shape) {
-    slide.add(shape, newShape::baseName(*shape));
-}
-
 } // namespace
 
 std::vector<ShapePtr> duplicate(const std::vector<ShapePtr>& shapes) {
@@ -44,7 +40,7 @@ std::vector<ShapePtr> duplicate(const std::vector<ShapePtr>& shapes) {
     for (const ShapePtr& shape : inStackingOrder(*slide, shapes)) {
         const ShapePtr copy = shape->clone();
         moveAside(*copy);
-        add(*slide, copy);
+        slide->add(copy);
         copies.push_back(copy);
     }
     return copies;
@@ -77,7 +73,7 @@ std::vector<ShapePtr> paste(const Clipboard& clipboard, Slide& slide) {
         fitToText(*pasted.back());
     }
     for (const ShapePtr& shape : pasted) {
-        add(slide, shape);
+        slide.add(shape);
     }
     return pasted;
 }

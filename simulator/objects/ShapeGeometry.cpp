@@ -67,7 +67,7 @@ float ShapeGeometry::rotation() const {
 }
 
 void ShapeGeometry::setRotation(float degrees) {
-    nodes().change([degrees](Shape& shape) { shape.turnTo(turned(degrees)); });
+    turn([degrees](Shape& shape) { shape.turnTo(turned(degrees)); });
 }
 
 MsoTriState ShapeGeometry::lockAspectRatio() const {
@@ -87,13 +87,25 @@ MsoTriState ShapeGeometry::verticalFlip() const {
 }
 
 void ShapeGeometry::incrementRotation(float degrees) {
-    nodes().change([degrees](Shape& shape) { shape.turnTo(turned(shape.rotation + degrees)); });
+    turn([degrees](Shape& shape) { shape.turnTo(turned(shape.rotation + degrees)); });
 }
 
 void ShapeGeometry::flip(MsoFlipCmd command) {
     errors::demandWithin(command, msoFlipHorizontal, msoFlipVertical, u"Shape.Flip");
     bool Shape::*const flag = command == msoFlipHorizontal ? &Shape::horizontalFlip : &Shape::verticalFlip;
-    nodes().change([flag](Shape& shape) { shape.*flag = !(shape.*flag); });
+    turn([flag](Shape& shape) { shape.*flag = !(shape.*flag); });
+}
+
+void ShapeGeometry::place(const std::function<void(Shape&)>& change) {
+    refuse(u"Shape (membre inconnu)", u"La place d'une cellule est celle de sa ligne et de sa colonne.",
+           [](const Shape& shape) { return shape.isInTable(); });
+    nodes().change(change);
+}
+
+void ShapeGeometry::turn(const std::function<void(Shape&)>& change) {
+    refuse(u"Shape (membre inconnu)", u"Un tableau ne peut pas être tourné.",
+           [](const Shape& shape) { return shape.type == msoTable; });
+    place(change);
 }
 
 MsoTriState ShapeGeometry::readState(bool Shape::*part) const {
@@ -105,7 +117,7 @@ float ShapeGeometry::readLength(float Frame::*part) const {
 }
 
 void ShapeGeometry::writeEdge(float Frame::*edge, float points) {
-    nodes().change([edge, points](Shape& shape) {
+    place([edge, points](Shape& shape) {
         Frame frame = shape.frame();
         frame.*edge = points;
         shape.setFrame(frame);
@@ -116,14 +128,11 @@ void ShapeGeometry::writeSide(float Frame::*side, float points) {
     if (points < 0) {
         errors::invalidValue(u"Shape (membre inconnu)");
     }
-    nodes().change([side, points](Shape& shape) {
-        shape.setFrame(resized(shape, side, points));
-        fitToText(shape);
-    });
+    place([side, points](Shape& shape) { resize(shape, resized(shape, side, points)); });
 }
 
 void ShapeGeometry::shiftEdge(float Frame::*edge, float points) {
-    nodes().change([edge, points](Shape& shape) {
+    place([edge, points](Shape& shape) {
         Frame frame = shape.frame();
         frame.*edge += points;
         shape.setFrame(frame);
@@ -137,12 +146,11 @@ void ShapeGeometry::scaleSide(float Frame::*side, float factor, MsoTriState rela
     if (relativeToOriginalSize != msoFalse || factor < 0) {
         errors::invalidValue(u"Shape (membre inconnu)");
     }
-    nodes().change([side, factor, fixed](Shape& shape) {
+    place([side, factor, fixed](Shape& shape) {
         const float before = shape.frame().*side;
         Frame frame = resized(shape, side, before * factor);
         frame.*edgeBefore(side) -= (frame.*side - before) * static_cast<float>(fixed) / 2;
-        shape.setFrame(frame);
-        fitToText(shape);
+        resize(shape, frame);
     });
 }
 

@@ -2,6 +2,8 @@
 
 #include "simulator/objects/NodeSet.h"
 
+#include <functional>
+
 namespace simulator {
 
 /// The members of Shape and ShapeRange that concern the place and size of shapes, and what they have in common. Lengths
@@ -39,8 +41,21 @@ protected:
         return nodes().common(whenMixed, [part](const Shape& shape) { return shape.*part; });
     }
     [[nodiscard]] MsoTriState readState(bool Shape::*part) const;
+    /// Raises an invalid request where one of the shapes is such.
+    template <typename Condition>
+    void refuse(std::u16string_view member, std::u16string_view reason, const Condition& isSuch) const {
+        for (std::size_t place = 0; place < nodes().size(); ++place) {
+            if (isSuch(*nodes().at(place))) {
+                errors::invalidRequest(member, reason);
+            }
+        }
+    }
 
 private:
+    /// Changes where the shapes stand; raises an invalid request for cells of a table.
+    void place(const std::function<void(Shape&)>& change);
+    /// The same, and for tables.
+    void turn(const std::function<void(Shape&)>& change);
     [[nodiscard]] float readLength(float Frame::*part) const;
     void writeEdge(float Frame::*edge, float points);
     void writeSide(float Frame::*side, float points);

@@ -16,6 +16,7 @@
 #include "simulator/objects/ShapeObject.h"
 #include "simulator/objects/ShapeRangeObject.h"
 #include "simulator/objects/ShapeSelecting.h"
+#include "simulator/objects/TableObject.h"
 #include "simulator/objects/TagsObject.h"
 #include "simulator/objects/TextEffectFormatObject.h"
 #include "simulator/objects/TextFrameObject.h"
@@ -49,6 +50,8 @@ const automation::MemberTable& ShapeMembers::sharedMembers() {
         property<&This::visible, &This::setVisible>(u"Visible"),
         property<&This::zOrderPosition>(u"ZOrderPosition"),
         property<&This::placeholderFormat>(u"PlaceholderFormat"),
+        property<&This::hasTable>(u"HasTable"),
+        property<&This::table>(u"Table"),
         property<&This::tags>(u"Tags"),
         method<&This::cut>(u"Cut"),
         method<&This::copy>(u"Copy"),
@@ -150,7 +153,7 @@ std::shared_ptr<FillFormatObject> ShapeMembers::fill() const {
 }
 
 std::shared_ptr<LineFormatObject> ShapeMembers::line() const {
-    return std::make_shared<LineFormatObject>(session(), leavesOf(nodes()));
+    return std::make_shared<LineFormatObject>(session(), outlinesOf(nodes()));
 }
 
 std::shared_ptr<ShadowFormatObject> ShapeMembers::shadow() const {
@@ -227,14 +230,15 @@ std::shared_ptr<ShapeObject> ShapeMembers::parentGroup() const {
     while (session()->settings().isAsDocumented && group && group->group()) {
         group = group->group();
     }
-    if (!group) {
+    if (!group || group->type == msoTable) {
         errors::invalidRequest(u"Shape.ParentGroup", u"La forme ne fait pas partie d'un groupe.");
     }
     return std::make_shared<ShapeObject>(session(), group);
 }
 
 MsoTriState ShapeMembers::child() const {
-    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.group() != nullptr); });
+    return nodes().common(msoTriStateMixed,
+                          [](const Shape& shape) { return triState(shape.group() != nullptr && !shape.isInTable()); });
 }
 
 std::shared_ptr<ShapeRangeObject> ShapeMembers::ungroup() {
@@ -253,7 +257,25 @@ std::shared_ptr<ShapeRangeObject> ShapeMembers::ungroup() {
     return rangeOf(items);
 }
 
+MsoTriState ShapeMembers::hasTable() const {
+    return nodes().common(msoTriStateMixed, [](const Shape& shape) { return triState(shape.type == msoTable); });
+}
+
+std::shared_ptr<TableObject> ShapeMembers::table() const {
+    const ShapePtr shape = nodes().only();
+    if (shape->type != msoTable) {
+        errors::invalidRequest(u"Shape.Table", u"La forme n'est pas un tableau.");
+    }
+    return std::make_shared<TableObject>(session(), shape);
+}
+
+void ShapeMembers::refuseCells(std::u16string_view member) const {
+    refuse(member, u"Une cellule ne peut être supprimée ni copiée sans son tableau.",
+           [](const Shape& shape) { return shape.isInTable(); });
+}
+
 void ShapeMembers::erase() {
+    refuseCells(u"Shape.Delete");
     for (const ShapePtr& shape : nodes().all()) {
         markChanged(*shape);
         simulator::erase(shape);
@@ -261,12 +283,14 @@ void ShapeMembers::erase() {
 }
 
 std::shared_ptr<ShapeRangeObject> ShapeMembers::duplicate() {
+    refuseCells(u"Shape.Duplicate");
     const std::vector<ShapePtr> copies = simulator::duplicate(nodes().all());
     markChanged(*nodes().first());
     return rangeOf(copies);
 }
 
 void ShapeMembers::copy() const {
+    refuseCells(u"Shape.Copy");
     copyTo(session()->clipboard(), nodes().all());
 }
 
@@ -290,10 +314,10 @@ void ShapeMembers::apply() {
     }
     leavesOf(nodes()).change([&model](Shape& shape) {
         shape.fill = model->fill;
-        shape.line = model->line;
         shape.shadow = model->shadow;
         shape.threeD = model->threeD;
     });
+    outlinesOf(nodes()).change([&model](Shape& shape) { shape.line = model->line; });
 }
 
 std::shared_ptr<ShapeRangeObject> ShapeMembers::rangeOf(const std::vector<ShapePtr>& shapes) const {

@@ -14,6 +14,7 @@ class PlaceholderFormatObject;
 class ShadowFormatObject;
 class ShapeObject;
 class ShapeRangeObject;
+class TableObject;
 class TagsObject;
 class TextEffectFormatObject;
 class TextFrameObject;
@@ -59,6 +60,8 @@ public:
     /// Raises an invalid request for a shape that cannot hold text, as the members below do for shapes of other kinds.
     [[nodiscard]] std::shared_ptr<TextFrameObject> textFrame() const;
     [[nodiscard]] std::shared_ptr<PlaceholderFormatObject> placeholderFormat() const;
+    [[nodiscard]] std::shared_ptr<TableObject> table() const;
+    [[nodiscard]] MsoTriState hasTable() const;
     [[nodiscard]] std::shared_ptr<ShapeNodesObject> shapeNodes() const;
     [[nodiscard]] MsoTriState connector() const;
     [[nodiscard]] std::shared_ptr<ConnectorFormatObject> connectorFormat() const;
@@ -71,6 +74,7 @@ public:
 
     /// Raises an invalid request where there is no group; answers with the items.
     std::shared_ptr<ShapeRangeObject> ungroup();
+    /// This and the three that follow raise an invalid request for cells of a table.
     void erase();
     std::shared_ptr<ShapeRangeObject> duplicate();
     void copy() const;
@@ -87,6 +91,9 @@ protected:
     [[nodiscard]] std::shared_ptr<ShapeRangeObject> rangeOf(const std::vector<ShapePtr>& shapes) const;
     /// The slide of the shapes, which must stand directly on it: an invalid request is raised for items of groups.
     [[nodiscard]] SlidePtr slideOfOutermost(std::u16string_view member) const;
+
+private:
+    void refuseCells(std::u16string_view member) const;
 };
 
 } // namespace simulator

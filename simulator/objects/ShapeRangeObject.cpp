@@ -52,8 +52,8 @@ std::shared_ptr<ShapeObject> ShapeRangeObject::makeGroup(const SlidePtr& slide, 
         errors::invalidRequest(member, u"Un groupe se compose d'au moins deux formes.");
     }
     if (std::any_of(shapes.begin(), shapes.end(),
-                    [](const ShapePtr& shape) { return shape->placeholder.has_value(); })) {
-        errors::invalidRequest(member, u"Un espace réservé ne peut pas être groupé.");
+                    [](const ShapePtr& shape) { return shape->placeholder.has_value() || shape->type == msoTable; })) {
+        errors::invalidRequest(member, u"Un espace réservé ou un tableau ne peut pas être groupé.");
     }
     const ShapePtr made = simulator::group(*slide, shapes);
     markChanged(*slide);

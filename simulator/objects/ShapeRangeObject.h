@@ -15,7 +15,7 @@ public:
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<ShapeObject> item(const automation::Value& index) const;
 
-    /// Raises an invalid request for fewer than two shapes, for items of groups and for placeholders.
+    /// Raises an invalid request for fewer than two shapes, for items of groups, for placeholders and tables.
     std::shared_ptr<ShapeObject> group();
     /// Groups again what one group held; raises an invalid request where nothing of it is left to group.
     std::shared_ptr<ShapeObject> regroup();

@@ -68,6 +68,7 @@ const automation::MemberTable& ShapesObject::members() const {
         method<&This::addPicture>(u"AddPicture", u"FileName LinkToFile SaveWithDocument Left Top Width Height"),
         method<&This::addPolyline>(u"AddPolyline", u"SafeArrayOfPoints"),
         method<&This::addShape>(u"AddShape", u"Type Left Top Width Height"),
+        method<&This::addTable>(u"AddTable", u"NumRows NumColumns Left Top Width Height"),
         method<&This::addTextEffect>(u"AddTextEffect",
                                      u"PresetTextEffect Text FontName FontSize FontBold FontItalic Left Top"),
         method<&This::addTextbox>(u"AddTextbox", u"Orientation Left Top Width Height"),
@@ -124,6 +125,20 @@ std::shared_ptr<ShapeObject> ShapesObject::addTextEffect(std::int32_t presetText
     errors::demandWithin(fontSize, 1.0F, 4000.0F, u"Shapes.AddTextEffect");
     const TextEffect effect{text, fontName, fontSize, fontBold != msoFalse, fontItalic != msoFalse, presetTextEffect};
     return add(newShape::wordArt(effect, left, top));
+}
+
+std::shared_ptr<ShapeObject> ShapesObject::addTable(std::int32_t numRows, std::int32_t numColumns,
+                                                    std::optional<float> left, std::optional<float> top,
+                                                    std::optional<float> width, std::optional<float> height) {
+    constexpr std::int32_t most = 25;
+    errors::demandWithin(numRows, 1, most, u"Shapes.AddTable");
+    errors::demandWithin(numColumns, 1, most, u"Shapes.AddTable");
+    const PresentationPtr presentation = simulator::alive(node()->presentation);
+    const float usual = presentation->slideWidth * 2 / 3;
+    const Frame frame =
+        frameOf(left.value_or((presentation->slideWidth - usual) / 2), top.value_or(presentation->slideHeight / 3),
+                width.value_or(usual), height.value_or(0), u"Shapes.AddTable");
+    return add(newShape::table(static_cast<std::size_t>(numRows), static_cast<std::size_t>(numColumns), frame));
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::addLine(float beginX, float beginY, float endX, float endY) {
@@ -231,7 +246,7 @@ std::shared_ptr<ShapeObject> ShapesObject::objectOf(const ShapePtr& shape) const
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::add(const ShapePtr& shape) {
-    nodes().change([&shape](Slide& slide) { slide.add(shape, newShape::baseName(*shape)); });
+    nodes().change([&shape](Slide& slide) { slide.add(shape); });
     return objectOf(shape);
 }
 

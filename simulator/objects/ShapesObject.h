@@ -35,6 +35,11 @@ public:
     std::shared_ptr<ShapeObject> addTextEffect(std::int32_t presetTextEffect, const std::u16string& text,
                                                const std::u16string& fontName, float fontSize, MsoTriState fontBold,
                                                MsoTriState fontItalic, float left, float top);
+    /// A table of 1 to 25 rows and columns; a size left out is two thirds of the slide's width, and as high as the
+    /// cells need.
+    std::shared_ptr<ShapeObject> addTable(std::int32_t numRows, std::int32_t numColumns, std::optional<float> left,
+                                          std::optional<float> top, std::optional<float> width,
+                                          std::optional<float> height);
     std::shared_ptr<ShapeObject> addLine(float beginX, float beginY, float endX, float endY);
     /// A connector of a type from 1 (msoConnectorStraight) to 3, which holds on to no shape yet.
     std::shared_ptr<ShapeObject> addConnector(MsoConnectorType type, float beginX, float beginY, float endX,

@@ -68,7 +68,7 @@ void ShapePicture::draw(const Shape& shape) {
     }
     const Markup::Element group = out_.element("g", turnOf(shape));
     out_.leaf("title", {}, automation::toUtf8(shape.name));
-    if (shape.type == msoGroup) {
+    if (shape.isComposed()) {
         drawItems(shape);
     } else {
         drawLeaf(shape);

@@ -1,6 +1,7 @@
 #include "simulator/files/drawing/Patches.h"
 
 #include "simulator/files/drawing/FreeformCodes.h"
+#include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/records/RecordTypes.h"
 #include "simulator/files/records/Tags.h"

@@ -82,6 +82,8 @@ enum : std::uint16_t {
     name = 0x0380,
     description = 0x0381,
     regroup = 0x0388,
+    tableFlags = 0x039F, ///< of a group that is a table
+    rowHeights = 0x03A0, ///< the least ones, in master units
     groupFlags = 0x03BF,
 };
 
@@ -112,6 +114,9 @@ enum : std::uint16_t {
     extrusionParallel = 0x0004,
     hidden = 0x0002,
 };
+
+/// Bits of a table's flags, which all count.
+enum : std::uint32_t { table = 0x0001, rightToLeftTable = 0x0004 };
 
 } // namespace flag
 

@@ -14,7 +14,7 @@ bool isUnchanged(const Shape& shape, const Shape& asRead) {
         return std::tie(each.id, each.name, each.type, each.autoShapeType, each.rotation, each.horizontalFlip,
                         each.verticalFlip, each.visible, each.lockAspectRatio, each.alternativeText, each.tags,
                         each.fill, each.line, each.shadow, each.threeD, each.text, each.textEffect, each.connector,
-                        each.placeholder, each.closed, each.formerGroup);
+                        each.table, each.placeholder, each.closed, each.formerGroup);
     };
     return plain(shape) == plain(asRead) && shape.frame() == asRead.frame() && shape.nodes == asRead.nodes;
 }

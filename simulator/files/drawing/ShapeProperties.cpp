@@ -1,6 +1,5 @@
 #include "simulator/files/drawing/ShapeProperties.h"
 
-#include "automation/Text.h"
 #include "simulator/document/NewShape.h"
 #include "simulator/files/drawing/Codes.h"
 #include "simulator/files/drawing/ExtrusionCodes.h"
@@ -17,8 +16,7 @@ namespace simulator::drawing {
 namespace {
 
 void writeIdentity(PropertyTable& properties, const Shape& shape) {
-    const std::u16string usual = std::u16string(newShape::baseName(shape)) + u" " + automation::decimal(shape.id);
-    if (shape.name != usual) {
+    if (shape.name != newShape::usualName(shape)) {
         properties.setText(property::name, shape.name);
     }
     if (!shape.alternativeText.empty()) {
@@ -37,7 +35,7 @@ void writeIdentity(PropertyTable& properties, const Shape& shape) {
 PropertyTable writeProperties(const Shape& shape) {
     PropertyTable properties;
     writeIdentity(properties, shape);
-    if (shape.type == msoGroup) {
+    if (shape.isComposed()) {
         return properties;
     }
     writeFill(properties, shape.fill);

@@ -1,6 +1,5 @@
 #include "simulator/files/drawing/ShapeReader.h"
 
-#include "automation/Text.h"
 #include "simulator/document/NewShape.h"
 #include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/drawing/AutoShapeKinds.h"
@@ -13,6 +12,7 @@
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/drawing/ShadowCodes.h"
 #include "simulator/files/drawing/ShapeHead.h"
+#include "simulator/files/drawing/TableCodes.h"
 #include "simulator/files/drawing/WordArtCodes.h"
 #include "simulator/files/records/Damage.h"
 #include "simulator/files/records/RecordTypes.h"
@@ -125,6 +125,8 @@ ShapePtr ShapeReader::group(const Record& record, const Mapping& mapping, std::i
     const Edges outer = liesOnItsSide(shape->rotation) ? edgesOf(frameOf(said, shape->rotation)) : said;
     std::vector<ShapePtr> items = members(record, Mapping(inner, outer), shape->id);
     shape->setFrame(frameOf(outer, 0));
+    shape->table = groupId == 0 ? readTable(properties, items) : std::nullopt; // PowerPoint groups no tables
+    shape->type = shape->table ? msoTable : msoGroup;
 
     const auto origin = std::make_shared<ShapeOrigin>();
     origin->document = context_.document;
@@ -199,7 +201,7 @@ void ShapeReader::readIdentity(const Record& record, const Looks& looks, Shape& 
     shape.rotation = looks.fixed(property::rotation, 0);
     shape.name = looks.text(property::name);
     if (shape.name.empty()) {
-        shape.name = std::u16string(newShape::baseName(shape)) + u" " + automation::decimal(shape.id);
+        shape.name = newShape::usualName(shape);
     }
     shape.alternativeText = looks.text(property::description);
     shape.visible = !looks.flag(property::groupFlags, flag::hidden, false);

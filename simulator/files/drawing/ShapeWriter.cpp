@@ -9,6 +9,7 @@
 #include "simulator/files/drawing/PropertyIds.h"
 #include "simulator/files/drawing/ShapeHead.h"
 #include "simulator/files/drawing/ShapeProperties.h"
+#include "simulator/files/drawing/TableCodes.h"
 #include "simulator/files/records/RecordTypes.h"
 #include "simulator/files/records/Tags.h"
 #include "simulator/files/text/TextRecords.h"
@@ -25,7 +26,8 @@ namespace type = records::type;
 std::uint16_t kindOf(const Shape& shape) noexcept {
     switch (shape.type) {
     case msoFreeform:
-    case msoGroup: return kind::freeform;
+    case msoGroup:
+    case msoTable: return kind::freeform;
     case msoLine: return kind::line;
     case msoPicture: return kind::pictureFrame;
     case msoPlaceholder: return kind::rectangle;
@@ -43,7 +45,7 @@ std::uint16_t kindOf(const Shape& shape) noexcept {
 
 Record headOf(const Shape& shape, std::uint32_t number, bool isChild) {
     std::uint32_t flags = shapeFlag::anchored;
-    flags |= shape.type == msoGroup ? shapeFlag::group : shapeFlag::typed;
+    flags |= shape.isComposed() ? shapeFlag::group : shapeFlag::typed;
     flags |= shape.connector ? shapeFlag::connector : 0U;
     flags |= isChild ? shapeFlag::child : 0U;
     flags |= shape.horizontalFlip ? shapeFlag::horizontalFlip : 0U;
@@ -151,7 +153,7 @@ void ShapeWriter::placeOutline(const std::vector<ShapePtr>& shapes) {
 }
 
 Record ShapeWriter::shape(const ShapePtr& shape, bool placesAreNew) {
-    if (shape->type != msoGroup) {
+    if (!shape->isComposed()) {
         return own(*shape, placesAreNew);
     }
     const ShapePtr outer = shape->group();
@@ -204,11 +206,14 @@ Record ShapeWriter::own(const Shape& shape, bool placesAreNew) {
 
 Record ShapeWriter::fresh(const Shape& shape, std::uint32_t number, bool isChild) {
     std::vector<Record> parts;
-    if (shape.type == msoGroup) {
+    if (shape.isComposed()) {
         parts.push_back(groupCoordinates(shape.frame()));
     }
     parts.push_back(headOf(shape, number, isChild));
     parts.push_back(writeProperties(shape).record(type::ArtProperties));
+    if (shape.table) {
+        parts.push_back(writeTable(*shape.table).record(type::ArtTertiaryProperties));
+    }
     parts.push_back(isChild ? childAnchor(shape.frame(), shape.rotation) : clientAnchor(shape.frame(), shape.rotation));
     Record data = clientDataOf(shape, sheet_);
     if (!data.children.empty()) {
@@ -229,11 +234,11 @@ Record ShapeWriter::patched(const Shape& shape, const ShapeOrigin& origin, bool 
     const Record before = fresh(*origin.asRead, 0, origin.group != 0);
     const Record now = fresh(shape, ids_.shapeOf(shape.id), isChild);
     patchHead(record, before, now);
-    PropertyTable wanted(now.demand(type::ArtProperties));
+    PropertyTable wanted = propertiesOf(now);
     if (shape.name != origin.asRead->name) {
         wanted.setText(property::name, shape.name); // the record may say the former one, usual as it is
     }
-    patchProperties(record, PropertyTable(before.demand(type::ArtProperties)), wanted);
+    patchProperties(record, propertiesOf(before), wanted);
     patchPlace(record, before, now, placesAreNew);
     patchClientData(record, *origin.asRead, shape, clientDataOf(*origin.asRead, sheet_), clientDataOf(shape, sheet_));
     patchText(record, shape, origin);

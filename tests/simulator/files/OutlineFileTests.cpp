@@ -101,7 +101,7 @@ TEST(OutlineFile, CopiesAndDeletedShapesKeepTheOutlineInOrder) {
     const PresentationPtr presentation = readPresentation(withTitleInOutline());
     const SlidePtr slide = presentation->slides().front();
     presentation->insert(slide->clone(), 1);
-    slide->add(slide->shapes()[0]->clone(), u"Rectangle");
+    slide->add(slide->shapes()[0]->clone());
     slide->shapes().back()->text->replace({0, 5}, u"Deux");
     presentation->slides()[1]->remove(presentation->slides()[1]->shapes()[0]);
     const PresentationPtr read = readPresentation(writePresentation(*presentation));

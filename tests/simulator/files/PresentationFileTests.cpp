@@ -27,7 +27,8 @@ void expectSame(const std::vector<ShapePtr>& left, const std::vector<ShapePtr>& 
             return std::tie(shape.id, shape.name, shape.type, shape.autoShapeType, shape.rotation, shape.horizontalFlip,
                             shape.verticalFlip, shape.visible, shape.lockAspectRatio, shape.alternativeText, shape.tags,
                             shape.fill, shape.line, shape.shadow, shape.threeD, shape.text, shape.textEffect,
-                            shape.connector, shape.placeholder, shape.nodes, shape.closed, shape.formerGroup);
+                            shape.connector, shape.table, shape.placeholder, shape.nodes, shape.closed,
+                            shape.formerGroup);
         };
         EXPECT_TRUE(plain(a) == plain(b)) << automation::toUtf8(a.name);
         EXPECT_EQ(a.frame(), b.frame()) << automation::toUtf8(a.name);
@@ -78,13 +79,13 @@ TEST(PresentationFile, KeepsEveryKind) {
         shape->text->layout.orientation = static_cast<MsoTextOrientation>(1 + type % 6);
         shape->text->layout.anchor = static_cast<MsoVerticalAnchor>(1 + type % 5);
         shape->text->layout.centered = type % 2 == 0;
-        slide->add(shape, u"AutoShape");
+        slide->add(shape);
     }
     for (std::int32_t pattern = 1; pattern <= 48; ++pattern) {
         const ShapePtr shape = newShape::textBox({-20000, 10, 50000, 50});
         shape->fill.type = msoFillPatterned;
         shape->fill.pattern = pattern;
-        slide->add(shape, u"Text Box");
+        slide->add(shape);
     }
     const auto many = static_cast<std::int32_t>(slide->shapes().size());
     slide->shapes().back()->id = 5000; // beyond the numbers that one cluster has
@@ -178,7 +179,7 @@ TEST_F(PresentationStoreTest, WritesTheOutlineAsRichText) {
     const auto add = [&slide](PpPlaceholderType type, std::u16string_view text) {
         ShapePtr shape = newShape::placeholder(type, {});
         shape->text->replace({}, text);
-        slide->add(shape, u"Rectangle");
+        slide->add(shape);
         return shape;
     };
     const ShapePtr body = add(ppPlaceholderBody, u"Première\v{suite}\rSecond\\");

@@ -49,13 +49,14 @@ inline PresentationPtr richPresentation() {
         presentation->insert(slide, 0);
     }
     Slide& slide = *presentation->slides().front();
-    slide.add(richRectangle(), u"Rectangle");
-    slide.add(newShape::freeform({{0, 0}, {50, 1.125F, true}, {60, 9, true}, {60, 70}, {0, 0}}), u"Freeform");
-    slide.add(newShape::wordArt({u"Bravo\n!", u"Impact", 44.5F, true, true, 12}, 5, 6), u"WordArt");
-    slide.add(newShape::placeholder(ppPlaceholderSubtitle, {1, 2, 3, 4}), u"Rectangle");
-    slide.add(richRectangle(), u"Rectangle");
-    slide.add(newShape::line({9, 9}, {1, 2}), u"Line");
-    slide.add(newShape::textBox({400, 300, 20, 20}), u"Text Box");
+    slide.add(richRectangle());
+    slide.add(newShape::freeform({{0, 0}, {50, 1.125F, true}, {60, 9, true}, {60, 70}, {0, 0}}));
+    slide.add(newShape::wordArt({u"Bravo\n!", u"Impact", 44.5F, true, true, 12}, 5, 6));
+    slide.add(newShape::placeholder(ppPlaceholderSubtitle, {1, 2, 3, 4}));
+    slide.add(newShape::table(2, 3, {100, 300, 91, 80}));
+    slide.add(richRectangle());
+    slide.add(newShape::line({9, 9}, {1, 2}));
+    slide.add(newShape::textBox({400, 300, 20, 20}));
     const std::vector<ShapePtr> last(slide.shapes().end() - 3, slide.shapes().end());
     group(slide, {group(slide, {last[0], last[1]}), last[2]});
     return presentation;

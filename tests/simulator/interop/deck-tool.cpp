@@ -3,6 +3,7 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/document/Presentation.h"
 #include "simulator/document/SlideLayout.h"
+#include "simulator/document/TableGrid.h"
 #include "simulator/files/WholeFile.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
 #include "simulator/files/powerpoint/DocumentWriter.h"
@@ -62,7 +63,7 @@ void dump(const Presentation& presentation) {
 }
 
 ShapePtr put(Slide& slide, const ShapePtr& shape, std::u16string_view text, Color fill) {
-    slide.add(shape, newShape::baseName(*shape));
+    slide.add(shape);
     shape->fill.fore = fill;
     shape->tags.add(u"Identite", u"ZOR" + automation::decimal(shape->id));
     if (shape->text && !text.empty()) {
@@ -73,7 +74,7 @@ ShapePtr put(Slide& slide, const ShapePtr& shape, std::u16string_view text, Colo
 
 PresentationPtr made() {
     auto presentation = std::make_shared<Presentation>();
-    for (const PpSlideLayout layout : {ppLayoutText, ppLayoutBlank}) {
+    for (const PpSlideLayout layout : {ppLayoutText, ppLayoutBlank, ppLayoutBlank}) {
         const auto slide = std::make_shared<Slide>();
         presentation->insert(slide, presentation->slides().size());
         layOut(*slide, *findLayout(layout));
@@ -98,6 +99,15 @@ PresentationPtr made() {
     const ShapePtr other = put(second, newShape::autoShape(7, {150, 350, 60, 90}), u"", Color::direct(0x808000));
     const ShapePtr third = put(second, newShape::autoShape(10, {300, 380, 60, 90}), u"", Color::direct(0x008080));
     group(second, {group(second, {one, other}), third});
+    Slide& last = *presentation->slides()[2];
+    const ShapePtr table = newShape::table(3, 2, {60, 80, 400, 150});
+    last.add(table);
+    TableGrid grid(*table);
+    (void)grid.merge(grid.cellAt(0, 0), grid.cellAt(0, 1));
+    grid.cellAt(0, 0).shape->text->replace({}, u"fusionnée");
+    grid.cellAt(1, 1).shape->text->replace({}, u"case");
+    grid.cellAt(1, 1).shape->fill = {true, msoFillSolid, Color::direct(0x0000FF)};
+    grid.commit(table);
     return presentation;
 }
 

@@ -21,7 +21,7 @@ KINDS = {"rectangle": 1, "parallelogram": 2, "trapezoid": 3, "diamond": 4, "roun
          "left-arrow": 34, "up-arrow": 35, "down-arrow": 36, "left-right-arrow": 37, "star5": 92, "star8": 93,
          "star24": 95, "flowchart-process": 61, "flowchart-decision": 63, "cloud-callout": 108}
 
-PLACEHOLDER, AUTO_SHAPE, FREEFORM, GROUP, LINE, WORD_ART, TEXT_BOX = 14, 1, 5, 6, 9, 15, 17
+PLACEHOLDER, AUTO_SHAPE, FREEFORM, GROUP, LINE, WORD_ART, TEXT_BOX, TABLE = 14, 1, 5, 6, 9, 15, 17, 19
 
 passed = failed = 0
 
@@ -237,11 +237,12 @@ class Tests:
         self.run("make", path)
         lines = self.seen(path)
         document = self.office.open(path)
-        check("slides of ours", document.DrawPages.Count, 2)
-        for number, start in enumerate(place for place, line in enumerate(lines) if line.kind == "slide"):
+        check("slides of ours", document.DrawPages.Count, 3)
+        for number, start in enumerate([place for place, line in enumerate(lines) if line.kind == "slide"][:2]):
             rest = lines[start + 1:]
             end = next((place for place, line in enumerate(rest) if line.kind == "slide"), len(rest))
             self.compare(document.DrawPages.getByIndex(number), rest[:end])
+        self.compare_table(shapes_of(document.DrawPages.getByIndex(2)), lines[-1 - 5 - 16:])
         title, body = shapes_of(document.DrawPages.getByIndex(0))
         check("title of ours", (title.ShapeType.endswith("TitleTextShape"), body.ShapeType.endswith("OutlinerShape")),
               (True, True))
@@ -259,6 +260,18 @@ class Tests:
         tags = [data.decode("utf-16le") for path, data in records(streams(path)["PowerPoint Document"])
                 if path[-3:] == (0x1388, 0x1389, 0x0FBA)]
         check("names of tags", (tags.count("IDENTITE"), len([tag for tag in tags if tag.startswith("ZOR")])), (10, 10))
+
+    def compare_table(self, shapes, lines):
+        """A table of three rows and two columns, the first two cells merged, with its borders: one a side."""
+        check("the table of ours", [line.type for line in lines], [TABLE] + 5 * [AUTO_SHAPE] + 16 * [LINE])
+        check("the table of ours, seen", [shape.ShapeType.split(".")[-1] for shape in shapes], ["TableShape"])
+        frame = (shapes[0].Position.X, shapes[0].Position.Y, shapes[0].Size.Width, shapes[0].Size.Height)
+        check_near("frame of the table", [points(each) for each in frame], lines[0].frame)
+        table = shapes[0].Model
+        check("rows and columns", (table.Rows.Count, table.Columns.Count), (3, 2))
+        merged, cell = table.getCellByPosition(0, 0), table.getCellByPosition(1, 1)
+        check("merged cell", (merged.String, merged.ColumnSpan), ("fusionnée", 2))
+        check("cell", (cell.String, bgr(cell.FillColor)), ("case", 255))
 
     def compare(self, page, lines):
         flat = []

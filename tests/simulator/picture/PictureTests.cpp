@@ -123,6 +123,15 @@ TEST_F(PictureTest, GroupsAreDrawnWhereTheyStandWithAllThatIsInThem) {
     EXPECT_NE(picture().find("#0000ff"), std::string::npos);
 }
 
+TEST_F(PictureTest, TablesAreTheirCellsBehindTheirBorders) {
+    const LateBound table = ask(ask(shapes, u"AddTable", 1, 2, 100, 100, 200, 50), u"Table");
+    const LateBound cell = ask(ask(table, u"Cell", 1, 2), u"Shape");
+    ask(cell, u"Fill").put(u"Visible", std::int32_t{msoTrue});
+    ask(ask(cell, u"Fill"), u"ForeColor").put(u"RGB", red);
+    ask(ask(cell, u"TextFrame"), u"TextRange").put(u"Text", u"deux");
+    EXPECT_TRUE(holdsInOrder(picture(), {R"(d="M200 100)", R"(fill="#ff0000")", ">deux", R"(d="M200 100)", "stroke"}));
+}
+
 TEST_F(PictureTest, TextIsBrokenWhereItsBoxEndsAndKeepsItsColours) {
     const LateBound box = text(u"Fort contraste entre <couleur> & \u0007 lisibles", 120);
     const LateBound letters = ask(ask(ask(box, u"TextFrame"), u"TextRange"), u"Characters", 6, 4);

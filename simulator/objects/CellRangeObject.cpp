@@ -1,0 +1,35 @@
+#include "simulator/objects/CellRangeObject.h"
+
+#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/BordersObject.h"
+#include "simulator/objects/CellObject.h"
+
+namespace simulator {
+
+const automation::MemberTable& CellRangeObject::members() const {
+    using automation::method;
+    using automation::property;
+    using This = CellRangeObject;
+    static const automation::MemberTable table{
+        property<&This::application>(u"Application"),
+        property<&This::count>(u"Count"),
+        property<&This::elements>(automation::newEnum.text()),
+        method<&This::item>(u"Item", u"Index").asDefault(),
+        property<&This::borders>(u"Borders"),
+    };
+    return table;
+}
+
+std::shared_ptr<ApplicationObject> CellRangeObject::application() const {
+    return std::make_shared<ApplicationObject>(session());
+}
+
+std::shared_ptr<CellObject> CellRangeObject::item(std::int32_t index) const {
+    return std::make_shared<CellObject>(session(), nodes().at(placeIn(nodes().size(), index, u"CellRange.Item")));
+}
+
+std::shared_ptr<BordersObject> CellRangeObject::borders() const {
+    return std::make_shared<BordersObject>(session(), nodes());
+}
+
+} // namespace simulator

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "simulator/objects/NodeSet.h"
+
+namespace simulator {
+
+class ApplicationObject;
+class BordersObject;
+class CellObject;
+
+/// CellRange: the cells of a row or column.
+class CellRangeObject final : public NodeSetObject<Shape> {
+public:
+    using NodeSetObject::NodeSetObject;
+
+    [[nodiscard]] const automation::MemberTable& members() const override;
+
+    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    [[nodiscard]] std::int32_t count() const noexcept { return static_cast<std::int32_t>(nodes().size()); }
+    /// By place from 1.
+    [[nodiscard]] std::shared_ptr<CellObject> item(std::int32_t index) const;
+    /// Those of every cell.
+    [[nodiscard]] std::shared_ptr<BordersObject> borders() const;
+};
+
+} // namespace simulator
