@@ -44,7 +44,8 @@ std::string tagsOf(const TagList& tags) {
 
 std::string kindOf(const Shape& shape) {
     switch (shape.type) {
-    case msoGroup: return "group";
+    case msoGroup:
+    case msoTable: return "group";
     case msoTextEffect: return "wordart";
     case msoFreeform: return "0";
     case msoLine: return "20";
@@ -57,7 +58,7 @@ std::string kindOf(const Shape& shape) {
 }
 
 std::string fillOf(const Shape& shape) {
-    if (shape.type == msoGroup) {
+    if (shape.isComposed()) {
         return "-";
     }
     if (!shape.fill.visible) {

@@ -30,6 +30,12 @@ constexpr auto gestures = std::to_array<Gesture>({
     {3, u"{shapes}.AddTextEffect msoTextEffect{1-30}, \"Conseils\", \"Arial\", 36, msoFalse, msoFalse, {length}, "
         u"{length}"},
     {2, u"{shapes}.AddTitle"},
+    {2, u"Set t = {shapes}.AddTable({1-4}, {1-4}, {frame}).Table\n{cell}.Shape.TextFrame.TextRange.Text = {phrase}"},
+    {3, u"{table}\nt.{Rows|Columns}{.Add|.Add 2|(2).Delete|(1).Delete|(1).Select}"},
+    {3, u"{table}\n{cell}.{Split 2, 1|Split 1, 2|Merge t.Cell(1, 2)|Merge t.Cell(2, 2)|Borders(3).Weight = 3|"
+        u"Borders(5).DashStyle = 4|Shape.Fill.ForeColor.RGB = 255}"},
+    {2, u"{table}\n{cell}.Shape.TextFrame.TextRange.Text = {phrase}"},
+    {2, u"{table}\n{t.Rows(2).Height|t.Columns(1).Width} = {length}\nt.TableDirection = {1-2}"},
     {1, u"{shapes}.AddPicture \"C:\\Images\\photo.png\", msoFalse, msoTrue, {frame}"},
     // Shapes moved, copied, deleted, grouped, selected.
     {8, u"{shape}.{Left|Top} = {length}"},
@@ -145,6 +151,8 @@ constexpr auto placeholders = std::to_array<Placeholder>({
                                         u"368.375}";
      }},
     {u"frame", u"{length}, {length}, {2-20}0, {2-20}0"},
+    {u"table", u"Set t = {shape}.Table"},
+    {u"cell", u"t.Cell({1-3}, {1-3})"},
     {u"kind",
      {},
      [](const Hand& hand) -> std::u16string {
