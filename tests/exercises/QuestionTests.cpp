@@ -273,6 +273,15 @@ TEST_F(Questions, TakeModelsFromTheFolderOfTemplates) {
     EXPECT_EQ(machine.services().files.find(u"C:\\T\\*", 0), u"");
 }
 
+TEST_F(Questions, TakeASettingThatGoesBetweenItsSizeAndItsTextForEmpty) {
+    struct Fading final : platform::Locale {
+        std::int32_t getInfo(std::int32_t, std::int32_t, std::span<char> buffer) override {
+            return buffer.empty() ? 2 : 0;
+        }
+    } settings;
+    EXPECT_EQ(platform::queryLocale(settings, 0, 13), u"");
+}
+
 TEST_F(Questions, KeepEachFolderInItsOwnKeyForOlderVersions) {
     const std::u16string key = u"SOFTWARE\\Microsoft\\Office\\10.0\\Powerpoint\\Recent Folder List\\";
     for (const std::u16string_view name : {u"Default", u"MultimediaDir", u"PictureDir", u"TemplateDir"}) {
