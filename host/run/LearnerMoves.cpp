@@ -127,10 +127,9 @@ void LearnerMoves::drag(const ObjectPtr& shape, float right, float down) const {
     const LateBound dragged(shape);
     const LateBound deck = presentation();
     const bool snaps = number(deck, u"SnapToGrid") != 0;
-    const float distance = snaps ? length(deck, u"GridDistance") : 0;
     const auto move = [&](std::u16string_view edge, float points) {
         const float place = length(dragged, edge) + points;
-        dragged.put(edge, snaps ? snapped(place, distance) : place);
+        dragged.put(edge, snaps ? snapped(place, length(deck, u"GridDistance")) : place);
     };
     move(u"Left", right);
     move(u"Top", down);

@@ -246,7 +246,7 @@ TEST(Language, RecordedMacrosMeanWhatTheyMeanInTheMacroLanguage) {
         {"x = 12# + 4", "x = 16"},
         {"x = 186# + .5 - 1.5! + 1E+2", "x = 285"},
         {"x = &HFFFF: y = &HFFFF&: z = &HFF", "x = -1, y = 65535, z = 255"},
-        {"x = 2 + 3 * 4 - 7 Mod 4 & \"a\" & 10 / 4", "x = \"11a2.5\""},
+        {"x = 2 + 3 * 4 - 7 Mod 4 & \"a\" & 10 / 4 & \"5\" - \"2\"", "x = \"11a2.53\""},
         {"x = 1 + 1 = 2 And Not 3 < 2 Or \"a\" > \"b\"", "x = True"},
         {"x = 6 And 3: y = 6 Or 1: z = Not msoTrue: w = \"10\" = 10", "x = 2, y = 7, z = 0, w = True"},
         {"x = \"a\" = \"A\": y = \"a\" < \"b\": z = 2 >= 2: w = 3 <> 3", "x = False, y = True, z = True, w = False"},
@@ -389,7 +389,8 @@ TEST(Language, AScenarioFileHasItsParts) {
 }
 
 TEST(Language, AFileMayBeUtf16WithItsMark) {
-    const std::u16string text = u"\uFEFF' créée\r\nquestion 306\ncourse\nscenario \"é\"\n expect \"é\" = \"é\"\n";
+    const std::u16string text =
+        u"\uFEFF' créée\r\nquestion 306\ncourse # ici\n# là\nscenario \"é\"\n expect \"é\" = \"é\"\n";
     for (const unsigned low : {0U, 8U}) {
         std::string bytes;
         for (const char16_t unit : text) {
