@@ -4,6 +4,7 @@
 #include "simulator/files/FilePresentationStore.h"
 #include "simulator/files/WholeFile.h"
 #include "simulator/files/bytes/Bytes.h"
+#include "simulator/files/drawing/Anchor.h"
 #include "simulator/files/powerpoint/DocumentReader.h"
 #include "simulator/files/powerpoint/DocumentWriter.h"
 #include "tests/simulator/files/RichPresentation.h"
@@ -35,6 +36,12 @@ void expectSame(const std::vector<ShapePtr>& left, const std::vector<ShapePtr>& 
         EXPECT_EQ(b.slide.lock().get(), &slide);
         expectSame(a.items(), b.items(), slide);
     }
+}
+
+TEST(PresentationFile, CarriesTheCoordinatesOfAGroupToItsSlide) {
+    const drawing::Mapping mapping({10, 20, 110, 220}, {50, 60, 250, 160});
+    const drawing::Edges edges = mapping.onSlide({30, 60, 60, 120});
+    EXPECT_EQ((std::array{edges.left, edges.top, edges.right, edges.bottom}), (std::array{90.0, 80.0, 150.0, 110.0}));
 }
 
 TEST(PresentationFile, KeepsEverythingOfADocument) {
