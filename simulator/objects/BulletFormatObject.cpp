@@ -17,12 +17,11 @@ BulletFormatObject::BulletFormatObject(SessionPtr session, TextPart part)
 const automation::MemberTable& BulletFormatObject::members() const {
     using automation::property;
     using This = BulletFormatObject;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::visible, &This::setVisible>(u"Visible"),
         property<&This::type, &This::setType>(u"Type"),
         property<&This::character, &This::setCharacter>(u"Character"),
-    };
+    });
     return table;
 }
 
@@ -66,7 +65,7 @@ void BulletFormatObject::setCharacter(std::int32_t character) {
     part_.change(&ParagraphFormat::bulletCharacter, character);
 }
 
-automation::ObjectPtr BulletFormatObject::parent() const {
+automation::ObjectPtr BulletFormatObject::owner() const {
     return std::make_shared<ParagraphFormatObject>(session(), part_);
 }
 

@@ -22,7 +22,7 @@ public:
     void setCharacter(std::int32_t character);
 
     /// The paragraph format.
-    [[nodiscard]] automation::ObjectPtr parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     TextPart part_;

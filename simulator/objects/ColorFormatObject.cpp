@@ -2,18 +2,19 @@
 
 namespace simulator {
 
-ColorFormatObject::ColorFormatObject(SessionPtr session, Getter getter, Setter setter, Scheme scheme, Mixture mixture)
-    : PowerPointObject(std::move(session)), getter_(std::move(getter)), setter_(std::move(setter)),
-      scheme_(std::move(scheme)), mixture_(std::move(mixture)) {}
+ColorFormatObject::ColorFormatObject(SessionPtr session, automation::ObjectPtr owner, Getter getter, Setter setter,
+                                     Scheme scheme, Mixture mixture)
+    : PowerPointObject(std::move(session)), owner_(std::move(owner)), getter_(std::move(getter)),
+      setter_(std::move(setter)), scheme_(std::move(scheme)), mixture_(std::move(mixture)) {}
 
 const automation::MemberTable& ColorFormatObject::members() const {
     using automation::property;
     using This = ColorFormatObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::rgb, &This::setRgb>(u"RGB").asDefault(),
         property<&This::type>(u"Type"),
         property<&This::schemeColor, &This::setSchemeColor>(u"SchemeColor"),
-    };
+    });
     return table;
 }
 

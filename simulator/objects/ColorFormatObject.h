@@ -18,10 +18,13 @@ public:
     /// The functions raise `errors::gone` where what bears the colour is gone. `mixture` says whether there are several
     /// colours, of which the getter gives the first.
     ColorFormatObject(
-        SessionPtr session, Getter getter, Setter setter, Scheme scheme, Mixture mixture = [] { return false; });
+        SessionPtr session, automation::ObjectPtr owner, Getter getter, Setter setter, Scheme scheme,
+        Mixture mixture = [] { return false; });
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
+    /// What has the colour.
+    [[nodiscard]] automation::ObjectPtr owner() const override { return owner_; }
     /// Red in the low byte; a colour of the scheme reads as the scheme has it.
     [[nodiscard]] std::int32_t rgb() const;
     /// Raises an invalid request for a value outside 0 to 0xFFFFFF.
@@ -34,6 +37,7 @@ public:
     [[nodiscard]] MsoColorType type() const;
 
 private:
+    automation::ObjectPtr owner_;
     Getter getter_;
     Setter setter_;
     Scheme scheme_;

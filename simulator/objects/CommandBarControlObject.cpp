@@ -8,15 +8,14 @@ const automation::MemberTable& CommandBarControlObject::members() const {
     using automation::method;
     using automation::property;
     using This = CommandBarControlObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::accState>(u"accState"),
         property<&This::builtIn>(u"BuiltIn"),
         property<&This::caption>(u"Caption").asDefault(),
         property<&This::enabled>(u"Enabled"),
         property<&This::index>(u"Index"),
-        property<&This::parent>(u"Parent"),
         method<&This::execute>(u"Execute"),
-    };
+    });
     return table;
 }
 
@@ -41,7 +40,7 @@ void CommandBarControlObject::execute() const {
     markChanged(*curve);
 }
 
-std::shared_ptr<CommandBarObject> CommandBarControlObject::parent() const {
+automation::ObjectPtr CommandBarControlObject::owner() const {
     return std::make_shared<CommandBarObject>(session(), bar_);
 }
 

@@ -28,7 +28,7 @@ public:
     /// Does what the control does. Raises an invalid request where it is unavailable, and for a command that nothing
     /// stands behind here.
     void execute() const;
-    [[nodiscard]] std::shared_ptr<CommandBarObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     [[nodiscard]] const CommandBar& bar() const { return session()->settings().commandBars.bars.at(bar_); }

@@ -8,12 +8,11 @@ namespace simulator {
 const automation::MemberTable& CommandBarControlsObject::members() const {
     using automation::property;
     using This = CommandBarControlsObject;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         property<&This::item>(u"Item").asDefault(),
-    };
+    });
     return table;
 }
 
@@ -23,7 +22,7 @@ std::shared_ptr<CommandBarControlObject> CommandBarControlsObject::item(const au
     return std::make_shared<CommandBarControlObject>(session(), bar_, place);
 }
 
-std::shared_ptr<CommandBarObject> CommandBarControlsObject::parent() const {
+automation::ObjectPtr CommandBarControlsObject::owner() const {
     return std::make_shared<CommandBarObject>(session(), bar_);
 }
 

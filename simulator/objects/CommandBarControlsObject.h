@@ -17,7 +17,7 @@ public:
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(controls().size()); }
     /// By place from 1, or by caption. Raises an invalid request where there is none.
     [[nodiscard]] std::shared_ptr<CommandBarControlObject> item(const automation::Value& index) const;
-    [[nodiscard]] std::shared_ptr<CommandBarObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     [[nodiscard]] const std::vector<CommandBarControl>& controls() const {

@@ -8,8 +8,7 @@ namespace simulator {
 const automation::MemberTable& CommandBarObject::members() const {
     using automation::property;
     using This = CommandBarObject;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::builtIn>(u"BuiltIn"),
         property<&This::controls>(u"Controls"),
         property<&This::enabled, &This::setEnabled>(u"Enabled"),
@@ -18,7 +17,7 @@ const automation::MemberTable& CommandBarObject::members() const {
         property<&This::position, &This::setPosition>(u"Position"),
         property<&This::type>(u"Type"),
         property<&This::visible, &This::setVisible>(u"Visible"),
-    };
+    });
     return table;
 }
 
@@ -45,7 +44,7 @@ std::shared_ptr<CommandBarControlsObject> CommandBarObject::controls() const {
     return std::make_shared<CommandBarControlsObject>(session(), place_);
 }
 
-std::shared_ptr<CommandBarsObject> CommandBarObject::parent() const {
+automation::ObjectPtr CommandBarObject::owner() const {
     return std::make_shared<CommandBarsObject>(session());
 }
 

@@ -30,7 +30,7 @@ public:
     /// Raises an invalid request for a context menu, and for a value outside 0 to 4.
     void setPosition(MsoBarPosition position) const;
     [[nodiscard]] std::shared_ptr<CommandBarControlsObject> controls() const;
-    [[nodiscard]] std::shared_ptr<CommandBarsObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     [[nodiscard]] CommandBar& bar() const { return session()->settings().commandBars.bars.at(place_); }

@@ -1,6 +1,5 @@
 #include "simulator/objects/CommandBarsObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 
 namespace simulator {
@@ -8,15 +7,13 @@ namespace simulator {
 const automation::MemberTable& CommandBarsObject::members() const {
     using automation::property;
     using This = CommandBarsObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::application>(u"Parent"),
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::activeMenuBar>(u"ActiveMenuBar"),
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         property<&This::displayTooltips, &This::setDisplayTooltips>(u"DisplayTooltips"),
         property<&This::item>(u"Item").asDefault(),
-    };
+    });
     return table;
 }
 
@@ -32,10 +29,6 @@ std::shared_ptr<CommandBarObject> CommandBarsObject::item(const automation::Valu
 
 std::shared_ptr<CommandBarObject> CommandBarsObject::activeMenuBar() const {
     return item(u"Menu Bar");
-}
-
-std::shared_ptr<ApplicationObject> CommandBarsObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
 }
 
 } // namespace simulator

@@ -4,8 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
-
 /// CommandBars: PowerPoint's menu bar, toolbars, task pane and context menus.
 class CommandBarsObject final : public PowerPointObject {
 public:
@@ -19,7 +17,6 @@ public:
     [[nodiscard]] bool displayTooltips() const { return session()->settings().commandBars.displayTooltips; }
     void setDisplayTooltips(bool displayed) const { session()->settings().commandBars.displayTooltips = displayed; }
     [[nodiscard]] std::shared_ptr<CommandBarObject> activeMenuBar() const;
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
 };
 
 } // namespace simulator

@@ -14,7 +14,7 @@ const automation::MemberTable& ConnectorFormatObject::members() const {
     using This = ConnectorFormatObject;
     constexpr auto begin = &Connector::begin;
     constexpr auto end = &Connector::end;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         method<&This::connect<begin>>(u"BeginConnect", u"ConnectedShape ConnectionSite"),
         method<&This::disconnect<begin>>(u"BeginDisconnect"),
         method<&This::connect<end>>(u"EndConnect", u"ConnectedShape ConnectionSite"),
@@ -26,7 +26,7 @@ const automation::MemberTable& ConnectorFormatObject::members() const {
         property<&This::shape<end>>(u"EndConnectedShape"),
         property<&This::site<end>>(u"EndConnectionSite"),
         property<&This::type, &This::setType>(u"Type"),
-    };
+    });
     return table;
 }
 
@@ -73,6 +73,10 @@ void ConnectorFormatObject::connectTo(ConnectorEnd Connector::*end, const automa
 
 void ConnectorFormatObject::release(ConnectorEnd Connector::*end) {
     nodes().change([end](Shape& connected) { simulator::connect(connected, end, nullptr, 0); });
+}
+
+automation::ObjectPtr ConnectorFormatObject::owner() const {
+    return std::make_shared<ShapeObject>(session(), node());
 }
 
 } // namespace simulator

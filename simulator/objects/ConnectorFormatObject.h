@@ -13,6 +13,7 @@ public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     /// Takes a shape of the slide, and a connection site of it from 1.
     template <ConnectorEnd Connector::*end> void connect(const automation::ObjectPtr& shape, std::int32_t site) {

@@ -1,6 +1,5 @@
 #include "simulator/objects/DocumentWindowObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/PanesObject.h"
 #include "simulator/objects/PresentationObject.h"
@@ -14,9 +13,7 @@ const automation::MemberTable& DocumentWindowObject::members() const {
     using automation::method;
     using automation::property;
     using This = DocumentWindowObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::presentation>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::selection>(u"Selection"),
         property<&This::view>(u"View"),
         property<&This::presentation>(u"Presentation"),
@@ -29,7 +26,7 @@ const automation::MemberTable& DocumentWindowObject::members() const {
         method<&This::newWindow>(u"NewWindow"),
         method<&This::activate>(u"Activate"),
         method<&This::close>(u"Close"),
-    };
+    });
     return table;
 }
 
@@ -73,8 +70,8 @@ std::shared_ptr<DocumentWindowObject> DocumentWindowObject::newWindow() const {
                                                   session()->openWindow(simulator::alive(window()->presentation)));
 }
 
-std::shared_ptr<ApplicationObject> DocumentWindowObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
+automation::ObjectPtr DocumentWindowObject::owner() const {
+    return presentation();
 }
 
 std::shared_ptr<PresentationObject> DocumentWindowObject::presentation() const {

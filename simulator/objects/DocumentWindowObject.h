@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class PaneObject;
 class PanesObject;
 class PresentationObject;
@@ -18,6 +17,7 @@ public:
         : PowerPointObject(std::move(session)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     /// True for another reference to the same window.
     [[nodiscard]] bool isSame(const Object& other) const noexcept override;
 
@@ -33,7 +33,6 @@ public:
     /// Raises an invalid request for a value outside 1 to 3.
     void setWindowState(PpWindowState state) const;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::shared_ptr<PresentationObject> presentation() const;
     [[nodiscard]] std::shared_ptr<ViewObject> view() const;
     [[nodiscard]] std::shared_ptr<SelectionObject> selection() const;

@@ -1,6 +1,5 @@
 #include "simulator/objects/DocumentWindowsObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 
 namespace simulator {
@@ -9,13 +8,11 @@ const automation::MemberTable& DocumentWindowsObject::members() const {
     using automation::method;
     using automation::property;
     using This = DocumentWindowsObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-        property<&This::application>(u"Application"),
-        property<&This::application>(u"Parent"),
         method<&This::item>(u"Item", u"Index").asDefault(),
-    };
+    });
     return table;
 }
 
@@ -30,10 +27,6 @@ std::shared_ptr<DocumentWindowObject> DocumentWindowsObject::item(const automati
     };
     const auto nameAt = [&](std::size_t place) { return objectAt(place)->caption(); };
     return objectAt(placeIn(all.size(), index, u"DocumentWindows.Item", nameAt));
-}
-
-std::shared_ptr<ApplicationObject> DocumentWindowsObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
 }
 
 std::vector<DocumentWindowPtr> DocumentWindowsObject::windows() const {

@@ -19,7 +19,6 @@ public:
     [[nodiscard]] std::int32_t count() const;
     /// By place from 1, or by caption. Raises an invalid request where there is none.
     [[nodiscard]] std::shared_ptr<DocumentWindowObject> item(const automation::Value& index) const;
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
 
 private:
     [[nodiscard]] std::vector<DocumentWindowPtr> windows() const;

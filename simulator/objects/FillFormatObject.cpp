@@ -6,7 +6,7 @@ const automation::MemberTable& FillFormatObject::members() const {
     using automation::method;
     using automation::property;
     using This = FillFormatObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         method<&This::background>(u"Background"),
         method<&This::oneColorGradient>(u"OneColorGradient", u"Style Variant Degree"),
         method<&This::patterned>(u"Patterned", u"Pattern"),
@@ -24,7 +24,7 @@ const automation::MemberTable& FillFormatObject::members() const {
         property<&This::get<&Fill::transparency>, &This::setTransparency>(u"Transparency"),
         property<&This::get<&Fill::type>>(u"Type"),
         property<&This::get<&Fill::visible>, &This::turn<&Fill::visible>>(u"Visible"),
-    };
+    });
     return table;
 }
 

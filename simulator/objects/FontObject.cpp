@@ -18,8 +18,7 @@ const automation::MemberTable& FontObject::members() const {
     using automation::property;
     using This = FontObject;
     using Format = CharacterFormat;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::color>(u"Color"),
         property<&This::style<&Format::bold>, &This::setStyle<&Format::bold>>(u"Bold"),
         property<&This::style<&Format::italic>, &This::setStyle<&Format::italic>>(u"Italic"),
@@ -31,7 +30,7 @@ const automation::MemberTable& FontObject::members() const {
         property<&This::baselineOffset, &This::setBaselineOffset>(u"BaselineOffset"),
         property<&This::size, &This::setSize>(u"Size"),
         property<&This::name, &This::setName>(u"Name"),
-    };
+    });
     return table;
 }
 
@@ -70,7 +69,7 @@ std::shared_ptr<ColorFormatObject> FontObject::color() const {
     // Between two characters there is nothing to follow: the colour is that of the text to come there.
     const auto gone = [anchor, isBetween = anchor->span.length == 0] { return anchor->span.length == 0 && !isBetween; };
     return std::make_shared<ColorFormatObject>(
-        session(),
+        session(), self(),
         [part, anchor, gone] {
             return part.read([&](const TextStory& story, Span) {
                 return (gone() ? anchor->format : story.formatAt(anchor->span.start)).color;
@@ -86,7 +85,7 @@ std::shared_ptr<ColorFormatObject> FontObject::color() const {
         [part, anchor] { return !part.at(anchor->span).common(&CharacterFormat::color); });
 }
 
-automation::ObjectPtr FontObject::parent() const {
+automation::ObjectPtr FontObject::owner() const {
     return std::make_shared<TextRangeObject>(session(), part_);
 }
 

@@ -36,7 +36,7 @@ public:
     [[nodiscard]] std::shared_ptr<ColorFormatObject> color() const;
 
     /// The text range.
-    [[nodiscard]] automation::ObjectPtr parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     TextPart part_;

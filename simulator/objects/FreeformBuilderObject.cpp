@@ -3,16 +3,17 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/objects/SegmentArguments.h"
 #include "simulator/objects/ShapeObject.h"
+#include "simulator/objects/ShapesObject.h"
 
 namespace simulator {
 
 const automation::MemberTable& FreeformBuilderObject::members() const {
     using automation::method;
     using This = FreeformBuilderObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         method<&This::addNodes>(u"AddNodes", u"SegmentType EditingType X1 Y1 X2 Y2 X3 Y3"),
         method<&This::convertToShape>(u"ConvertToShape"),
-    };
+    });
     return table;
 }
 
@@ -32,6 +33,10 @@ std::shared_ptr<ShapeObject> FreeformBuilderObject::convertToShape() {
     slide->add(shape);
     markChanged(*slide);
     return std::make_shared<ShapeObject>(session(), shape);
+}
+
+automation::ObjectPtr FreeformBuilderObject::owner() const {
+    return std::make_shared<ShapesObject>(session(), slide_);
 }
 
 } // namespace simulator

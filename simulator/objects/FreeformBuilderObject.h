@@ -17,6 +17,7 @@ public:
         : PowerPointObject(std::move(session)), slide_(std::move(slide)), path_({x, y}) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     /// Draws a straight segment or a smooth curve to the first point, or a curve with two control points and its end.
     void addNodes(MsoSegmentType segmentType, MsoEditingType editingType, float x1, float y1, std::optional<float> x2,

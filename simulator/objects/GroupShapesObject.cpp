@@ -8,12 +8,11 @@ const automation::MemberTable& GroupShapesObject::members() const {
     using automation::method;
     using automation::property;
     using This = GroupShapesObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         method<&This::item>(u"Item", u"Index").asDefault(),
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-        property<&This::parent>(u"Parent"),
-    };
+    });
     return table;
 }
 
@@ -26,7 +25,7 @@ std::shared_ptr<ShapeObject> GroupShapesObject::item(const automation::Value& in
     return std::make_shared<ShapeObject>(session(), elementAt(items(), index, u"GroupShapes.Item"));
 }
 
-std::shared_ptr<ShapeObject> GroupShapesObject::parent() const {
+automation::ObjectPtr GroupShapesObject::owner() const {
     return std::make_shared<ShapeObject>(session(), node());
 }
 

@@ -18,7 +18,7 @@ public:
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<ShapeObject> item(const automation::Value& index) const;
     /// The group.
-    [[nodiscard]] std::shared_ptr<ShapeObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     [[nodiscard]] std::vector<ShapePtr> items() const;

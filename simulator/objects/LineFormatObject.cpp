@@ -5,13 +5,13 @@ namespace simulator {
 const automation::MemberTable& LineFormatObject::members() const {
     using automation::property;
     using This = LineFormatObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::get<&Line::dashStyle>, &This::setDashStyle>(u"DashStyle"),
         property<&This::color<&Line::color>>(u"ForeColor"),
         property<&This::color<&Line::back>>(u"BackColor"),
         property<&This::get<&Line::visible>, &This::turn<&Line::visible>>(u"Visible"),
         property<&This::get<&Line::weight>, &This::setWeight>(u"Weight"),
-    };
+    });
     return table;
 }
 

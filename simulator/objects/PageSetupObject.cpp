@@ -1,5 +1,7 @@
 #include "simulator/objects/PageSetupObject.h"
 
+#include "simulator/objects/PresentationObject.h"
+
 namespace simulator {
 
 namespace {
@@ -13,11 +15,11 @@ constexpr std::int32_t msoOrientationVertical = 2;
 const automation::MemberTable& PageSetupObject::members() const {
     using automation::property;
     using This = PageSetupObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::slideHeight, &This::setSlideHeight>(u"SlideHeight"),
         property<&This::slideWidth, &This::setSlideWidth>(u"SlideWidth"),
         property<&This::slideOrientation, &This::setSlideOrientation>(u"SlideOrientation"),
-    };
+    });
     return table;
 }
 
@@ -42,6 +44,10 @@ void PageSetupObject::setSlideOrientation(std::int32_t orientation) {
         nodes().change(
             [](Presentation& presentation) { std::swap(presentation.slideWidth, presentation.slideHeight); });
     }
+}
+
+automation::ObjectPtr PageSetupObject::owner() const {
+    return std::make_shared<PresentationObject>(session(), node());
 }
 
 } // namespace simulator

@@ -10,6 +10,7 @@ public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     [[nodiscard]] float slideWidth() const { return node()->slideWidth; }
     /// 72 to 4032 points; shapes stay where they are.

@@ -11,12 +11,11 @@ const automation::MemberTable& PaneObject::members() const {
     using automation::method;
     using automation::property;
     using This = PaneObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::active>(u"Active"),
         property<&This::viewType>(u"ViewType"),
-        property<&This::parent>(u"Parent"),
         method<&This::activate>(u"Activate"),
-    };
+    });
     return table;
 }
 
@@ -53,7 +52,7 @@ void PaneObject::activate() const {
     }
 }
 
-std::shared_ptr<DocumentWindowObject> PaneObject::parent() const {
+automation::ObjectPtr PaneObject::owner() const {
     return std::make_shared<DocumentWindowObject>(session(), window_);
 }
 

@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::int32_t viewType() const;
     /// Gives the pane the focus. In the outline pane the slide shown is selected; leaving it selects nothing.
     void activate() const;
-    [[nodiscard]] std::shared_ptr<DocumentWindowObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     std::weak_ptr<DocumentWindow> window_;

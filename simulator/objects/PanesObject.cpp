@@ -8,12 +8,11 @@ const automation::MemberTable& PanesObject::members() const {
     using automation::method;
     using automation::property;
     using This = PanesObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-        property<&This::parent>(u"Parent"),
         method<&This::item>(u"Item", u"Index").asDefault(),
-    };
+    });
     return table;
 }
 
@@ -32,7 +31,7 @@ std::shared_ptr<PaneObject> PanesObject::active() const {
     return item(count() == 1 ? 1 : simulator::alive(window_)->activePane);
 }
 
-std::shared_ptr<DocumentWindowObject> PanesObject::parent() const {
+automation::ObjectPtr PanesObject::owner() const {
     return std::make_shared<DocumentWindowObject>(session(), window_);
 }
 

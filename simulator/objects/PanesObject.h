@@ -16,7 +16,7 @@ public:
     /// By place from 1. Raises out of range.
     [[nodiscard]] std::shared_ptr<PaneObject> item(std::int32_t index) const;
     [[nodiscard]] std::shared_ptr<PaneObject> active() const;
-    [[nodiscard]] std::shared_ptr<DocumentWindowObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     std::weak_ptr<DocumentWindow> window_;

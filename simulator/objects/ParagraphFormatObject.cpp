@@ -12,14 +12,13 @@ const automation::MemberTable& ParagraphFormatObject::members() const {
     using automation::property;
     using This = ParagraphFormatObject;
     using Format = ParagraphFormat;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::alignment, &This::setAlignment>(u"Alignment"),
         property<&This::bullet>(u"Bullet"),
         property<&This::space<&Format::spaceBefore>, &This::setSpace<&Format::spaceBefore>>(u"SpaceBefore"),
         property<&This::space<&Format::spaceAfter>, &This::setSpace<&Format::spaceAfter>>(u"SpaceAfter"),
         property<&This::space<&Format::spaceWithin>, &This::setSpace<&Format::spaceWithin>>(u"SpaceWithin"),
-    };
+    });
     return table;
 }
 
@@ -36,7 +35,7 @@ std::shared_ptr<BulletFormatObject> ParagraphFormatObject::bullet() const {
     return std::make_shared<BulletFormatObject>(session(), part_);
 }
 
-automation::ObjectPtr ParagraphFormatObject::parent() const {
+automation::ObjectPtr ParagraphFormatObject::owner() const {
     return std::make_shared<TextRangeObject>(session(), part_);
 }
 

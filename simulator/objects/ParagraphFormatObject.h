@@ -29,7 +29,7 @@ public:
     }
 
     /// The text range.
-    [[nodiscard]] automation::ObjectPtr parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     static constexpr float mixedSpace = -2;

@@ -10,6 +10,7 @@ public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     [[nodiscard]] PpPlaceholderType type() const { return node()->placeholder.value(); }
 };

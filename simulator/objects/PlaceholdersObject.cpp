@@ -1,6 +1,7 @@
 #include "simulator/objects/PlaceholdersObject.h"
 
 #include "simulator/objects/ShapeObject.h"
+#include "simulator/objects/ShapesObject.h"
 
 #include <algorithm>
 #include <iterator>
@@ -22,11 +23,11 @@ const automation::MemberTable& PlaceholdersObject::members() const {
     using automation::method;
     using automation::property;
     using This = PlaceholdersObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         method<&This::item>(u"Item", u"Index").asDefault(),
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-    };
+    });
     return table;
 }
 
@@ -38,6 +39,10 @@ std::shared_ptr<ShapeObject> PlaceholdersObject::item(std::int32_t index) const 
     const std::vector<ShapePtr> placeholders = placeholdersOf(*node());
     return std::make_shared<ShapeObject>(session(),
                                          placeholders[placeIn(placeholders.size(), index, u"Placeholders.Item")]);
+}
+
+automation::ObjectPtr PlaceholdersObject::owner() const {
+    return std::make_shared<ShapesObject>(session(), node());
 }
 
 } // namespace simulator

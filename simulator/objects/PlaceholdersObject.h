@@ -12,6 +12,7 @@ public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     [[nodiscard]] std::int32_t count() const;
     /// By place from 1.

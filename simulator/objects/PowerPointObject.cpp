@@ -1,6 +1,7 @@
 #include "simulator/objects/PowerPointObject.h"
 
 #include "automation/LateBound.h"
+#include "simulator/objects/ApplicationObject.h"
 
 #include <typeinfo>
 
@@ -31,6 +32,28 @@ private:
 
 std::shared_ptr<automation::Elements> PowerPointObject::elementsBy(std::u16string_view member) {
     return std::make_shared<ItemsByPlace>(shared_from_this(), member);
+}
+
+const automation::MemberTable& PowerPointObject::commonMembers() {
+    static const automation::MemberTable table{
+        automation::property<&PowerPointObject::application>(u"Application"),
+        automation::property<&PowerPointObject::owner>(u"Parent"),
+    };
+    return table;
+}
+
+const automation::MemberTable& PowerPointObject::officeMembers() {
+    static const automation::MemberTable table =
+        commonMembers().with({automation::property<&PowerPointObject::creator>(u"Creator")});
+    return table;
+}
+
+automation::ObjectPtr PowerPointObject::application() const {
+    return std::make_shared<ApplicationObject>(session_);
+}
+
+automation::ObjectPtr PowerPointObject::owner() const {
+    return application();
 }
 
 std::u16string PowerPointObject::className() const {

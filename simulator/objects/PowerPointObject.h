@@ -27,7 +27,23 @@ public:
     [[nodiscard]] std::shared_ptr<automation::Elements> elements() { return elementsBy(u"Item"); }
     [[nodiscard]] std::shared_ptr<automation::Elements> elementsBy(std::u16string_view member);
 
+    [[nodiscard]] automation::ObjectPtr application() const;
+    /// What the object belongs to, by PowerPoint's name its `Parent`.
+    [[nodiscard]] virtual automation::ObjectPtr owner() const;
+    /// Who made the object's class: "PPT" in a number.
+    [[nodiscard]] std::int32_t creator() const noexcept { return 0x50575054; }
+
     [[nodiscard]] const SessionPtr& session() const noexcept { return session_; }
+
+protected:
+    /// `Application` and `Parent`, which all objects publish that belong to another.
+    [[nodiscard]] static const automation::MemberTable& commonMembers();
+    /// The same, and `Creator`, which the classes of Office publish.
+    [[nodiscard]] static const automation::MemberTable& officeMembers();
+    /// This object, for one that belongs to it.
+    [[nodiscard]] automation::ObjectPtr self() const {
+        return std::const_pointer_cast<PowerPointObject>(shared_from_this());
+    }
 
 private:
     SessionPtr session_;

@@ -1,7 +1,6 @@
 #include "simulator/objects/PresentationObject.h"
 
 #include "simulator/document/Masters.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/DocumentWindowObject.h"
 #include "simulator/objects/DocumentWindowsObject.h"
@@ -35,9 +34,7 @@ const automation::MemberTable& PresentationObject::members() const {
     using automation::method;
     using automation::property;
     using This = PresentationObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::slides>(u"Slides"),
         property<&This::slideMaster>(u"SlideMaster"),
         property<&This::hasTitleMaster>(u"HasTitleMaster"),
@@ -62,7 +59,7 @@ const automation::MemberTable& PresentationObject::members() const {
         method<&This::save>(u"Save"),
         method<&This::saveAs>(u"SaveAs", u"FileName FileFormat EmbedTrueTypeFonts"),
         method<&This::saveCopyAs>(u"SaveCopyAs", u"FileName FileFormat EmbedTrueTypeFonts"),
-    };
+    });
     return table;
 }
 
@@ -116,11 +113,7 @@ void PresentationObject::setGridDistance(float points) const {
     document()->saved = false;
 }
 
-std::shared_ptr<ApplicationObject> PresentationObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PresentationsObject> PresentationObject::parent() const {
+automation::ObjectPtr PresentationObject::owner() const {
     return std::make_shared<PresentationsObject>(session());
 }
 

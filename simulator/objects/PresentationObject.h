@@ -6,7 +6,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class DocumentWindowObject;
 class DocumentWindowsObject;
 class MasterObject;
@@ -50,8 +49,7 @@ public:
     /// Raises an invalid request outside 1 to 144.
     void setGridDistance(float points) const;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    [[nodiscard]] std::shared_ptr<PresentationsObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::shared_ptr<SlidesObject> slides() const;
     [[nodiscard]] std::shared_ptr<MasterObject> slideMaster() const;
     [[nodiscard]] MsoTriState hasTitleMaster() const;

@@ -1,6 +1,5 @@
 #include "simulator/objects/PresentationsObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 
 namespace simulator {
@@ -9,15 +8,13 @@ const automation::MemberTable& PresentationsObject::members() const {
     using automation::method;
     using automation::property;
     using This = PresentationsObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-        property<&This::application>(u"Application"),
-        property<&This::application>(u"Parent"),
         method<&This::item>(u"Item", u"Index").asDefault(),
         method<&This::add>(u"Add", u"WithWindow"),
         method<&This::open>(u"Open", u"FileName ReadOnly Untitled WithWindow"),
-    };
+    });
     return table;
 }
 
@@ -44,10 +41,6 @@ std::shared_ptr<PresentationObject> PresentationsObject::open(const std::u16stri
         session()->open(fileName, readOnly.value_or(msoFalse) != msoFalse, untitled.value_or(msoFalse) != msoFalse,
                         withWindow != msoFalse);
     return std::make_shared<PresentationObject>(session(), presentation);
-}
-
-std::shared_ptr<ApplicationObject> PresentationsObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
 }
 
 } // namespace simulator

@@ -6,8 +6,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
-
 /// Presentations: the open presentations, in the order in which they were opened.
 class PresentationsObject final : public PowerPointObject {
 public:
@@ -24,7 +22,6 @@ public:
     std::shared_ptr<PresentationObject> open(const std::u16string& fileName, std::optional<MsoTriState> readOnly,
                                              std::optional<MsoTriState> untitled,
                                              std::optional<MsoTriState> withWindow) const;
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
 };
 
 } // namespace simulator

@@ -38,8 +38,7 @@ const automation::MemberTable& SelectionObject::members() const {
     using automation::method;
     using automation::property;
     using This = SelectionObject;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         method<&This::cut>(u"Cut"),
         method<&This::copy>(u"Copy"),
         method<&This::remove>(u"Delete"),
@@ -50,7 +49,7 @@ const automation::MemberTable& SelectionObject::members() const {
         property<&This::textRange>(u"TextRange"),
         property<&This::childShapeRange>(u"ChildShapeRange"),
         property<&This::hasChildShapeRange>(u"HasChildShapeRange"),
-    };
+    });
     return table;
 }
 
@@ -100,7 +99,7 @@ std::shared_ptr<SlideRangeObject> SelectionObject::slideRange() const {
     return std::make_shared<SlideRangeObject>(session(), slides);
 }
 
-std::shared_ptr<DocumentWindowObject> SelectionObject::parent() const {
+automation::ObjectPtr SelectionObject::owner() const {
     return std::make_shared<DocumentWindowObject>(session(), window_);
 }
 

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] std::shared_ptr<TextRangeObject> textRange() const;
     /// The slides selected, or the one shown. Raises an invalid request where the presentation has none.
     [[nodiscard]] std::shared_ptr<SlideRangeObject> slideRange() const;
-    [[nodiscard]] std::shared_ptr<DocumentWindowObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     void unselect() const { simulator::alive(window_)->selection.selectNothing(); }
     /// These raise an invalid request where nothing is selected.

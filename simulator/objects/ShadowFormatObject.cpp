@@ -28,7 +28,7 @@ const automation::MemberTable& ShadowFormatObject::members() const {
     using automation::method;
     using automation::property;
     using This = ShadowFormatObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         method<&This::increment<&Shadow::offsetX>>(u"IncrementOffsetX", u"Increment"),
         method<&This::increment<&Shadow::offsetY>>(u"IncrementOffsetY", u"Increment"),
         property<&This::color<&Shadow::color>>(u"ForeColor"),
@@ -38,7 +38,7 @@ const automation::MemberTable& ShadowFormatObject::members() const {
         property<&This::get<&Shadow::type>, &This::setType>(u"Type"),
         property<&This::get<&Shadow::transparency>, &This::setTransparency>(u"Transparency"),
         property<&This::get<&Shadow::visible>, &This::setVisible>(u"Visible"),
-    };
+    });
     return table;
 }
 

@@ -22,10 +22,20 @@ template <typename Format> [[nodiscard]] Format& formatOf(Shape& shape, Format S
 /// The type of what a pointer to a member points to.
 template <typename Class, typename Value> Value valueOf(Value Class::*);
 
+/// The object that stands for a shape, or for a range of shapes.
+[[nodiscard]] automation::ObjectPtr objectOf(const SessionPtr& session, const ShapeSet& shapes);
+
 /// A format of some shapes: what `part` is in each. Its plain properties are read and written by the members of that.
 template <auto part> class ShapeFormatObject : public NodeSetObject<Shape> {
 public:
-    using NodeSetObject::NodeSetObject;
+    /// The format of shapes; the items of groups may stand for those in `shapes`.
+    ShapeFormatObject(SessionPtr session, ShapeSet shapes, ShapeSet bearers)
+        : NodeSetObject(std::move(session), std::move(shapes)), bearers_(std::move(bearers)) {}
+    ShapeFormatObject(SessionPtr session, const ShapeSet& shapes)
+        : ShapeFormatObject(std::move(session), shapes, shapes) {}
+
+    /// The shape, or the range of shapes.
+    [[nodiscard]] automation::ObjectPtr owner() const override { return objectOf(session(), bearers_); }
 
     /// The value of a property that all shapes share, or what stands for different ones: -2, `mixedLength`, no text.
     template <auto property> [[nodiscard]] auto get() const {
@@ -52,12 +62,15 @@ public:
     /// A colour: it reads that of the first shape and writes that of all.
     template <auto property> [[nodiscard]] std::shared_ptr<ColorFormatObject> color() const {
         return std::make_shared<ColorFormatObject>(
-            session(), [shapes = nodes()] { return formatOf(*shapes.first(), part).*property; },
+            session(), self(), [shapes = nodes()] { return formatOf(*shapes.first(), part).*property; },
             [shapes = nodes()](Color color) {
                 shapes.change([&color](Shape& shape) { formatOf(shape, part).*property = color; });
             },
             [shapes = nodes()] { return schemeOf(*shapes.first()); });
     }
+
+private:
+    ShapeSet bearers_;
 };
 
 } // namespace simulator

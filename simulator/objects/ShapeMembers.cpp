@@ -31,6 +31,7 @@ const automation::MemberTable& ShapeMembers::sharedMembers() {
     using This = ShapeMembers;
     static const automation::MemberTable table = geometryMembers().with({
         property<&This::application>(u"Application"),
+        property<&This::creator>(u"Creator"),
         property<&This::parent>(u"Parent"),
         method<&This::apply>(u"Apply"),
         method<&This::erase>(u"Delete"),
@@ -149,19 +150,19 @@ std::shared_ptr<TagsObject> ShapeMembers::tags() const {
 }
 
 std::shared_ptr<FillFormatObject> ShapeMembers::fill() const {
-    return std::make_shared<FillFormatObject>(session(), leavesOf(nodes()));
+    return std::make_shared<FillFormatObject>(session(), leavesOf(nodes()), nodes());
 }
 
 std::shared_ptr<LineFormatObject> ShapeMembers::line() const {
-    return std::make_shared<LineFormatObject>(session(), outlinesOf(nodes()));
+    return std::make_shared<LineFormatObject>(session(), outlinesOf(nodes()), nodes());
 }
 
 std::shared_ptr<ShadowFormatObject> ShapeMembers::shadow() const {
-    return std::make_shared<ShadowFormatObject>(session(), leavesOf(nodes()));
+    return std::make_shared<ShadowFormatObject>(session(), leavesOf(nodes()), nodes());
 }
 
 std::shared_ptr<ThreeDFormatObject> ShapeMembers::threeD() const {
-    return std::make_shared<ThreeDFormatObject>(session(), leavesOf(nodes()));
+    return std::make_shared<ThreeDFormatObject>(session(), leavesOf(nodes()), nodes());
 }
 
 std::shared_ptr<TextEffectFormatObject> ShapeMembers::textEffect() const {

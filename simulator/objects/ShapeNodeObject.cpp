@@ -1,14 +1,16 @@
 #include "simulator/objects/ShapeNodeObject.h"
 
+#include "simulator/objects/ShapeNodesObject.h"
+
 namespace simulator {
 
 const automation::MemberTable& ShapeNodeObject::members() const {
     using automation::property;
     using This = ShapeNodeObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::points>(u"Points"),
         property<&This::segmentType>(u"SegmentType"),
-    };
+    });
     return table;
 }
 
@@ -29,6 +31,10 @@ ShapePtr ShapeNodeObject::shape() const {
         errors::gone();
     }
     return freeform;
+}
+
+automation::ObjectPtr ShapeNodeObject::owner() const {
+    return std::make_shared<ShapeNodesObject>(session(), shape_);
 }
 
 } // namespace simulator

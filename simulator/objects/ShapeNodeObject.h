@@ -12,6 +12,7 @@ public:
         : PowerPointObject(std::move(session)), shape_(std::move(shape)), place_(place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     /// An array of one point, which is an array of its two coordinates.
     [[nodiscard]] automation::Array points() const;

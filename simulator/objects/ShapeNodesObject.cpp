@@ -2,6 +2,7 @@
 
 #include "simulator/objects/SegmentArguments.h"
 #include "simulator/objects/ShapeNodeObject.h"
+#include "simulator/objects/ShapeObject.h"
 
 #include <algorithm>
 
@@ -54,7 +55,7 @@ const automation::MemberTable& ShapeNodesObject::members() const {
     using automation::method;
     using automation::property;
     using This = ShapeNodesObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         method<&This::item>(u"Item", u"Index").asDefault(),
@@ -62,7 +63,7 @@ const automation::MemberTable& ShapeNodesObject::members() const {
         method<&This::insert>(u"Insert", u"Index SegmentType EditingType X1 Y1 X2 Y2 X3 Y3"),
         method<&This::setPosition>(u"SetPosition", u"Index X1 Y1"),
         method<&This::setSegmentType>(u"SetSegmentType", u"Index SegmentType"),
-    };
+    });
     return table;
 }
 
@@ -124,6 +125,10 @@ template <typename Edit> void ShapeNodesObject::edit(std::int32_t index, std::u1
         edit(edited, placeIn(edited.size(), index, member));
         shape.setNodes(std::move(edited));
     });
+}
+
+automation::ObjectPtr ShapeNodesObject::owner() const {
+    return std::make_shared<ShapeObject>(session(), node());
 }
 
 } // namespace simulator

@@ -13,6 +13,7 @@ public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->nodes.size()); }
     /// By place from 1.

@@ -58,6 +58,7 @@ const automation::MemberTable& ShapesObject::members() const {
     using This = ShapesObject;
     static const automation::MemberTable table{
         property<&This::application>(u"Application"),
+        property<&This::creator>(u"Creator"),
         property<&This::parent>(u"Parent"),
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),

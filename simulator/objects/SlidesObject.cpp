@@ -1,7 +1,6 @@
 #include "simulator/objects/SlidesObject.h"
 
 #include "simulator/document/SlideLayout.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/PresentationObject.h"
 #include "simulator/objects/SlideObject.h"
 #include "simulator/objects/SlideRangeObject.h"
@@ -14,26 +13,20 @@ const automation::MemberTable& SlidesObject::members() const {
     using automation::method;
     using automation::property;
     using This = SlidesObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
         method<&This::item>(u"Item", u"Index").asDefault(),
         method<&This::findBySlideId>(u"FindBySlideID", u"SlideID"),
         method<&This::add>(u"Add", u"Index Layout"),
         method<&This::insertFromFile>(u"InsertFromFile", u"FileName Index SlideStart SlideEnd"),
         method<&This::range>(u"Range", u"Index"),
         method<&This::paste>(u"Paste", u"Index"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> SlidesObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PresentationObject> SlidesObject::parent() const {
+automation::ObjectPtr SlidesObject::owner() const {
     return std::make_shared<PresentationObject>(session(), node());
 }
 

@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class PresentationObject;
 class SlideObject;
 class SlideRangeObject;
@@ -16,8 +15,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    [[nodiscard]] std::shared_ptr<PresentationObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->slides().size()); }
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<SlideObject> item(const automation::Value& index) const;

@@ -1,6 +1,9 @@
 #include "simulator/objects/TagsObject.h"
 
 #include "simulator/objects/CollectionLookup.h"
+#include "simulator/objects/MasterObject.h"
+#include "simulator/objects/PresentationObject.h"
+#include "simulator/objects/ShapeObject.h"
 
 namespace simulator {
 
@@ -13,19 +16,20 @@ template <typename Bearer> std::shared_ptr<TagList> tagsOf(const std::shared_ptr
 } // namespace
 
 TagsObject::TagsObject(SessionPtr session, const PresentationPtr& presentation)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(presentation)), presentation_(presentation) {}
+    : PowerPointObject(std::move(session)), tags_(tagsOf(presentation)), presentation_(presentation),
+      bearer_(presentation) {}
 
 TagsObject::TagsObject(SessionPtr session, const SlidePtr& slide)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(slide)), slide_(slide) {}
+    : PowerPointObject(std::move(session)), tags_(tagsOf(slide)), slide_(slide), bearer_(slide) {}
 
 TagsObject::TagsObject(SessionPtr session, const ShapePtr& shape)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(shape)), slide_(shape->slide) {}
+    : PowerPointObject(std::move(session)), tags_(tagsOf(shape)), slide_(shape->slide), bearer_(shape) {}
 
 const automation::MemberTable& TagsObject::members() const {
     using automation::method;
     using automation::property;
     using This = TagsObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         method<&This::item>(u"Item", u"Name").asDefault(),
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
@@ -33,13 +37,26 @@ const automation::MemberTable& TagsObject::members() const {
         method<&This::remove>(u"Delete", u"Name"),
         method<&This::name>(u"Name", u"Index"),
         method<&This::value>(u"Value", u"Index"),
-    };
+    });
     return table;
 }
 
 bool TagsObject::isSame(const Object& other) const noexcept {
     const auto* const peer = dynamic_cast<const TagsObject*>(&other);
     return peer != nullptr && isSameReference(tags_, peer->tags_);
+}
+
+automation::ObjectPtr TagsObject::owner() const {
+    const auto toObject = [this]<typename Bearer>(const std::weak_ptr<Bearer>& bearer) -> automation::ObjectPtr {
+        if constexpr (std::is_same_v<Bearer, Presentation>) {
+            return std::make_shared<PresentationObject>(session(), bearer);
+        } else if constexpr (std::is_same_v<Bearer, Slide>) {
+            return objectOf(session(), bearer);
+        } else {
+            return std::make_shared<ShapeObject>(session(), bearer);
+        }
+    };
+    return std::visit(toObject, bearer_);
 }
 
 std::int32_t TagsObject::count() const {

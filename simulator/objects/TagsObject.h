@@ -2,6 +2,8 @@
 
 #include "simulator/objects/PowerPointObject.h"
 
+#include <variant>
+
 namespace simulator {
 
 /// Tags: the tags of a presentation, slide or shape, in the order in which they were added.
@@ -12,6 +14,8 @@ public:
     TagsObject(SessionPtr session, const ShapePtr& shape);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    /// The presentation, the slide or the shape.
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     /// True for the tags of the same presentation, slide or shape.
     [[nodiscard]] bool isSame(const Object& other) const noexcept override;
 
@@ -34,6 +38,7 @@ private:
     std::weak_ptr<TagList> tags_; ///< lives as long as what bears the tags
     std::weak_ptr<Slide> slide_;  ///< that bears them or the shape that does
     std::weak_ptr<Presentation> presentation_;
+    std::variant<std::weak_ptr<Presentation>, std::weak_ptr<Slide>, std::weak_ptr<Shape>> bearer_;
 };
 
 } // namespace simulator

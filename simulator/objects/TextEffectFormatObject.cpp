@@ -5,14 +5,14 @@ namespace simulator {
 const automation::MemberTable& TextEffectFormatObject::members() const {
     using automation::property;
     using This = TextEffectFormatObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::get<&TextEffect::bold>, &This::turn<&TextEffect::bold>>(u"FontBold"),
         property<&This::get<&TextEffect::italic>, &This::turn<&TextEffect::italic>>(u"FontItalic"),
         property<&This::get<&TextEffect::fontName>, &This::set<&TextEffect::fontName>>(u"FontName"),
         property<&This::get<&TextEffect::fontSize>, &This::setFontSize>(u"FontSize"),
         property<&This::get<&TextEffect::preset>, &This::setPresetTextEffect>(u"PresetTextEffect"),
         property<&This::get<&TextEffect::text>, &This::set<&TextEffect::text>>(u"Text"),
-    };
+    });
     return table;
 }
 

@@ -21,8 +21,7 @@ const automation::MemberTable& TextFrameObject::members() const {
     using automation::method;
     using automation::property;
     using This = TextFrameObject;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::hasText>(u"HasText"),
         property<&This::textRange>(u"TextRange"),
         method<&This::deleteText>(u"DeleteText"),
@@ -36,7 +35,7 @@ const automation::MemberTable& TextFrameObject::members() const {
         property<&This::orientation, &This::setOrientation>(u"Orientation"),
         property<&This::horizontalAnchor, &This::setHorizontalAnchor>(u"HorizontalAnchor"),
         property<&This::verticalAnchor, &This::setVerticalAnchor>(u"VerticalAnchor"),
-    };
+    });
     return table;
 }
 
@@ -103,7 +102,7 @@ void TextFrameObject::setVerticalAnchor(MsoVerticalAnchor anchor) {
     part_.edit([anchor](TextStory& story, Span) { story.layout.anchor = anchor; });
 }
 
-automation::ObjectPtr TextFrameObject::parent() const {
+automation::ObjectPtr TextFrameObject::owner() const {
     return std::make_shared<ShapeObject>(session(), part_.shape());
 }
 

@@ -33,7 +33,7 @@ public:
     void setVerticalAnchor(MsoVerticalAnchor anchor);
 
     /// The shape.
-    [[nodiscard]] automation::ObjectPtr parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     [[nodiscard]] TextLayout layout() const;

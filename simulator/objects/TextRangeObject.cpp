@@ -51,11 +51,10 @@ const automation::MemberTable& TextRangeObject::members() const {
     using automation::method;
     using automation::property;
     using This = TextRangeObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         method<&This::item>(u"_Index", u"Index"),
         property<&This::elements>(automation::newEnum.text()),
-        property<&This::parent>(u"Parent"),
         property<&This::start>(u"Start"),
         property<&This::length>(u"Length"),
         property<&This::bound<&Frame::left>>(u"BoundLeft"),
@@ -83,7 +82,7 @@ const automation::MemberTable& TextRangeObject::members() const {
         method<&This::changeCase>(u"ChangeCase", u"Type"),
         method<&This::find>(u"Find", u"FindWhat After MatchCase WholeWords"),
         method<&This::replace>(u"Replace", u"FindWhat ReplaceWhat After MatchCase WholeWords"),
-    };
+    });
     return table;
 }
 
@@ -240,7 +239,7 @@ TextRangeObject::Pointer TextRangeObject::paste() {
     return at(part_.span);
 }
 
-automation::ObjectPtr TextRangeObject::parent() const {
+automation::ObjectPtr TextRangeObject::owner() const {
     return std::make_shared<TextFrameObject>(session(), part_.shape());
 }
 

@@ -75,7 +75,7 @@ public:
     Pointer paste();
 
     /// The text frame.
-    [[nodiscard]] automation::ObjectPtr parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     static constexpr std::int32_t leftOut = -1;

@@ -12,7 +12,7 @@ const automation::MemberTable& ThreeDFormatObject::members() const {
     using automation::method;
     using automation::property;
     using This = ThreeDFormatObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         method<&This::setThreeDFormat>(u"SetThreeDFormat", u"PresetThreeDFormat"),
         property<&This::get<&ThreeD::depth>, &This::setDepth>(u"Depth"),
         method<&This::setExtrusionDirection>(u"SetExtrusionDirection", u"PresetExtrusionDirection"),
@@ -29,7 +29,7 @@ const automation::MemberTable& ThreeDFormatObject::members() const {
         property<&This::extrusionColorType, &This::setExtrusionColorType>(u"ExtrusionColorType"),
         property<&This::get<&ThreeD::preset>>(u"PresetThreeDFormat"),
         property<&This::get<&ThreeD::visible>, &This::setVisible>(u"Visible"),
-    };
+    });
     return table;
 }
 
@@ -49,7 +49,7 @@ void ThreeDFormatObject::setThreeDFormat(std::int32_t presetThreeDFormat) {
 std::shared_ptr<ColorFormatObject> ThreeDFormatObject::extrusionColor() const {
     const ShapeSet shapes = nodes();
     return std::make_shared<ColorFormatObject>(
-        session(),
+        session(), self(),
         [shapes] {
             const ShapePtr first = shapes.first();
             return first->threeD.hasOwnColor ? first->threeD.color : first->fill.fore;

@@ -28,14 +28,13 @@ const automation::MemberTable& ViewObject::members() const {
     using automation::method;
     using automation::property;
     using This = ViewObject;
-    static const automation::MemberTable table{
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::type>(u"Type"),
         property<&This::zoom, &This::setZoom>(u"Zoom"),
         method<&This::paste>(u"Paste"),
         property<&This::slide, &This::setSlide>(u"Slide"),
         method<&This::gotoSlide>(u"GotoSlide", u"Index"),
-    };
+    });
     return table;
 }
 
@@ -75,7 +74,7 @@ void ViewObject::paste() const {
     if (!clipboard.slides.empty()) {
         pasteSlides();
     } else if (!clipboard.text.text().empty() && window->selection.type() == ppSelectionText) {
-        parent()->selection()->textRange()->paste();
+        DocumentWindowObject(session(), window_).selection()->textRange()->paste();
     } else if (!clipboard.text.text().empty() && isTextTakenBy(window->selection)) {
         const ShapePtr shape = window->selection.shapes().front();
         TextRangeObject(session(), TextPart(shape, {shape->text->text().size(), 0})).paste();
@@ -94,7 +93,7 @@ void ViewObject::pasteSlides() const {
         .paste(goesLast ? std::nullopt : std::optional(static_cast<std::int32_t>(next) + 1));
 }
 
-std::shared_ptr<DocumentWindowObject> ViewObject::parent() const {
+automation::ObjectPtr ViewObject::owner() const {
     return std::make_shared<DocumentWindowObject>(session(), window_);
 }
 

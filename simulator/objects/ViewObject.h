@@ -28,7 +28,7 @@ public:
     /// Pastes slides behind the slide shown, anything else on it or in the place of the text selected. Raises an
     /// invalid request where nothing was copied.
     void paste() const;
-    [[nodiscard]] std::shared_ptr<DocumentWindowObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
     void pasteSlides() const;
