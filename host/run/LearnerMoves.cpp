@@ -16,6 +16,9 @@ namespace {
 
 constexpr std::int32_t yes = -1;
 constexpr std::int32_t msoPlaceholder = 14;
+constexpr std::int32_t msoEditingAuto = 0;
+constexpr std::int32_t msoSegmentLine = 0;
+constexpr std::int32_t msoSegmentCurve = 1;
 constexpr std::int32_t ppLayoutText = 2;
 constexpr std::int32_t ppSelectionText = 3;
 
@@ -125,14 +128,96 @@ float LearnerMoves::centimetres(float length) const {
 
 void LearnerMoves::drag(const ObjectPtr& shape, float right, float down) const {
     const LateBound dragged(shape);
+    const Point to = placed({length(dragged, u"Left") + right, length(dragged, u"Top") + down});
+    dragged.put(u"Left", to.x);
+    dragged.put(u"Top", to.y);
+}
+
+LearnerMoves::Point LearnerMoves::placed(Point point) const {
     const LateBound deck = presentation();
-    const bool snaps = number(deck, u"SnapToGrid") != 0;
-    const auto move = [&](std::u16string_view edge, float points) {
-        const float place = length(dragged, edge) + points;
-        dragged.put(edge, snaps ? snapped(place, length(deck, u"GridDistance")) : place);
-    };
-    move(u"Left", right);
-    move(u"Top", down);
+    if (number(deck, u"SnapToGrid") == 0) {
+        return point;
+    }
+    const float distance = length(deck, u"GridDistance");
+    return {snapped(point.x, distance), snapped(point.y, distance)};
+}
+
+LearnerMoves::Point LearnerMoves::pointOf(const automation::Value& coordinates) {
+    const auto both = coordinates.to<automation::Array>();
+    if (both.size() != 2) {
+        refuse(u"a point is an array of two places: Array(10, 20)", automation::RunTimeError::InvalidProcedureCall);
+    }
+    return {both[0].to<float>(), both[1].to<float>()};
+}
+
+LateBound LearnerMoves::shapes() const {
+    return memberOf(memberOf(memberOf(memberOf(application(), u"ActiveWindow"), u"View"), u"Slide"), u"Shapes");
+}
+
+ObjectPtr LearnerMoves::drawLine(float beginX, float beginY, float endX, float endY) const {
+    const Point begin = placed({beginX, beginY});
+    const Point end = placed({endX, endY});
+    return shapes().call(u"AddLine", begin.x, begin.y, end.x, end.y).to<ObjectPtr>();
+}
+
+ObjectPtr LearnerMoves::drawFreeform(const automation::Array& points) const {
+    return draw(points, msoSegmentLine);
+}
+
+ObjectPtr LearnerMoves::drawCurve(const automation::Array& points) const {
+    return draw(points, msoSegmentCurve);
+}
+
+ObjectPtr LearnerMoves::draw(const automation::Array& points, std::int32_t segmentType) const {
+    if (points.size() < 2) {
+        refuse(u"at least two points are needed", automation::RunTimeError::InvalidProcedureCall);
+    }
+    const Point first = placed(pointOf(points.front()));
+    const LateBound builder(shapes().call(u"BuildFreeform", msoEditingAuto, first.x, first.y).to<ObjectPtr>());
+    for (std::size_t place = 1; place < points.size(); ++place) {
+        const Point next = placed(pointOf(points[place]));
+        const Point stop = place + 1 == points.size() && place > 1 && isNear(first, next) ? first : next;
+        builder.call(u"AddNodes", segmentType, msoEditingAuto, stop.x, stop.y);
+    }
+    return builder.call(u"ConvertToShape").to<ObjectPtr>();
+}
+
+LearnerMoves::Point LearnerMoves::pointAt(const LateBound& nodes, std::int32_t place) {
+    const auto points = itemOf(nodes, place).get(u"Points").to<automation::Array>();
+    return pointOf(points.empty() ? automation::Value() : points.front());
+}
+
+bool LearnerMoves::isNear(Point one, Point other) {
+    constexpr float reach = 5; // points
+    return std::abs(one.x - other.x) <= reach && std::abs(one.y - other.y) <= reach;
+}
+
+void LearnerMoves::dragPoint(const ObjectPtr& freeform, std::int32_t place, float right, float down) const {
+    const LateBound nodes = memberOf(LateBound(freeform), u"Nodes");
+    const std::int32_t last = countOf(nodes);
+    const Point from = pointAt(nodes, place);
+    const std::int32_t opposite = place == 1 ? last : 1;
+    const bool isEnd = place == 1 || place == last;
+    const bool wasClosed = isEnd && pointAt(nodes, opposite) == from;
+    Point to = placed({from.x + right, from.y + down});
+    if (isEnd && !wasClosed && isNear(to, pointAt(nodes, opposite))) {
+        to = pointAt(nodes, opposite);
+    }
+    nodes.call(u"SetPosition", place, to.x, to.y);
+    if (wasClosed) {
+        nodes.call(u"SetPosition", opposite, to.x, to.y);
+    }
+}
+
+void LearnerMoves::deletePoint(const ObjectPtr& freeform, std::int32_t place) const {
+    const LateBound nodes = memberOf(LateBound(freeform), u"Nodes");
+    const std::int32_t last = countOf(nodes);
+    const bool wasClosed = (place == 1 || place == last) && pointAt(nodes, 1) == pointAt(nodes, last);
+    nodes.call(u"Delete", wasClosed ? 1 : place);
+    if (wasClosed) { // what was the second point is begin and end now
+        const Point begin = pointAt(nodes, 1);
+        nodes.call(u"SetPosition", countOf(nodes), begin.x, begin.y);
+    }
 }
 
 void LearnerMoves::type(const std::u16string& text) const {
@@ -221,6 +306,12 @@ const automation::MemberTable& LearnerMoves::members() const {
         method<&This::pressDelete>(u"PressDelete"),
         method<&This::centimetres>(u"Centimetres"),
         method<&This::drag>(u"Drag"),
+        method<&This::drawLine>(u"DrawLine"),
+        method<&This::drawFreeform>(u"DrawFreeform"),
+        method<&This::drawCurve>(u"DrawCurve"),
+        method<&This::drawCurve>(u"Scribble"),
+        method<&This::dragPoint>(u"DragPoint"),
+        method<&This::deletePoint>(u"DeletePoint"),
         method<&This::type>(u"Type"),
         method<&This::correctSpelling>(u"CorrectSpelling"),
         method<&This::chooseSynonym>(u"ChooseSynonym"),
