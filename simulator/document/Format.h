@@ -20,6 +20,15 @@ struct Fill {
     friend bool operator==(const Fill&, const Fill&) = default;
 };
 
+/// An end of a line, by Office's numbers.
+struct ArrowHead {
+    std::int32_t style = 1;  ///< 1 (msoArrowheadNone) to 6
+    std::int32_t length = 2; ///< 1 to 3
+    std::int32_t width = 2;  ///< 1 to 3
+
+    friend bool operator==(const ArrowHead&, const ArrowHead&) = default;
+};
+
 /// The outline of a shape.
 struct Line {
     bool visible = true;
@@ -27,6 +36,11 @@ struct Line {
     Color color = Color::of(ppForeground);
     std::int32_t dashStyle = 1;
     Color back = Color::of(ppBackground); ///< of a patterned line
+    std::int32_t pattern = -2;            ///< 1 to 48; -2 where there is none
+    std::int32_t style = 1;               ///< MsoLineStyle, 1 to 5
+    float transparency = 0;               ///< 0 opaque to 1 clear
+    ArrowHead begin;
+    ArrowHead end;
 
     friend bool operator==(const Line&, const Line&) = default;
 };

@@ -44,6 +44,14 @@ public:
     [[nodiscard]] PpWindowState windowState() const { return session()->window().state(); }
     /// Raises an invalid request for a value outside 1 to 3.
     void setWindowState(PpWindowState state) const;
+    /// Where the window stands when it is not maximized, in points.
+    template <float Frame::*side> [[nodiscard]] float length() const { return session()->settings().mainWindow.*side; }
+    /// Raises an invalid request outside -4000 to 4000.
+    template <float Frame::*side> void setLength(float points) const {
+        constexpr float farthest = 4000;
+        errors::demandWithin(points, -farthest, farthest, u"Application");
+        session()->settings().mainWindow.*side = points;
+    }
     [[nodiscard]] MsoTriState showStartupDialog() const;
     void setShowStartupDialog(MsoTriState shown) const;
 

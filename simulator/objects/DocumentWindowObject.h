@@ -33,6 +33,15 @@ public:
     /// Raises an invalid request for a value outside 1 to 3.
     void setWindowState(PpWindowState state) const;
 
+    /// Where the window stands when it is not maximized, in points.
+    template <float Frame::*side> [[nodiscard]] float length() const { return window()->frame.*side; }
+    /// Raises an invalid request outside -4000 to 4000.
+    template <float Frame::*side> void setLength(float points) const {
+        constexpr float farthest = 4000;
+        errors::demandWithin(points, -farthest, farthest, u"DocumentWindow");
+        window()->frame.*side = points;
+    }
+
     [[nodiscard]] std::shared_ptr<PresentationObject> presentation() const;
     [[nodiscard]] std::shared_ptr<ViewObject> view() const;
     [[nodiscard]] std::shared_ptr<SelectionObject> selection() const;

@@ -12,6 +12,7 @@ const automation::MemberTable& DocumentWindowsObject::members() const {
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         method<&This::item>(u"Item", u"Index").asDefault(),
+        method<&This::arrange>(u"Arrange", u"ArrangeStyle"),
     });
     return table;
 }
@@ -27,6 +28,24 @@ std::shared_ptr<DocumentWindowObject> DocumentWindowsObject::item(const automati
     };
     const auto nameAt = [&](std::size_t place) { return objectAt(place)->caption(); };
     return objectAt(placeIn(all.size(), index, u"DocumentWindows.Item", nameAt));
+}
+
+void DocumentWindowsObject::arrange(std::optional<std::int32_t> arrangeStyle) const {
+    constexpr std::int32_t ppArrangeTiled = 1;
+    constexpr std::int32_t ppArrangeCascade = 2;
+    constexpr float step = 18;
+    const std::int32_t style = arrangeStyle.value_or(ppArrangeTiled);
+    errors::demandWithin(style, ppArrangeTiled, ppArrangeCascade, u"DocumentWindows.Arrange");
+    const std::vector<DocumentWindowPtr> all = windows();
+    const Frame room{0, 0, session()->settings().mainWindow.width, session()->settings().mainWindow.height};
+    for (std::size_t place = 0; place < all.size(); ++place) {
+        const auto before = static_cast<float>(place);
+        const float share = room.width / static_cast<float>(all.size());
+        all[place]->state = ppWindowNormal;
+        all[place]->frame = style == ppArrangeTiled
+                                ? Frame{before * share, 0, share, room.height}
+                                : Frame{before * step, before * step, room.width * 2 / 3, room.height * 2 / 3};
+    }
 }
 
 std::vector<DocumentWindowPtr> DocumentWindowsObject::windows() const {

@@ -19,6 +19,8 @@ public:
     [[nodiscard]] std::int32_t count() const;
     /// By place from 1, or by caption. Raises an invalid request where there is none.
     [[nodiscard]] std::shared_ptr<DocumentWindowObject> item(const automation::Value& index) const;
+    /// Makes no window maximized or an icon; side by side for 1 (ppArrangeTiled), one over the other for 2.
+    void arrange(std::optional<std::int32_t> arrangeStyle) const;
 
 private:
     [[nodiscard]] std::vector<DocumentWindowPtr> windows() const;

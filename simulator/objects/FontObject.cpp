@@ -28,6 +28,8 @@ const automation::MemberTable& FontObject::members() const {
         property<&This::style<&Format::autoRotateNumbers>, &This::setStyle<&Format::autoRotateNumbers>>(
             u"AutoRotateNumbers"),
         property<&This::baselineOffset, &This::setBaselineOffset>(u"BaselineOffset"),
+        property<&This::isRaised<lowered>, &This::raise<lowered>>(u"Subscript"),
+        property<&This::isRaised<raised>, &This::raise<raised>>(u"Superscript"),
         property<&This::size, &This::setSize>(u"Size"),
         property<&This::name, &This::setName>(u"Name"),
     });

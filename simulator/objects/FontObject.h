@@ -9,6 +9,9 @@ namespace simulator {
 /// Font: how the characters of a range look. Members raise `errors::gone` where the shape is gone.
 class FontObject final : public PowerPointObject {
 public:
+    static constexpr int raised = 1;
+    static constexpr int lowered = -1;
+
     FontObject(SessionPtr session, TextPart part);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
@@ -24,6 +27,19 @@ public:
     [[nodiscard]] float baselineOffset() const;
     /// Raises an invalid request outside -1 to 1.
     void setBaselineOffset(float share);
+    /// Whether the characters stand below the line, or above it; mixed where they differ.
+    template <int way> [[nodiscard]] MsoTriState isRaised() const {
+        const auto share = part_.common(&CharacterFormat::baselineOffset);
+        return triState(share ? std::optional(*share * static_cast<float>(way) > 0) : std::nullopt);
+    }
+    /// Puts them a quarter of their size below the line, or three tenths above it; msoFalse puts back what stands
+    /// there.
+    template <int way> void raise(MsoTriState on) {
+        constexpr float share = way == raised ? 0.3F : -0.25F;
+        if (on != msoFalse || isRaised<way>() != msoFalse) {
+            setBaselineOffset(on != msoFalse ? share : 0);
+        }
+    }
     /// Mixed where the characters differ.
     template <bool CharacterFormat::*property> [[nodiscard]] MsoTriState style() const {
         return triState(part_.common(property));

@@ -18,6 +18,7 @@ const automation::MemberTable& ThreeDFormatObject::members() const {
         method<&This::setExtrusionDirection>(u"SetExtrusionDirection", u"PresetExtrusionDirection"),
         method<&This::turnBy<&ThreeD::rotationX>>(u"IncrementRotationX", u"Increment"),
         method<&This::turnBy<&ThreeD::rotationY>>(u"IncrementRotationY", u"Increment"),
+        method<&This::resetRotation>(u"ResetRotation"),
         property<&This::get<&ThreeD::rotationX>, &This::turnTo<&ThreeD::rotationX>>(u"RotationX"),
         property<&This::get<&ThreeD::rotationY>, &This::turnTo<&ThreeD::rotationY>>(u"RotationY"),
         property<&This::get<&ThreeD::direction>>(u"PresetExtrusionDirection"),

@@ -30,6 +30,9 @@ public:
     }
     /// Degrees, -90 to 90.
     template <float ThreeD::*rotation> void turnTo(float degrees) { setting<rotation>(degrees, -90.0F, 90.0F); }
+    void resetRotation() {
+        change([](ThreeD& threeD) { threeD.rotationX = threeD.rotationY = 0; });
+    }
     /// Turns so many degrees further, up to the limit.
     template <float ThreeD::*rotation> void turnBy(float degrees) {
         change([degrees](ThreeD& threeD) { threeD.*rotation = std::clamp(threeD.*rotation + degrees, -90.0F, 90.0F); });

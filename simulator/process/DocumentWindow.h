@@ -18,6 +18,7 @@ struct DocumentWindow {
     std::weak_ptr<Presentation> presentation;
     std::int32_t viewType = normalView;
     PpWindowState state = ppWindowMaximized;
+    Frame frame{0, 0, 720, 480};         ///< where it stands when it is not maximized
     std::int32_t zoom = 66;              ///< per cent
     std::weak_ptr<Slide> slide;          ///< the slide shown last; it may be gone
     std::int32_t activePane = slidePane; ///< of normal view

@@ -29,6 +29,7 @@ struct Settings {
     CommandBarSet commandBars;
     bool showStartupDialog = true;
     SavePrompt savePrompt;
+    Frame mainWindow{0, 0, 768, 555}; ///< where it stands when it is not maximized
     /// PowerPoint behaves as its documentation says also where the questions' description has it otherwise: a group's
     /// items are those of the groups in it, and punctuation is a word of its own.
     bool isAsDocumented = false;

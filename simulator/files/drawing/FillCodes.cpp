@@ -165,6 +165,14 @@ std::uint32_t plainCode(MsoFillType type) noexcept {
 
 } // namespace
 
+std::int32_t patternNamed(std::u16string_view name) {
+    return placeOf(patterns, name);
+}
+
+std::u16string_view nameOfPattern(std::int32_t pattern) {
+    return patterns.at(static_cast<std::size_t>(pattern) - 1);
+}
+
 Fill readFill(const Looks& looks) {
     constexpr std::uint32_t white = files::rgbBits;
     Fill fill;
@@ -175,7 +183,7 @@ Fill readFill(const Looks& looks) {
     fill.back = colorOf(looks.number(property::fillBackColor, white), fill.fore);
     fill.transparency = 1 - looks.fixed(property::fillOpacity, 1);
     if (fill.type == msoFillPatterned) {
-        fill.pattern = placeOf(patterns, looks.text(property::fillPictureName));
+        fill.pattern = patternNamed(looks.text(property::fillPictureName));
     } else if (fill.type == msoFillGradient) {
         readGradient(looks, type, fill);
     }
@@ -193,7 +201,7 @@ void writeFill(PropertyTable& properties, const Fill& fill) {
     }
     properties.set(property::fillType, plainCode(fill.type));
     if (fill.type == msoFillPatterned && fill.pattern >= 1) {
-        properties.setText(property::fillPictureName, patterns.at(static_cast<std::size_t>(fill.pattern) - 1));
+        properties.setText(property::fillPictureName, nameOfPattern(fill.pattern));
     }
 }
 
