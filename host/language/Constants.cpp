@@ -56,6 +56,7 @@ constexpr auto runs = std::to_array<Run>({
     {u"msoAnchor", 1, u"Top TopBaseline Middle Bottom BottomBaseLine"},
     {u"msoEditing", 0, u"Auto Corner Smooth Symmetric"},
     {u"msoSegment", 0, u"Line Curve"},
+    {u"msoLine", 1, u"Single ThinThin ThinThick ThickThin ThickBetweenThin"},
     {u"msoConnector", 1, u"Straight Elbow Curve"},
     {u"msoTextOrientation", 1, u"Horizontal Upward Downward VerticalFarEast Vertical HorizontalRotatedFarEast"},
     {u"msoFill", 1, u"Solid Patterned Gradient Textured Background Picture"},

@@ -18,7 +18,7 @@ inline ShapePtr richRectangle() {
     shape->tags.add(u"Identite", u"ZOR1");
     shape->tags.add(u"Vide", u"");
     shape->fill = {false, msoFillGradient, Color::direct(1), Color::of(ppAccent3), 0.25F, 0, 3, 4};
-    shape->line = {false, 2.25F, Color::direct(0xABCDEF), 4, Color::direct(7)};
+    shape->line = {false, 2.25F, Color::direct(0xABCDEF), 4, Color::direct(7), 9, 3, 0.25F, {2, 1, 3}, {6, 3, 1}};
     shape->shadow = {true, 6, Color::direct(3), -2.5F, 1.1F, true, 0.5F};
     shape->threeD = {true, 11, 72.3F, 5, 6, 3, 4, true, -90, 30.5F, true, Color::direct(8)};
     TextStory& text = *shape->text;
