@@ -10,11 +10,6 @@ namespace {
 using language::Failure;
 using language::Statement;
 
-bool isExpectation(const Statement& statement) {
-    return std::holds_alternative<language::ExpectValues>(statement.node) ||
-           std::holds_alternative<language::ExpectError>(statement.node);
-}
-
 /// Performs statements up to the first move that raises, and finds out what they expect.
 class Inquiry {
 public:
@@ -22,7 +17,7 @@ public:
 
     void perform(const std::vector<Statement>& statements) {
         for (const Statement& statement : statements) {
-            if (isExpectation(statement)) {
+            if (language::expectsSomething(statement)) {
                 findings_.push_back(find(statement));
             } else if (obstacle_.empty()) {
                 move(statement);
@@ -40,6 +35,7 @@ private:
             interpreter_.execute(statement);
         } catch (const Failure& failure) {
             obstacle_ = "line " + std::to_string(statement.place.line) + " raises " + failure.remark.message;
+            findings_.push_back({Kept::CannotTell, {statement.place, obstacle_}}); // nothing may be expected behind it
         }
     }
 
