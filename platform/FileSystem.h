@@ -16,8 +16,8 @@ public:
 
     /// Sets a file's attributes to normal. Raises FileNotFound (53), PathNotFound (76) or PathAccess (75).
     virtual void clearAttributes(std::u16string_view path) = 0;
-    /// Renames a file. Raises FileNotFound (53), FileAlreadyExists (58) where the new name is taken, or PathAccess
-    /// (75).
+    /// Renames a file. Raises FileNotFound (53), FileAlreadyExists (58) where the new name is taken, PathNotFound (76)
+    /// where its folder is missing, PermissionDenied (70) for an open file, or PathAccess (75).
     virtual void rename(std::u16string_view from, std::u16string_view to) = 0;
     /// Deletes a file. Raises FileNotFound (53), PathAccess (75) for a read-only file, or PermissionDenied (70) for an
     /// open one.

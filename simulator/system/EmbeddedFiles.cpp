@@ -140,8 +140,11 @@ void EmbeddedFiles::rename(std::u16string_view from, std::u16string_view to) {
     if (target == source || (fs::exists(target, failed) && !fs::equivalent(target, source, failed))) {
         raise(RunTimeError::FileAlreadyExists);
     }
+    if (!isFolder(target.parent_path())) {
+        raise(RunTimeError::PathNotFound);
+    }
     if (isOpen(source)) {
-        raise(RunTimeError::PathAccess);
+        raise(RunTimeError::PermissionDenied);
     }
     fs::rename(source, target, failed);
     if (failed) {

@@ -1,7 +1,7 @@
 #include "host/world/TemporaryFolder.h"
 #include "simulator/system/EmbeddedFiles.h"
 #include "simulator/system/FilePattern.h"
-#include "tests/support/Errors.h"
+#include "tests/support/FileContract.h"
 
 #include <gtest/gtest.h>
 
@@ -9,12 +9,6 @@ namespace embedded_files_tests {
 
 using automation::RunTimeError;
 using simulator::EmbeddedFiles;
-
-constexpr auto fileNotFound = static_cast<std::int32_t>(RunTimeError::FileNotFound);
-constexpr auto alreadyExists = static_cast<std::int32_t>(RunTimeError::FileAlreadyExists);
-constexpr auto pathAccess = static_cast<std::int32_t>(RunTimeError::PathAccess);
-constexpr auto pathNotFound = static_cast<std::int32_t>(RunTimeError::PathNotFound);
-constexpr std::uint32_t hiddenAndSystem = platform::FileSystem::hiddenAndSystem;
 
 TEST(FilePattern, MatchesAsADirectorySearchByWindows) {
     struct Case {
@@ -49,11 +43,35 @@ TEST(FilePattern, MatchesAsADirectorySearchByWindows) {
 
 class EmbeddedFilesTest : public testing::Test {
 protected:
-    [[nodiscard]] bool exists(std::u16string_view path) const { return std::filesystem::exists(files.realPath(path)); }
+    [[nodiscard]] static std::u16string path(std::u16string_view name) {
+        return name.empty() ? std::u16string() : u"C:\\a\\" + std::u16string(name);
+    }
+    [[nodiscard]] tests::FileGround ground() {
+        std::filesystem::create_directories(files.realPath(u"C:\\a"));
+        return {files, path,
+                [this](std::u16string_view name, std::uint32_t attributes) {
+                    files.create(path(name));
+                    files.setAttributes(path(name), attributes);
+                },
+                [this](std::u16string_view name) { std::filesystem::create_directory(files.realPath(path(name))); },
+                [this](std::u16string_view name) {
+                    files.setIsOpen([open = files.realPath(path(name))](const auto& file) { return file == open; });
+                }};
+    }
 
     host::TemporaryFolder folder;
     EmbeddedFiles files{folder.path()};
 };
+
+TEST_F(EmbeddedFilesTest, ChangeAsThoseOfWindows) {
+    demandChanges(ground());
+}
+TEST_F(EmbeddedFilesTest, AreFoundAsThoseOfWindows) {
+    demandSearches(ground());
+}
+TEST_F(EmbeddedFilesTest, HaveFoldersAsThoseOfWindows) {
+    demandFolders(ground());
+}
 
 TEST_F(EmbeddedFilesTest, FindsFilesByAnySpellingOfTheirPath) {
     files.create(u"C:\\Élève\\Exercices\\Méthodologie.ppt");
@@ -69,61 +87,15 @@ TEST_F(EmbeddedFilesTest, FindsFilesByAnySpellingOfTheirPath) {
     }
 }
 
-TEST_F(EmbeddedFilesTest, RenamesWithoutEverOverwriting) {
-    files.create(u"C:\\a\\07305301.ppt");
-    files.create(u"C:\\a\\Pris.ppt");
-    files.setAttributes(u"C:\\a\\07305301.ppt", EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
-    const auto rename = [this](std::u16string_view from, std::u16string_view to) {
-        return errorNumber([&] { files.rename(from, to); });
-    };
-    EXPECT_EQ(rename(u"C:\\a\\absent.ppt", u"C:\\a\\x.ppt"), fileNotFound);
-    EXPECT_EQ(rename(u"C:\\a", u"C:\\b"), fileNotFound);
-    EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\a\\PRIS.ppt"), alreadyExists);
-    EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\a\\07305301.ppt"), alreadyExists);
-    EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\absent\\x.ppt"), pathAccess);
-    EXPECT_EQ(rename(u"C:\\a\\07305301.ppt", u"C:\\a\\07305301.PPT"), noError);
-    EXPECT_EQ(files.find(u"C:\\a\\07305301.ppt", hiddenAndSystem), u"07305301.PPT");
-    EXPECT_EQ(rename(u"c:\\A\\07305301.ppt", u"C:\\a\\Méthodologie.ppt"), noError);
-    EXPECT_FALSE(exists(u"C:\\a\\07305301.ppt"));
-    EXPECT_EQ(files.attributes(u"C:\\a\\Méthodologie.ppt"), EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
-}
-
-TEST_F(EmbeddedFilesTest, HeedsAttributes) {
-    files.create(u"C:\\a\\x.ppt");
-    files.setAttributes(u"C:\\a\\x.ppt", EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
-    EXPECT_EQ(errorNumber([&] { files.remove(u"C:\\a\\x.ppt"); }), pathAccess);
-    EXPECT_EQ(files.find(u"C:\\a\\*", 0), u"");
-    EXPECT_EQ(files.find(u"C:\\a\\*", EmbeddedFiles::system), u"");
-    EXPECT_EQ(files.find(u"C:\\a\\*", hiddenAndSystem), u"x.ppt");
-    files.clearAttributes(u"c:\\A\\X.PPT");
-    EXPECT_EQ(files.find(u"C:\\a\\*", 0), u"x.ppt");
-    files.remove(u"C:\\a\\x.ppt");
-    EXPECT_FALSE(exists(u"C:\\a\\x.ppt"));
-    EXPECT_EQ(errorNumber([&] { files.remove(u"C:\\a\\x.ppt"); }), fileNotFound);
-    EXPECT_EQ(errorNumber([&] { files.setAttributes(u"C:\\a\\x.ppt", 0); }), fileNotFound);
-    EXPECT_EQ(errorNumber([&] { files.clearAttributes(u"C:\\a\\x.ppt"); }), fileNotFound);
-    EXPECT_EQ(errorNumber([&] { files.clearAttributes(u"C:\\absent\\x.ppt"); }), pathNotFound);
-}
-
-TEST_F(EmbeddedFilesTest, SearchesFilesOnlyAndInOrder) {
-    std::filesystem::create_directories(files.realPath(u"C:\\a\\Aucun.ppt"));
-    files.create(u"C:\\a\\zoo.ppt");
-    files.create(u"C:\\a\\Bac.ppt");
-    EXPECT_EQ(files.find(u"C:\\a\\*.ppt", hiddenAndSystem), u"Bac.ppt");
-    EXPECT_EQ(files.find(u"C:\\a\\aucun.ppt", hiddenAndSystem), u"");
-    EXPECT_EQ(files.find(u"C:\\absent\\*", hiddenAndSystem), u"");
-    EXPECT_EQ(files.find(u"C:\\a\\", hiddenAndSystem), u"");
-}
-
-TEST_F(EmbeddedFilesTest, MakesFoldersUpToTheLastBackslash) {
-    EXPECT_TRUE(files.makeDirectories(u"C:\\x\\y\\z"));
-    EXPECT_TRUE(exists(u"C:\\x\\y"));
-    EXPECT_FALSE(exists(u"C:\\x\\y\\z"));
-    EXPECT_TRUE(files.makeDirectories(u"C:\\X\\Y\\z\\"));
-    EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "C" / "x" / "y" / "z"));
-    EXPECT_FALSE(files.makeDirectories(u"Q:\\x\\"));
-    files.create(u"C:\\x\\fichier");
-    EXPECT_FALSE(files.makeDirectories(u"C:\\x\\fichier\\z\\"));
+TEST_F(EmbeddedFilesTest, KeepAttributesUnderAnotherNameAndAreFoundInOrder) {
+    const tests::FileGround at = ground();
+    at.make(u"zoo.ppt", EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
+    at.make(u"Cas.ppt", 0);
+    EXPECT_EQ(errorNumber([&] { files.rename(path(u"Cas.ppt"), path(u"Cas.ppt")); }), 58);
+    files.rename(path(u"zoo.ppt"), path(u"Bac.ppt"));
+    EXPECT_EQ(files.attributes(path(u"Bac.ppt")), EmbeddedFiles::readOnly | EmbeddedFiles::hidden);
+    EXPECT_EQ(files.find(path(u"*.ppt"), platform::FileSystem::hiddenAndSystem), u"Bac.ppt");
+    EXPECT_EQ(errorNumber([&] { files.setAttributes(path(u"zoo.ppt"), 0); }), 53);
 }
 
 } // namespace embedded_files_tests
