@@ -65,7 +65,7 @@ void setElement(Value& array, std::span<const Value> indices, std::span<const st
         return;
     }
     const std::size_t place = placeOf(array, indices.front(), firsts);
-    Array elements = std::move(array).to<Array>();
+    auto elements = std::move(array).to<Array>();
     setElement(elements[place], indices.subspan(1), inner(firsts), std::move(value));
     array = std::move(elements);
 }
@@ -75,7 +75,7 @@ void keepElements(Value& array, const Value& from) {
         array = from;
         return;
     }
-    Array elements = std::move(array).to<Array>();
+    auto elements = std::move(array).to<Array>();
     const auto& kept = from.as<Array>();
     for (std::size_t place = 0; place < std::min(elements.size(), kept.size()); ++place) {
         keepElements(elements[place], kept[place]);
