@@ -16,7 +16,7 @@ const automation::MemberTable& ShapeNodeObject::members() const {
 
 automation::Array ShapeNodeObject::points() const {
     const Node at = shape()->nodes[place_];
-    return {automation::Array{at.x, at.y}};
+    return automation::Array(1, automation::Array{at.x, at.y}); // braces alone mean this or the inner one, by compiler
 }
 
 MsoSegmentType ShapeNodeObject::segmentType() const {
