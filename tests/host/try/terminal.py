@@ -141,7 +141,7 @@ def main(host):
     folded(host)
     terminal = Terminal(host, "try", "314")
     terminal.wait_for(PROMPT)
-    expect(terminal, "Tab completes a member", "?ActivePresentation.Sli" + TAB + ".Count", " 1")
+    expect(terminal, "Tab completes a member", "?ActivePresentation.Wi" + TAB + ".Count", " 1")
     expect(terminal, "Tab completes what stands in parentheses", "?ActivePresentation.Slides(1).Sha" + TAB, "Shapes of 3")
     expect(terminal, "an arrow brings back a line", UP, "Shapes of 3")
     expect(terminal, "and the first one, behind what was typed twice", UP + UP + UP, " 1")
