@@ -204,7 +204,8 @@ bool TableGrid::split(const TablePart& cell, std::size_t rows, std::size_t colum
     const auto share = [](float start, float length, std::size_t place, std::size_t parts) {
         return toMasterUnits(start + length * static_cast<float>(place) / static_cast<float>(parts));
     };
-    if (frame.width < static_cast<float>(columns) || frame.height < static_cast<float>(rows)) {
+    if (frame.width < static_cast<float>(columns) || frame.height < static_cast<float>(rows) ||
+        count(Columns) + columns > most || count(Rows) + rows > most) {
         return false;
     }
     divideBorders(false);

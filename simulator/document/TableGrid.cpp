@@ -70,7 +70,6 @@ bool TableGrid::isWhole() const {
 }
 
 std::vector<const TablePart*> TableGrid::cells() const {
-    constexpr std::size_t most = 256; // of rows and of columns: damaged files say anything
     if (count(Rows) > most || count(Columns) > most) {
         return {};
     }

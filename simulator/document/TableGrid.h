@@ -36,6 +36,9 @@ struct TablePart {
 /// Rows and columns of a table, found from where its cells lie. What is changed here reaches the table by `commit`.
 class TableGrid {
 public:
+    /// Of rows, and of columns; damaged files say anything.
+    static constexpr std::size_t most = 256;
+
     TableGrid(const std::vector<ShapePtr>& items, Table table);
     /// That of a shape that is a table.
     explicit TableGrid(const Shape& table) : TableGrid(table.items(), *table.table) {}

@@ -55,10 +55,15 @@ bool CellObject::selected() const {
 void CellObject::merge(const automation::ObjectPtr& mergeTo) {
     const automation::LateBound wanted(automation::LateBound(mergeTo).get(u"Shape").to<automation::ObjectPtr>());
     const auto id = wanted.get(u"Id").to<std::int32_t>();
+    const automation::LateBound slide(wanted.get(u"Parent").to<automation::ObjectPtr>());
+    const automation::LateBound presentation(slide.get(u"Parent").to<automation::ObjectPtr>());
+    const SlidePtr own = simulator::alive(node()->slide);
+    const bool isThere = slide.get(u"Name").to<std::u16string>() == own->name &&
+                         presentation.get(u"Name").to<std::u16string>() == simulator::alive(own->presentation)->name;
     const ShapePtr table = node()->group();
     const auto other = std::find_if(table->items().begin(), table->items().end(),
                                     [id](const ShapePtr& item) { return item->id == id && item->type != msoLine; });
-    if (other == table->items().end()) {
+    if (!isThere || other == table->items().end()) {
         errors::invalidRequest(u"Cell.Merge", u"MergeTo n'est pas une cellule du même tableau.");
     }
     TableGrid grid = gridOf(*table);
@@ -77,7 +82,7 @@ void CellObject::split(std::int32_t numRows, std::int32_t numColumns) {
     const ShapePtr table = node()->group();
     TableGrid grid = gridOf(*table);
     if (!grid.split(grid.partOf(*node()), static_cast<std::size_t>(numRows), static_cast<std::size_t>(numColumns))) {
-        errors::invalidRequest(u"Cell.Split", u"La cellule est trop petite.");
+        errors::invalidRequest(u"Cell.Split", u"La cellule est trop petite, ou le tableau trop grand.");
     }
     grid.fitRows();
     grid.commit(table);

@@ -129,6 +129,9 @@ std::size_t TableDivisionsObject::addBefore(std::optional<std::int32_t> index, s
     const ShapePtr table = node();
     TableGrid grid = gridOf(*table);
     const std::size_t last = grid.count(axis_);
+    if (last == TableGrid::most) {
+        errors::invalidRequest(member, u"Le tableau ne peut pas s'agrandir davantage.");
+    }
     const std::size_t place = index.value_or(-1) == -1 ? last : placeIn(last, *index, member);
     // Where columns run to the left, what comes before one stands to its right.
     const bool isTurned = axis_ == TableAxis::Columns && grid.table().isRightToLeft;
