@@ -172,7 +172,8 @@ private:
             if (sheet->kind == SheetKind::TitleMaster) {
                 asFarAsSound([&, &title = sheet, number = id] {
                     const auto beside = sheets_.find(SlideAtom(*masters_.at(number)).master);
-                    title->master = beside == sheets_.end() ? nullptr : beside->second;
+                    const bool isMaster = beside != sheets_.end() && beside->second->kind == SheetKind::SlideMaster;
+                    title->master = isMaster ? beside->second : nullptr; // a damaged one names itself
                 });
             }
         }

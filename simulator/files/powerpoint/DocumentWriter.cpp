@@ -202,8 +202,9 @@ private:
         for (const auto& [slide, object] : newNotes_) {
             const Slide& page = *slide->notesPage;
             Record written = writeSheet(page, originIn(page), true).record;
-            files::putNumber(written.find(type::NotesAtom)->data, notesAtomSlide,
-                             static_cast<std::uint32_t>(slide->id));
+            if (Record* const atom = written.find(type::NotesAtom)) {
+                files::putNumber(atom->data, notesAtomSlide, static_cast<std::uint32_t>(slide->id));
+            }
             files::putNumber(objects_.find(object)->find(type::SlideAtom)->data, slideAtomNotes, id);
             SlideEntry entry;
             entry.persist = persistAtom(append(std::move(written)), notOutlineAlone, id++);
