@@ -61,7 +61,8 @@ MsoTriState SlideShowWindowObject::isFullScreen() const {
 }
 
 MsoTriState SlideShowWindowObject::active() const {
-    return triState(session()->slideShows().front() == window());
+    const SlideShowWindowPtr own = window(); // raises for a show that is over, when there may be none
+    return triState(session()->slideShows().front() == own);
 }
 
 void SlideShowWindowObject::activate() const {

@@ -43,18 +43,29 @@ std::int32_t SlideShowWindow::position() const {
     return found == all.end() ? 0 : static_cast<std::int32_t>(found - all.begin()) + 1;
 }
 
+std::size_t SlideShowWindow::placeInAll() const {
+    const PresentationPtr document = presentation.lock();
+    const SlidePtr slide = shown();
+    const std::size_t place = document && slide ? document->placeOf(*slide) : place_;
+    return document && place < document->slides().size() ? place : place_;
+}
+
 void SlideShowWindow::show(const SlidePtr& slide) {
     before_ = slide_;
     slide_ = slide;
+    place_ = placeInAll();
     state = ppSlideShowRunning;
 }
 
 void SlideShowWindow::next() {
-    const std::vector<SlidePtr> all = slides();
-    const auto place = static_cast<std::size_t>(position());
     const PresentationPtr document = presentation.lock();
-    if (place < all.size()) {
-        show(all[place]);
+    const std::vector<SlidePtr> all = slides();
+    const SlidePtr current = shown();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const SlidePtr& slide) {
+        return slide != current && document->placeOf(*slide) >= placeInAll();
+    });
+    if (found != all.end()) {
+        show(*found);
     } else if (document && (document->slideShow.loopsUntilStopped || document->slideShow.showType == ppShowTypeKiosk)) {
         first();
     } else {
@@ -63,9 +74,12 @@ void SlideShowWindow::next() {
 }
 
 void SlideShowWindow::previous() {
-    const std::int32_t place = position();
-    if (place > 1) {
-        show(slides()[static_cast<std::size_t>(place) - 2]);
+    const PresentationPtr document = presentation.lock();
+    const std::vector<SlidePtr> all = slides();
+    const auto found = std::find_if(all.rbegin(), all.rend(),
+                                    [&](const SlidePtr& slide) { return document->placeOf(*slide) < placeInAll(); });
+    if (found != all.rend()) {
+        show(*found);
     }
 }
 

@@ -47,7 +47,11 @@ public:
     [[nodiscard]] std::vector<SlidePtr> slides() const;
 
 private:
+    /// Place of the slide shown among all of the presentation, from 0; where it stood when it is gone.
+    [[nodiscard]] std::size_t placeInAll() const;
+
     std::weak_ptr<Slide> slide_;
+    std::size_t place_ = 0;
     std::weak_ptr<Slide> before_;
     bool isOver_ = false;
 };
