@@ -79,6 +79,10 @@ void put(const Value& object, const Name& name, std::span<Value> arguments, bool
     }
 }
 
+bool holdsElements(const Value& value) {
+    return value.is<automation::Array>() && !value.as<automation::Array>().empty();
+}
+
 /// The names of arguments, as a call takes them.
 std::vector<std::u16string_view> viewsOf(const std::vector<std::u16string>& names) {
     return {names.begin(), names.end()};
@@ -129,8 +133,17 @@ void Interpreter::perform(const Declaration& declaration) {
         const std::u16string name = automation::lowerCase(declared.name);
         const bool isNew = variables_.find(name) == variables_.end();
         if (isNew || declaration.isAnew) {
+            const auto bounds = firsts_.find(name);
+            const std::optional<std::vector<std::int32_t>> before =
+                bounds == firsts_.end() ? std::nullopt : std::optional(bounds->second);
             Value value = declared.isArray ? dimensioned(declared) : declared.initial;
-            if (declaration.preserves && !isNew) {
+            if (declaration.preserves && !isNew && holdsElements(variables_[name])) {
+                const std::vector<std::int32_t>& now = firsts_[name];
+                const std::vector<std::int32_t> wanted = before.value_or(std::vector<std::int32_t>(now.size(), 0));
+                if (now != wanted) {
+                    firsts_[name] = wanted;
+                    throw Raised{place_, Error(RunTimeError::SubscriptOutOfRange)};
+                }
                 keepElements(value, variables_[name]);
             }
             variables_[name] = std::move(value);
@@ -189,6 +202,7 @@ void Interpreter::perform(const ForEach& loop) {
     const auto in = [&](const auto& step) { return placed(loop.collection.place, step); };
     if (collection.is<automation::Array>()) {
         for (const Value& element : collection.as<automation::Array>()) {
+            firsts_.erase(automation::lowerCase(loop.variable));
             variables_[automation::lowerCase(loop.variable)] = element;
             performAll(loop.body);
         }
@@ -243,7 +257,13 @@ void Interpreter::perform(const Assignment& assignment) {
     value =
         placed(assignment.value.place, [&] { return assignment.isSet ? Value(value.to<ObjectPtr>()) : plain(value); });
     if (!target.object) {
-        return placed(assignment.target.place, [&] { setVariable(target, std::move(value)); });
+        const std::span<const std::int32_t> firsts = firstsOf(assignment.value);
+        const std::vector<std::int32_t> kept(firsts.begin(), firsts.end());
+        placed(assignment.target.place, [&] { setVariable(target, std::move(value)); });
+        if (target.arguments.empty() && !kept.empty()) {
+            firsts_[automation::lowerCase(target.name)] = kept;
+        }
+        return;
     }
     const Value object = valueOf(*target.object);
     std::vector<Value> arguments = argumentsOf(target);
@@ -397,18 +417,21 @@ std::int32_t Interpreter::boundOf(const Reference& reference, std::span<const Va
         }
     }
     const auto size = array->to<automation::Array>().size();
-    const auto* const named = std::get_if<Reference>(&reference.arguments.front().node);
-    const bool isVariable = named != nullptr && !named->object && named->arguments.empty();
-    const std::span<const std::int32_t> firsts =
-        isVariable ? firstsOf(automation::lowerCase(named->name)) : std::span<const std::int32_t>();
+    const std::span<const std::int32_t> firsts = firstsOf(reference.arguments.front());
     const std::int32_t lowest = outer < firsts.size() ? firsts[outer] : 0;
     const bool isUpper = automation::equalIgnoringCase(reference.name, u"UBound");
-    return isUpper ? lowest + static_cast<std::int32_t>(size) - 1 : lowest;
+    return isUpper ? static_cast<std::int32_t>(lowest + static_cast<std::int64_t>(size) - 1) : lowest;
 }
 
 std::span<const std::int32_t> Interpreter::firstsOf(const std::u16string& variable) const {
     const auto found = firsts_.find(variable);
     return found == firsts_.end() ? std::span<const std::int32_t>() : found->second;
+}
+
+std::span<const std::int32_t> Interpreter::firstsOf(const Expression& expression) const {
+    const auto* const named = std::get_if<Reference>(&expression.node);
+    const bool isVariable = named != nullptr && !named->object && named->arguments.empty();
+    return isVariable ? firstsOf(automation::lowerCase(named->name)) : std::span<const std::int32_t>();
 }
 
 Value Interpreter::memberOfApplication(const Name& name, std::span<Value> arguments) {

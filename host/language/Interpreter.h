@@ -64,6 +64,8 @@ private:
     automation::Value valueOf(const Operation& operation, Position place);
     std::vector<automation::Value> argumentsOf(const Reference& reference);
     [[nodiscard]] std::span<const std::int32_t> firstsOf(const std::u16string& variable) const;
+    /// Where the dimensions of a variable begin that an expression is; nothing for any other expression.
+    [[nodiscard]] std::span<const std::int32_t> firstsOf(const Expression& expression) const;
     void setVariable(const Reference& target, automation::Value value);
     [[nodiscard]] automation::Value dimensioned(const Declared& declared);
     [[nodiscard]] std::int32_t boundOf(const Reference& reference, std::span<const automation::Value> arguments);

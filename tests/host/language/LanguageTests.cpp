@@ -274,7 +274,7 @@ TEST(Language, RecordedMacrosMeanWhatTheyMeanInTheMacroLanguage) {
          "x = 110.1, y = \"faire\", z = \"fairefaire\""},
         {"x = RGB(Red:=1, Blue:=2, Green:=0)", "x = 131073"},
         {"Dim a(1 To 3, 2) As Long, e()\nFor i = LBound(a) To UBound(a, 1)\na(i, 2) = 7 * i \\ 2\nNext\nb = a",
-         "a(3, 2) = 10, a(3, 1) = 0, UBound(a, 2) = 2, LBound(a, 2) = 0, b(2, 2) = 10, UBound(e) = -1"},
+         "a(3, 2) = 10, a(3, 1) = 0, UBound(a, 2) = 2, LBound(a, 2) = 0, b(3, 2) = 10, UBound(e) = -1"},
         {"ReDim n(2 To 3)\nn(3) = Array(4, 5)\nReDim Preserve n(2 To 5) As String: m = n(3)(1): ReDim p(0)\nn(5) = "
          "n(3)",
          "m = 5, UBound(n) = 5, n(4) = \"\", n(5)(0) = 4, UBound(p) = 0"},
@@ -317,7 +317,8 @@ TEST(Language, WhatFallsShortIsReportedWithItsPlace) {
         {"Set s = Host.Thing\nSet s.Parent = s(2)", "t.scn:5:16: error 424 Objet requis [K73053]"},
         {"Set s = 3", "t.scn:4:9: error 424 Objet requis [K73053]"},
         {"Dim x\nx.Delete", "t.scn:5:3: error 424 Objet requis [K73053]"},
-        {"Dim a(1 To 2)\nexpect error 9: a(0) = 1; a(3) = 1; x = UBound(a, 2); ReDim a(2 To 1)\nexpect error 13: a(1, "
+        {"Dim a(1 To 2)\nexpect error 9: a(0) = 1; a(3) = 1; x = UBound(a, 2); ReDim a(2 To 1); ReDim Preserve a(0 To "
+         "2)\nexpect error 13: a(1, "
          "1) = 1\n"
          "expect error 7: ReDim a(999, 1000)",
          ""},
