@@ -35,8 +35,8 @@ float length(const LateBound& object, std::u16string_view member) {
     return object.get(member).to<float>();
 }
 
-/// What has been drawn is selected.
-ObjectPtr selected(ObjectPtr drawn) {
+/// PowerPoint selects what has been drawn.
+ObjectPtr withSelected(ObjectPtr drawn) {
     LateBound(drawn).call(u"Select");
     return drawn;
 }
@@ -163,7 +163,7 @@ LateBound LearnerMoves::shapes() const {
 ObjectPtr LearnerMoves::drawLine(float beginX, float beginY, float endX, float endY) const {
     const Point begin = placed({beginX, beginY});
     const Point end = placed({endX, endY});
-    return selected(shapes().call(u"AddLine", begin.x, begin.y, end.x, end.y).to<ObjectPtr>());
+    return withSelected(shapes().call(u"AddLine", begin.x, begin.y, end.x, end.y).to<ObjectPtr>());
 }
 
 ObjectPtr LearnerMoves::drawFreeform(const automation::Array& points) const {
@@ -185,7 +185,7 @@ ObjectPtr LearnerMoves::draw(const automation::Array& points, std::int32_t segme
         const Point stop = place + 1 == points.size() && place > 1 && isNear(first, next) ? first : next;
         builder.call(u"AddNodes", segmentType, msoEditingAuto, stop.x, stop.y);
     }
-    return selected(builder.call(u"ConvertToShape").to<ObjectPtr>());
+    return withSelected(builder.call(u"ConvertToShape").to<ObjectPtr>());
 }
 
 LearnerMoves::Point LearnerMoves::pointAt(const LateBound& nodes, std::int32_t place) {
