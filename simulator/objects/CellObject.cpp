@@ -3,6 +3,7 @@
 #include "automation/LateBound.h"
 #include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/BordersObject.h"
+#include "simulator/objects/HandedShape.h"
 #include "simulator/objects/ShapeObject.h"
 #include "simulator/objects/ShapeSelecting.h"
 #include "simulator/objects/TableDivisions.h"
@@ -53,17 +54,11 @@ bool CellObject::selected() const {
 }
 
 void CellObject::merge(const automation::ObjectPtr& mergeTo) {
-    const automation::LateBound wanted(automation::LateBound(mergeTo).get(u"Shape").to<automation::ObjectPtr>());
-    const auto id = wanted.get(u"Id").to<std::int32_t>();
-    const automation::LateBound slide(wanted.get(u"Parent").to<automation::ObjectPtr>());
-    const automation::LateBound presentation(slide.get(u"Parent").to<automation::ObjectPtr>());
-    const SlidePtr own = simulator::alive(node()->slide);
-    const bool isThere = slide.get(u"Name").to<std::u16string>() == own->name &&
-                         presentation.get(u"Name").to<std::u16string>() == simulator::alive(own->presentation)->name;
+    const std::int32_t id = idBeside(*node(), automation::LateBound(mergeTo).get(u"Shape").to<automation::ObjectPtr>());
     const ShapePtr table = node()->group();
     const auto other = std::find_if(table->items().begin(), table->items().end(),
                                     [id](const ShapePtr& item) { return item->id == id && item->type != msoLine; });
-    if (!isThere || other == table->items().end()) {
+    if (other == table->items().end()) {
         errors::invalidRequest(u"Cell.Merge", u"MergeTo n'est pas une cellule du même tableau.");
     }
     TableGrid grid = gridOf(*table);

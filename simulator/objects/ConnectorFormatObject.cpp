@@ -1,7 +1,7 @@
 #include "simulator/objects/ConnectorFormatObject.h"
 
-#include "automation/LateBound.h"
 #include "simulator/document/Connecting.h"
+#include "simulator/objects/HandedShape.h"
 #include "simulator/objects/ShapeObject.h"
 
 #include <algorithm>
@@ -62,8 +62,7 @@ std::int32_t ConnectorFormatObject::siteAt(ConnectorEnd Connector::*end) const {
 
 void ConnectorFormatObject::connectTo(ConnectorEnd Connector::*end, const automation::ObjectPtr& shape,
                                       std::int32_t site) {
-    const auto id = automation::LateBound(shape).get(u"Id").to<std::int32_t>();
-    const ShapePtr wanted = connectedShape(*node(), {id, site});
+    const ShapePtr wanted = connectedShape(*node(), {idBeside(*node(), shape), site});
     if (!wanted) {
         errors::invalidRequest(u"ConnectorFormat", u"La forme n'est pas sur la diapositive du connecteur.");
     }
