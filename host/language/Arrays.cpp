@@ -28,27 +28,7 @@ std::span<const std::int32_t> inner(std::span<const std::int32_t> firsts) {
     return firsts.subspan(std::min<std::size_t>(1, firsts.size()));
 }
 
-} // namespace
-
-Value arrayOf(std::span<const Dimension> dimensions, const Value& initial) {
-    constexpr std::int64_t mostElements = 1'000'000;
-    Value element = initial;
-    std::int64_t all = 1;
-    for (std::size_t place = dimensions.size(); place-- > 0;) {
-        const std::int64_t size = std::int64_t{dimensions[place].last} - dimensions[place].first + 1;
-        if (size < 1) {
-            automation::raise(RunTimeError::SubscriptOutOfRange);
-        }
-        all *= size; // both are below 2^33
-        if (all > mostElements) {
-            automation::raise(RunTimeError::OutOfMemory);
-        }
-        element = Array(static_cast<std::size_t>(size), element);
-    }
-    return dimensions.empty() ? Value(Array()) : element;
-}
-
-const Value& elementOf(const Value& array, std::span<const Value> indices, std::span<const std::int32_t> firsts) {
+const Value& elementAt(const Value& array, std::span<const Value> indices, std::span<const std::int32_t> firsts) {
     const Value* element = &array;
     for (const Value& index : indices) {
         const std::size_t place = placeOf(*element, index, firsts);
@@ -58,19 +38,18 @@ const Value& elementOf(const Value& array, std::span<const Value> indices, std::
     return *element;
 }
 
-void setElement(Value& array, std::span<const Value> indices, std::span<const std::int32_t> firsts, Value value) {
-    static_cast<void>(elementOf(array, indices, firsts)); // raises while nothing has been moved
+void setElementAt(Value& array, std::span<const Value> indices, std::span<const std::int32_t> firsts, Value value) {
     if (indices.empty()) {
         array = std::move(value);
         return;
     }
     const std::size_t place = placeOf(array, indices.front(), firsts);
     auto elements = std::move(array).to<Array>();
-    setElement(elements[place], indices.subspan(1), inner(firsts), std::move(value));
+    setElementAt(elements[place], indices.subspan(1), inner(firsts), std::move(value));
     array = std::move(elements);
 }
 
-void keepElements(Value& array, const Value& from) {
+void keepAll(Value& array, const Value& from) {
     if (!array.is<Array>() || !from.is<Array>()) {
         array = from;
         return;
@@ -78,9 +57,67 @@ void keepElements(Value& array, const Value& from) {
     auto elements = std::move(array).to<Array>();
     const auto& kept = from.as<Array>();
     for (std::size_t place = 0; place < std::min(elements.size(), kept.size()); ++place) {
-        keepElements(elements[place], kept[place]);
+        keepAll(elements[place], kept[place]);
     }
     array = std::move(elements);
+}
+
+bool holdsElements(const Value& value) {
+    return value.is<Array>() && !value.as<Array>().empty();
+}
+
+} // namespace
+
+Variable arrayOf(std::span<const Dimension> dimensions, const Value& initial) {
+    constexpr std::int64_t mostElements = 1'000'000;
+    Variable array{initial, std::vector<std::int32_t>(dimensions.size())};
+    std::int64_t all = 1;
+    for (std::size_t place = dimensions.size(); place-- > 0;) {
+        array.firsts[place] = dimensions[place].first;
+        const std::int64_t size = std::int64_t{dimensions[place].last} - dimensions[place].first + 1;
+        if (size < 1) {
+            automation::raise(RunTimeError::SubscriptOutOfRange);
+        }
+        all *= size; // both are below 2^33
+        if (all > mostElements) {
+            automation::raise(RunTimeError::OutOfMemory);
+        }
+        array.value = Array(static_cast<std::size_t>(size), array.value);
+    }
+    return dimensions.empty() ? Variable{Array(), {}} : array;
+}
+
+Dimension dimensionOf(const Variable& array, std::int32_t dimension) {
+    const Value* inside = &array.value;
+    for (std::int32_t depth = 1; depth < dimension && holdsElements(*inside); ++depth) {
+        inside = &inside->as<Array>().front();
+    }
+    if (dimension < 1 || dimension > mostDimensions || (dimension > 1 && !inside->is<Array>())) {
+        automation::raise(RunTimeError::SubscriptOutOfRange);
+    }
+    const auto size = static_cast<std::int64_t>(inside->to<Array>().size());
+    const auto place = static_cast<std::size_t>(dimension) - 1;
+    const std::int32_t first = place < array.firsts.size() ? array.firsts[place] : 0;
+    return {first, static_cast<std::int32_t>(first + size - 1)};
+}
+
+const Value& elementOf(const Variable& array, std::span<const Value> indices) {
+    return elementAt(array.value, indices, array.firsts);
+}
+
+void setElement(Variable& array, std::span<const Value> indices, Value value) {
+    static_cast<void>(elementOf(array, indices)); // raises while nothing has been moved
+    setElementAt(array.value, indices, array.firsts, std::move(value));
+}
+
+void keepElements(Variable& array, const Variable& from) {
+    if (!holdsElements(from.value)) {
+        return;
+    }
+    if (array.firsts != (from.firsts.empty() ? std::vector<std::int32_t>(array.firsts.size(), 0) : from.firsts)) {
+        automation::raise(RunTimeError::SubscriptOutOfRange);
+    }
+    keepAll(array.value, from.value);
 }
 
 } // namespace host::language

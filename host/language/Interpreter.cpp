@@ -2,9 +2,9 @@
 
 #include "automation/Elements.h"
 #include "automation/Text.h"
-#include "host/language/Arrays.h"
 #include "host/language/Likeness.h"
 #include "host/language/Operators.h"
+#include "host/language/Reach.h"
 
 #include <algorithm>
 
@@ -31,56 +31,6 @@ template <typename Step> decltype(auto) placed(Position place, const Step& step)
     } catch (const Error& error) {
         throw Raised{place, error};
     }
-}
-
-ObjectPtr objectIn(const Value& value) {
-    auto object = value.to<ObjectPtr>();
-    if (!object) {
-        automation::raise(RunTimeError::ObjectNotSet);
-    }
-    return object;
-}
-
-/// Reaches a member; the error of one that is missing names it and its class.
-Value reach(const Value& object, const Name& name, Access access, std::span<Value> arguments) {
-    const ObjectPtr target = objectIn(object);
-    try {
-        return target->invoke(name, access, arguments);
-    } catch (const Error& error) {
-        if (!error.is(RunTimeError::MemberNotFound) || target->className().empty() || name.isDefault()) {
-            throw;
-        }
-        throw Error(error.number(), error.source(), missingMember(*target, name.text(), access));
-    }
-}
-
-/// An object stands for the value of its default member, as macros have it where `Set` is not said.
-Value plain(const Value& value) {
-    return value.isObject() ? reach(value, automation::defaultMember, Access::GetOrCall, {}) : value;
-}
-
-/// Sets a property. Without `Set`, one that cannot be set but holds an object stands for its default member.
-void put(const Value& object, const Name& name, std::span<Value> arguments, bool isSet) {
-    try {
-        reach(object, name, Access::Put, arguments);
-    } catch (const Error& error) {
-        if (isSet || !error.is(RunTimeError::MemberNotFound)) {
-            throw;
-        }
-        Value held;
-        try {
-            held = reach(object, name, Access::Get, arguments.first(arguments.size() - 1));
-        } catch (const Error&) { // there is no such member at all
-        }
-        if (!held.isObject() || held.to<ObjectPtr>() == nullptr) {
-            throw;
-        }
-        reach(held, automation::defaultMember, Access::Put, arguments.last(1));
-    }
-}
-
-bool holdsElements(const Value& value) {
-    return value.is<automation::Array>() && !value.as<automation::Array>().empty();
 }
 
 /// The names of arguments, as a call takes them.
@@ -131,40 +81,33 @@ void Interpreter::performAll(const std::vector<Statement>& statements) {
 void Interpreter::perform(const Declaration& declaration) {
     for (const Declared& declared : declaration.variables) {
         const std::u16string name = automation::lowerCase(declared.name);
-        const bool isNew = variables_.find(name) == variables_.end();
-        if (isNew || declaration.isAnew) {
-            const auto bounds = firsts_.find(name);
-            const std::optional<std::vector<std::int32_t>> before =
-                bounds == firsts_.end() ? std::nullopt : std::optional(bounds->second);
-            Value value = declared.isArray ? dimensioned(declared) : declared.initial;
-            if (declaration.preserves && !isNew && holdsElements(variables_[name])) {
-                const std::vector<std::int32_t>& now = firsts_[name];
-                const std::vector<std::int32_t> wanted = before.value_or(std::vector<std::int32_t>(now.size(), 0));
-                if (now != wanted) {
-                    firsts_[name] = wanted;
-                    throw Raised{place_, Error(RunTimeError::SubscriptOutOfRange)};
-                }
-                keepElements(value, variables_[name]);
+        const auto before = variables_.find(name);
+        if (before == variables_.end()) {
+            variables_[name] = declaredAs(declared);
+        } else if (declaration.isAnew) {
+            Variable variable = declaredAs(declared);
+            if (declaration.preserves) {
+                placed(place_, [&] { keepElements(variable, before->second); });
             }
-            variables_[name] = std::move(value);
+            before->second = std::move(variable);
         }
     }
 }
 
-Value Interpreter::dimensioned(const Declared& declared) {
+Variable Interpreter::declaredAs(const Declared& declared) {
+    if (!declared.isArray) {
+        return {declared.initial, {}};
+    }
     const auto numberOf = [this](const Expression& expression) {
         const Value value = valueOf(expression);
         return placed(expression.place, [&] { return plain(value).to<std::int32_t>(); });
     };
     std::vector<Dimension> dimensions;
-    std::vector<std::int32_t> firsts;
     for (const Bounds& bounds : declared.dimensions) {
-        firsts.push_back(bounds.first ? numberOf(*bounds.first) : 0);
-        dimensions.push_back({firsts.back(), numberOf(bounds.last)});
+        const std::int32_t first = bounds.first ? numberOf(*bounds.first) : 0;
+        dimensions.push_back({first, numberOf(bounds.last)});
     }
-    Value array = placed(place_, [&] { return arrayOf(dimensions, declared.initial); });
-    firsts_[automation::lowerCase(declared.name)] = std::move(firsts);
-    return array;
+    return placed(place_, [&] { return arrayOf(dimensions, declared.initial); });
 }
 
 void Interpreter::perform(const With& with) {
@@ -189,7 +132,7 @@ void Interpreter::perform(const ForNumbers& loop) {
     const Value last = numberOf(loop.last);
     const Value step = loop.step ? numberOf(*loop.step) : Value(std::int32_t(1));
     const bool isDown = step.to<double>() < 0;
-    Value& variable = variables_[automation::lowerCase(loop.variable)];
+    Value& variable = (variables_[automation::lowerCase(loop.variable)] = Variable()).value;
     const auto isOver = [&] { return apply(isDown ? Operator::Less : Operator::Greater, counter, last).to<bool>(); };
     for (variable = counter; !isOver(); variable = counter) {
         performAll(loop.body);
@@ -202,8 +145,7 @@ void Interpreter::perform(const ForEach& loop) {
     const auto in = [&](const auto& step) { return placed(loop.collection.place, step); };
     if (collection.is<automation::Array>()) {
         for (const Value& element : collection.as<automation::Array>()) {
-            firsts_.erase(automation::lowerCase(loop.variable));
-            variables_[automation::lowerCase(loop.variable)] = element;
+            variables_[automation::lowerCase(loop.variable)] = {element, {}};
             performAll(loop.body);
         }
         return;
@@ -212,7 +154,7 @@ void Interpreter::perform(const ForEach& loop) {
         in([&] { return objectIn(reach(collection, automation::newEnum, Access::GetOrCall, {})); });
     const auto next = [&] { return in([&] { return elements->invoke(u"Next", Access::Call, {}); }); };
     for (Value element = next(); !element.isMissing(); element = next()) {
-        variables_[automation::lowerCase(loop.variable)] = element;
+        variables_[automation::lowerCase(loop.variable)] = {element, {}};
         performAll(loop.body);
     }
 }
@@ -257,13 +199,9 @@ void Interpreter::perform(const Assignment& assignment) {
     value =
         placed(assignment.value.place, [&] { return assignment.isSet ? Value(value.to<ObjectPtr>()) : plain(value); });
     if (!target.object) {
-        const std::span<const std::int32_t> firsts = firstsOf(assignment.value);
-        const std::vector<std::int32_t> kept(firsts.begin(), firsts.end());
-        placed(assignment.target.place, [&] { setVariable(target, std::move(value)); });
-        if (target.arguments.empty() && !kept.empty()) {
-            firsts_[automation::lowerCase(target.name)] = kept;
-        }
-        return;
+        const Variable* const source = variableOf(assignment.value);
+        Variable assigned{std::move(value), source == nullptr ? std::vector<std::int32_t>() : source->firsts};
+        return placed(assignment.target.place, [&] { setVariable(target, std::move(assigned)); });
     }
     const Value object = valueOf(*target.object);
     std::vector<Value> arguments = argumentsOf(target);
@@ -273,11 +211,10 @@ void Interpreter::perform(const Assignment& assignment) {
     placed(assignment.target.place, [&] { put(object, name, arguments, assignment.isSet); });
 }
 
-void Interpreter::setVariable(const Reference& target, Value value) {
+void Interpreter::setVariable(const Reference& target, Variable assigned) {
     const std::u16string name = automation::lowerCase(target.name);
     if (target.arguments.empty()) {
-        firsts_.erase(name);
-        variables_[name] = std::move(value);
+        variables_[name] = std::move(assigned);
         return;
     }
     const std::vector<Value> indices = argumentsOf(target);
@@ -285,7 +222,7 @@ void Interpreter::setVariable(const Reference& target, Value value) {
     if (variable == variables_.end()) {
         automation::raise(RunTimeError::TypeMismatch);
     }
-    setElement(variable->second, indices, firstsOf(name), std::move(value));
+    setElement(variable->second, indices, std::move(assigned.value));
 }
 
 void Interpreter::perform(const Check& check) {
@@ -349,7 +286,7 @@ Value Interpreter::valueOf(const Reference& reference, Position place) {
     const Name name(reference.name, {}, parameters);
     return placed(place, [&] {
         if (object.is<automation::Array>() && reference.name.empty()) {
-            return elementOf(object, arguments, {});
+            return elementOf(Variable{object, {}}, arguments);
         }
         return reference.object ? reach(object, name, Access::GetOrCall, arguments) : head(reference, name, arguments);
     });
@@ -377,8 +314,8 @@ Value Interpreter::head(const Reference& reference, const Name& name, std::span<
         return arguments.empty() ? value : reach(value, Name({}, {}, name.parameters()), Access::GetOrCall, arguments);
     };
     if (const auto variable = variables_.find(automation::lowerCase(reference.name)); variable != variables_.end()) {
-        const Value& held = variable->second;
-        return held.is<automation::Array>() ? elementOf(held, arguments, firstsOf(variable->first)) : itself(held);
+        const Value& held = variable->second.value;
+        return held.is<automation::Array>() ? elementOf(variable->second, arguments) : itself(held);
     }
     if (name.matches(u"RGB")) {
         return colorOf(automation::parameters::inOrder(u"Red Green Blue", name.parameters(), Access::Call, arguments));
@@ -403,35 +340,19 @@ std::int32_t Interpreter::boundOf(const Reference& reference, std::span<const Va
     if (arguments.empty()) {
         automation::raise(RunTimeError::ArgumentNotOptional);
     }
+    const Variable* const variable = variableOf(reference.arguments.front());
     const auto dimension = arguments.size() > 1 ? arguments[1].to<std::int32_t>() : 1;
-    if (dimension < 1 || dimension > mostDimensions) {
-        automation::raise(RunTimeError::SubscriptOutOfRange);
-    }
-    const auto outer = static_cast<std::size_t>(dimension) - 1;
-    const Value* array = &arguments.front();
-    for (std::size_t depth = 0; depth < outer; ++depth) {
-        const bool isArray = array->is<automation::Array>() && !array->as<automation::Array>().empty();
-        array = isArray ? &array->as<automation::Array>().front() : array;
-        if (!isArray || !array->is<automation::Array>()) {
-            automation::raise(RunTimeError::SubscriptOutOfRange);
-        }
-    }
-    const auto size = array->to<automation::Array>().size();
-    const std::span<const std::int32_t> firsts = firstsOf(reference.arguments.front());
-    const std::int32_t lowest = outer < firsts.size() ? firsts[outer] : 0;
-    const bool isUpper = automation::equalIgnoringCase(reference.name, u"UBound");
-    return isUpper ? static_cast<std::int32_t>(lowest + static_cast<std::int64_t>(size) - 1) : lowest;
+    const Dimension found = dimensionOf(variable == nullptr ? Variable{arguments.front(), {}} : *variable, dimension);
+    return automation::equalIgnoringCase(reference.name, u"UBound") ? found.last : found.first;
 }
 
-std::span<const std::int32_t> Interpreter::firstsOf(const std::u16string& variable) const {
-    const auto found = firsts_.find(variable);
-    return found == firsts_.end() ? std::span<const std::int32_t>() : found->second;
-}
-
-std::span<const std::int32_t> Interpreter::firstsOf(const Expression& expression) const {
+const Variable* Interpreter::variableOf(const Expression& expression) const {
     const auto* const named = std::get_if<Reference>(&expression.node);
-    const bool isVariable = named != nullptr && !named->object && named->arguments.empty();
-    return isVariable ? firstsOf(automation::lowerCase(named->name)) : std::span<const std::int32_t>();
+    if (named == nullptr || named->object || !named->arguments.empty()) {
+        return nullptr;
+    }
+    const auto found = variables_.find(automation::lowerCase(named->name));
+    return found == variables_.end() ? nullptr : &found->second;
 }
 
 Value Interpreter::memberOfApplication(const Name& name, std::span<Value> arguments) {

@@ -2,6 +2,7 @@
 
 #include "automation/Object.h"
 #include "automation/Unmoved.h"
+#include "host/language/Arrays.h"
 #include "host/language/Ast.h"
 #include "host/language/Functions.h"
 
@@ -36,10 +37,7 @@ public:
     /// Raises Failure where reading it raises.
     [[nodiscard]] automation::Value evaluate(const Expression& expression);
     /// Drops what the variables hold.
-    void forget() noexcept {
-        variables_.clear();
-        firsts_.clear();
-    }
+    void forget() noexcept { variables_.clear(); }
 
 private:
     void perform(const Call& call);
@@ -63,19 +61,17 @@ private:
     [[nodiscard]] bool contains(const CaseRange& range, const automation::Value& value);
     automation::Value valueOf(const Operation& operation, Position place);
     std::vector<automation::Value> argumentsOf(const Reference& reference);
-    [[nodiscard]] std::span<const std::int32_t> firstsOf(const std::u16string& variable) const;
-    /// Where the dimensions of a variable begin that an expression is; nothing for any other expression.
-    [[nodiscard]] std::span<const std::int32_t> firstsOf(const Expression& expression) const;
-    void setVariable(const Reference& target, automation::Value value);
-    [[nodiscard]] automation::Value dimensioned(const Declared& declared);
+    /// The variable that an expression is; null for any other expression.
+    [[nodiscard]] const Variable* variableOf(const Expression& expression) const;
+    void setVariable(const Reference& target, Variable assigned);
+    [[nodiscard]] Variable declaredAs(const Declared& declared);
     [[nodiscard]] std::int32_t boundOf(const Reference& reference, std::span<const automation::Value> arguments);
     automation::Value head(const Reference& reference, const automation::Name& name,
                            std::span<automation::Value> arguments);
     automation::Value memberOfApplication(const automation::Name& name, std::span<automation::Value> arguments);
 
     Stage& stage_;
-    std::map<std::u16string, automation::Value> variables_;      ///< by their names in lower case
-    std::map<std::u16string, std::vector<std::int32_t>> firsts_; ///< where the dimensions of arrays among them begin
+    std::map<std::u16string, Variable> variables_; ///< by their names in lower case
     Functions functions_;
     std::vector<automation::Value> subjects_; ///< of the With around, the innermost one last
     Position place_;                          ///< of the statement being performed
