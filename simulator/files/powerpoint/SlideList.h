@@ -13,6 +13,9 @@ inline constexpr std::uint16_t masters = 1;
 inline constexpr std::uint16_t notes = 2;
 } // namespace slideList
 
+/// Among the flags of an entry: there is more on the sheet than the outline has.
+inline constexpr std::uint32_t notOutlineAlone = 4;
+
 /// The record that stands for a slide in its list: its object, flags, number of texts and id.
 [[nodiscard]] records::Record persistAtom(std::uint32_t object, std::uint32_t flags, std::uint32_t slide);
 
