@@ -1,4 +1,5 @@
 """LibreOffice, started headless with a profile of its own, and what it sees in a deck."""
+import os
 import subprocess
 import time
 
@@ -7,6 +8,7 @@ from com.sun.star.awt import Point, Size
 from com.sun.star.beans import PropertyValue
 
 PPT = "MS PowerPoint 97"
+PIPE = f"pipe,name=interop{os.getpid()}"
 
 
 def arguments(**named):
@@ -20,14 +22,14 @@ class Office:
         self.folder = folder
         self.process = subprocess.Popen(
             ["soffice", "--headless", "--norestore", "--nologo", f"-env:UserInstallation=file://{folder}/profile",
-             "--accept=pipe,name=interop;urp;"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+             f"--accept={PIPE};urp;"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def __enter__(self):
         context = uno.getComponentContext()
         resolver = context.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", context)
         for attempt in range(240):
             try:
-                remote = resolver.resolve("uno:pipe,name=interop;urp;StarOffice.ComponentContext")
+                remote = resolver.resolve(f"uno:{PIPE};urp;StarOffice.ComponentContext")
                 break
             except Exception:  # until it listens
                 if attempt == 239 or self.process.poll() is not None:
