@@ -1,9 +1,7 @@
 #include "automation/LateBound.h"
 #include "automation/Text.h"
-#include "host/language/Folding.h"
 #include "host/language/Parser.h"
 #include "host/language/Words.h"
-#include "host/run/Guard.h"
 #include "host/run/Runner.h"
 #include "host/world/RealFile.h"
 #include "host/world/TemporaryFolder.h"
@@ -20,7 +18,6 @@ namespace host_tests {
 using automation::LateBound;
 using automation::ObjectPtr;
 using host::ExitCode;
-using host::HostCall;
 using tests::ask;
 
 constexpr const char* course = "question 306\n"
@@ -366,80 +363,6 @@ TEST_F(HostTest, AnObjectLeftAliveIsNoticed) {
         runner.run(file.scenarios[0], [&](host::World& world) { return std::make_unique<Keeper>(world, kept); });
     ASSERT_EQ(outcome.failures.size(), 1U);
     EXPECT_EQ(outcome.failures[0].message, "1 automation objects left alive");
-}
-
-TEST(Progress, IsOneLineOnATerminalAndALineEveryHalfMinuteElsewhere) {
-    using host::Progress;
-    Progress::Clock::time_point now;
-    const auto clock = [&] { return now; };
-    std::ostringstream plain;
-    std::ostringstream terminal;
-    const std::string dashes(68, '-');
-    {
-        Progress plainly(plain, 0, clock);
-        Progress rewriting(terminal, 80, clock);
-        const auto at = [&](std::chrono::milliseconds passed, const std::string& place, std::size_t step) {
-            now += passed;
-            plainly.at(place, step, 30);
-            rewriting.at(place, step, 30);
-        };
-        at(std::chrono::milliseconds(99), "too early", 1);
-        at(std::chrono::milliseconds(1), dashes + "é😀 goes on", 2);
-        at(std::chrono::milliseconds(100), "é", 3);
-        at(std::chrono::milliseconds(20), "too early", 4);
-        at(std::chrono::seconds(30), "half a minute", 5);
-    }
-    EXPECT_EQ(plain.str(), "5 of 30: half a minute\n");
-    EXPECT_EQ(terminal.str(), "\r2 of 30: " + dashes + "é\r3 of 30: é" + std::string(68, ' ') +
-                                  "\r5 of 30: half a minute\r" + std::string(22, ' ') + "\r");
-}
-
-TEST(FoldedStream, FoldsLinesToTheWidthAndBreaksNoWord) {
-    const std::vector<std::array<std::string, 2>> lines = {
-        {"as wide as twenty is", "as wide as twenty is"},
-        {"as wide as twenty are", "as wide as twenty\n  are"},
-        {"été créé là, où l'été", "été créé là, où\n  l'été"},
-        {"    two   blanks further in", "    two   blanks\n      further in"},
-        {"/a/path/that/is/wider/than/all of it", "/a/path/that/is/wider/than/all\n  of it"},
-        {"of (\"a title\") and \"an other\".", "of (\"a title\") and\n  \"an other\"."},
-        {"of \"a title wider than lines\"", "of \"a title wider\n  than lines\""},
-        {"an inch is 1\" and no more", "an inch is 1\" and no\n  more"},
-        {"\x1b[32m7 passed\x1b[0m, \x1b[31m1 failed\x1b[0m", "\x1b[32m7 passed\x1b[0m, \x1b[31m1 failed\x1b[0m"},
-    };
-    for (const auto& [line, shown] : lines) {
-        std::ostringstream out;
-        host::FoldedStream(out, 20) << line << '\n' << std::flush;
-        EXPECT_EQ(out.str(), shown + '\n');
-        host::FoldedStream piped(out, 0);
-        piped << line << ';';
-        host::FoldedStream terminal(out, 20);
-        terminal << "x ";
-        host::unfolded(terminal) << line;
-        EXPECT_EQ(out.str(), shown + '\n' + line + ";x " + line);
-    }
-}
-
-TEST(Guard, NoticesACallThatTouchesTheLearnersPresentations) {
-    const host::WorldPtr world = host::makeEmbeddedWorld();
-    world->powerPoint().start();
-    const LateBound presentations = ask(LateBound(world->powerPoint().application()), u"Presentations");
-    const auto findingsOf = [&](const auto& meddle) {
-        host::Guard guard(*world);
-        guard.calling(HostCall::TestePoint);
-        meddle(ask(presentations, u"Item", 1));
-        guard.called(HostCall::TestePoint, nullptr);
-        return guard.findings();
-    };
-    ask(presentations, u"Add");
-    EXPECT_EQ(findingsOf([](const LateBound&) {}), std::vector<std::string>());
-    const std::vector<std::string> changed =
-        findingsOf([](const LateBound& presentation) { ask(ask(presentation, u"Slides"), u"Add", 1, 12); });
-    ASSERT_EQ(changed.size(), 1U);
-    EXPECT_TRUE(changed[0].starts_with("TestePoint changed the learner's presentation ")) << changed[0];
-    const std::vector<std::string> closed =
-        findingsOf([](const LateBound& presentation) { presentation.call(u"Close"); });
-    ASSERT_EQ(closed.size(), 1U);
-    EXPECT_TRUE(closed[0].starts_with("TestePoint closed the learner's presentation ")) << closed[0];
 }
 
 } // namespace host_tests

@@ -1,6 +1,8 @@
 #include "automation/Text.h"
 #include "host/world/TemporaryFolder.h"
+#include "simulator/document/LayoutTable.h"
 #include "simulator/document/NewShape.h"
+#include "simulator/document/SlideLayout.h"
 #include "simulator/files/FilePresentationStore.h"
 #include "simulator/files/WholeFile.h"
 #include "simulator/files/bytes/Bytes.h"
