@@ -89,8 +89,9 @@ void Telling::tellFiles(const Snapshot& before, const Snapshot& after) {
 }
 
 void Telling::tellOpened(const Snapshot& before, const Snapshot& after) {
+    const bool wasSilent = before.window != 0 && !before.presentations;
     for (const OpenPresentation& open : after.presentations.value_or(std::vector<OpenPresentation>())) {
-        if (before.find(open.fullName) == nullptr) {
+        if (!wasSilent && before.find(open.fullName) == nullptr) {
             tellMarks(open);
         }
     }
