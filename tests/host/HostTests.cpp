@@ -87,29 +87,6 @@ void copyOut(host::World& world, const std::u16string& path, const std::filesyst
     host::writeContents(to, std::string(bytes.begin(), bytes.end()));
 }
 
-TEST_F(HostTest, ConformTellsWhatPowerPointDoesOtherwiseAndWhatHangsOnIt) {
-    write("class \"Slides\"\ncourse\nPresentations.Add\nscenario \"kept\"\nexpect Presentations.Count = 1\n"
-          "scenario \"broken\"\nassumed \"0306 B\"\nexpect Presentations.Count = 2\nActivePresentation.Fly\n"
-          "expect Presentations.Count = 1\nscenario \"in a block\"\nWith Presentations\nexpect .Count = 3\nEnd "
-          "With\nscenario \"described otherwise\"\ncontested \"0308 D\"\n"
-          "expect Presentations.Count = 9, Windows.Count = 1\n");
-    const std::string out = said({"conform", "slides"}, ExitCode::FellShort);
-    EXPECT_NE(out.find(":8:22: expected 2, found 1 (assumed: \"broken\")"), std::string::npos) << out;
-    EXPECT_NE(out.find(":9:1: line 9 raises error 438"), std::string::npos) << out;
-    EXPECT_NE(out.find(":13:9: expected 3, found 1"), std::string::npos) << out;
-    EXPECT_NE(out.find("    this decides 0306 B\n"), std::string::npos) << out;
-    EXPECT_NE(out.find("Slides: 1 agree, 3 differ, 2 cannot be told\n"), std::string::npos) << out;
-    EXPECT_EQ(out.find("0308"), std::string::npos) << out;
-    const auto object = nlohmann::json::parse(said({"conform", "--json"}, ExitCode::FellShort));
-    const auto& broken = object["classes"][0]["promises"][1];
-    EXPECT_EQ(broken["decides"], "0306 B");
-    EXPECT_EQ(broken["expectations"][0]["kept"], "differs");
-    EXPECT_EQ(broken["expectations"][1]["kept"], "cannot tell");
-    EXPECT_EQ(object["classes"][0]["promises"][3]["asTaken"], true) << object;
-    static_cast<void>(said({"conform", "Shapes"}, ExitCode::WrongUsage));
-    static_cast<void>(said({"verify"}, ExitCode::WrongUsage));
-}
-
 TEST_F(HostTest, ASavedPresentationIsJudgedAgainAndTheCoursesOwnFilesAreStaged) {
     write(std::string(course) + success);
     const std::filesystem::path folder = std::filesystem::path(file()).parent_path();
@@ -241,21 +218,6 @@ TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {
     EXPECT_TRUE(out.starts_with(file() + ":3:15: error 438")) << out;
     EXPECT_TRUE(out.ends_with("\n0 passed, 2 failed\n")) << out;
     EXPECT_NE(said({"run"}, ExitCode::FellShort).find(":3:15: error 438"), std::string::npos);
-}
-
-TEST_F(HostTest, RunTellsTheRoadAndEndsWithTheFourValues) {
-    write(std::string(course) + "scenario \"nothing\"\ncheck \"A\"\n" + success);
-    const std::string out = said({"run"}, ExitCode::Good);
-    for (const char* const told :
-         {"07305306.ppt", "The host calls InitQuestion", "PowerPoint has started",
-          "Méthodologie.ppt stands in the place of 07305306.ppt", "1 slide, marked ZOR1",
-          "PowerPoint's folder Default is \"C:\\Formation\\\" instead of \"",
-          "PowerPoint's folders are the learner's again", "      9  ActivePresentation",
-          "The host reads a success with the remark \"F\"", "The host calls Fermer", "Méthodologie.ppt is closed",
-          "Removed from the folder: Méthodologie.ppt", "The host calls Quitter", "PowerPoint has ended"}) {
-        EXPECT_NE(out.find(told), std::string::npos) << told << " is not told in\n" << out;
-    }
-    EXPECT_TRUE(out.ends_with("\nErreurGenerale: False\nCauseErreur: F\nBravoNuance: True\nComplement: \n")) << out;
 }
 
 TEST_F(HostTest, RunGivesOneJsonObjectWithTheCalls) {
