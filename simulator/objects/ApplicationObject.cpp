@@ -23,7 +23,7 @@ const automation::MemberTable& ApplicationObject::members() const {
         property<&This::activePresentation>(u"ActivePresentation"),
         property<&This::slideShowWindows>(u"SlideShowWindows"),
         property<&This::commandBars>(u"CommandBars"),
-        property<&This::application>(u"Application"),
+        property<&PowerPointObject::application>(u"Application"),
         property<&This::name>(u"Name").asDefault(),
         property<&This::path>(u"Path"),
         property<&This::caption>(u"Caption"),
@@ -46,10 +46,6 @@ const automation::MemberTable& ApplicationObject::members() const {
 bool ApplicationObject::isSame(const Object& other) const noexcept {
     const auto* const application = dynamic_cast<const ApplicationObject*>(&other);
     return application != nullptr && application->session() == session();
-}
-
-std::shared_ptr<ApplicationObject> ApplicationObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
 }
 
 std::shared_ptr<PresentationsObject> ApplicationObject::presentations() const {

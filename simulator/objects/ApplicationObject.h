@@ -20,7 +20,6 @@ public:
     /// All stand for the one PowerPoint of their session.
     [[nodiscard]] bool isSame(const Object& other) const noexcept override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::shared_ptr<PresentationsObject> presentations() const;
     [[nodiscard]] std::shared_ptr<DocumentWindowsObject> windows() const;
     [[nodiscard]] std::shared_ptr<SlideShowWindowsObject> slideShowWindows() const;

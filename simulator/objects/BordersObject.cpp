@@ -1,6 +1,6 @@
 #include "simulator/objects/BordersObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/CellObject.h"
 #include "simulator/objects/LineFormatObject.h"
 #include "simulator/objects/TableDivisions.h"
 
@@ -10,17 +10,16 @@ const automation::MemberTable& BordersObject::members() const {
     using automation::method;
     using automation::property;
     using This = BordersObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         method<&This::item>(u"Item", u"BorderType").asDefault(),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> BordersObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
+automation::ObjectPtr BordersObject::owner() const {
+    return std::make_shared<CellObject>(session(), nodes().first());
 }
 
 std::shared_ptr<LineFormatObject> BordersObject::item(PpBorderType borderType) const {

@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class LineFormatObject;
 
 /// Borders: the borders of some cells and the diagonals through them. Neighbours share the one between them.
@@ -13,8 +12,8 @@ public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
-
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    /// The first of the cells.
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     /// Four sides and two diagonals.
     [[nodiscard]] std::int32_t count() const noexcept { return ppBorderDiagonalUp; }
     /// That side of each of the cells, ppBorderTop to ppBorderDiagonalUp.

@@ -1,7 +1,6 @@
 #include "simulator/objects/CellObject.h"
 
 #include "automation/LateBound.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/BordersObject.h"
 #include "simulator/objects/HandedShape.h"
 #include "simulator/objects/ShapeObject.h"
@@ -17,24 +16,18 @@ const automation::MemberTable& CellObject::members() const {
     using automation::method;
     using automation::property;
     using This = CellObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::borders>(u"Borders"),
         method<&This::merge>(u"Merge", u"MergeTo"),
         method<&This::select>(u"Select"),
         property<&This::selected>(u"Selected"),
         property<&This::shape>(u"Shape"),
         method<&This::split>(u"Split", u"NumRows NumColumns"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> CellObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<TableObject> CellObject::parent() const {
+automation::ObjectPtr CellObject::owner() const {
     return std::make_shared<TableObject>(session(), node()->group());
 }
 

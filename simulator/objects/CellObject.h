@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class BordersObject;
 class ShapeObject;
 class TableObject;
@@ -16,8 +15,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    [[nodiscard]] std::shared_ptr<TableObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::shared_ptr<BordersObject> borders() const;
     /// The shape that holds the cell's text and fill.
     [[nodiscard]] std::shared_ptr<ShapeObject> shape() const;

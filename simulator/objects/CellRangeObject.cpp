@@ -1,8 +1,8 @@
 #include "simulator/objects/CellRangeObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/BordersObject.h"
 #include "simulator/objects/CellObject.h"
+#include "simulator/objects/TableObject.h"
 
 namespace simulator {
 
@@ -10,18 +10,17 @@ const automation::MemberTable& CellRangeObject::members() const {
     using automation::method;
     using automation::property;
     using This = CellRangeObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         method<&This::item>(u"Item", u"Index").asDefault(),
         property<&This::borders>(u"Borders"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> CellRangeObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
+automation::ObjectPtr CellRangeObject::owner() const {
+    return std::make_shared<TableObject>(session(), nodes().first()->group());
 }
 
 std::shared_ptr<CellObject> CellRangeObject::item(std::int32_t index) const {

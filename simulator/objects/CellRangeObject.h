@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class BordersObject;
 class CellObject;
 
@@ -14,8 +13,8 @@ public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
-
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    /// The table.
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::int32_t count() const noexcept { return static_cast<std::int32_t>(nodes().size()); }
     /// By place from 1.
     [[nodiscard]] std::shared_ptr<CellObject> item(std::int32_t index) const;

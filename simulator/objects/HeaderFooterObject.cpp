@@ -1,30 +1,29 @@
 #include "simulator/objects/HeaderFooterObject.h"
 
 #include "simulator/document/HeadersFootersOf.h"
-#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/HeadersFootersObject.h"
 
 namespace simulator {
 
 const automation::MemberTable& HeaderFooterObject::members() const {
     using automation::property;
     using This = HeaderFooterObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::visible, &This::setVisible>(u"Visible"),
         property<&This::text, &This::setText>(u"Text"),
         property<&This::useFormat, &This::setUseFormat>(u"UseFormat"),
         property<&This::format, &This::setFormat>(u"Format"),
-    };
+    });
     return table;
+}
+
+automation::ObjectPtr HeaderFooterObject::owner() const {
+    return std::make_shared<HeadersFootersObject>(session(), sheets_);
 }
 
 bool HeaderFooterObject::isSame(const Object& other) const noexcept {
     const auto* const peer = dynamic_cast<const HeaderFooterObject*>(&other);
     return peer != nullptr && sheets_ == peer->sheets_ && part_ == peer->part_;
-}
-
-std::shared_ptr<ApplicationObject> HeaderFooterObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
 }
 
 MsoTriState HeaderFooterObject::visible() const {

@@ -4,8 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
-
 /// HeaderFooter: a header, a footer, the date or the number on some slides or a master. It reads that of the first.
 class HeaderFooterObject final : public PowerPointObject {
 public:
@@ -13,10 +11,11 @@ public:
         : PowerPointObject(std::move(session)), sheets_(std::move(sheets)), part_(part) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
+    /// HeadersFooters.
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     /// True for the same thing on the same sheets.
     [[nodiscard]] bool isSame(const Object& other) const noexcept override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] MsoTriState visible() const;
     void setVisible(MsoTriState visible);
     /// Of the date, the one that stays as it is. Raises an invalid request for a number.

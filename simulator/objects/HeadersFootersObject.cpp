@@ -1,7 +1,6 @@
 #include "simulator/objects/HeadersFootersObject.h"
 
 #include "simulator/document/HeadersFootersOf.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/HeaderFooterObject.h"
 #include "simulator/objects/MasterObject.h"
 
@@ -11,24 +10,18 @@ const automation::MemberTable& HeadersFootersObject::members() const {
     using automation::method;
     using automation::property;
     using This = HeadersFootersObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::part<&HeadersFooters::date>>(u"DateAndTime"),
         property<&This::part<&HeadersFooters::number>>(u"SlideNumber"),
         property<&This::header>(u"Header"),
         property<&This::part<&HeadersFooters::footer>>(u"Footer"),
         property<&This::displayOnTitleSlide, &This::setDisplayOnTitleSlide>(u"DisplayOnTitleSlide"),
         method<&This::clear>(u"Clear"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> HeadersFootersObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PowerPointObject> HeadersFootersObject::parent() const {
+automation::ObjectPtr HeadersFootersObject::owner() const {
     return objectOf(session(), nodes().first());
 }
 

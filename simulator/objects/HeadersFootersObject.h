@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class HeaderFooterObject;
 
 /// HeadersFooters: headers, footers, date and number of some slides, or of all that follow a master.
@@ -14,8 +13,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    [[nodiscard]] std::shared_ptr<PowerPointObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     template <HeaderFooter HeadersFooters::*which> [[nodiscard]] std::shared_ptr<HeaderFooterObject> part() const {
         return make(which);
     }

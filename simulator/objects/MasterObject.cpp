@@ -2,7 +2,6 @@
 
 #include "simulator/document/Masters.h"
 #include "simulator/document/Order.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/HeadersFootersObject.h"
 #include "simulator/objects/PresentationObject.h"
 #include "simulator/objects/ShapeRangeObject.h"
@@ -29,9 +28,7 @@ const automation::MemberTable& MasterObject::members() const {
     using automation::method;
     using automation::property;
     using This = MasterObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::shapes>(u"Shapes"),
         property<&This::background>(u"Background"),
         property<&This::name, &This::setName>(u"Name"),
@@ -39,15 +36,11 @@ const automation::MemberTable& MasterObject::members() const {
         property<&This::height>(u"Height"),
         property<&This::headersFooters>(u"HeadersFooters"),
         method<&This::erase>(u"Delete"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> MasterObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PresentationObject> MasterObject::parent() const {
+automation::ObjectPtr MasterObject::owner() const {
     return std::make_shared<PresentationObject>(session(), node()->presentation);
 }
 

@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class HeadersFootersObject;
 class PresentationObject;
 class ShapeRangeObject;
@@ -17,9 +16,8 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     /// The presentation.
-    [[nodiscard]] std::shared_ptr<PresentationObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::shared_ptr<ShapesObject> shapes() const;
     [[nodiscard]] std::shared_ptr<ShapeRangeObject> background() const;
     [[nodiscard]] std::shared_ptr<HeadersFootersObject> headersFooters() const;

@@ -43,7 +43,7 @@ const automation::MemberTable& ShapeGeometry::geometryMembers() {
     constexpr auto top = &Frame::top;
     constexpr auto width = &Frame::width;
     constexpr auto height = &Frame::height;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = officeMembers().with({
         method<&This::flip>(u"Flip", u"FlipCmd"),
         method<&This::moveBy<left>>(u"IncrementLeft", u"Increment"),
         method<&This::incrementRotation>(u"IncrementRotation", u"Increment"),
@@ -58,7 +58,7 @@ const automation::MemberTable& ShapeGeometry::geometryMembers() {
         property<&This::length<top>, &This::moveTo<top>>(u"Top"),
         property<&This::verticalFlip>(u"VerticalFlip"),
         property<&This::length<width>, &This::resizeTo<width>>(u"Width"),
-    };
+    });
     return table;
 }
 

@@ -3,7 +3,6 @@
 #include "simulator/document/Connecting.h"
 #include "simulator/document/Grouping.h"
 #include "simulator/document/Stacking.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/ConnectorFormatObject.h"
 #include "simulator/objects/FillFormatObject.h"
 #include "simulator/objects/GroupShapesObject.h"
@@ -30,9 +29,6 @@ const automation::MemberTable& ShapeMembers::sharedMembers() {
     using automation::property;
     using This = ShapeMembers;
     static const automation::MemberTable table = geometryMembers().with({
-        property<&This::application>(u"Application"),
-        property<&This::creator>(u"Creator"),
-        property<&This::parent>(u"Parent"),
         method<&This::apply>(u"Apply"),
         method<&This::erase>(u"Delete"),
         method<&This::pickUp>(u"PickUp"),
@@ -72,11 +68,7 @@ const automation::MemberTable& ShapeMembers::sharedMembers() {
     return table;
 }
 
-std::shared_ptr<ApplicationObject> ShapeMembers::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PowerPointObject> ShapeMembers::parent() const {
+automation::ObjectPtr ShapeMembers::owner() const {
     return objectOf(session(), nodes().first()->slide);
 }
 

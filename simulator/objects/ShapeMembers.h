@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class ConnectorFormatObject;
 class FillFormatObject;
 class GroupShapesObject;
@@ -27,9 +26,8 @@ class ShapeMembers : public ShapeGeometry {
 public:
     using ShapeGeometry::ShapeGeometry;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     /// The slide or the master.
-    [[nodiscard]] std::shared_ptr<PowerPointObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     [[nodiscard]] std::u16string name() const;
     /// Raises an invalid request for a name that another shape of the slide bears.

@@ -3,7 +3,6 @@
 #include "simulator/document/NewShape.h"
 #include "simulator/document/SlideLayout.h"
 #include "simulator/document/TextFit.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/FreeformBuilderObject.h"
 #include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PlaceholdersObject.h"
@@ -56,10 +55,7 @@ const automation::MemberTable& ShapesObject::members() const {
     using automation::method;
     using automation::property;
     using This = ShapesObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::creator>(u"Creator"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = officeMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
         method<&This::item>(u"Item", u"Index").asDefault(),
@@ -82,15 +78,11 @@ const automation::MemberTable& ShapesObject::members() const {
         property<&This::placeholders>(u"Placeholders"),
         method<&This::addPlaceholder>(u"AddPlaceholder", u"Type Left Top Width Height"),
         method<&This::paste>(u"Paste"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> ShapesObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PowerPointObject> ShapesObject::parent() const {
+automation::ObjectPtr ShapesObject::owner() const {
     return simulator::objectOf(session(), node());
 }
 

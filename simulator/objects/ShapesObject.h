@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class FreeformBuilderObject;
 class PlaceholdersObject;
 class ShapeObject;
@@ -18,9 +17,8 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     /// The slide or the master.
-    [[nodiscard]] std::shared_ptr<PowerPointObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(node()->shapes().size()); }
     /// By place from 1, or by name.
     [[nodiscard]] std::shared_ptr<ShapeObject> item(const automation::Value& index) const;

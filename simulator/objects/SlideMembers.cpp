@@ -2,7 +2,6 @@
 
 #include "simulator/document/Masters.h"
 #include "simulator/document/SlideLayout.h"
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/HeadersFootersObject.h"
 #include "simulator/objects/MasterObject.h"
 #include "simulator/objects/PresentationObject.h"
@@ -19,9 +18,7 @@ const automation::MemberTable& SlideMembers::sharedMembers() {
     using automation::method;
     using automation::property;
     using This = SlideMembers;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::shapes>(u"Shapes"),
         property<&This::name, &This::setName>(u"Name"),
         property<&This::slideId>(u"SlideID"),
@@ -43,15 +40,11 @@ const automation::MemberTable& SlideMembers::sharedMembers() {
         property<&This::slideIndex>(u"SlideNumber"),
         method<&This::moveTo>(u"MoveTo", u"ToPos"),
         method<&This::exportTo>(u"Export", u"FileName FilterName ScaleWidth ScaleHeight"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> SlideMembers::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PresentationObject> SlideMembers::parent() const {
+automation::ObjectPtr SlideMembers::owner() const {
     return std::make_shared<PresentationObject>(session(), presentation());
 }
 

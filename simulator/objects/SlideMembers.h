@@ -6,7 +6,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class HeadersFootersObject;
 class MasterObject;
 class PresentationObject;
@@ -23,9 +22,8 @@ class SlideMembers : public NodeSetObject<Slide> {
 public:
     using NodeSetObject::NodeSetObject;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     /// The presentation.
-    [[nodiscard]] std::shared_ptr<PresentationObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::shared_ptr<ShapesObject> shapes() const;
     [[nodiscard]] std::shared_ptr<TagsObject> tags() const;
     /// The title master of a title slide, where there is one, or the slide master; the notes master of a notes page.

@@ -1,6 +1,5 @@
 #include "simulator/objects/SlideShowSettingsObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/PresentationObject.h"
 #include "simulator/objects/SlideShowWindowObject.h"
 
@@ -11,9 +10,7 @@ const automation::MemberTable& SlideShowSettingsObject::members() const {
     using automation::property;
     using This = SlideShowSettingsObject;
     using Setup = SlideShowSetup;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::startingSlide, &This::setStartingSlide>(u"StartingSlide"),
         property<&This::endingSlide, &This::setEndingSlide>(u"EndingSlide"),
         property<&This::number<&Setup::rangeType>, &This::setNumber<&Setup::rangeType>>(u"RangeType"),
@@ -24,15 +21,11 @@ const automation::MemberTable& SlideShowSettingsObject::members() const {
         property<&This::state<&Setup::hasAnimation>, &This::setState<&Setup::hasAnimation>>(u"ShowWithAnimation"),
         property<&This::state<&Setup::hasNarration>, &This::setState<&Setup::hasNarration>>(u"ShowWithNarration"),
         method<&This::run>(u"Run"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> SlideShowSettingsObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<PresentationObject> SlideShowSettingsObject::parent() const {
+automation::ObjectPtr SlideShowSettingsObject::owner() const {
     return std::make_shared<PresentationObject>(session(), node());
 }
 

@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class PresentationObject;
 class SlideShowWindowObject;
 
@@ -15,8 +14,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    [[nodiscard]] std::shared_ptr<PresentationObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     [[nodiscard]] std::int32_t startingSlide() const { return node()->slideShow.startingSlide; }
     /// Raises out of range for a place where there is no slide, as `setEndingSlide` does.

@@ -1,15 +1,14 @@
 #include "simulator/objects/SlideShowTransitionObject.h"
 
 #include "simulator/document/EntryEffects.h"
-#include "simulator/objects/ApplicationObject.h"
+#include "simulator/objects/MasterObject.h"
 
 namespace simulator {
 
 const automation::MemberTable& SlideShowTransitionObject::members() const {
     using automation::property;
     using This = SlideShowTransitionObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::get<&Transition::effect>, &This::setEntryEffect>(u"EntryEffect"),
         property<&This::get<&Transition::speed>, &This::setSpeed>(u"Speed"),
         property<&This::get<&Transition::advancesOnClick>, &This::turn<&Transition::advancesOnClick>>(
@@ -17,12 +16,12 @@ const automation::MemberTable& SlideShowTransitionObject::members() const {
         property<&This::get<&Transition::advancesOnTime>, &This::turn<&Transition::advancesOnTime>>(u"AdvanceOnTime"),
         property<&This::get<&Transition::advanceTime>, &This::setAdvanceTime>(u"AdvanceTime"),
         property<&This::get<&Transition::isHidden>, &This::turn<&Transition::isHidden>>(u"Hidden"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> SlideShowTransitionObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
+automation::ObjectPtr SlideShowTransitionObject::owner() const {
+    return objectOf(session(), nodes().first());
 }
 
 void SlideShowTransitionObject::setEntryEffect(std::int32_t effect) {

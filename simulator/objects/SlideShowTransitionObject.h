@@ -4,16 +4,14 @@
 
 namespace simulator {
 
-class ApplicationObject;
-
 /// SlideShowTransition: how some slides come in a slide show, and when the next one does.
 class SlideShowTransitionObject final : public NodeSetObject<Slide> {
 public:
     using NodeSetObject::NodeSetObject;
 
     [[nodiscard]] const automation::MemberTable& members() const override;
-
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    /// The first of the slides.
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 
     /// The value that all slides share; mixed (-2) where it is not the same.
     template <auto part> [[nodiscard]] auto get() const {

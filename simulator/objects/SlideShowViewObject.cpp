@@ -1,6 +1,5 @@
 #include "simulator/objects/SlideShowViewObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/SlideObject.h"
 #include "simulator/objects/TriState.h"
@@ -11,9 +10,7 @@ const automation::MemberTable& SlideShowViewObject::members() const {
     using automation::method;
     using automation::property;
     using This = SlideShowViewObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::slide>(u"Slide"),
         property<&This::lastSlideViewed>(u"LastSlideViewed"),
         property<&This::currentShowPosition>(u"CurrentShowPosition"),
@@ -27,15 +24,11 @@ const automation::MemberTable& SlideShowViewObject::members() const {
         method<&This::first>(u"First"),
         method<&This::last>(u"Last"),
         method<&This::exit>(u"Exit"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> SlideShowViewObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<SlideShowWindowObject> SlideShowViewObject::parent() const {
+automation::ObjectPtr SlideShowViewObject::owner() const {
     return std::make_shared<SlideShowWindowObject>(session(), window());
 }
 

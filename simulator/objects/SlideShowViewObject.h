@@ -15,8 +15,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    [[nodiscard]] std::shared_ptr<SlideShowWindowObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     /// Raises an invalid request where no slide is shown, since it was deleted.
     [[nodiscard]] std::shared_ptr<SlideObject> slide() const;
     /// Raises an invalid request where none was shown before.

@@ -1,6 +1,5 @@
 #include "simulator/objects/SlideShowWindowObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/PresentationObject.h"
 #include "simulator/objects/SlideShowViewObject.h"
@@ -27,9 +26,7 @@ const automation::MemberTable& SlideShowWindowObject::members() const {
     using automation::method;
     using automation::property;
     using This = SlideShowWindowObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::presentation>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::presentation>(u"Presentation"),
         property<&This::view>(u"View"),
         property<&This::isFullScreen>(u"IsFullScreen"),
@@ -39,12 +36,12 @@ const automation::MemberTable& SlideShowWindowObject::members() const {
         property<&This::length<&Frame::top>, &This::setLength<&Frame::top>>(u"Top"),
         property<&This::length<&Frame::width>, &This::setLength<&Frame::width>>(u"Width"),
         property<&This::length<&Frame::height>, &This::setLength<&Frame::height>>(u"Height"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> SlideShowWindowObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
+automation::ObjectPtr SlideShowWindowObject::owner() const {
+    return presentation();
 }
 
 std::shared_ptr<PresentationObject> SlideShowWindowObject::presentation() const {

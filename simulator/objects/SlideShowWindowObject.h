@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class PresentationObject;
 class SlideShowViewObject;
 
@@ -31,7 +30,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::shared_ptr<PresentationObject> presentation() const;
     [[nodiscard]] std::shared_ptr<SlideShowViewObject> view() const;
     /// True for a show that is in no window of a size of its own.

@@ -1,6 +1,5 @@
 #include "simulator/objects/SlideShowWindowsObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CollectionLookup.h"
 #include "simulator/objects/SlideShowWindowObject.h"
 
@@ -10,18 +9,12 @@ const automation::MemberTable& SlideShowWindowsObject::members() const {
     using automation::method;
     using automation::property;
     using This = SlideShowWindowsObject;
-    static const automation::MemberTable table{
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-        property<&This::application>(u"Application"),
-        property<&This::application>(u"Parent"),
         method<&This::item>(u"Item", u"Index").asDefault(),
-    };
+    });
     return table;
-}
-
-std::shared_ptr<ApplicationObject> SlideShowWindowsObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
 }
 
 std::int32_t SlideShowWindowsObject::count() const {

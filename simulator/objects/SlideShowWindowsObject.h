@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class SlideShowWindowObject;
 
 /// SlideShowWindows: the slide shows that run, the active one first.
@@ -14,7 +13,6 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     [[nodiscard]] std::int32_t count() const;
     /// By place from 1.
     [[nodiscard]] std::shared_ptr<SlideShowWindowObject> item(std::int32_t index) const;

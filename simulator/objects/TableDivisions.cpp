@@ -1,6 +1,5 @@
 #include "simulator/objects/TableDivisions.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CellRangeObject.h"
 #include "simulator/objects/ShapeSelecting.h"
 #include "simulator/objects/TableObject.h"
@@ -27,17 +26,12 @@ const automation::MemberTable& TableDivisionObject::sharedMembers() {
     using automation::method;
     using automation::property;
     using This = TableDivisionObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::cells>(u"Cells"),
         method<&This::erase>(u"Delete"),
         method<&This::select>(u"Select"),
-    };
+    });
     return table;
-}
-
-std::shared_ptr<ApplicationObject> TableDivisionObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
 }
 
 std::size_t TableDivisionObject::placeIn(const TableGrid& grid) const {
@@ -100,20 +94,14 @@ void TableDivisionObject::setLength(float points) {
 const automation::MemberTable& TableDivisionsObject::sharedMembers() {
     using automation::property;
     using This = TableDivisionsObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         property<&This::count>(u"Count"),
         property<&This::elements>(automation::newEnum.text()),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> TableDivisionsObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<TableObject> TableDivisionsObject::parent() const {
+automation::ObjectPtr TableDivisionsObject::owner() const {
     return std::make_shared<TableObject>(session(), node());
 }
 
@@ -148,13 +136,12 @@ const automation::MemberTable& RowObject::members() const {
     using automation::property;
     using This = RowObject;
     static const automation::MemberTable table = sharedMembers().with({
-        property<&This::parent>(u"Parent"),
         property<&This::length, &This::setLength>(u"Height"),
     });
     return table;
 }
 
-std::shared_ptr<RowsObject> RowObject::parent() const {
+automation::ObjectPtr RowObject::owner() const {
     return std::make_shared<RowsObject>(session(), simulator::alive(table()));
 }
 
@@ -162,13 +149,12 @@ const automation::MemberTable& ColumnObject::members() const {
     using automation::property;
     using This = ColumnObject;
     static const automation::MemberTable table = sharedMembers().with({
-        property<&This::parent>(u"Parent"),
         property<&This::length, &This::setLength>(u"Width"),
     });
     return table;
 }
 
-std::shared_ptr<ColumnsObject> ColumnObject::parent() const {
+automation::ObjectPtr ColumnObject::owner() const {
     return std::make_shared<ColumnsObject>(session(), simulator::alive(table()));
 }
 

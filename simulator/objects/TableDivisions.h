@@ -5,7 +5,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class CellRangeObject;
 class ColumnsObject;
 class RowsObject;
@@ -23,7 +22,6 @@ public:
     TableDivisionObject(SessionPtr session, std::weak_ptr<Shape> table, TableAxis axis, std::size_t place)
         : PowerPointObject(std::move(session)), table_(std::move(table)), axis_(axis), place_(place) {}
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     /// Each cell once.
     [[nodiscard]] std::shared_ptr<CellRangeObject> cells() const;
     /// Raises an invalid request for the last row or column.
@@ -55,8 +53,7 @@ public:
     TableDivisionsObject(SessionPtr session, const ShapePtr& table, TableAxis axis)
         : NodeSetObject(std::move(session), table), axis_(axis) {}
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
-    [[nodiscard]] std::shared_ptr<TableObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::int32_t count() const;
 
 protected:
@@ -78,7 +75,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<RowsObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 };
 
 /// Column: one column of a table, the first where the table begins.
@@ -89,7 +86,7 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ColumnsObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
 };
 
 /// Rows: the rows of a table.

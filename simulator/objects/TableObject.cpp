@@ -1,6 +1,5 @@
 #include "simulator/objects/TableObject.h"
 
-#include "simulator/objects/ApplicationObject.h"
 #include "simulator/objects/CellObject.h"
 #include "simulator/objects/ShapeObject.h"
 #include "simulator/objects/TableDivisions.h"
@@ -11,22 +10,16 @@ const automation::MemberTable& TableObject::members() const {
     using automation::method;
     using automation::property;
     using This = TableObject;
-    static const automation::MemberTable table{
-        property<&This::application>(u"Application"),
-        property<&This::parent>(u"Parent"),
+    static const automation::MemberTable table = commonMembers().with({
         method<&This::cell>(u"Cell", u"Row Column"),
         property<&This::columns>(u"Columns"),
         property<&This::rows>(u"Rows"),
         property<&This::tableDirection, &This::setTableDirection>(u"TableDirection"),
-    };
+    });
     return table;
 }
 
-std::shared_ptr<ApplicationObject> TableObject::application() const {
-    return std::make_shared<ApplicationObject>(session());
-}
-
-std::shared_ptr<ShapeObject> TableObject::parent() const {
+automation::ObjectPtr TableObject::owner() const {
     return std::make_shared<ShapeObject>(session(), node());
 }
 

@@ -4,7 +4,6 @@
 
 namespace simulator {
 
-class ApplicationObject;
 class CellObject;
 class ColumnsObject;
 class RowsObject;
@@ -17,9 +16,8 @@ public:
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::shared_ptr<ApplicationObject> application() const;
     /// The shape.
-    [[nodiscard]] std::shared_ptr<ShapeObject> parent() const;
+    [[nodiscard]] automation::ObjectPtr owner() const override;
     /// The cell that covers a row and a column, from 1; a merged one covers several.
     [[nodiscard]] std::shared_ptr<CellObject> cell(std::int32_t row, std::int32_t column) const;
     [[nodiscard]] std::shared_ptr<RowsObject> rows() const;
