@@ -1,8 +1,15 @@
 #pragma once
 
+#include "automation/Text.h"
+#include "simulator/document/EntryEffects.h"
 #include "simulator/document/Grouping.h"
+#include "simulator/document/Masters.h"
 #include "simulator/document/NewShape.h"
 #include "simulator/document/Presentation.h"
+#include "simulator/document/SlideLayout.h"
+#include "simulator/document/TableGrid.h"
+
+#include <array>
 
 namespace simulator::file_tests {
 
@@ -59,6 +66,165 @@ inline PresentationPtr richPresentation() {
     slide.add(newShape::textBox({400, 300, 20, 20}));
     const std::vector<ShapePtr> last(slide.shapes().end() - 3, slide.shapes().end());
     group(slide, {group(slide, {last[0], last[1]}), last[2]});
+    return presentation;
+}
+
+/// A shape of any kind with a format of its own, of every that the object model can ask for.
+inline void formatByNumber(Shape& shape, std::int32_t number) {
+    const auto share = static_cast<float>(number % 4) / 4;
+    shape.rotation = static_cast<float>(number) * 5;
+    shape.horizontalFlip = number % 3 == 0;
+    shape.verticalFlip = number % 4 == 0;
+    shape.line = {number % 10 != 0,
+                  static_cast<float>(number % 6) * 0.75F,
+                  Color::direct(number * 0x010203),
+                  1 + number % 8,
+                  Color::of(ppAccent2),
+                  number % 9 == 0 ? 1 + number % 48 : -2,
+                  1 + number % 5,
+                  share,
+                  {1 + number % 6, 1 + number % 3, 1 + number / 3 % 3},
+                  {1 + number / 6 % 6, 1 + number / 9 % 3, 1 + number / 27 % 3}};
+    shape.fill = {number % 11 != 0, msoFillGradient, Color::direct(0xFFFFFF - number * 0x010101), Color::of(ppAccent1),
+                  share};
+    shape.fill.gradientStyle = 1 + number % 7;
+    shape.fill.gradientVariant = 1 + number % 4;
+    shape.shadow.visible = number % 5 == 0;
+    shape.shadow.offsetX = static_cast<float>(number % 7) - 3;
+    shape.threeD.visible = number % 5 == 1;
+    shape.threeD.direction = shape.threeD.lighting = 1 + number % 9;
+    shape.threeD.softness = 1 + number % 3;
+    shape.threeD.material = 1 + number % 4;
+    TextStory& text = *shape.text;
+    text.layout.orientation = static_cast<MsoTextOrientation>(1 + number % 6);
+    text.layout.anchor = static_cast<MsoVerticalAnchor>(1 + number % 5);
+    text.layout.centered = number % 2 == 0;
+    text.layout.wordWrap = number % 7 != 0;
+    if (number % 3 != 0) {
+        return;
+    }
+    text.replace({}, u"Le  n\u00B0\r" + automation::decimal(number) + u"\tou plus\vloin");
+    text.format({0, 30}, [](CharacterFormat& format) { format.size = 8; });
+    text.format({1, 9}, [&](CharacterFormat& format) {
+        constexpr std::array fonts{u"Arial", u"Times New Roman", u"Courier New", u"Verdana"};
+        format = {fonts.at(static_cast<std::size_t>(number / 3) % fonts.size()),
+                  9,
+                  number % 2 == 0,
+                  number % 4 == 0,
+                  number % 5 == 0,
+                  Color::direct(number),
+                  number % 7 == 0,
+                  number % 6 == 0,
+                  number % 9 == 0,
+                  share};
+    });
+    text.formatParagraphs({static_cast<std::size_t>(number % 2) * 9, 1}, [&](ParagraphFormat& format) {
+        format = {static_cast<PpParagraphAlignment>(1 + number / 3 % 5),
+                  1 + number % 5,
+                  static_cast<PpBulletType>(number / 3 % 3),
+                  0x2013,
+                  1 + share,
+                  share * 2,
+                  1 - share};
+    });
+}
+
+/// A slide for every effect that a file can name, the first of them with a layout each.
+inline void addEffects(Presentation& presentation) {
+    for (std::int32_t effect = 0; effect < 4096; ++effect) {
+        if (!entryEffect::isKnown(effect) || entryEffect::effectOf(entryEffect::codeOf(effect)) != effect) {
+            continue;
+        }
+        const std::size_t place = presentation.slides().size();
+        presentation.insert(std::make_shared<Slide>(), place);
+        Slide& added = *presentation.slides().back();
+        added.transition = {
+            effect,         1 + effect % 3, effect % 2 == 0, effect % 3 == 0, static_cast<float>(effect % 4) / 2,
+            effect % 5 == 0};
+        if (place < layouts().size()) {
+            layOut(added, layouts()[place]);
+        }
+    }
+}
+
+inline Frame placeOnGrid(std::int32_t number) {
+    return {static_cast<float>(8 + number % 14 * 50), static_cast<float>(8 + number / 14 * 53), 40, 31.125F};
+}
+
+/// Fills that a shape has no number for, and what is no AutoShape.
+inline void addOtherShapes(Slide& slide) {
+    constexpr std::int32_t patterns = 48;
+    for (std::int32_t pattern = 1; pattern <= patterns + 3; ++pattern) {
+        const ShapePtr shape = newShape::textBox(placeOnGrid(pattern));
+        const bool isPattern = pattern <= patterns;
+        shape->fill.visible = true;
+        shape->fill.type = isPattern ? msoFillPatterned : pattern % 2 == 0 ? msoFillTextured : msoFillBackground;
+        shape->fill.pattern = isPattern ? pattern : 0;
+        slide.add(shape);
+    }
+    slide.shapes().front()->setFrame({-20000, 10, 50000, 50});
+    for (const MsoConnectorType type : {msoConnectorStraight, msoConnectorElbow, msoConnectorCurve}) {
+        slide.add(newShape::connector(type, {10, 300}, {static_cast<float>(type) * 60, 350}));
+    }
+    slide.add(newShape::freeform({{200, 300}, {250, 280, true}, {260, 390, true}, {290, 300}, {240, 360}}));
+    slide.add(newShape::freeform({{300, 300}, {350, 280}, {380, 360}, {300, 300}}));
+    const ShapePtr picture = newShape::picture(u"C:\\Cours\\Photo.bmp", {400, 300, 90, 60});
+    const ShapePtr art = newShape::wordArt({u"Deux\rlignes", u"Georgia", 24, true, true, 3}, 500, 300);
+    art->shadow.visible = true;
+    slide.add(picture);
+    slide.add(art);
+    group(slide, {picture, art})->rotation = 30;
+}
+
+inline void addTables(Slide& slide) {
+    const ShapePtr table = newShape::table(3, 3, {40, 400, 240, 90});
+    slide.add(table);
+    TableGrid grid(*table);
+    (void)grid.merge(grid.cellAt(0, 0), grid.cellAt(0, 1));
+    (void)grid.split(grid.cellAt(1, 1), 2, 1);
+    grid.cellAt(0, 0).shape->text->replace({}, u"fusionn\u00E9e");
+    grid.commit(table);
+    const ShapePtr mirrored = newShape::table(2, 2, {320, 400, 200, 90});
+    slide.add(mirrored);
+    TableGrid turned(*mirrored);
+    turned.setLength(TableAxis::Columns, 0, 60);
+    turned.addDiagonal(turned.cellAt(0, 0), ppBorderDiagonalUp);
+    turned.addDiagonal(turned.cellAt(1, 1), ppBorderDiagonalDown);
+    turned.mirror();
+    turned.commit(mirrored);
+    for (const ShapePtr& item : mirrored->items()) {
+        item->line.visible = true;
+    }
+}
+
+/// Every layout, effect and master; every AutoShape, fill, line, anchor and flow; tables, and what joins and groups
+/// shapes.
+inline PresentationPtr everyKind() {
+    auto presentation = std::make_shared<Presentation>();
+    presentation->slideWidth = presentation->notesHeight = 756;
+    presentation->slideHeight = presentation->notesWidth = 594;
+    presentation->onSlides = {{true, u"5 mai"}, {true, u""}, {false, u""}, {true, u"Pied"}, false, 3};
+    presentation->onPages = {{true, u""}, {false, u""}, {true, u"Titre"}, {false, u"Bas"}, true, 13};
+    presentation->areOnTitleSlides = false;
+    presentation->slideShow = {2, 2, 3, 3, 1, true, false, false};
+    addEffects(*presentation);
+    (void)addTitleMaster(*presentation);
+    slideMasterOf(*presentation)->adoptBackground(newShape::autoShape(msoShapeRectangle, {}));
+    (void)handoutMasterOf(*presentation);
+    const auto shapes = std::make_shared<Slide>();
+    const auto others = std::make_shared<Slide>();
+    presentation->insert(shapes, 0);
+    presentation->insert(others, 1);
+    for (std::int32_t type = 1; type <= lastAutoShape; ++type) {
+        shapes->add(newShape::autoShape(type, placeOnGrid(type - 1)));
+        formatByNumber(*shapes->shapes().back(), type);
+    }
+    shapes->shapes().back()->id = 5000; // beyond the numbers that one cluster has
+    shapes->insert(shapes->shapes().front()->clone(), 0);
+    shapes->shapes().front()->id = 1024;
+    addOtherShapes(*others);
+    addTables(*others);
+    (void)notesPageOf(*others);
     return presentation;
 }
 
