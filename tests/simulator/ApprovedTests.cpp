@@ -87,6 +87,16 @@ std::string recordsOf(const Presentation& presentation) {
     return out.str();
 }
 
+/// All bytes of a file, a line a sector.
+std::string sectorsOf(const std::string& file) {
+    constexpr std::size_t sector = 512;
+    std::string lines;
+    for (std::size_t place = 0; place < file.size(); place += sector) {
+        lines += hex(std::string_view(file).substr(place, sector)) + '\n';
+    }
+    return lines;
+}
+
 TEST(Approved, PicturesOfEveryKind) {
     expectApproved("kinds.svg", pictureOf(*file_tests::everyKind()));
     expectApproved("rich.svg", pictureOf(*file_tests::richPresentation()));
@@ -95,6 +105,7 @@ TEST(Approved, PicturesOfEveryKind) {
 TEST(Approved, RecordsOfEveryKind) {
     expectApproved("kinds.records", recordsOf(*file_tests::everyKind()));
     expectApproved("rich.records", recordsOf(*file_tests::richPresentation()));
+    expectApproved("rich.sectors", sectorsOf(powerpoint::writePresentation(*file_tests::richPresentation())));
 }
 
 } // namespace simulator::approved_tests

@@ -8,6 +8,7 @@
 #include "simulator/document/Presentation.h"
 #include "simulator/document/SlideLayout.h"
 #include "simulator/document/TableGrid.h"
+#include "tests/trials/learners/Draw.h"
 
 #include <array>
 
@@ -176,24 +177,72 @@ inline void addOtherShapes(Slide& slide) {
     group(slide, {picture, art})->rotation = 30;
 }
 
+/// One change of a table, drawn at random.
+inline void changeTable(TableGrid& grid, trials::learners::Draw& draw) {
+    const TableAxis axis = draw.percent(50) ? TableAxis::Rows : TableAxis::Columns;
+    const std::size_t place = draw.below(grid.count(axis));
+    const auto anyCell = [&] {
+        const std::size_t row = draw.below(grid.count(TableAxis::Rows));
+        return grid.cellAt(row, draw.below(grid.count(TableAxis::Columns)));
+    };
+    const TablePart cell = anyCell();
+    const Frame frame = grid.frame();
+    switch (draw.below(8)) {
+    case 0: grid.insert(axis, place + draw.below(2), place); break;
+    case 1:
+        if (grid.count(axis) > 1) {
+            grid.erase(axis, place);
+        }
+        break;
+    case 2: (void)grid.merge(cell, anyCell()); break;
+    case 3: (void)grid.split(cell, 1 + place, 1 + draw.below(3)); break;
+    case 4: grid.setLength(axis, place, static_cast<float>(draw.between(8, 50))); break;
+    case 5: grid.mirror(); break;
+    case 6: grid.addDiagonal(cell, place % 2 == 0 ? ppBorderDiagonalUp : ppBorderDiagonalDown); break;
+    default: grid.stretch({frame.left, frame.top, static_cast<float>(draw.between(70, 140)), frame.height + 9}); break;
+    }
+}
+
+/// Tables that have been changed in every way.
 inline void addTables(Slide& slide) {
-    const ShapePtr table = newShape::table(3, 3, {40, 400, 240, 90});
-    slide.add(table);
-    TableGrid grid(*table);
-    (void)grid.merge(grid.cellAt(0, 0), grid.cellAt(0, 1));
-    (void)grid.split(grid.cellAt(1, 1), 2, 1);
-    grid.cellAt(0, 0).shape->text->replace({}, u"fusionn\u00E9e");
-    grid.commit(table);
-    const ShapePtr mirrored = newShape::table(2, 2, {320, 400, 200, 90});
-    slide.add(mirrored);
-    TableGrid turned(*mirrored);
-    turned.setLength(TableAxis::Columns, 0, 60);
-    turned.addDiagonal(turned.cellAt(0, 0), ppBorderDiagonalUp);
-    turned.addDiagonal(turned.cellAt(1, 1), ppBorderDiagonalDown);
-    turned.mirror();
-    turned.commit(mirrored);
-    for (const ShapePtr& item : mirrored->items()) {
-        item->line.visible = true;
+    trials::learners::Draw draw(1);
+    for (std::int32_t number = 0; number < 20; ++number) {
+        const Frame frame{static_cast<float>(8 + number % 5 * 148), static_cast<float>(8 + number / 5 * 145), 110, 90};
+        const ShapePtr table = newShape::table(3, 3, frame);
+        slide.add(table);
+        for (std::size_t place = 0; place < 9; ++place) {
+            TextStory& text = *TableGrid(*table).cellAt(place / 3, place % 3).shape->text;
+            text.replace({}, std::u16string(1, static_cast<char16_t>(u'a' + place)));
+            text.format({0, 1}, [&](CharacterFormat& format) { format.size = static_cast<float>(8 + place); });
+        }
+        for (std::int32_t change = 0; change < 2 + number / 3; ++change) {
+            TableGrid grid(*table);
+            changeTable(grid, draw);
+            grid.commit(table);
+        }
+        TableGrid(*table).commit(table); // rows that have been merged are gone
+    }
+}
+
+/// Every character of Latin-1 and some others, in rows; and rows in every font.
+inline void addTexts(Slide& slide) {
+    std::u16string all;
+    for (char16_t each = u'!'; each < 0x120; each = each == u'~' ? u'\u00A0' : static_cast<char16_t>(each + 1)) {
+        all += all.size() % 7 == 6 ? std::u16string{u' ', each} : std::u16string(1, each);
+    }
+    slide.add(newShape::textBox({20, 20, 300, 40}));
+    slide.shapes().back()->text->replace({}, all + u" \u2019\t\u4E2D \U0001F600  fin");
+    slide.shapes().back()->text->format({all.size() + 5, 1}, [](CharacterFormat& format) { format.bold = true; });
+    slide.add(newShape::textBox({400, 20, 165, 40}));
+    TextStory& text = *slide.shapes().back()->text;
+    for (const std::u16string_view font :
+         {u"Arial", u"Arial Black", u"Arial Narrow", u"Comic Sans MS", u"Courier New", u"Garamond", u"Impact",
+          u"Tahoma", u"Times New Roman", u"Verdana", u"Inconnue"}) {
+        const Span line = text.replace({text.text().size(), 0}, u"Portez ce whisky\r");
+        text.format(line, [&](CharacterFormat& format) {
+            format.fontName = font;
+            format.bold = font.size() % 2 == 0;
+        });
     }
 }
 
@@ -212,9 +261,13 @@ inline PresentationPtr everyKind() {
     slideMasterOf(*presentation)->adoptBackground(newShape::autoShape(msoShapeRectangle, {}));
     (void)handoutMasterOf(*presentation);
     const auto shapes = std::make_shared<Slide>();
-    const auto others = std::make_shared<Slide>();
     presentation->insert(shapes, 0);
-    presentation->insert(others, 1);
+    std::size_t place = 1;
+    for (const auto add : {addOtherShapes, addTables, addTexts}) {
+        presentation->insert(std::make_shared<Slide>(), place);
+        add(*presentation->slides()[place]);
+        ++place;
+    }
     for (std::int32_t type = 1; type <= lastAutoShape; ++type) {
         shapes->add(newShape::autoShape(type, placeOnGrid(type - 1)));
         formatByNumber(*shapes->shapes().back(), type);
@@ -222,9 +275,7 @@ inline PresentationPtr everyKind() {
     shapes->shapes().back()->id = 5000; // beyond the numbers that one cluster has
     shapes->insert(shapes->shapes().front()->clone(), 0);
     shapes->shapes().front()->id = 1024;
-    addOtherShapes(*others);
-    addTables(*others);
-    (void)notesPageOf(*others);
+    (void)notesPageOf(*shapes);
     return presentation;
 }
 
