@@ -1,6 +1,7 @@
 #include "automation/MemberTable.h"
 
 #include <bit>
+#include <cassert>
 
 namespace automation {
 
@@ -21,6 +22,8 @@ void MemberTable::index() {
     for (std::size_t i = 0; i < members_.size(); ++i) {
         std::size_t slot = members_[i].name.hash() & mask;
         while (slots_[slot] != 0) {
+            [[maybe_unused]] const Name& other = members_[slots_[slot] - 1U].name;
+            assert(other.hash() != members_[i].name.hash() || other.matches(members_[i].name)); // as `find` relies on
             slot = (slot + 1) & mask;
         }
         slots_[slot] = static_cast<std::uint16_t>(i + 1);
@@ -37,8 +40,8 @@ const Member* MemberTable::find(const Name& name) const noexcept {
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t slot = name.hash() & mask; slots_[slot] != 0; slot = (slot + 1) & mask) {
         const Member& member = members_[slots_[slot] - 1U];
-        if (member.name.matches(name)) {
-            return &member;
+        if (member.name.hash() == name.hash()) {
+            return member.name.matches(name) ? &member : nullptr;
         }
     }
     return nullptr;

@@ -65,7 +65,7 @@ public:
     Value(float value) noexcept : storage_(value) {}
     Value(double value) noexcept : storage_(value) {}
     Value(std::u16string value) noexcept : storage_(std::move(value)) {}
-    Value(std::u16string_view value) : storage_(std::u16string(value)) {}
+    Value(std::u16string_view value) : storage_(std::in_place_type<std::u16string>, value) {}
     Value(const char16_t* value) : Value(std::u16string_view(value)) {}
     Value(std::nullptr_t) noexcept : storage_(ObjectPtr()) {}
     template <std::derived_from<Object> T>

@@ -2,6 +2,7 @@
 
 #include "simulator/document/TextAnchors.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cstddef>
 #include <span>
@@ -39,7 +40,10 @@ public:
     [[nodiscard]] const std::vector<ParagraphFormat>& paragraphFormats() const noexcept { return paragraphFormats_; }
 
     /// The part of a span that holds text of this story; an empty one at the end where there is none.
-    [[nodiscard]] Span clipped(Span span) const noexcept;
+    [[nodiscard]] Span clipped(Span span) const noexcept {
+        const std::size_t start = std::min(span.start, text_.size());
+        return {start, std::min(span.length, text_.size() - start)};
+    }
 
     /// Puts text in the place of a span; it takes the format of the first character replaced, or of the one before an
     /// empty span (after it at the very start). "\r\n" becomes a paragraph mark, "\n" alone a line break; new

@@ -70,8 +70,12 @@ Spans runsOf(const TextStory& story) {
     return spans;
 }
 
-/// Those of the units that a range touches.
-std::span<const Span> touching(Span range, const Spans& units) {
+/// Those of a story's units that a range touches: all of them, without a search, where it is the whole text, of which
+/// words are asked for most.
+std::span<const Span> touching(const TextStory& story, Span range, const Spans& units) {
+    if (range.start == 0 && range.end() == story.text().size()) {
+        return units;
+    }
     const auto first = std::upper_bound(units.begin(), units.end(), range.start,
                                         [](std::size_t place, const Span& unit) { return place < unit.end(); });
     const auto last = std::lower_bound(first, units.end(), range.end(),
@@ -101,7 +105,7 @@ std::size_t countUnits(const TextStory& story, Span range, TextUnit unit) {
         return range.length;
     }
     Spans made;
-    return touching(range, unitsOf(story, range, unit, made)).size();
+    return touching(story, range, unitsOf(story, range, unit, made)).size();
 }
 
 Span spanOfUnits(const TextStory& story, Span range, TextUnit unit, std::size_t first, std::size_t count) {
@@ -110,7 +114,7 @@ Span spanOfUnits(const TextStory& story, Span range, TextUnit unit, std::size_t 
         return {range.start + skipped, std::min(count, range.length - skipped)};
     }
     Spans made;
-    const std::span<const Span> units = touching(range, unitsOf(story, range, unit, made));
+    const std::span<const Span> units = touching(story, range, unitsOf(story, range, unit, made));
     if (units.empty() || range.length == 0) {
         return {range.end(), 0};
     }

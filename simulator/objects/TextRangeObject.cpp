@@ -44,9 +44,6 @@ std::u16string_view memberNameOf(TextUnit unit) {
 
 } // namespace
 
-TextRangeObject::TextRangeObject(SessionPtr session, TextPart part, TextUnit unit)
-    : PowerPointObject(std::move(session)), part_(std::move(part)), unit_(unit) {}
-
 const automation::MemberTable& TextRangeObject::members() const {
     using automation::method;
     using automation::property;
@@ -86,8 +83,10 @@ const automation::MemberTable& TextRangeObject::members() const {
     return table;
 }
 
-std::u16string TextRangeObject::text() const {
-    return part_.read([](const TextStory& story, Span span) { return story.text().substr(span.start, span.length); });
+std::u16string_view TextRangeObject::text() const {
+    return part_.read([](const TextStory& story, Span span) {
+        return std::u16string_view(story.text()).substr(span.start, span.length);
+    });
 }
 
 void TextRangeObject::setText(const std::u16string& text) {

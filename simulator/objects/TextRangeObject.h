@@ -13,11 +13,13 @@ public:
     using Pointer = std::shared_ptr<TextRangeObject>;
 
     /// `unit` is what the range was asked as, and what it counts.
-    TextRangeObject(SessionPtr session, TextPart part, TextUnit unit = TextUnit::Range);
+    TextRangeObject(SessionPtr session, TextPart part, TextUnit unit = TextUnit::Range)
+        : PowerPointObject(std::move(session)), part_(std::move(part)), unit_(unit) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
-    [[nodiscard]] std::u16string text() const;
+    /// Stands until the text changes.
+    [[nodiscard]] std::u16string_view text() const;
     /// The new text takes the format of the first character replaced.
     void setText(const std::u16string& text);
     /// Place of the first character in the shape's text, from 1.

@@ -27,21 +27,15 @@ Session::Session(MainWindow& window, PresentationStore& store, Settings& setting
     updateTitle();
 }
 
-void Session::admit() const {
+void Session::refuse() const {
     switch (state_) {
-    case State::Running:
-        if (window_.dialogs() != 0) {
-            throw automation::Error(automation::remote::retryLater, {},
-                                    u"L'application est occupée : une boîte de dialogue est ouverte.");
-        }
-        if (onCall_) {
-            onCall_();
-        }
-        return;
     case State::Busy:
         throw automation::Error(automation::remote::callRejected, {}, u"L'appel a été rejeté par l'appelé.");
     case State::Gone:
         throw automation::Error(automation::remote::serverUnavailable, {}, u"Le serveur RPC n'est pas disponible.");
+    default:
+        throw automation::Error(automation::remote::retryLater, {},
+                                u"L'application est occupée : une boîte de dialogue est ouverte.");
     }
 }
 

@@ -56,7 +56,14 @@ public:
 
     /// To be called before every automation call: raises CallRejected while PowerPoint is busy, RetryLater while a
     /// dialog waits for its user, ServerUnavailable once it has ended.
-    void admit() const;
+    void admit() const {
+        if (state_ != State::Running || window_.dialogs() != 0) {
+            refuse();
+        }
+        if (onCall_) {
+            onCall_();
+        }
+    }
     [[nodiscard]] State state() const noexcept { return state_; }
     void setBusy(bool busy) noexcept;
     /// Asks what becomes of each presentation that has changed since it was saved, and ends the run; stays where the
@@ -113,6 +120,8 @@ public:
     [[nodiscard]] DocumentWindowPtr windowOf(const Presentation& presentation) const;
 
 private:
+    /// Raises what stands against a call.
+    [[noreturn]] void refuse() const;
     [[nodiscard]] PresentationPtr presentationAt(std::u16string_view path) const;
     void demandFrame() const;
     void addWindow(const PresentationPtr& presentation);

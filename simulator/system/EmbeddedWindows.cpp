@@ -49,9 +49,12 @@ WindowHandle EmbeddedWindows::foreground() const {
 }
 
 WindowHandle EmbeddedWindows::ownedBy(WindowHandle window) const {
-    const auto owned = [window](const Window& each) { return window != 0 && each.traits.owner == window; };
-    const auto top = std::find_if(windows_.begin(), windows_.end(), owned);
-    return top == windows_.end() ? 0 : top->handle;
+    for (const Window& each : windows_) {
+        if (each.traits.owner == window && window != 0) {
+            return each.handle;
+        }
+    }
+    return 0;
 }
 
 WindowHandle EmbeddedWindows::findWindow(std::u16string_view className) {
