@@ -22,7 +22,12 @@ std::u16string withParagraphMarks(std::u16string_view text) {
 }
 
 std::size_t marksIn(std::u16string_view text) {
-    return static_cast<std::size_t>(std::count(text.begin(), text.end(), TextStory::paragraphMark));
+    std::size_t count = 0;
+    for (std::size_t place = text.find(TextStory::paragraphMark); place != std::u16string_view::npos;
+         place = text.find(TextStory::paragraphMark, place + 1)) {
+        ++count;
+    }
+    return count;
 }
 
 template <typename T> auto iteratorAt(std::vector<T>& items, std::size_t place) {
@@ -47,11 +52,6 @@ TextStory::TextStory(std::u16string text, std::vector<Run> runs, std::vector<Par
         throw std::invalid_argument("a text has more or fewer paragraphs than formats for them");
     }
     join();
-}
-
-Span TextStory::clipped(Span span) const noexcept {
-    const std::size_t start = std::min(span.start, text_.size());
-    return {start, std::min(span.length, text_.size() - start)};
 }
 
 Span TextStory::replace(Span span, std::u16string_view text) {

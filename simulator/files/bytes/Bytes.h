@@ -34,7 +34,7 @@ public:
         if (length > left()) {
             raiseEnd(length);
         }
-        const std::string_view taken = bytes_.substr(place_, length);
+        const std::string_view taken(bytes_.data() + place_, length);
         place_ += length;
         return taken;
     }

@@ -3,6 +3,7 @@
 #include "simulator/files/bytes/Bytes.h"
 #include "simulator/files/compound/Layout.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace simulator::compound {
@@ -29,6 +30,7 @@ std::string SectorTable::chain(std::uint32_t first, std::string_view purpose) {
 
 std::string SectorTable::chainUpTo(std::uint32_t first, std::uint64_t size, std::string_view purpose) {
     std::string bytes;
+    bytes.reserve(static_cast<std::size_t>(std::min<std::uint64_t>(size, sectors_.size())) + sectorSize_);
     for (std::uint32_t sector = first; sector != endOfChain && bytes.size() < size;) {
         bytes += claim(sector, purpose);
         if (sector >= next_.size()) {

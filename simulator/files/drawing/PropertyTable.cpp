@@ -83,6 +83,12 @@ void PropertyTable::put(Property property) {
 }
 
 void PropertyTable::merge(PropertyTable other) {
+    const auto isDisorder = [](const Property& left, const Property& right) { return left.id >= right.id; };
+    if (properties_.empty() &&
+        std::adjacent_find(other.properties_.begin(), other.properties_.end(), isDisorder) == other.properties_.end()) {
+        properties_ = std::move(other.properties_); // in order already, as nearly all are
+        return;
+    }
     properties_.reserve(properties_.size() + other.properties_.size());
     for (Property& property : other.properties_) {
         const auto place = std::lower_bound(properties_.begin(), properties_.end(), property.id,

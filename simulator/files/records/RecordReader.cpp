@@ -25,17 +25,27 @@ constexpr std::array lookedInto{
 };
 
 struct Header {
-    Record record;
+    std::uint16_t type = 0;
+    std::uint16_t instance = 0;
+    std::uint8_t version = 0;
     std::size_t length = 0;
+
+    /// Begins the record that has this header and stands there.
+    void begin(Record& record, std::size_t offset) const noexcept {
+        record.type = type;
+        record.instance = instance;
+        record.version = version;
+        record.offset = offset;
+    }
 };
 
 Header readHeader(std::string_view bytes) {
     files::ByteReader in(bytes, "a record header");
     const auto first = in.read<std::uint16_t>();
     Header header;
-    header.record.version = static_cast<std::uint8_t>(first & 0xFU);
-    header.record.instance = static_cast<std::uint16_t>(first >> 4U);
-    header.record.type = in.read<std::uint16_t>();
+    header.version = static_cast<std::uint8_t>(first & 0xFU);
+    header.instance = static_cast<std::uint16_t>(first >> 4U);
+    header.type = in.read<std::uint16_t>();
     header.length = in.read<std::uint32_t>();
     return header;
 }
@@ -53,10 +63,20 @@ std::optional<Fault> check(std::string_view bytes, std::size_t offset, Header& h
     }
     header = readHeader(bytes);
     if (header.length > bytes.size() - headerSize) {
-        return Fault{offset, "record " + hex(header.record.type) + " says " + std::to_string(header.length) +
-                                 " bytes, " + std::to_string(bytes.size() - headerSize) + " are left"};
+        return Fault{offset, "record " + hex(header.type) + " says " + std::to_string(header.length) + " bytes, " +
+                                 std::to_string(bytes.size() - headerSize) + " are left"};
     }
     return std::nullopt;
+}
+
+/// How many records stand one behind the other, as their headers say.
+std::size_t countIn(std::string_view body) {
+    std::size_t count = 0;
+    for (; body.size() >= headerSize; ++count) {
+        const std::size_t length = readHeader(body).length;
+        body.remove_prefix(headerSize + std::min(length, body.size() - headerSize));
+    }
+    return count;
 }
 
 std::optional<Fault> readInto(Record& record, std::string_view body, std::size_t offset, int depth) {
@@ -68,17 +88,19 @@ std::optional<Fault> readInto(Record& record, std::string_view body, std::size_t
         return Fault{offset, "record " + hex(record.type) + " is nested too deeply"};
     }
     const bool isLookedInto = std::find(lookedInto.begin(), lookedInto.end(), record.type) != lookedInto.end();
+    record.children.reserve(countIn(body));
     for (std::size_t place = 0; place < body.size();) {
         Header header;
         std::optional<Fault> fault = check(body.substr(place), offset + place, header);
-        header.record.offset = offset + place;
         if (fault && isLookedInto) {
             record.tail = body.substr(place);
             return std::nullopt;
         }
         if (!fault) {
-            fault = readInto(header.record, body.substr(place + headerSize, header.length), offset + place + headerSize,
-                             depth + 1);
+            Record& child = record.children.emplace_back();
+            header.begin(child, offset + place);
+            fault =
+                readInto(child, body.substr(place + headerSize, header.length), offset + place + headerSize, depth + 1);
         }
         if (fault && isLookedInto) {
             return fault;
@@ -88,7 +110,6 @@ std::optional<Fault> readInto(Record& record, std::string_view body, std::size_t
             record.data = body;
             return std::nullopt;
         }
-        record.children.push_back(std::move(header.record));
         place += headerSize + header.length;
     }
     return std::nullopt;
@@ -106,19 +127,20 @@ Header demandHeader(std::string_view stream, std::size_t offset) {
     if (const auto fault = check(stream.substr(offset), offset, header)) {
         fail(*fault);
     }
-    header.record.offset = offset;
     return header;
 }
 
 } // namespace
 
 Record readRecord(std::string_view stream, std::size_t offset) {
-    Header header = demandHeader(stream, offset);
+    const Header header = demandHeader(stream, offset);
     const std::size_t start = offset + headerSize;
-    if (const auto fault = readInto(header.record, stream.substr(start, header.length), start, 0)) {
+    Record record;
+    header.begin(record, offset);
+    if (const auto fault = readInto(record, stream.substr(start, header.length), start, 0)) {
         fail(*fault);
     }
-    return std::move(header.record);
+    return record;
 }
 
 std::size_t sizeOfRecord(std::string_view stream, std::size_t offset) {

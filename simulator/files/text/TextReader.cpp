@@ -20,11 +20,13 @@ std::u16string charactersOf(const std::vector<Record>& block) {
     if (const Record* const wide = find(block, type::TextCharsAtom)) {
         return files::utf16Text(wide->data);
     }
-    std::u16string text;
-    if (const Record* const narrow = find(block, type::TextBytesAtom)) {
-        std::transform(narrow->data.begin(), narrow->data.end(), std::back_inserter(text),
-                       [](char byte) { return static_cast<char16_t>(static_cast<unsigned char>(byte)); });
+    const Record* const narrow = find(block, type::TextBytesAtom);
+    if (narrow == nullptr) {
+        return {};
     }
+    std::u16string text(narrow->data.size(), u'\0');
+    std::transform(narrow->data.begin(), narrow->data.end(), text.begin(),
+                   [](char byte) { return static_cast<char16_t>(static_cast<unsigned char>(byte)); });
     return text;
 }
 
