@@ -131,10 +131,11 @@ StyleRuns changedRuns(const StyleRuns& before, const TextStory& asRead, const Te
             StyleRun run = characters.at(from);
             const CharacterFormat& formerly = asRead.formatAt(from);
             const CharacterFormat& current = now.formatAt(start);
+            if (!(formerly == current)) {
+                change(run.exception, codeOf(formerly, fonts), codeOf(current, fonts), character::fields);
+            }
             if (levels.at(from) != format.indentLevel) {
                 complete(run.exception, codeOf(current, fonts), character::fields); // what it inherits is another's
-            } else if (!(formerly == current)) {
-                change(run.exception, codeOf(formerly, fonts), codeOf(current, fonts), character::fields);
             }
             run.length = 1;
             StyleRuns::append(out.characters, std::move(run));

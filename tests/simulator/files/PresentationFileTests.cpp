@@ -108,6 +108,21 @@ TEST(PresentationFile, WritesChangesOverWhatWasRead) {
     EXPECT_EQ(powerpoint::writePresentation(*read), powerpoint::writePresentation(*presentation));
 }
 
+/// Each shape of a file takes over what another one looks like.
+TEST(PresentationFile, WritesEveryChangeOverWhatWasRead) {
+    const PresentationPtr presentation =
+        powerpoint::readPresentation(powerpoint::writePresentation(*file_tests::everyKind()));
+    Slide& slide = *presentation->slides().front();
+    std::int32_t number = 0;
+    for (const ShapePtr& shape : slide.shapes()) {
+        shape->text->replace({0, shape->text->text().size()}, {});
+        file_tests::formatByNumber(*shape, 3 * ++number % 137);
+        shape->setFrame(file_tests::placeOnGrid(number));
+    }
+    const PresentationPtr read = powerpoint::readPresentation(powerpoint::writePresentation(*presentation));
+    expectSame(slide.shapes(), read->slides().front()->shapes(), *read->slides().front());
+}
+
 /// A store over a folder of its own.
 class PresentationStoreTest : public testing::Test {
 protected:
