@@ -56,7 +56,7 @@ char32_t nextUtf8(std::string_view text, std::size_t& position) {
         }
         point = (point << 6U) | (next & 0x3FU);
     }
-    constexpr std::array<char32_t, 4> smallest{0, 0x80, 0x800, 0x10000};
+    constexpr auto smallest = std::to_array<char32_t>({0, 0x80, 0x800, 0x10000});
     if (point < smallest.at(tails) || point > 0x10FFFF || (point >= 0xD800 && point < 0xE000)) {
         return replacement;
     }

@@ -80,7 +80,7 @@ private:
         if (coloured == 0 && words == 6) {
             return cause(u"D");
         }
-        const std::array<std::u16string_view, 3> parts{u"tout", u"à", u"fait"};
+        const std::array parts{u"tout", u"à", u"fait"};
         if (!contains(u"tout à fait")) {
             return cause(u"F");
         }

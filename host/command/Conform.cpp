@@ -22,8 +22,8 @@ using language::Scenario;
 using language::ScenarioFile;
 using nlohmann::ordered_json;
 
-constexpr std::array<const char*, 3> namesOfKept{"agrees", "differs", "cannot tell"};
-constexpr std::array<const char*, 3> namesOfGrounds{"documented", "assumed", "contested"};
+constexpr std::array namesOfKept{"agrees", "differs", "cannot tell"};
+constexpr std::array namesOfGrounds{"documented", "assumed", "contested"};
 
 /// How many expectations came out so.
 struct Tally {

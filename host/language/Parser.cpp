@@ -135,11 +135,11 @@ private:
 
     /// Reads a line of the contract. False where it is none.
     bool contract(LineParser& words, Position place) {
-        constexpr std::array<std::tuple<std::u16string_view, TokenKind, Expectation::Kind>, 3> verdicts{{
+        constexpr auto verdicts = std::to_array<std::tuple<std::u16string_view, TokenKind, Expectation::Kind>>({
             {u"letter", TokenKind::Text, Expectation::Kind::Letter},
             {u"remark", TokenKind::Text, Expectation::Kind::Remark},
             {u"error", TokenKind::Number, Expectation::Kind::Error},
-        }};
+        });
         for (const auto& [word, next, kind] : verdicts) {
             if (words.takeWordBefore(next, word)) {
                 meaning(words.meaning(kind), place);
@@ -225,8 +225,8 @@ private:
     /// Reads the line below the title of a promise that says why it is believed, and what hangs on it. False where it
     /// is none.
     bool grounds(LineParser& words, Position place) {
-        constexpr std::array<std::pair<std::u16string_view, Grounds>, 3> all{
-            {{u"documented", Grounds::Documented}, {u"assumed", Grounds::Assumed}, {u"contested", Grounds::Contested}}};
+        constexpr auto all = std::to_array<std::pair<std::u16string_view, Grounds>>(
+            {{u"documented", Grounds::Documented}, {u"assumed", Grounds::Assumed}, {u"contested", Grounds::Contested}});
         for (const auto& [word, grounds] : all) {
             if (words.takeWordBefore(TokenKind::Text, word)) {
                 if (file_.className.empty() || file_.scenarios.empty() || !block_->empty()) {

@@ -21,7 +21,8 @@ HttpResponse page(const std::string& name) {
         std::string_view ending;
         const char* type;
     };
-    constexpr std::array<Type, 3> types{{{".html", "text/html"}, {".css", "text/css"}, {".js", "text/javascript"}}};
+    constexpr auto types =
+        std::to_array<Type>({{".html", "text/html"}, {".css", "text/css"}, {".js", "text/javascript"}});
     const PageFile* const file = findPageFile(name.empty() ? "index.html" : name);
     if (file == nullptr) {
         return {404, "text/plain", "There is no such page.\n"};

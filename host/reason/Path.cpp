@@ -111,7 +111,7 @@ std::string Path::place(const Surname& surname) const {
 
 std::string Path::behind() const {
     // A text is spoken of as its shape's.
-    constexpr std::array<std::u16string_view, 2> unsaid{u"TextFrame", u"TextRange"};
+    constexpr auto unsaid = std::to_array<std::u16string_view>({u"TextFrame", u"TextRange"});
     std::string text;
     for (std::size_t i = stepsToPlace(); i < steps_.size(); ++i) {
         const bool isUnsaid = std::find(unsaid.begin(), unsaid.end(), steps_[i].member) != unsaid.end();

@@ -49,8 +49,8 @@ constexpr auto wordings = std::to_array<Wording>({
     {u"", "in its colour"},
 });
 
-constexpr std::array<std::string_view, 5> wordsForMarks{" is gone", "behind ZOR", "into a group", "in the group",
-                                                        "the group holds"};
+constexpr auto wordsForMarks =
+    std::to_array<std::string_view>({" is gone", "behind ZOR", "into a group", "in the group", "the group holds"});
 
 /// `TextBox` as "text box".
 std::string spaced(std::string_view name) {
@@ -76,7 +76,7 @@ bool Topic::names(std::u16string_view member) const {
 }
 
 bool Topic::namesConstant(const std::string& constant) const {
-    constexpr std::array<std::string_view, 3> stems{"msoShape", "ppPlaceholder", "mso"};
+    constexpr auto stems = std::to_array<std::string_view>({"msoShape", "ppPlaceholder", "mso"});
     return std::any_of(stems.begin(), stems.end(), [&](std::string_view stem) {
         return constant.starts_with(stem) && holds(spaced(std::string_view(constant).substr(stem.size())));
     });

@@ -24,8 +24,8 @@ constexpr std::int32_t ppSelectionText = 3;
 
 constexpr std::int32_t plan = 6; ///< ppSaveAsRTF
 /// The types of the dialog, as it lists them, with their numbers.
-constexpr std::array<std::pair<std::u16string_view, std::int32_t>, 4> saveTypes{
-    {{u"Présentation", 1}, {u"Modèle de conception", 5}, {u"Diaporama PowerPoint", 7}, {u"Plan/RTF", plan}}};
+constexpr auto saveTypes = std::to_array<std::pair<std::u16string_view, std::int32_t>>(
+    {{u"Présentation", 1}, {u"Modèle de conception", 5}, {u"Diaporama PowerPoint", 7}, {u"Plan/RTF", plan}});
 
 std::int32_t number(const LateBound& object, std::u16string_view member) {
     return object.get(member).to<std::int32_t>();

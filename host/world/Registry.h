@@ -28,7 +28,8 @@ public:
 namespace folderSettings {
 
 inline constexpr std::u16string_view key = u"SOFTWARE\\Microsoft\\Office\\11.0\\Powerpoint\\RecentFolderList";
-inline constexpr std::array<std::u16string_view, 4> names{u"Default", u"MultimediaDir", u"PictureDir", u"TemplateDir"};
+inline constexpr auto names =
+    std::to_array<std::u16string_view>({u"Default", u"MultimediaDir", u"PictureDir", u"TemplateDir"});
 
 /// The folders, in the order of the names.
 [[nodiscard]] inline std::array<std::u16string, 4> in(Registry& registry) {
