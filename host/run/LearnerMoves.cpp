@@ -56,8 +56,8 @@ void deleteShape(const LateBound& shape, const LateBound& shapes) {
         return;
     }
     const std::int32_t kind = number(memberOf(shape, u"PlaceholderFormat"), u"Type");
-    const std::array<float, 4> frame{length(shape, u"Left"), length(shape, u"Top"), length(shape, u"Width"),
-                                     length(shape, u"Height")};
+    const std::array frame{length(shape, u"Left"), length(shape, u"Top"), length(shape, u"Width"),
+                           length(shape, u"Height")};
     shape.call(u"Delete");
     shapes.call(u"AddPlaceholder", kind, frame[0], frame[1], frame[2], frame[3]);
 }
