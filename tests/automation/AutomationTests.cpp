@@ -188,12 +188,32 @@ TEST(Observers, MakeTheNthCallFail) {
     EXPECT_EQ(failures(FaultInjector::Lasting::FromThereOn), ".xxx");
 }
 
-TEST(Text, SurvivesTheWayToUtf8AndBack) {
-    const std::u16string text = u"Méthodologie \u20AC \U0001F600";
-    EXPECT_EQ(fromUtf8(toUtf8(text)), text);
-    EXPECT_EQ(fromUtf8("a\xC3"), u"a\uFFFD");
-    EXPECT_EQ(fromUtf8("\xC0\xAF"), u"\uFFFD\uFFFD") << "overlong";
-    EXPECT_EQ(toUtf8(std::u16string(1, char16_t(0xD800))), "\xEF\xBF\xBD");
+TEST(Text, IsTheSameInUtf8AndInUtf16) {
+    const std::vector<std::pair<std::u16string, std::string>> same = {
+        {u"Méthodologie \u20AC", "M\xC3\xA9thodologie \xE2\x82\xAC"},
+        {u"\u007F\u0080\u07FF", "\x7F\xC2\x80\xDF\xBF"},
+        {u"\u0800\uD7FF\uE000\uFFFF", "\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF"},
+        {u"\U00010000\U0001F5FF\U0010FFFF", "\xF0\x90\x80\x80\xF0\x9F\x97\xBF\xF4\x8F\xBF\xBF"},
+    };
+    for (const auto& [text, bytes] : same) {
+        EXPECT_EQ(toUtf8(text), bytes);
+        EXPECT_EQ(fromUtf8(bytes), text) << bytes;
+    }
+    for (const char* const wrong :
+         {"\x80", "\xC0\xAF", "\xC1\xBF", "\xC3", "\xC3\x28", "\xC3\xC3", "\xE0\x9F\xBF", "\xED\xA0\x80",
+          "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF5\x80"}) {
+        const std::u16string read = fromUtf8(wrong);
+        EXPECT_EQ(read.find_first_not_of(u"\uFFFD("), std::u16string::npos) << wrong;
+        EXPECT_EQ(read.front(), u'\uFFFD') << wrong;
+    }
+    const char16_t high = 0xD83D;
+    const char16_t low = 0xDC00;
+    for (const std::u16string& half :
+         {std::u16string{high}, {low}, {high, u'a'}, {high, u'\uE000'}, {low, low}, {high, high}}) {
+        EXPECT_TRUE(toUtf8(half).starts_with("\xEF\xBF\xBD")) << toUtf8(half);
+    }
+    EXPECT_STREQ(automation::Error(65535, {}, {}).what(), "65535");
+    EXPECT_STREQ(automation::Error(65536, {}, {}).what(), "00010000");
 }
 
 TEST(Text, IsInLowerCaseAsUnicodeHasIt) {
