@@ -200,7 +200,7 @@ private:
         if (block_ == nullptr || block_ == &file_.contract.delivered) {
             wrong_.push_back({place, "expected 'course' before the first scenario"});
         }
-        file_.scenarios.push_back({place, {}, false, {}, {}, {}}); // whatever is wrong with its title
+        file_.scenarios.emplace_back().place = place; // whatever is wrong with its title
         block_ = &file_.scenarios.back().statements;
         const std::u16string title = words.text("the title of the scenario, in quotes");
         words.end();

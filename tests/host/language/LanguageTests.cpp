@@ -103,6 +103,7 @@ TEST(Language, NamesTheFirstWrongWordOfEveryWrongLine) {
         {"msoTrue = 3", "t.scn:4:1: expected a variable, found the fixed name 'msoTrue'"},
         {"Presentations(1) = 3", "t.scn:4:1: expected a variable or a member before '='"},
         {"s.Add(1) 2", "t.scn:4:10: expected '=' or the end of the line, found 2"},
+        {"Call 3", "t.scn:4:6: expected a member, found 3"},
         {"3.Left = 2", "t.scn:4:1: expected a statement, found 3"},
         {"check B", "t.scn:4:7: expected a letter in quotes, success, remark, general or error, found 'B'"},
         {"check \"C\" complement 3", "t.scn:4:22: expected a complementary text, in quotes, found 3"},
