@@ -1,5 +1,7 @@
 #include "simulator/document/TextStory.h"
 
+#include "simulator/document/ParagraphMarks.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -23,8 +25,8 @@ std::u16string withParagraphMarks(std::u16string_view text) {
 
 std::size_t marksIn(std::u16string_view text) {
     std::size_t count = 0;
-    for (std::size_t place = text.find(TextStory::paragraphMark); place != std::u16string_view::npos;
-         place = text.find(TextStory::paragraphMark, place + 1)) {
+    for (std::size_t place = findParagraphMark(text, 0); place != std::u16string_view::npos;
+         place = findParagraphMark(text, place + 1)) {
         ++count;
     }
     return count;

@@ -1,3 +1,4 @@
+#include "simulator/document/ParagraphMarks.h"
 #include "simulator/files/records/RecordTypes.h"
 #include "simulator/files/text/StyleRuns.h"
 #include "simulator/files/text/TextRecords.h"
@@ -57,7 +58,7 @@ private:
         RunWalk characters(styles_.characters);
         std::size_t start = 0;
         for (bool isLast = false; !isLast;) {
-            const std::size_t mark = text_.find(TextStory::paragraphMark, start);
+            const std::size_t mark = findParagraphMark(text_, start);
             isLast = mark == std::u16string::npos;
             addParagraph(paragraphs.at(start), characters.at(start));
             start = isLast ? text_.size() : mark + 1;

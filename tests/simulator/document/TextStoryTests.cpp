@@ -51,8 +51,13 @@ TEST(TextStory, KeepsParagraphFormatsWithTheirParagraphs) {
         std::string levels;
     };
     const std::vector<Case> cases{
-        {{1, 1}, u"", "134"},    {{3, 0}, u"x\ry\rz", "122234"}, {{1, 3}, u"-", "14"},
-        {{0, 9}, u"p\rq", "14"}, {{7, 0}, u"\r", "12344"},       {{3, 1}, u"\r", "1234"},
+        {{1, 1}, u"", "134"},
+        {{3, 0}, u"x\ry\rz", "122234"},
+        {{1, 3}, u"-", "14"},
+        {{0, 9}, u"p\rq", "14"},
+        {{7, 0}, u"\r", "12344"},
+        {{3, 1}, u"\r", "1234"},
+        {{1, 0}, u"\u010D\u0D0D\r", "11234"}, // two that have a mark's byte, and a mark
     };
     for (const Case& test : cases) {
         TextStory story = storyOf(u"a\rb\rc\rd");
