@@ -12,7 +12,6 @@ ShapePtr group(Slide& slide, const std::vector<ShapePtr>& shapes) {
     const std::size_t place = slide.placeOf(*items.back()) + 1 - items.size();
     auto group = std::make_shared<Shape>();
     group->type = msoGroup;
-    group->autoShapeType = msoShapeMixed;
     slide.add(group);
     for (const ShapePtr& item : items) {
         slide.remove(item);

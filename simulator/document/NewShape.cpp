@@ -17,7 +17,6 @@ constexpr float lineHeight = 1.2F;
 ShapePtr make(MsoShapeType type, const Frame& frame) {
     auto shape = std::make_shared<Shape>();
     shape->type = type;
-    shape->autoShapeType = msoShapeMixed;
     shape->setFrame(frame);
     return shape;
 }

@@ -92,8 +92,8 @@ public:
     std::int32_t id = 0; ///< unique on the slide
     std::u16string name;
     MsoShapeType type = msoAutoShape;
-    std::int32_t autoShapeType = 1; ///< msoShapeRectangle; -2 (mixed) for what is no AutoShape
-    float rotation = 0;             ///< degrees
+    std::int32_t autoShapeType = msoShapeMixed; ///< so for what is no AutoShape
+    float rotation = 0;                         ///< degrees
     bool horizontalFlip = false;
     bool verticalFlip = false;
     bool visible = true;

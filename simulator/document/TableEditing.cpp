@@ -35,7 +35,6 @@ void TableGrid::addLine(const TablePart& place, bool isVisible) {
     parts_.back().shape = std::make_shared<Shape>();
     Shape& line = *parts_.back().shape;
     line.type = msoLine;
-    line.autoShapeType = msoShapeMixed;
     line.fill.visible = false;
     line.line.visible = isVisible;
     line.line.weight = 1;

@@ -118,7 +118,6 @@ ShapePtr ShapeReader::group(const Record& record, const Mapping& mapping, std::i
     const PropertyTable properties = propertiesOf(own);
     auto shape = std::make_shared<Shape>();
     shape->type = msoGroup;
-    shape->autoShapeType = msoShapeMixed;
     readIdentity(own, Looks({&properties}), *shape);
     const Edges inner = coordinatesOf(own);
     const Edges said = edgesOf(own, mapping).value_or(inner);

@@ -76,7 +76,7 @@ void writeName(Record& record, const Slide& slide, const SlideOrigin* origin) {
     const bool isUsual = slide.name == u"Slide" + automation::decimal(slide.id - reservedIds);
     const std::u16string wanted = isUsual ? std::u16string() : slide.name;
     const std::u16string said = origin == nullptr ? std::u16string() : origin->name;
-    if (wanted == said || slide.name == said) {
+    if (slide.name == said) {
         return;
     }
     std::erase_if(record.children, [](const Record& child) { return child.is(type::CString, slideNameInstance); });
