@@ -141,15 +141,16 @@ def mistakes(check, client, folder):
 
 
 def ends(check, host, folder, driver):
-    """Ctrl-C and the closing of the tab in the middle of an exercise: nothing is left behind."""
-    for name in ("Ctrl-C", "the tab is closed"):
+    """A signal and the closing of the tab in the middle of an exercise: nothing is left behind."""
+    signals = {"Ctrl-C": signal.SIGINT, "the terminal is closed": signal.SIGHUP}
+    for name in (*signals, "the tab is closed"):
         with tempfile.TemporaryDirectory() as temporary, Player(host, folder, "315", TMPDIR=temporary) as player:
             first = driver.current_window_handle
             driver.switch_to.new_window("tab")
             page = Page(driver, player.address)
             page.click((360, 180))
-            if name == "Ctrl-C":
-                player.process.send_signal(signal.SIGINT)
+            if name in signals:
+                player.process.send_signal(signals[name])
                 player.process.wait(15)
             driver.close()
             driver.switch_to.window(first)

@@ -165,12 +165,13 @@ def main(host):
         terminal.type(INTERRUPT)
         check("no warning where all is saved", "" if "not saved" not in terminal.wait_for(CLOSED) else "a warning")
     check("Ctrl-C closes the question", "" if (code := terminal.end()) == 0 else f"exit code {code}")
-    terminal = Terminal(host, "try", "314")
-    terminal.wait_for(PROMPT)
-    terminal.answer("x = 1")
-    os.kill(terminal.process, signal.SIGTERM)
-    terminal.wait_for(CLOSED)
-    check("a request to end closes the question", "" if (code := terminal.end()) == 0 else f"exit code {code}")
+    for request, move in ((signal.SIGINT, "?1"), (signal.SIGTERM, "x = 1"), (signal.SIGHUP, "x = 1")):
+        terminal = Terminal(host, "try", "314")
+        terminal.wait_for(PROMPT)
+        terminal.answer(move)
+        os.kill(terminal.process, request)
+        terminal.wait_for(CLOSED)
+        check(f"{request.name} closes the question", "" if (code := terminal.end()) == 0 else f"exit code {code}")
     print(f"{sum(results)} passed, {len(results) - sum(results)} failed")
     return 0 if all(results) else 1
 
