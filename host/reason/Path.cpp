@@ -123,9 +123,7 @@ std::string Path::behind() const {
 }
 
 std::string Path::display() const {
-    const std::string where = place();
-    const std::string what = behind();
-    return where + (where.empty() || what.empty() ? "" : ": ") + what;
+    return place() + ": " + behind();
 }
 
 Path Path::first(std::size_t steps) const {

@@ -2,6 +2,7 @@
 #include "automation/Text.h"
 #include "host/language/Parser.h"
 #include "host/language/Words.h"
+#include "host/report/Page.h"
 #include "host/run/Runner.h"
 #include "host/world/RealFile.h"
 #include "host/world/TemporaryFolder.h"
@@ -210,6 +211,16 @@ TEST_F(HostTest, ReportsTakeThePlaceOfEarlierOnesAndOfNothingElse) {
     host::writeContents(in("p/after.svg"), "<svg/>");
     EXPECT_NE(said({"run", "306", "--picture", in("p")}, ExitCode::WrongUsage).find("after.svg is there already"),
               std::string::npos);
+}
+
+TEST(Page, HoldsPicturesThatAreNoDrawings) {
+    host::report::Attempt attempt;
+    attempt.reading.emplace();
+    attempt.slides = {{1, {"png", "a"}, {"png", "ab"}}, {2, {"png", "abc"}, {"png", "\xFF\xFE>?"}}};
+    const std::string page = host::report::asPage({{"t.scn", 306, "", {}, {{"t", 1, {attempt}, {}}}}}, "");
+    for (const char* const content : {"YQ==", "YWI=", "YWJj", "//4+Pw=="}) {
+        EXPECT_NE(page.find("data:image/png;base64," + std::string(content) + '"'), std::string::npos) << content;
+    }
 }
 
 TEST_F(HostTest, ACourseThatCannotBeBuiltFailsAllItsScenarios) {

@@ -39,6 +39,9 @@ TEST(Delivery, SaysShapeByShapeWhatAPresentationLacks) {
         {s + "Set t = s(1).TextFrame.TextRange.Paragraphs(1)\nexpect t.Find(\"parfaitement \").Text = \"parfaitement "
              "\"",
          "slide 1, shape 1, paragraph 1: its text does not hold \"parfaitement \""},
+        {"Dim a(ActivePresentation.Slides(9).SlideIndex)",
+         "error 80048240 Slides.Item : Entier hors limites. 9 n'appartient pas à la plage valide de 1 à 1. [Microsoft "
+         "PowerPoint]"},
         {"expect Files.Exists(\"a.doc\") = True", "Files.Exists(\"a.doc\") is False and should be True"},
     };
     for (const auto& [expectations, lacked] : cases) {
