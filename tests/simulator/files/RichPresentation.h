@@ -149,7 +149,8 @@ inline void addEffects(Presentation& presentation) {
 }
 
 inline Frame placeOnGrid(std::int32_t number) {
-    return {static_cast<float>(8 + number % 14 * 50), static_cast<float>(8 + number / 14 * 53), 40, 31.125F};
+    const std::int32_t row = number / 14;
+    return {static_cast<float>(8 + number % 14 * 50), static_cast<float>(8 + row * 53), 40, 31.125F};
 }
 
 /// Fills that a shape has no number for, and what is no AutoShape.
@@ -207,7 +208,8 @@ inline void changeTable(TableGrid& grid, trials::learners::Draw& draw) {
 inline void addTables(Slide& slide) {
     trials::learners::Draw draw(1);
     for (std::int32_t number = 0; number < 20; ++number) {
-        const Frame frame{static_cast<float>(8 + number % 5 * 148), static_cast<float>(8 + number / 5 * 145), 110, 90};
+        const std::int32_t row = number / 5;
+        const Frame frame{static_cast<float>(8 + number % 5 * 148), static_cast<float>(8 + row * 145), 110, 90};
         const ShapePtr table = newShape::table(3, 3, frame);
         slide.add(table);
         for (std::size_t place = 0; place < 9; ++place) {
