@@ -5,7 +5,7 @@
 #include "simulator/system/EmbeddedFiles.h"
 #include "simulator/system/EmbeddedKeyboard.h"
 #include "simulator/system/EmbeddedLocale.h"
-#include "simulator/system/EmbeddedProcess.h"
+#include "simulator/system/EmbeddedProgram.h"
 #include "simulator/system/EmbeddedRegistry.h"
 #include "simulator/system/EmbeddedServers.h"
 #include "simulator/system/EmbeddedStore.h"
@@ -45,11 +45,11 @@ struct Machine::Parts {
     }
 
     [[nodiscard]] bool isOpenInPowerPoint(const std::filesystem::path& file) const {
-        const SessionPtr session = process.session();
-        if (!session) {
+        const ProcessPtr process = program.process();
+        if (!process) {
             return false;
         }
-        const auto& open = session->presentations();
+        const auto& open = process->presentations();
         return std::any_of(open.begin(), open.end(), [&](const PresentationPtr& presentation) {
             return !presentation->path.empty() && files.realPath(presentation->path) == file;
         });
@@ -57,8 +57,8 @@ struct Machine::Parts {
 
     /// Does something with the main window while PowerPoint runs.
     template <typename Action> void onMainWindow(const Action& action) const {
-        if (const SessionPtr session = process.session()) {
-            action(session->window());
+        if (const ProcessPtr process = program.process()) {
+            action(process->window());
         }
     }
 
@@ -70,8 +70,8 @@ struct Machine::Parts {
     Settings settings;
     FilePresentationStore presentationFiles{[this](std::u16string_view path) { return files.realPath(path); }};
     EmbeddedStore store{presentationFiles, files};
-    EmbeddedProcess process{windows, store, settings};
-    EmbeddedServers servers{process};
+    EmbeddedProgram program{windows, store, settings};
+    EmbeddedServers servers{program};
     platform::Services services{windows, registry, files, keyboard, locale, servers};
 };
 
@@ -96,7 +96,7 @@ void Machine::createFile(std::u16string_view path) {
 }
 
 void Machine::startPowerPoint() {
-    parts_->process.start();
+    parts_->program.start();
     parts_->onMainWindow([](MainWindow& window) {
         window.setVisible(true);
         window.activate();
@@ -104,29 +104,29 @@ void Machine::startPowerPoint() {
 }
 
 bool Machine::isPowerPointRunning() const noexcept {
-    return parts_->process.isRunning();
+    return parts_->program.isRunning();
 }
 
 automation::ObjectPtr Machine::application() {
-    return parts_->process.application();
+    return parts_->program.application();
 }
 
-SessionPtr Machine::session() const noexcept {
-    return parts_->process.session();
+ProcessPtr Machine::process() const noexcept {
+    return parts_->program.process();
 }
 
 platform::WindowHandle Machine::mainWindow() const noexcept {
-    const SessionPtr session = parts_->process.session();
-    return session ? session->window().handle() : 0;
+    const ProcessPtr process = parts_->program.process();
+    return process ? process->window().handle() : 0;
 }
 
 void Machine::endPowerPoint() {
-    parts_->process.end();
+    parts_->program.end();
 }
 
 void Machine::endPowerPointAtCall(std::int32_t n) {
-    if (const SessionPtr session = parts_->process.session()) {
-        session->onCall([this, left = n]() mutable {
+    if (const ProcessPtr process = parts_->program.process()) {
+        process->onCall([this, left = n]() mutable {
             if (--left == 0) {
                 endPowerPoint();
                 throw automation::Error(automation::remote::callFailed, {}, u"L'appel de procédure distante a échoué.");
@@ -136,8 +136,8 @@ void Machine::endPowerPointAtCall(std::int32_t n) {
 }
 
 void Machine::setBusy(bool busy) {
-    if (const SessionPtr session = parts_->process.session()) {
-        session->setBusy(busy);
+    if (const ProcessPtr process = parts_->program.process()) {
+        process->setBusy(busy);
     }
 }
 
@@ -179,7 +179,7 @@ const std::vector<std::u16string>& Machine::droppedUnasked() const noexcept {
 }
 
 void Machine::uninstallPowerPoint() {
-    parts_->process.uninstall();
+    parts_->program.uninstall();
 }
 
 platform::WindowHandle Machine::foregroundWindow() const {

@@ -11,7 +11,7 @@
 
 namespace simulator {
 
-class Session;
+class Process;
 
 /// A computer of its own, in memory, with PowerPoint 2003 installed for one user: what the module needs of Windows, and
 /// what happens to PowerPoint beside the object model. Its files are real files: `C:\Dossier\x.ppt` is the file
@@ -38,7 +38,7 @@ public:
     /// PowerPoint's application object; null where it does not run.
     [[nodiscard]] automation::ObjectPtr application();
     /// The run of PowerPoint in progress, with its documents and windows; null where there is none.
-    [[nodiscard]] std::shared_ptr<Session> session() const noexcept;
+    [[nodiscard]] std::shared_ptr<Process> process() const noexcept;
     /// Handle of PowerPoint's main window; 0 where it does not run.
     [[nodiscard]] platform::WindowHandle mainWindow() const noexcept;
     /// The user closes PowerPoint, or its process dies: objects held on it are dead from then on.

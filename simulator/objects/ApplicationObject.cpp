@@ -45,51 +45,51 @@ const automation::MemberTable& ApplicationObject::members() const {
 
 bool ApplicationObject::isSame(const Object& other) const noexcept {
     const auto* const application = dynamic_cast<const ApplicationObject*>(&other);
-    return application != nullptr && application->session() == session();
+    return application != nullptr && application->process() == process();
 }
 
 std::shared_ptr<PresentationsObject> ApplicationObject::presentations() const {
-    return std::make_shared<PresentationsObject>(session());
+    return std::make_shared<PresentationsObject>(process());
 }
 
 std::shared_ptr<DocumentWindowsObject> ApplicationObject::windows() const {
-    return std::make_shared<DocumentWindowsObject>(session());
+    return std::make_shared<DocumentWindowsObject>(process());
 }
 
 std::shared_ptr<SlideShowWindowsObject> ApplicationObject::slideShowWindows() const {
-    return std::make_shared<SlideShowWindowsObject>(session());
+    return std::make_shared<SlideShowWindowsObject>(process());
 }
 
 std::shared_ptr<CommandBarsObject> ApplicationObject::commandBars() const {
-    return std::make_shared<CommandBarsObject>(session());
+    return std::make_shared<CommandBarsObject>(process());
 }
 
 std::shared_ptr<DocumentWindowObject> ApplicationObject::activeWindow() const {
-    const DocumentWindowPtr window = session()->activeWindow();
+    const DocumentWindowPtr window = process()->activeWindow();
     if (!window) {
         errors::invalidRequest(unknownMember, u"Aucune fenêtre de document n'est active.");
     }
-    return std::make_shared<DocumentWindowObject>(session(), window);
+    return std::make_shared<DocumentWindowObject>(process(), window);
 }
 
 std::shared_ptr<PresentationObject> ApplicationObject::activePresentation() const {
-    const DocumentWindowPtr window = session()->activeWindow();
+    const DocumentWindowPtr window = process()->activeWindow();
     if (!window) {
         errors::invalidRequest(unknownMember, u"Aucune présentation n'est active.");
     }
-    return std::make_shared<PresentationObject>(session(), window->presentation);
+    return std::make_shared<PresentationObject>(process(), window->presentation);
 }
 
 MsoTriState ApplicationObject::active() const {
-    return triState(session()->window().isActive());
+    return triState(process()->window().isActive());
 }
 
 MsoTriState ApplicationObject::visible() const {
-    return triState(session()->window().isVisible());
+    return triState(process()->window().isVisible());
 }
 
 void ApplicationObject::setVisible(MsoTriState visible) const {
-    MainWindow& window = session()->window();
+    MainWindow& window = process()->window();
     if (visible == msoFalse && window.isVisible()) {
         errors::invalidRequest(unknownMember, u"Il est interdit de masquer la fenêtre de l'application.");
     }
@@ -100,15 +100,15 @@ void ApplicationObject::setWindowState(PpWindowState state) const {
     if (state < ppWindowNormal || state > ppWindowMaximized) {
         errors::invalidRequest(u"Application.WindowState", u"La valeur n'est pas un état de fenêtre.");
     }
-    session()->window().setState(state);
+    process()->window().setState(state);
 }
 
 MsoTriState ApplicationObject::showStartupDialog() const {
-    return triState(session()->settings().showStartupDialog);
+    return triState(process()->settings().showStartupDialog);
 }
 
 void ApplicationObject::setShowStartupDialog(MsoTriState shown) const {
-    session()->settings().showStartupDialog = shown != msoFalse;
+    process()->settings().showStartupDialog = shown != msoFalse;
 }
 
 } // namespace simulator

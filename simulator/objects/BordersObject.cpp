@@ -19,7 +19,7 @@ const automation::MemberTable& BordersObject::members() const {
 }
 
 automation::ObjectPtr BordersObject::owner() const {
-    return std::make_shared<CellObject>(session(), nodes().first());
+    return std::make_shared<CellObject>(process(), nodes().first());
 }
 
 std::shared_ptr<LineFormatObject> BordersObject::item(PpBorderType borderType) const {
@@ -40,7 +40,7 @@ std::shared_ptr<LineFormatObject> BordersObject::item(PpBorderType borderType) c
     if (isChanged) {
         grid.commit(table);
     }
-    return std::make_shared<LineFormatObject>(session(), lines);
+    return std::make_shared<LineFormatObject>(process(), lines);
 }
 
 } // namespace simulator

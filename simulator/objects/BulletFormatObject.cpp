@@ -11,8 +11,8 @@ constexpr std::int32_t mixedCharacter = -2;
 
 } // namespace
 
-BulletFormatObject::BulletFormatObject(SessionPtr session, TextPart part)
-    : PowerPointObject(std::move(session)), part_(std::move(part)) {}
+BulletFormatObject::BulletFormatObject(ProcessPtr process, TextPart part)
+    : PowerPointObject(std::move(process)), part_(std::move(part)) {}
 
 const automation::MemberTable& BulletFormatObject::members() const {
     using automation::property;
@@ -66,7 +66,7 @@ void BulletFormatObject::setCharacter(std::int32_t character) {
 }
 
 automation::ObjectPtr BulletFormatObject::owner() const {
-    return std::make_shared<ParagraphFormatObject>(session(), part_);
+    return std::make_shared<ParagraphFormatObject>(process(), part_);
 }
 
 } // namespace simulator

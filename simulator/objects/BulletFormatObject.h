@@ -8,7 +8,7 @@ namespace simulator {
 /// Members raise `errors::gone` where the shape is gone.
 class BulletFormatObject final : public PowerPointObject {
 public:
-    BulletFormatObject(SessionPtr session, TextPart part);
+    BulletFormatObject(ProcessPtr process, TextPart part);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

@@ -28,20 +28,20 @@ const automation::MemberTable& CellObject::members() const {
 }
 
 automation::ObjectPtr CellObject::owner() const {
-    return std::make_shared<TableObject>(session(), node()->group());
+    return std::make_shared<TableObject>(process(), node()->group());
 }
 
 std::shared_ptr<BordersObject> CellObject::borders() const {
-    return std::make_shared<BordersObject>(session(), node());
+    return std::make_shared<BordersObject>(process(), node());
 }
 
 std::shared_ptr<ShapeObject> CellObject::shape() const {
-    return std::make_shared<ShapeObject>(session(), node());
+    return std::make_shared<ShapeObject>(process(), node());
 }
 
 bool CellObject::selected() const {
     const SlidePtr slide = simulator::alive(node()->slide);
-    const DocumentWindowPtr window = session()->windowOf(*simulator::alive(slide->presentation));
+    const DocumentWindowPtr window = process()->windowOf(*simulator::alive(slide->presentation));
     const std::vector<ShapePtr> shapes = window ? window->selection.shapes() : std::vector<ShapePtr>();
     return std::find(shapes.begin(), shapes.end(), node()) != shapes.end();
 }
@@ -78,7 +78,7 @@ void CellObject::split(std::int32_t numRows, std::int32_t numColumns) {
 }
 
 void CellObject::select() const {
-    selectShapes(*session(), {node()}, true);
+    selectShapes(*process(), {node()}, true);
 }
 
 } // namespace simulator

@@ -20,15 +20,15 @@ const automation::MemberTable& CellRangeObject::members() const {
 }
 
 automation::ObjectPtr CellRangeObject::owner() const {
-    return std::make_shared<TableObject>(session(), nodes().first()->group());
+    return std::make_shared<TableObject>(process(), nodes().first()->group());
 }
 
 std::shared_ptr<CellObject> CellRangeObject::item(std::int32_t index) const {
-    return std::make_shared<CellObject>(session(), nodes().at(placeIn(nodes().size(), index, u"CellRange.Item")));
+    return std::make_shared<CellObject>(process(), nodes().at(placeIn(nodes().size(), index, u"CellRange.Item")));
 }
 
 std::shared_ptr<BordersObject> CellRangeObject::borders() const {
-    return std::make_shared<BordersObject>(session(), nodes());
+    return std::make_shared<BordersObject>(process(), nodes());
 }
 
 } // namespace simulator

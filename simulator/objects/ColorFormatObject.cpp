@@ -2,9 +2,9 @@
 
 namespace simulator {
 
-ColorFormatObject::ColorFormatObject(SessionPtr session, automation::ObjectPtr owner, Getter getter, Setter setter,
+ColorFormatObject::ColorFormatObject(ProcessPtr process, automation::ObjectPtr owner, Getter getter, Setter setter,
                                      Scheme scheme, Mixture mixture)
-    : PowerPointObject(std::move(session)), owner_(std::move(owner)), getter_(std::move(getter)),
+    : PowerPointObject(std::move(process)), owner_(std::move(owner)), getter_(std::move(getter)),
       setter_(std::move(setter)), scheme_(std::move(scheme)), mixture_(std::move(mixture)) {}
 
 const automation::MemberTable& ColorFormatObject::members() const {

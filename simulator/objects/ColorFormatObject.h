@@ -18,7 +18,7 @@ public:
     /// The functions raise `errors::gone` where what bears the colour is gone. `mixture` says whether there are several
     /// colours, of which the getter gives the first.
     ColorFormatObject(
-        SessionPtr session, automation::ObjectPtr owner, Getter getter, Setter setter, Scheme scheme,
+        ProcessPtr process, automation::ObjectPtr owner, Getter getter, Setter setter, Scheme scheme,
         Mixture mixture = [] { return false; });
 
     [[nodiscard]] const automation::MemberTable& members() const override;

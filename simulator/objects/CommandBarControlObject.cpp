@@ -41,11 +41,11 @@ void CommandBarControlObject::execute() const {
 }
 
 automation::ObjectPtr CommandBarControlObject::owner() const {
-    return std::make_shared<CommandBarObject>(session(), bar_);
+    return std::make_shared<CommandBarObject>(process(), bar_);
 }
 
 ShapePtr CommandBarControlObject::openCurve() const {
-    const DocumentWindowPtr window = session()->activeWindow();
+    const DocumentWindowPtr window = process()->activeWindow();
     const std::vector<ShapePtr> selected = window ? window->selection.shapes() : std::vector<ShapePtr>();
     const bool isOpenCurve = selected.size() == 1 && selected.front()->type == msoFreeform && !selected.front()->closed;
     return isOpenCurve ? selected.front() : nullptr;

@@ -14,8 +14,8 @@ public:
     static constexpr std::int32_t stateFocusable = 0x100000; ///< STATE_SYSTEM_FOCUSABLE
 
     /// Both places are from 0.
-    CommandBarControlObject(SessionPtr session, std::size_t bar, std::size_t place)
-        : PowerPointObject(std::move(session)), bar_(bar), place_(place) {}
+    CommandBarControlObject(ProcessPtr process, std::size_t bar, std::size_t place)
+        : PowerPointObject(std::move(process)), bar_(bar), place_(place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
-    [[nodiscard]] const CommandBar& bar() const { return session()->settings().commandBars.bars.at(bar_); }
+    [[nodiscard]] const CommandBar& bar() const { return process()->settings().commandBars.bars.at(bar_); }
     [[nodiscard]] const CommandBarControl& control() const { return bar().controls.at(place_); }
     /// The open freeform that is selected alone in the active window; null where there is none.
     [[nodiscard]] ShapePtr openCurve() const;

@@ -19,11 +19,11 @@ const automation::MemberTable& CommandBarControlsObject::members() const {
 std::shared_ptr<CommandBarControlObject> CommandBarControlsObject::item(const automation::Value& index) const {
     const auto nameAt = [this](std::size_t place) { return controls()[place].caption; };
     const std::size_t place = placeIn(controls().size(), index, u"CommandBarControls.Item", nameAt);
-    return std::make_shared<CommandBarControlObject>(session(), bar_, place);
+    return std::make_shared<CommandBarControlObject>(process(), bar_, place);
 }
 
 automation::ObjectPtr CommandBarControlsObject::owner() const {
-    return std::make_shared<CommandBarObject>(session(), bar_);
+    return std::make_shared<CommandBarObject>(process(), bar_);
 }
 
 } // namespace simulator

@@ -10,7 +10,7 @@ class CommandBarObject;
 class CommandBarControlsObject final : public PowerPointObject {
 public:
     /// `bar` is the bar's place from 0.
-    CommandBarControlsObject(SessionPtr session, std::size_t bar) : PowerPointObject(std::move(session)), bar_(bar) {}
+    CommandBarControlsObject(ProcessPtr process, std::size_t bar) : PowerPointObject(std::move(process)), bar_(bar) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -21,7 +21,7 @@ public:
 
 private:
     [[nodiscard]] const std::vector<CommandBarControl>& controls() const {
-        return session()->settings().commandBars.bars.at(bar_).controls;
+        return process()->settings().commandBars.bars.at(bar_).controls;
     }
 
     std::size_t bar_;

@@ -41,11 +41,11 @@ void CommandBarObject::setPosition(MsoBarPosition position) const {
 }
 
 std::shared_ptr<CommandBarControlsObject> CommandBarObject::controls() const {
-    return std::make_shared<CommandBarControlsObject>(session(), place_);
+    return std::make_shared<CommandBarControlsObject>(process(), place_);
 }
 
 automation::ObjectPtr CommandBarObject::owner() const {
-    return std::make_shared<CommandBarsObject>(session());
+    return std::make_shared<CommandBarsObject>(process());
 }
 
 } // namespace simulator

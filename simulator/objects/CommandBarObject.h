@@ -11,7 +11,7 @@ class CommandBarsObject;
 class CommandBarObject final : public PowerPointObject {
 public:
     /// `place` is from 0.
-    CommandBarObject(SessionPtr session, std::size_t place) : PowerPointObject(std::move(session)), place_(place) {}
+    CommandBarObject(ProcessPtr process, std::size_t place) : PowerPointObject(std::move(process)), place_(place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -33,7 +33,7 @@ public:
     [[nodiscard]] automation::ObjectPtr owner() const override;
 
 private:
-    [[nodiscard]] CommandBar& bar() const { return session()->settings().commandBars.bars.at(place_); }
+    [[nodiscard]] CommandBar& bar() const { return process()->settings().commandBars.bars.at(place_); }
 
     std::size_t place_;
 };

@@ -18,13 +18,13 @@ const automation::MemberTable& CommandBarsObject::members() const {
 }
 
 std::int32_t CommandBarsObject::count() const {
-    return static_cast<std::int32_t>(session()->settings().commandBars.bars.size());
+    return static_cast<std::int32_t>(process()->settings().commandBars.bars.size());
 }
 
 std::shared_ptr<CommandBarObject> CommandBarsObject::item(const automation::Value& index) const {
-    const auto& bars = session()->settings().commandBars.bars;
+    const auto& bars = process()->settings().commandBars.bars;
     const auto nameAt = [&](std::size_t place) { return bars[place].name; };
-    return std::make_shared<CommandBarObject>(session(), placeIn(bars.size(), index, u"CommandBars.Item", nameAt));
+    return std::make_shared<CommandBarObject>(process(), placeIn(bars.size(), index, u"CommandBars.Item", nameAt));
 }
 
 std::shared_ptr<CommandBarObject> CommandBarsObject::activeMenuBar() const {

@@ -14,8 +14,8 @@ public:
     [[nodiscard]] std::int32_t count() const;
     /// By place from 1, or by name, case ignored. Raises an invalid request where there is none.
     [[nodiscard]] std::shared_ptr<CommandBarObject> item(const automation::Value& index) const;
-    [[nodiscard]] bool displayTooltips() const { return session()->settings().commandBars.displayTooltips; }
-    void setDisplayTooltips(bool displayed) const { session()->settings().commandBars.displayTooltips = displayed; }
+    [[nodiscard]] bool displayTooltips() const { return process()->settings().commandBars.displayTooltips; }
+    void setDisplayTooltips(bool displayed) const { process()->settings().commandBars.displayTooltips = displayed; }
     [[nodiscard]] std::shared_ptr<CommandBarObject> activeMenuBar() const;
 };
 

@@ -52,7 +52,7 @@ std::shared_ptr<ShapeObject> ConnectorFormatObject::objectAt(ConnectorEnd Connec
     if (!shape) {
         errors::invalidRequest(u"ConnectorFormat", u"Cette extrémité du connecteur n'est pas reliée.");
     }
-    return std::make_shared<ShapeObject>(session(), shape);
+    return std::make_shared<ShapeObject>(process(), shape);
 }
 
 std::int32_t ConnectorFormatObject::siteAt(ConnectorEnd Connector::*end) const {
@@ -75,7 +75,7 @@ void ConnectorFormatObject::release(ConnectorEnd Connector::*end) {
 }
 
 automation::ObjectPtr ConnectorFormatObject::owner() const {
-    return std::make_shared<ShapeObject>(session(), node());
+    return std::make_shared<ShapeObject>(process(), node());
 }
 
 } // namespace simulator

@@ -44,7 +44,7 @@ std::u16string DocumentWindowObject::caption() const {
 }
 
 MsoTriState DocumentWindowObject::active() const {
-    return triState(window() == session()->activeWindow());
+    return triState(window() == process()->activeWindow());
 }
 
 void DocumentWindowObject::setViewType(std::int32_t type) const {
@@ -70,8 +70,8 @@ void DocumentWindowObject::setWindowState(PpWindowState state) const {
 }
 
 std::shared_ptr<DocumentWindowObject> DocumentWindowObject::newWindow() const {
-    return std::make_shared<DocumentWindowObject>(session(),
-                                                  session()->openWindow(simulator::alive(window()->presentation)));
+    return std::make_shared<DocumentWindowObject>(process(),
+                                                  process()->openWindow(simulator::alive(window()->presentation)));
 }
 
 automation::ObjectPtr DocumentWindowObject::owner() const {
@@ -79,19 +79,19 @@ automation::ObjectPtr DocumentWindowObject::owner() const {
 }
 
 std::shared_ptr<PresentationObject> DocumentWindowObject::presentation() const {
-    return std::make_shared<PresentationObject>(session(), window()->presentation);
+    return std::make_shared<PresentationObject>(process(), window()->presentation);
 }
 
 std::shared_ptr<ViewObject> DocumentWindowObject::view() const {
-    return std::make_shared<ViewObject>(session(), window());
+    return std::make_shared<ViewObject>(process(), window());
 }
 
 std::shared_ptr<SelectionObject> DocumentWindowObject::selection() const {
-    return std::make_shared<SelectionObject>(session(), window());
+    return std::make_shared<SelectionObject>(process(), window());
 }
 
 std::shared_ptr<PanesObject> DocumentWindowObject::panes() const {
-    return std::make_shared<PanesObject>(session(), window());
+    return std::make_shared<PanesObject>(process(), window());
 }
 
 std::shared_ptr<PaneObject> DocumentWindowObject::activePane() const {

@@ -13,8 +13,8 @@ class ViewObject;
 /// DocumentWindow: a window on a presentation. Members raise `errors::gone` once it is closed.
 class DocumentWindowObject final : public PowerPointObject {
 public:
-    DocumentWindowObject(SessionPtr session, std::weak_ptr<DocumentWindow> window)
-        : PowerPointObject(std::move(session)), window_(std::move(window)) {}
+    DocumentWindowObject(ProcessPtr process, std::weak_ptr<DocumentWindow> window)
+        : PowerPointObject(std::move(process)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
     [[nodiscard]] automation::ObjectPtr owner() const override;
@@ -50,9 +50,9 @@ public:
 
     /// Another window on the same presentation, in front.
     [[nodiscard]] std::shared_ptr<DocumentWindowObject> newWindow() const;
-    void activate() const { session()->activate(window()); }
+    void activate() const { process()->activate(window()); }
     /// Closes the window, and its presentation with the last one.
-    void close() const { session()->closeWindow(window()); }
+    void close() const { process()->closeWindow(window()); }
 
 private:
     [[nodiscard]] DocumentWindowPtr window() const { return simulator::alive(window_); }

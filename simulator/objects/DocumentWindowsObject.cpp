@@ -24,7 +24,7 @@ std::int32_t DocumentWindowsObject::count() const {
 std::shared_ptr<DocumentWindowObject> DocumentWindowsObject::item(const automation::Value& index) const {
     const std::vector<DocumentWindowPtr> all = windows();
     const auto objectAt = [&](std::size_t place) {
-        return std::make_shared<DocumentWindowObject>(session(), all[place]);
+        return std::make_shared<DocumentWindowObject>(process(), all[place]);
     };
     const auto nameAt = [&](std::size_t place) { return objectAt(place)->caption(); };
     return objectAt(placeIn(all.size(), index, u"DocumentWindows.Item", nameAt));
@@ -37,7 +37,7 @@ void DocumentWindowsObject::arrange(std::optional<std::int32_t> arrangeStyle) co
     const std::int32_t style = arrangeStyle.value_or(ppArrangeTiled);
     errors::demandWithin(style, ppArrangeTiled, ppArrangeCascade, u"DocumentWindows.Arrange");
     const std::vector<DocumentWindowPtr> all = windows();
-    const Frame room{0, 0, session()->settings().mainWindow.width, session()->settings().mainWindow.height};
+    const Frame room{0, 0, process()->settings().mainWindow.width, process()->settings().mainWindow.height};
     for (std::size_t place = 0; place < all.size(); ++place) {
         const auto before = static_cast<float>(place);
         const float share = room.width / static_cast<float>(all.size());
@@ -49,7 +49,7 @@ void DocumentWindowsObject::arrange(std::optional<std::int32_t> arrangeStyle) co
 }
 
 std::vector<DocumentWindowPtr> DocumentWindowsObject::windows() const {
-    std::vector<DocumentWindowPtr> all = session()->windows();
+    std::vector<DocumentWindowPtr> all = process()->windows();
     if (presentation_) {
         const PresentationPtr shown = simulator::alive(*presentation_);
         std::erase_if(all, [&](const DocumentWindowPtr& window) { return window->presentation.lock() != shown; });

@@ -11,8 +11,8 @@ class DocumentWindowsObject final : public PowerPointObject {
 public:
     using PowerPointObject::PowerPointObject;
     /// The windows of one presentation.
-    DocumentWindowsObject(SessionPtr session, std::weak_ptr<Presentation> presentation)
-        : PowerPointObject(std::move(session)), presentation_(std::move(presentation)) {}
+    DocumentWindowsObject(ProcessPtr process, std::weak_ptr<Presentation> presentation)
+        : PowerPointObject(std::move(process)), presentation_(std::move(presentation)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

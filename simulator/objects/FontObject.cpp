@@ -11,8 +11,8 @@ constexpr float largestSize = 4000;
 
 } // namespace
 
-FontObject::FontObject(SessionPtr session, TextPart part)
-    : PowerPointObject(std::move(session)), part_(std::move(part)) {}
+FontObject::FontObject(ProcessPtr process, TextPart part)
+    : PowerPointObject(std::move(process)), part_(std::move(part)) {}
 
 const automation::MemberTable& FontObject::members() const {
     using automation::property;
@@ -71,7 +71,7 @@ std::shared_ptr<ColorFormatObject> FontObject::color() const {
     // Between two characters there is nothing to follow: the colour is that of the text to come there.
     const auto gone = [anchor, isBetween = anchor->span.length == 0] { return anchor->span.length == 0 && !isBetween; };
     return std::make_shared<ColorFormatObject>(
-        session(), self(),
+        process(), self(),
         [part, anchor, gone] {
             return part.read([&](const TextStory& story, Span) {
                 return (gone() ? anchor->format : story.formatAt(anchor->span.start)).color;
@@ -88,7 +88,7 @@ std::shared_ptr<ColorFormatObject> FontObject::color() const {
 }
 
 automation::ObjectPtr FontObject::owner() const {
-    return std::make_shared<TextRangeObject>(session(), part_);
+    return std::make_shared<TextRangeObject>(process(), part_);
 }
 
 } // namespace simulator

@@ -12,7 +12,7 @@ public:
     static constexpr int raised = 1;
     static constexpr int lowered = -1;
 
-    FontObject(SessionPtr session, TextPart part);
+    FontObject(ProcessPtr process, TextPart part);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

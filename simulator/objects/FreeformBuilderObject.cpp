@@ -32,11 +32,11 @@ std::shared_ptr<ShapeObject> FreeformBuilderObject::convertToShape() {
     const SlidePtr slide = simulator::alive(slide_);
     slide->add(shape);
     markChanged(*slide);
-    return std::make_shared<ShapeObject>(session(), shape);
+    return std::make_shared<ShapeObject>(process(), shape);
 }
 
 automation::ObjectPtr FreeformBuilderObject::owner() const {
-    return std::make_shared<ShapesObject>(session(), slide_);
+    return std::make_shared<ShapesObject>(process(), slide_);
 }
 
 } // namespace simulator

@@ -13,8 +13,8 @@ class ShapeObject;
 class FreeformBuilderObject final : public PowerPointObject {
 public:
     /// Starts at a point, in points on the slide.
-    FreeformBuilderObject(SessionPtr session, std::weak_ptr<Slide> slide, float x, float y)
-        : PowerPointObject(std::move(session)), slide_(std::move(slide)), path_({x, y}) {}
+    FreeformBuilderObject(ProcessPtr process, std::weak_ptr<Slide> slide, float x, float y)
+        : PowerPointObject(std::move(process)), slide_(std::move(slide)), path_({x, y}) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
     [[nodiscard]] automation::ObjectPtr owner() const override;

@@ -18,15 +18,15 @@ const automation::MemberTable& GroupShapesObject::members() const {
 
 std::vector<ShapePtr> GroupShapesObject::items() const {
     const ShapePtr group = node();
-    return session()->settings().isAsDocumented ? leavesOf(ShapeSet(group)).all() : group->items();
+    return process()->settings().isAsDocumented ? leavesOf(ShapeSet(group)).all() : group->items();
 }
 
 std::shared_ptr<ShapeObject> GroupShapesObject::item(const automation::Value& index) const {
-    return std::make_shared<ShapeObject>(session(), elementAt(items(), index, u"GroupShapes.Item"));
+    return std::make_shared<ShapeObject>(process(), elementAt(items(), index, u"GroupShapes.Item"));
 }
 
 automation::ObjectPtr GroupShapesObject::owner() const {
-    return std::make_shared<ShapeObject>(session(), node());
+    return std::make_shared<ShapeObject>(process(), node());
 }
 
 } // namespace simulator

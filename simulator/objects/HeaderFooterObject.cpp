@@ -18,7 +18,7 @@ const automation::MemberTable& HeaderFooterObject::members() const {
 }
 
 automation::ObjectPtr HeaderFooterObject::owner() const {
-    return std::make_shared<HeadersFootersObject>(session(), sheets_);
+    return std::make_shared<HeadersFootersObject>(process(), sheets_);
 }
 
 bool HeaderFooterObject::isSame(const Object& other) const noexcept {

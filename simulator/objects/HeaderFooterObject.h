@@ -7,8 +7,8 @@ namespace simulator {
 /// HeaderFooter: a header, a footer, the date or the number on some slides or a master. It reads that of the first.
 class HeaderFooterObject final : public PowerPointObject {
 public:
-    HeaderFooterObject(SessionPtr session, SlideSet sheets, HeaderFooter HeadersFooters::*part)
-        : PowerPointObject(std::move(session)), sheets_(std::move(sheets)), part_(part) {}
+    HeaderFooterObject(ProcessPtr process, SlideSet sheets, HeaderFooter HeadersFooters::*part)
+        : PowerPointObject(std::move(process)), sheets_(std::move(sheets)), part_(part) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
     /// HeadersFooters.

@@ -22,7 +22,7 @@ const automation::MemberTable& HeadersFootersObject::members() const {
 }
 
 automation::ObjectPtr HeadersFootersObject::owner() const {
-    return objectOf(session(), nodes().first());
+    return objectOf(process(), nodes().first());
 }
 
 std::shared_ptr<HeaderFooterObject> HeadersFootersObject::header() const {
@@ -47,7 +47,7 @@ void HeadersFootersObject::clear() {
 }
 
 std::shared_ptr<HeaderFooterObject> HeadersFootersObject::make(HeaderFooter HeadersFooters::*which) const {
-    return std::make_shared<HeaderFooterObject>(session(), nodes(), which);
+    return std::make_shared<HeaderFooterObject>(process(), nodes(), which);
 }
 
 } // namespace simulator

@@ -41,21 +41,21 @@ const automation::MemberTable& MasterObject::members() const {
 }
 
 automation::ObjectPtr MasterObject::owner() const {
-    return std::make_shared<PresentationObject>(session(), node()->presentation);
+    return std::make_shared<PresentationObject>(process(), node()->presentation);
 }
 
 std::shared_ptr<ShapesObject> MasterObject::shapes() const {
-    return std::make_shared<ShapesObject>(session(), node());
+    return std::make_shared<ShapesObject>(process(), node());
 }
 
 std::shared_ptr<ShapeRangeObject> MasterObject::background() const {
     const SlidePtr master = node();
     const ShapePtr shape = backgroundOf(*simulator::alive(master->presentation), *master);
-    return std::make_shared<ShapeRangeObject>(session(), shape);
+    return std::make_shared<ShapeRangeObject>(process(), shape);
 }
 
 std::shared_ptr<HeadersFootersObject> MasterObject::headersFooters() const {
-    return std::make_shared<HeadersFootersObject>(session(), node());
+    return std::make_shared<HeadersFootersObject>(process(), node());
 }
 
 std::u16string MasterObject::name() const {
@@ -89,12 +89,12 @@ void MasterObject::erase() {
     markChanged(*presentation);
 }
 
-std::shared_ptr<PowerPointObject> objectOf(const SessionPtr& session, const std::weak_ptr<Slide>& sheet) {
+std::shared_ptr<PowerPointObject> objectOf(const ProcessPtr& process, const std::weak_ptr<Slide>& sheet) {
     const SlidePtr there = sheet.lock();
     if (there && isMaster(there->kind)) {
-        return std::make_shared<MasterObject>(session, there);
+        return std::make_shared<MasterObject>(process, there);
     }
-    return std::make_shared<SlideObject>(session, sheet);
+    return std::make_shared<SlideObject>(process, sheet);
 }
 
 } // namespace simulator

@@ -31,6 +31,6 @@ public:
 };
 
 /// The Master or the Slide that a sheet is, gone or not.
-[[nodiscard]] std::shared_ptr<PowerPointObject> objectOf(const SessionPtr& session, const std::weak_ptr<Slide>& sheet);
+[[nodiscard]] std::shared_ptr<PowerPointObject> objectOf(const ProcessPtr& process, const std::weak_ptr<Slide>& sheet);
 
 } // namespace simulator

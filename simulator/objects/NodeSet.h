@@ -91,8 +91,8 @@ using SlideSet = NodeSet<Slide>;
 /// the same object.
 template <typename Node> class NodeSetObject : public PowerPointObject {
 public:
-    NodeSetObject(SessionPtr session, NodeSet<Node> nodes)
-        : PowerPointObject(std::move(session)), nodes_(std::move(nodes)) {}
+    NodeSetObject(ProcessPtr process, NodeSet<Node> nodes)
+        : PowerPointObject(std::move(process)), nodes_(std::move(nodes)) {}
 
     [[nodiscard]] bool isSame(const automation::Object& other) const noexcept final {
         const auto* const peer = dynamic_cast<const NodeSetObject*>(&other);

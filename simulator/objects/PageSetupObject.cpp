@@ -47,7 +47,7 @@ void PageSetupObject::setSlideOrientation(std::int32_t orientation) {
 }
 
 automation::ObjectPtr PageSetupObject::owner() const {
-    return std::make_shared<PresentationObject>(session(), node());
+    return std::make_shared<PresentationObject>(process(), node());
 }
 
 } // namespace simulator

@@ -53,7 +53,7 @@ void PaneObject::activate() const {
 }
 
 automation::ObjectPtr PaneObject::owner() const {
-    return std::make_shared<DocumentWindowObject>(session(), window_);
+    return std::make_shared<DocumentWindowObject>(process(), window_);
 }
 
 } // namespace simulator

@@ -10,8 +10,8 @@ class DocumentWindowObject;
 class PaneObject final : public PowerPointObject {
 public:
     /// `index` is from 1.
-    PaneObject(SessionPtr session, std::weak_ptr<DocumentWindow> window, std::int32_t index)
-        : PowerPointObject(std::move(session)), window_(std::move(window)), index_(index) {}
+    PaneObject(ProcessPtr process, std::weak_ptr<DocumentWindow> window, std::int32_t index)
+        : PowerPointObject(std::move(process)), window_(std::move(window)), index_(index) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

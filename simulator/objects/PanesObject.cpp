@@ -24,7 +24,7 @@ std::shared_ptr<PaneObject> PanesObject::item(std::int32_t index) const {
     if (index < 1 || index > count()) {
         errors::outOfRange(u"Panes.Item", index, static_cast<std::size_t>(count()));
     }
-    return std::make_shared<PaneObject>(session(), window_, index);
+    return std::make_shared<PaneObject>(process(), window_, index);
 }
 
 std::shared_ptr<PaneObject> PanesObject::active() const {
@@ -32,7 +32,7 @@ std::shared_ptr<PaneObject> PanesObject::active() const {
 }
 
 automation::ObjectPtr PanesObject::owner() const {
-    return std::make_shared<DocumentWindowObject>(session(), window_);
+    return std::make_shared<DocumentWindowObject>(process(), window_);
 }
 
 } // namespace simulator

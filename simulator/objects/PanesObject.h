@@ -7,8 +7,8 @@ namespace simulator {
 /// Panes: outline, slide and notes in normal view; a single one in any other view.
 class PanesObject final : public PowerPointObject {
 public:
-    PanesObject(SessionPtr session, std::weak_ptr<DocumentWindow> window)
-        : PowerPointObject(std::move(session)), window_(std::move(window)) {}
+    PanesObject(ProcessPtr process, std::weak_ptr<DocumentWindow> window)
+        : PowerPointObject(std::move(process)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

@@ -5,8 +5,8 @@
 
 namespace simulator {
 
-ParagraphFormatObject::ParagraphFormatObject(SessionPtr session, TextPart part)
-    : PowerPointObject(std::move(session)), part_(std::move(part)) {}
+ParagraphFormatObject::ParagraphFormatObject(ProcessPtr process, TextPart part)
+    : PowerPointObject(std::move(process)), part_(std::move(part)) {}
 
 const automation::MemberTable& ParagraphFormatObject::members() const {
     using automation::property;
@@ -32,11 +32,11 @@ void ParagraphFormatObject::setAlignment(PpParagraphAlignment alignment) {
 }
 
 std::shared_ptr<BulletFormatObject> ParagraphFormatObject::bullet() const {
-    return std::make_shared<BulletFormatObject>(session(), part_);
+    return std::make_shared<BulletFormatObject>(process(), part_);
 }
 
 automation::ObjectPtr ParagraphFormatObject::owner() const {
-    return std::make_shared<TextRangeObject>(session(), part_);
+    return std::make_shared<TextRangeObject>(process(), part_);
 }
 
 } // namespace simulator

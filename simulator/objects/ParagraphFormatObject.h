@@ -10,7 +10,7 @@ class BulletFormatObject;
 /// raise `errors::gone` where the shape is gone.
 class ParagraphFormatObject final : public PowerPointObject {
 public:
-    ParagraphFormatObject(SessionPtr session, TextPart part);
+    ParagraphFormatObject(ProcessPtr process, TextPart part);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

@@ -12,7 +12,7 @@ const automation::MemberTable& PlaceholderFormatObject::members() const {
 }
 
 automation::ObjectPtr PlaceholderFormatObject::owner() const {
-    return std::make_shared<ShapeObject>(session(), node());
+    return std::make_shared<ShapeObject>(process(), node());
 }
 
 } // namespace simulator

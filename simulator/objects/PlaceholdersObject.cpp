@@ -37,12 +37,12 @@ std::int32_t PlaceholdersObject::count() const {
 
 std::shared_ptr<ShapeObject> PlaceholdersObject::item(std::int32_t index) const {
     const std::vector<ShapePtr> placeholders = placeholdersOf(*node());
-    return std::make_shared<ShapeObject>(session(),
+    return std::make_shared<ShapeObject>(process(),
                                          placeholders[placeIn(placeholders.size(), index, u"Placeholders.Item")]);
 }
 
 automation::ObjectPtr PlaceholdersObject::owner() const {
-    return std::make_shared<ShapesObject>(session(), node());
+    return std::make_shared<ShapesObject>(process(), node());
 }
 
 } // namespace simulator

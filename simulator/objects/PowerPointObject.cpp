@@ -49,7 +49,7 @@ const automation::MemberTable& PowerPointObject::officeMembers() {
 }
 
 automation::ObjectPtr PowerPointObject::application() const {
-    return std::make_shared<ApplicationObject>(session_);
+    return std::make_shared<ApplicationObject>(process_);
 }
 
 automation::ObjectPtr PowerPointObject::owner() const {

@@ -3,19 +3,19 @@
 #include "automation/Elements.h"
 #include "automation/MemberTable.h"
 #include "simulator/process/Errors.h"
-#include "simulator/process/Session.h"
+#include "simulator/process/Process.h"
 
 namespace simulator {
 
-/// An object of the object model: every call passes through the session first, which refuses it when PowerPoint is busy
+/// An object of the object model: every call passes through the process first, which refuses it when PowerPoint is busy
 /// or has ended.
 class PowerPointObject : public automation::Published, public std::enable_shared_from_this<PowerPointObject> {
 public:
-    explicit PowerPointObject(SessionPtr session) : session_(std::move(session)) {}
+    explicit PowerPointObject(ProcessPtr process) : process_(std::move(process)) {}
 
     automation::Value invoke(const automation::Name& name, automation::Access access,
                              std::span<automation::Value> arguments) final {
-        session_->admit();
+        process_->admit();
         return Published::invoke(name, access, arguments);
     }
 
@@ -33,7 +33,7 @@ public:
     /// Who made the object's class: "PPT" in a number.
     [[nodiscard]] std::int32_t creator() const noexcept { return 0x50575054; }
 
-    [[nodiscard]] const SessionPtr& session() const noexcept { return session_; }
+    [[nodiscard]] const ProcessPtr& process() const noexcept { return process_; }
 
 protected:
     /// `Application` and `Parent`, which all objects publish that belong to another.
@@ -46,7 +46,7 @@ protected:
     }
 
 private:
-    SessionPtr session_;
+    ProcessPtr process_;
 };
 
 } // namespace simulator

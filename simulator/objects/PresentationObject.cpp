@@ -114,15 +114,15 @@ void PresentationObject::setGridDistance(float points) const {
 }
 
 automation::ObjectPtr PresentationObject::owner() const {
-    return std::make_shared<PresentationsObject>(session());
+    return std::make_shared<PresentationsObject>(process());
 }
 
 std::shared_ptr<DocumentWindowObject> PresentationObject::newWindow() const {
-    return std::make_shared<DocumentWindowObject>(session(), session()->openWindow(document()));
+    return std::make_shared<DocumentWindowObject>(process(), process()->openWindow(document()));
 }
 
 std::shared_ptr<SlidesObject> PresentationObject::slides() const {
-    return std::make_shared<SlidesObject>(session(), document());
+    return std::make_shared<SlidesObject>(process(), document());
 }
 
 std::shared_ptr<MasterObject> PresentationObject::slideMaster() const {
@@ -161,33 +161,33 @@ std::shared_ptr<MasterObject> PresentationObject::handoutMaster() const {
 }
 
 std::shared_ptr<MasterObject> PresentationObject::objectOf(const SlidePtr& master) const {
-    return std::make_shared<MasterObject>(session(), master);
+    return std::make_shared<MasterObject>(process(), master);
 }
 
 std::shared_ptr<SlideShowSettingsObject> PresentationObject::slideShowSettings() const {
-    return std::make_shared<SlideShowSettingsObject>(session(), document());
+    return std::make_shared<SlideShowSettingsObject>(process(), document());
 }
 
 std::shared_ptr<SlideShowWindowObject> PresentationObject::slideShowWindow() const {
     const PresentationPtr presentation = document();
-    for (const SlideShowWindowPtr& show : session()->slideShows()) {
+    for (const SlideShowWindowPtr& show : process()->slideShows()) {
         if (show->presentation.lock() == presentation) {
-            return std::make_shared<SlideShowWindowObject>(session(), show);
+            return std::make_shared<SlideShowWindowObject>(process(), show);
         }
     }
     errors::invalidRequest(u"Presentation.SlideShowWindow", u"Le diaporama de la présentation n'est pas en cours.");
 }
 
 std::shared_ptr<TagsObject> PresentationObject::tags() const {
-    return std::make_shared<TagsObject>(session(), document());
+    return std::make_shared<TagsObject>(process(), document());
 }
 
 std::shared_ptr<PageSetupObject> PresentationObject::pageSetup() const {
-    return std::make_shared<PageSetupObject>(session(), document());
+    return std::make_shared<PageSetupObject>(process(), document());
 }
 
 std::shared_ptr<DocumentWindowsObject> PresentationObject::windows() const {
-    return std::make_shared<DocumentWindowsObject>(session(), document());
+    return std::make_shared<DocumentWindowsObject>(process(), document());
 }
 
 void PresentationObject::saveAs(const std::u16string& fileName, std::optional<PpSaveAsFileType> format,
@@ -197,7 +197,7 @@ void PresentationObject::saveAs(const std::u16string& fileName, std::optional<Pp
         saveCopyAs(fileName, format, embedFonts);
         return;
     }
-    session()->saveAs(document(), target(fileName, type));
+    process()->saveAs(document(), target(fileName, type));
 }
 
 void PresentationObject::saveCopyAs(const std::u16string& fileName, std::optional<PpSaveAsFileType> format,
@@ -206,14 +206,14 @@ void PresentationObject::saveCopyAs(const std::u16string& fileName, std::optiona
     const std::u16string file = target(fileName, type);
     const PresentationPtr presentation = document();
     if (type == ppSaveAsRTF) {
-        session()->store().saveOutline(*presentation, file);
+        process()->store().saveOutline(*presentation, file);
     } else {
-        session()->store().save(*presentation, file);
+        process()->store().save(*presentation, file);
     }
 }
 
 std::u16string PresentationObject::target(const std::u16string& fileName, PpSaveAsFileType format) const {
-    const std::u16string file = session()->fullPath(fileName);
+    const std::u16string file = process()->fullPath(fileName);
     const std::u16string_view extension = extensionOf(format);
     const bool hasExtension = file.find(u'.', file.find_last_of(u'\\') + 1) != std::u16string::npos;
     return hasExtension ? file : file + std::u16string(extension);

@@ -27,8 +27,8 @@ enum PpSaveAsFileType : std::int32_t {
 /// Presentation: an open presentation. Members raise `errors::gone` once it is closed.
 class PresentationObject final : public PowerPointObject {
 public:
-    PresentationObject(SessionPtr session, std::weak_ptr<Presentation> presentation)
-        : PowerPointObject(std::move(session)), presentation_(std::move(presentation)) {}
+    PresentationObject(ProcessPtr process, std::weak_ptr<Presentation> presentation)
+        : PowerPointObject(std::move(process)), presentation_(std::move(presentation)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
     /// True for another reference to the same open presentation.
@@ -70,9 +70,9 @@ public:
     [[nodiscard]] std::shared_ptr<DocumentWindowsObject> windows() const;
 
     /// Closes without a question; what was not saved is lost.
-    void close() const { session()->close(document()); }
+    void close() const { process()->close(document()); }
     /// Raises an invalid request for a presentation opened read-only.
-    void save() const { session()->save(document()); }
+    void save() const { process()->save(document()); }
     /// Saves under another name, which the presentation bears from then on. As an outline (RTF) it writes the file and
     /// leaves the presentation as it is. A name without an extension gets the format's.
     void saveAs(const std::u16string& fileName, std::optional<PpSaveAsFileType> format,

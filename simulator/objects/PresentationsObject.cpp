@@ -19,18 +19,18 @@ const automation::MemberTable& PresentationsObject::members() const {
 }
 
 std::int32_t PresentationsObject::count() const {
-    return static_cast<std::int32_t>(session()->presentations().size());
+    return static_cast<std::int32_t>(process()->presentations().size());
 }
 
 std::shared_ptr<PresentationObject> PresentationsObject::item(const automation::Value& index) const {
-    const auto& open = session()->presentations();
+    const auto& open = process()->presentations();
     const auto nameAt = [&](std::size_t place) { return open[place]->name; };
     const std::size_t place = placeIn(open.size(), index, u"Presentations.Item", nameAt);
-    return std::make_shared<PresentationObject>(session(), open[place]);
+    return std::make_shared<PresentationObject>(process(), open[place]);
 }
 
 std::shared_ptr<PresentationObject> PresentationsObject::add(std::optional<MsoTriState> withWindow) const {
-    return std::make_shared<PresentationObject>(session(), session()->create(withWindow != msoFalse));
+    return std::make_shared<PresentationObject>(process(), process()->create(withWindow != msoFalse));
 }
 
 std::shared_ptr<PresentationObject> PresentationsObject::open(const std::u16string& fileName,
@@ -38,9 +38,9 @@ std::shared_ptr<PresentationObject> PresentationsObject::open(const std::u16stri
                                                               std::optional<MsoTriState> untitled,
                                                               std::optional<MsoTriState> withWindow) const {
     const PresentationPtr presentation =
-        session()->open(fileName, readOnly.value_or(msoFalse) != msoFalse, untitled.value_or(msoFalse) != msoFalse,
+        process()->open(fileName, readOnly.value_or(msoFalse) != msoFalse, untitled.value_or(msoFalse) != msoFalse,
                         withWindow != msoFalse);
-    return std::make_shared<PresentationObject>(session(), presentation);
+    return std::make_shared<PresentationObject>(process(), presentation);
 }
 
 } // namespace simulator

@@ -63,7 +63,7 @@ std::shared_ptr<ShapeRangeObject> SelectionObject::shapeRange() const {
     if (whole.empty()) {
         nothingSelected(u"Selection.ShapeRange");
     }
-    return std::make_shared<ShapeRangeObject>(session(), whole);
+    return std::make_shared<ShapeRangeObject>(process(), whole);
 }
 
 MsoTriState SelectionObject::hasChildShapeRange() const {
@@ -75,7 +75,7 @@ std::shared_ptr<ShapeRangeObject> SelectionObject::childShapeRange() const {
     if (items.empty()) {
         nothingSelected(u"Selection.ChildShapeRange");
     }
-    return std::make_shared<ShapeRangeObject>(session(), items);
+    return std::make_shared<ShapeRangeObject>(process(), items);
 }
 
 std::shared_ptr<TextRangeObject> SelectionObject::textRange() const {
@@ -83,7 +83,7 @@ std::shared_ptr<TextRangeObject> SelectionObject::textRange() const {
     if (selection.type() != ppSelectionText) {
         nothingSelected(u"Selection.TextRange");
     }
-    return std::make_shared<TextRangeObject>(session(), TextPart(selection.shapes().front(), selection.text()));
+    return std::make_shared<TextRangeObject>(process(), TextPart(selection.shapes().front(), selection.text()));
 }
 
 std::shared_ptr<SlideRangeObject> SelectionObject::slideRange() const {
@@ -96,11 +96,11 @@ std::shared_ptr<SlideRangeObject> SelectionObject::slideRange() const {
             nothingSelected(u"Selection.SlideRange");
         }
     }
-    return std::make_shared<SlideRangeObject>(session(), slides);
+    return std::make_shared<SlideRangeObject>(process(), slides);
 }
 
 automation::ObjectPtr SelectionObject::owner() const {
-    return std::make_shared<DocumentWindowObject>(session(), window_);
+    return std::make_shared<DocumentWindowObject>(process(), window_);
 }
 
 void SelectionObject::remove() const {

@@ -12,8 +12,8 @@ class TextRangeObject;
 /// Selection: what is selected in a document window.
 class SelectionObject final : public PowerPointObject {
 public:
-    SelectionObject(SessionPtr session, std::weak_ptr<DocumentWindow> window)
-        : PowerPointObject(std::move(session)), window_(std::move(window)) {}
+    SelectionObject(ProcessPtr process, std::weak_ptr<DocumentWindow> window)
+        : PowerPointObject(std::move(process)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

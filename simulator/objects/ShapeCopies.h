@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/process/Session.h"
+#include "simulator/process/Process.h"
 
 namespace simulator {
 

@@ -5,11 +5,11 @@
 
 namespace simulator {
 
-automation::ObjectPtr objectOf(const SessionPtr& session, const ShapeSet& shapes) {
+automation::ObjectPtr objectOf(const ProcessPtr& process, const ShapeSet& shapes) {
     if (shapes.size() == 1) {
-        return std::make_shared<ShapeObject>(session, shapes.at(0));
+        return std::make_shared<ShapeObject>(process, shapes.at(0));
     }
-    return std::make_shared<ShapeRangeObject>(session, shapes);
+    return std::make_shared<ShapeRangeObject>(process, shapes);
 }
 
 } // namespace simulator

@@ -23,19 +23,19 @@ template <typename Format> [[nodiscard]] Format& formatOf(Shape& shape, Format S
 template <typename Class, typename Value> Value valueOf(Value Class::*);
 
 /// The object that stands for a shape, or for a range of shapes.
-[[nodiscard]] automation::ObjectPtr objectOf(const SessionPtr& session, const ShapeSet& shapes);
+[[nodiscard]] automation::ObjectPtr objectOf(const ProcessPtr& process, const ShapeSet& shapes);
 
 /// A format of some shapes: what `part` is in each. Its plain properties are read and written by the members of that.
 template <auto part> class ShapeFormatObject : public NodeSetObject<Shape> {
 public:
     /// The format of shapes; the items of groups may stand for those in `shapes`.
-    ShapeFormatObject(SessionPtr session, ShapeSet shapes, ShapeSet bearers)
-        : NodeSetObject(std::move(session), std::move(shapes)), bearers_(std::move(bearers)) {}
-    ShapeFormatObject(SessionPtr session, const ShapeSet& shapes)
-        : ShapeFormatObject(std::move(session), shapes, shapes) {}
+    ShapeFormatObject(ProcessPtr process, ShapeSet shapes, ShapeSet bearers)
+        : NodeSetObject(std::move(process), std::move(shapes)), bearers_(std::move(bearers)) {}
+    ShapeFormatObject(ProcessPtr process, const ShapeSet& shapes)
+        : ShapeFormatObject(std::move(process), shapes, shapes) {}
 
     /// The shape, or the range of shapes.
-    [[nodiscard]] automation::ObjectPtr owner() const override { return objectOf(session(), bearers_); }
+    [[nodiscard]] automation::ObjectPtr owner() const override { return objectOf(process(), bearers_); }
 
     /// The value of a property that all shapes share, or what stands for different ones: -2, `mixedLength`, no text.
     template <auto property> [[nodiscard]] auto get() const {
@@ -62,7 +62,7 @@ public:
     /// A colour: it reads that of the first shape and writes that of all.
     template <auto property> [[nodiscard]] std::shared_ptr<ColorFormatObject> color() const {
         return std::make_shared<ColorFormatObject>(
-            session(), self(), [shapes = nodes()] { return formatOf(*shapes.first(), part).*property; },
+            process(), self(), [shapes = nodes()] { return formatOf(*shapes.first(), part).*property; },
             [shapes = nodes()](Color color) {
                 shapes.change([&color](Shape& shape) { formatOf(shape, part).*property = color; });
             },

@@ -69,7 +69,7 @@ const automation::MemberTable& ShapeMembers::sharedMembers() {
 }
 
 automation::ObjectPtr ShapeMembers::owner() const {
-    return objectOf(session(), nodes().first()->slide);
+    return objectOf(process(), nodes().first()->slide);
 }
 
 std::u16string ShapeMembers::name() const {
@@ -138,27 +138,27 @@ std::int32_t ShapeMembers::zOrderPosition() const {
 }
 
 std::shared_ptr<TagsObject> ShapeMembers::tags() const {
-    return std::make_shared<TagsObject>(session(), nodes().only());
+    return std::make_shared<TagsObject>(process(), nodes().only());
 }
 
 std::shared_ptr<FillFormatObject> ShapeMembers::fill() const {
-    return std::make_shared<FillFormatObject>(session(), leavesOf(nodes()), nodes());
+    return std::make_shared<FillFormatObject>(process(), leavesOf(nodes()), nodes());
 }
 
 std::shared_ptr<LineFormatObject> ShapeMembers::line() const {
-    return std::make_shared<LineFormatObject>(session(), outlinesOf(nodes()), nodes());
+    return std::make_shared<LineFormatObject>(process(), outlinesOf(nodes()), nodes());
 }
 
 std::shared_ptr<ShadowFormatObject> ShapeMembers::shadow() const {
-    return std::make_shared<ShadowFormatObject>(session(), leavesOf(nodes()), nodes());
+    return std::make_shared<ShadowFormatObject>(process(), leavesOf(nodes()), nodes());
 }
 
 std::shared_ptr<ThreeDFormatObject> ShapeMembers::threeD() const {
-    return std::make_shared<ThreeDFormatObject>(session(), leavesOf(nodes()), nodes());
+    return std::make_shared<ThreeDFormatObject>(process(), leavesOf(nodes()), nodes());
 }
 
 std::shared_ptr<TextEffectFormatObject> ShapeMembers::textEffect() const {
-    return std::make_shared<TextEffectFormatObject>(session(), nodes());
+    return std::make_shared<TextEffectFormatObject>(process(), nodes());
 }
 
 MsoTriState ShapeMembers::hasTextFrame() const {
@@ -170,7 +170,7 @@ std::shared_ptr<TextFrameObject> ShapeMembers::textFrame() const {
     if (!shape->text) {
         errors::invalidRequest(u"Shape.TextFrame", u"La forme ne peut pas contenir de texte.");
     }
-    return std::make_shared<TextFrameObject>(session(), shape);
+    return std::make_shared<TextFrameObject>(process(), shape);
 }
 
 std::shared_ptr<PlaceholderFormatObject> ShapeMembers::placeholderFormat() const {
@@ -178,7 +178,7 @@ std::shared_ptr<PlaceholderFormatObject> ShapeMembers::placeholderFormat() const
     if (!shape->placeholder) {
         errors::invalidRequest(u"Shape.PlaceholderFormat", u"La forme n'est pas un espace réservé.");
     }
-    return std::make_shared<PlaceholderFormatObject>(session(), shape);
+    return std::make_shared<PlaceholderFormatObject>(process(), shape);
 }
 
 std::shared_ptr<ShapeNodesObject> ShapeMembers::shapeNodes() const {
@@ -186,7 +186,7 @@ std::shared_ptr<ShapeNodesObject> ShapeMembers::shapeNodes() const {
     if (shape->type != msoFreeform) {
         errors::invalidRequest(u"Shape.Nodes", u"La forme n'est pas une forme libre.");
     }
-    return std::make_shared<ShapeNodesObject>(session(), shape);
+    return std::make_shared<ShapeNodesObject>(process(), shape);
 }
 
 MsoTriState ShapeMembers::connector() const {
@@ -198,7 +198,7 @@ std::shared_ptr<ConnectorFormatObject> ShapeMembers::connectorFormat() const {
     if (!shape->connector) {
         errors::invalidRequest(u"Shape.ConnectorFormat", u"La forme n'est pas un connecteur.");
     }
-    return std::make_shared<ConnectorFormatObject>(session(), shape);
+    return std::make_shared<ConnectorFormatObject>(process(), shape);
 }
 
 std::int32_t ShapeMembers::connectionSiteCount() const {
@@ -215,18 +215,18 @@ std::shared_ptr<GroupShapesObject> ShapeMembers::groupItems() const {
     if (shape->type != msoGroup) {
         errors::invalidRequest(u"Shape.GroupItems", u"Ce membre n'est accessible que pour un groupe.");
     }
-    return std::make_shared<GroupShapesObject>(session(), shape);
+    return std::make_shared<GroupShapesObject>(process(), shape);
 }
 
 std::shared_ptr<ShapeObject> ShapeMembers::parentGroup() const {
     ShapePtr group = nodes().only()->group();
-    while (session()->settings().isAsDocumented && group && group->group()) {
+    while (process()->settings().isAsDocumented && group && group->group()) {
         group = group->group();
     }
     if (!group || group->type == msoTable) {
         errors::invalidRequest(u"Shape.ParentGroup", u"La forme ne fait pas partie d'un groupe.");
     }
-    return std::make_shared<ShapeObject>(session(), group);
+    return std::make_shared<ShapeObject>(process(), group);
 }
 
 MsoTriState ShapeMembers::child() const {
@@ -259,7 +259,7 @@ std::shared_ptr<TableObject> ShapeMembers::table() const {
     if (shape->type != msoTable) {
         errors::invalidRequest(u"Shape.Table", u"La forme n'est pas un tableau.");
     }
-    return std::make_shared<TableObject>(session(), shape);
+    return std::make_shared<TableObject>(process(), shape);
 }
 
 void ShapeMembers::refuseCells(std::u16string_view member) const {
@@ -284,7 +284,7 @@ std::shared_ptr<ShapeRangeObject> ShapeMembers::duplicate() {
 
 void ShapeMembers::copy() const {
     refuseCells(u"Shape.Copy");
-    copyTo(session()->clipboard(), nodes().all());
+    copyTo(process()->clipboard(), nodes().all());
 }
 
 void ShapeMembers::cut() {
@@ -293,15 +293,15 @@ void ShapeMembers::cut() {
 }
 
 void ShapeMembers::select(std::optional<MsoTriState> replace) const {
-    selectShapes(*session(), nodes().all(), replace.value_or(msoTrue) != msoFalse);
+    selectShapes(*process(), nodes().all(), replace.value_or(msoTrue) != msoFalse);
 }
 
 void ShapeMembers::pickUp() const {
-    session()->clipboard().format = nodes().only()->clone();
+    process()->clipboard().format = nodes().only()->clone();
 }
 
 void ShapeMembers::apply() {
-    const ShapePtr model = session()->clipboard().format;
+    const ShapePtr model = process()->clipboard().format;
     if (!model) {
         errors::invalidRequest(u"Shape.Apply", u"Aucune mise en forme n'a été prélevée.");
     }
@@ -314,7 +314,7 @@ void ShapeMembers::apply() {
 }
 
 std::shared_ptr<ShapeRangeObject> ShapeMembers::rangeOf(const std::vector<ShapePtr>& shapes) const {
-    return std::make_shared<ShapeRangeObject>(session(), shapes);
+    return std::make_shared<ShapeRangeObject>(process(), shapes);
 }
 
 SlidePtr ShapeMembers::slideOfOutermost(std::u16string_view member) const {

@@ -34,7 +34,7 @@ ShapePtr ShapeNodeObject::shape() const {
 }
 
 automation::ObjectPtr ShapeNodeObject::owner() const {
-    return std::make_shared<ShapeNodesObject>(session(), shape_);
+    return std::make_shared<ShapeNodesObject>(process(), shape_);
 }
 
 } // namespace simulator

@@ -8,8 +8,8 @@ namespace simulator {
 class ShapeNodeObject final : public PowerPointObject {
 public:
     /// `place` counts from 0.
-    ShapeNodeObject(SessionPtr session, std::weak_ptr<Shape> shape, std::size_t place)
-        : PowerPointObject(std::move(session)), shape_(std::move(shape)), place_(place) {}
+    ShapeNodeObject(ProcessPtr process, std::weak_ptr<Shape> shape, std::size_t place)
+        : PowerPointObject(std::move(process)), shape_(std::move(shape)), place_(place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
     [[nodiscard]] automation::ObjectPtr owner() const override;

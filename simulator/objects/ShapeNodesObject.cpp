@@ -70,7 +70,7 @@ const automation::MemberTable& ShapeNodesObject::members() const {
 std::shared_ptr<ShapeNodeObject> ShapeNodesObject::item(std::int32_t index) const {
     const ShapePtr shape = node();
     const std::size_t place = placeIn(shape->nodes.size(), index, u"ShapeNodes.Item");
-    return std::make_shared<ShapeNodeObject>(session(), shape, place);
+    return std::make_shared<ShapeNodeObject>(process(), shape, place);
 }
 
 void ShapeNodesObject::remove(std::int32_t index) {
@@ -128,7 +128,7 @@ template <typename Edit> void ShapeNodesObject::edit(std::int32_t index, std::u1
 }
 
 automation::ObjectPtr ShapeNodesObject::owner() const {
-    return std::make_shared<ShapeObject>(session(), node());
+    return std::make_shared<ShapeObject>(process(), node());
 }
 
 } // namespace simulator

@@ -7,7 +7,7 @@ namespace simulator {
 /// Shape: one shape of a slide, or one item of a group.
 class ShapeObject final : public ShapeMembers {
 public:
-    ShapeObject(SessionPtr session, std::weak_ptr<Shape> shape) : ShapeMembers(std::move(session), std::move(shape)) {}
+    ShapeObject(ProcessPtr process, std::weak_ptr<Shape> shape) : ShapeMembers(std::move(process), std::move(shape)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override { return sharedMembers(); }
 };

@@ -27,7 +27,7 @@ const automation::MemberTable& ShapeRangeObject::members() const {
 
 std::shared_ptr<ShapeObject> ShapeRangeObject::item(const automation::Value& index) const {
     const auto nameAt = [this](std::size_t place) { return nodes().at(place)->name; };
-    return std::make_shared<ShapeObject>(session(),
+    return std::make_shared<ShapeObject>(process(),
                                          nodes().at(placeIn(nodes().size(), index, u"ShapeRange.Item", nameAt)));
 }
 
@@ -57,7 +57,7 @@ std::shared_ptr<ShapeObject> ShapeRangeObject::makeGroup(const SlidePtr& slide, 
     }
     const ShapePtr made = simulator::group(*slide, shapes);
     markChanged(*slide);
-    return std::make_shared<ShapeObject>(session(), made);
+    return std::make_shared<ShapeObject>(process(), made);
 }
 
 void ShapeRangeObject::align(MsoAlignCmd command, MsoTriState relativeToSlide) {

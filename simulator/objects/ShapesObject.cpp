@@ -83,7 +83,7 @@ const automation::MemberTable& ShapesObject::members() const {
 }
 
 automation::ObjectPtr ShapesObject::owner() const {
-    return simulator::objectOf(session(), node());
+    return simulator::objectOf(process(), node());
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::item(const automation::Value& index) const {
@@ -91,7 +91,7 @@ std::shared_ptr<ShapeObject> ShapesObject::item(const automation::Value& index) 
 }
 
 std::shared_ptr<ShapeRangeObject> ShapesObject::range(const std::optional<automation::Value>& index) const {
-    return std::make_shared<ShapeRangeObject>(session(), elementsAt(node()->shapes(), index, u"Shapes.Range"));
+    return std::make_shared<ShapeRangeObject>(process(), elementsAt(node()->shapes(), index, u"Shapes.Range"));
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::addShape(std::int32_t type, float left, float top, float width,
@@ -201,11 +201,11 @@ std::shared_ptr<ShapeObject> ShapesObject::addTitle() {
 std::shared_ptr<FreeformBuilderObject> ShapesObject::buildFreeform(MsoEditingType editingType, float x1,
                                                                    float y1) const {
     errors::demandWithin(editingType, msoEditingAuto, msoEditingCorner, u"Shapes.BuildFreeform");
-    return std::make_shared<FreeformBuilderObject>(session(), node(), x1, y1);
+    return std::make_shared<FreeformBuilderObject>(process(), node(), x1, y1);
 }
 
 void ShapesObject::selectAll() const {
-    selectShapes(*session(), node()->shapes(), true);
+    selectShapes(*process(), node()->shapes(), true);
 }
 
 MsoTriState ShapesObject::hasTitle() const {
@@ -221,21 +221,21 @@ std::shared_ptr<ShapeObject> ShapesObject::title() const {
 }
 
 std::shared_ptr<PlaceholdersObject> ShapesObject::placeholders() const {
-    return std::make_shared<PlaceholdersObject>(session(), node());
+    return std::make_shared<PlaceholdersObject>(process(), node());
 }
 
 std::shared_ptr<ShapeRangeObject> ShapesObject::paste() {
     const SlidePtr slide = node();
-    const std::vector<ShapePtr> pasted = simulator::paste(session()->clipboard(), *slide);
+    const std::vector<ShapePtr> pasted = simulator::paste(process()->clipboard(), *slide);
     if (pasted.empty()) {
         errors::invalidRequest(u"Shapes.Paste", u"Le Presse-papiers est vide ou ne contient pas de forme.");
     }
     markChanged(*slide);
-    return std::make_shared<ShapeRangeObject>(session(), pasted);
+    return std::make_shared<ShapeRangeObject>(process(), pasted);
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::objectOf(const ShapePtr& shape) const {
-    return std::make_shared<ShapeObject>(session(), shape);
+    return std::make_shared<ShapeObject>(process(), shape);
 }
 
 std::shared_ptr<ShapeObject> ShapesObject::add(const ShapePtr& shape) {

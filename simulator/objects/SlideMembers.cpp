@@ -45,19 +45,19 @@ const automation::MemberTable& SlideMembers::sharedMembers() {
 }
 
 automation::ObjectPtr SlideMembers::owner() const {
-    return std::make_shared<PresentationObject>(session(), presentation());
+    return std::make_shared<PresentationObject>(process(), presentation());
 }
 
 std::shared_ptr<ShapesObject> SlideMembers::shapes() const {
-    return std::make_shared<ShapesObject>(session(), nodes().only());
+    return std::make_shared<ShapesObject>(process(), nodes().only());
 }
 
 std::shared_ptr<TagsObject> SlideMembers::tags() const {
-    return std::make_shared<TagsObject>(session(), nodes().only());
+    return std::make_shared<TagsObject>(process(), nodes().only());
 }
 
 std::shared_ptr<MasterObject> SlideMembers::master() const {
-    return std::make_shared<MasterObject>(session(), masterOf(*presentation(), *nodes().only()));
+    return std::make_shared<MasterObject>(process(), masterOf(*presentation(), *nodes().only()));
 }
 
 MsoTriState SlideMembers::followMasterBackground() const {
@@ -88,17 +88,17 @@ std::shared_ptr<ShapeRangeObject> SlideMembers::background() const {
     for (const SlidePtr& slide : nodes().all()) {
         shapes.push_back(backgroundOf(*presentation(), *slide));
     }
-    return std::make_shared<ShapeRangeObject>(session(), shapes);
+    return std::make_shared<ShapeRangeObject>(process(), shapes);
 }
 
 std::shared_ptr<HeadersFootersObject> SlideMembers::headersFooters() const {
     demandSlides(u"Slide.HeadersFooters");
-    return std::make_shared<HeadersFootersObject>(session(), nodes());
+    return std::make_shared<HeadersFootersObject>(process(), nodes());
 }
 
 std::shared_ptr<SlideShowTransitionObject> SlideMembers::slideShowTransition() const {
     demandSlides(u"Slide.SlideShowTransition");
-    return std::make_shared<SlideShowTransitionObject>(session(), nodes());
+    return std::make_shared<SlideShowTransitionObject>(process(), nodes());
 }
 
 std::shared_ptr<SlideRangeObject> SlideMembers::notesPage() const {
@@ -107,7 +107,7 @@ std::shared_ptr<SlideRangeObject> SlideMembers::notesPage() const {
     for (const SlidePtr& slide : nodes().all()) {
         pages.push_back(notesPageOf(*slide));
     }
-    return std::make_shared<SlideRangeObject>(session(), pages);
+    return std::make_shared<SlideRangeObject>(process(), pages);
 }
 
 std::int32_t SlideMembers::slideIndex() const {
@@ -167,12 +167,12 @@ std::shared_ptr<SlideRangeObject> SlideMembers::duplicate() {
         document->insert(copies.back(), place++);
     }
     markChanged(*document);
-    return std::make_shared<SlideRangeObject>(session(), copies);
+    return std::make_shared<SlideRangeObject>(process(), copies);
 }
 
 void SlideMembers::copy() const {
     demandSlides(u"Slide.Copy");
-    Clipboard& clipboard = session()->clipboard();
+    Clipboard& clipboard = process()->clipboard();
     clipboard.shapes.clear();
     clipboard.text = {};
     clipboard.slides.clear();
@@ -205,16 +205,16 @@ void SlideMembers::exportTo(const std::u16string& fileName, const std::u16string
     errors::demandWithin(wanted.height, 0, mostPixels, u"Slide.Export");
     const SlidePtr slide = nodes().only();
     const PresentationPtr document = presentation();
-    const DocumentWindowPtr window = session()->windowOf(*document);
+    const DocumentWindowPtr window = process()->windowOf(*document);
     if (window && window->shown() == slide) {
         wanted.selected = window->selection.shapes();
     }
-    session()->store().savePicture(picture::drawSlide(*document, *slide, wanted), session()->fullPath(fileName));
+    process()->store().savePicture(picture::drawSlide(*document, *slide, wanted), process()->fullPath(fileName));
 }
 
 void SlideMembers::select() const {
     demandSlides(u"Slide.Select");
-    const DocumentWindowPtr window = session()->windowOf(*presentation());
+    const DocumentWindowPtr window = process()->windowOf(*presentation());
     if (!window) {
         errors::invalidRequest(u"Slide.Select", u"La présentation n'est affichée dans aucune fenêtre.");
     }

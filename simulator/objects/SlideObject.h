@@ -7,7 +7,7 @@ namespace simulator {
 /// Slide: one slide of a presentation.
 class SlideObject final : public SlideMembers {
 public:
-    SlideObject(SessionPtr session, std::weak_ptr<Slide> slide) : SlideMembers(std::move(session), std::move(slide)) {}
+    SlideObject(ProcessPtr process, std::weak_ptr<Slide> slide) : SlideMembers(std::move(process), std::move(slide)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override { return sharedMembers(); }
 };

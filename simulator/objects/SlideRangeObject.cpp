@@ -18,7 +18,7 @@ const automation::MemberTable& SlideRangeObject::members() const {
 
 std::shared_ptr<SlideObject> SlideRangeObject::item(const automation::Value& index) const {
     const auto nameAt = [this](std::size_t place) { return nodes().at(place)->name; };
-    return std::make_shared<SlideObject>(session(),
+    return std::make_shared<SlideObject>(process(),
                                          nodes().at(placeIn(nodes().size(), index, u"SlideRange.Item", nameAt)));
 }
 

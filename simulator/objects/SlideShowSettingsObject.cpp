@@ -26,7 +26,7 @@ const automation::MemberTable& SlideShowSettingsObject::members() const {
 }
 
 automation::ObjectPtr SlideShowSettingsObject::owner() const {
-    return std::make_shared<PresentationObject>(session(), node());
+    return std::make_shared<PresentationObject>(process(), node());
 }
 
 void SlideShowSettingsObject::setStartingSlide(std::int32_t place) {
@@ -46,7 +46,7 @@ void SlideShowSettingsObject::setEndingSlide(std::int32_t place) {
 }
 
 std::shared_ptr<SlideShowWindowObject> SlideShowSettingsObject::run() const {
-    return std::make_shared<SlideShowWindowObject>(session(), session()->runSlideShow(node()));
+    return std::make_shared<SlideShowWindowObject>(process(), process()->runSlideShow(node()));
 }
 
 } // namespace simulator

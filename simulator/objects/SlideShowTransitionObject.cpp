@@ -21,7 +21,7 @@ const automation::MemberTable& SlideShowTransitionObject::members() const {
 }
 
 automation::ObjectPtr SlideShowTransitionObject::owner() const {
-    return objectOf(session(), nodes().first());
+    return objectOf(process(), nodes().first());
 }
 
 void SlideShowTransitionObject::setEntryEffect(std::int32_t effect) {

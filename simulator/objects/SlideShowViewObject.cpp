@@ -29,7 +29,7 @@ const automation::MemberTable& SlideShowViewObject::members() const {
 }
 
 automation::ObjectPtr SlideShowViewObject::owner() const {
-    return std::make_shared<SlideShowWindowObject>(session(), window());
+    return std::make_shared<SlideShowWindowObject>(process(), window());
 }
 
 std::shared_ptr<SlideObject> SlideShowViewObject::slide() const {
@@ -37,7 +37,7 @@ std::shared_ptr<SlideObject> SlideShowViewObject::slide() const {
     if (!shown) {
         errors::invalidRequest(u"SlideShowView.Slide", u"Aucune diapositive n'est affichée.");
     }
-    return std::make_shared<SlideObject>(session(), shown);
+    return std::make_shared<SlideObject>(process(), shown);
 }
 
 std::shared_ptr<SlideObject> SlideShowViewObject::lastSlideViewed() const {
@@ -45,7 +45,7 @@ std::shared_ptr<SlideObject> SlideShowViewObject::lastSlideViewed() const {
     if (!shown) {
         errors::invalidRequest(u"SlideShowView.LastSlideViewed", u"Aucune diapositive n'a été affichée auparavant.");
     }
-    return std::make_shared<SlideObject>(session(), shown);
+    return std::make_shared<SlideObject>(process(), shown);
 }
 
 void SlideShowViewObject::setState(PpSlideShowState state) const {

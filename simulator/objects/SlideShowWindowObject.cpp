@@ -45,11 +45,11 @@ automation::ObjectPtr SlideShowWindowObject::owner() const {
 }
 
 std::shared_ptr<PresentationObject> SlideShowWindowObject::presentation() const {
-    return std::make_shared<PresentationObject>(session(), window()->presentation);
+    return std::make_shared<PresentationObject>(process(), window()->presentation);
 }
 
 std::shared_ptr<SlideShowViewObject> SlideShowWindowObject::view() const {
-    return std::make_shared<SlideShowViewObject>(session(), window());
+    return std::make_shared<SlideShowViewObject>(process(), window());
 }
 
 MsoTriState SlideShowWindowObject::isFullScreen() const {
@@ -59,11 +59,11 @@ MsoTriState SlideShowWindowObject::isFullScreen() const {
 
 MsoTriState SlideShowWindowObject::active() const {
     const SlideShowWindowPtr own = window(); // raises for a show that is over, when there may be none
-    return triState(session()->slideShows().front() == own);
+    return triState(process()->slideShows().front() == own);
 }
 
 void SlideShowWindowObject::activate() const {
-    session()->activate(window());
+    process()->activate(window());
 }
 
 } // namespace simulator

@@ -10,8 +10,8 @@ class SlideShowViewObject;
 /// What stands for a running slide show. Members raise `errors::gone` once it is over.
 class OfSlideShow : public PowerPointObject {
 public:
-    OfSlideShow(SessionPtr session, std::weak_ptr<SlideShowWindow> window)
-        : PowerPointObject(std::move(session)), window_(std::move(window)) {}
+    OfSlideShow(ProcessPtr process, std::weak_ptr<SlideShowWindow> window)
+        : PowerPointObject(std::move(process)), window_(std::move(window)) {}
 
     /// True for an object of the same class that stands for the same slide show.
     [[nodiscard]] bool isSame(const Object& other) const noexcept final;

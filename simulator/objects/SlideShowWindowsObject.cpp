@@ -18,12 +18,12 @@ const automation::MemberTable& SlideShowWindowsObject::members() const {
 }
 
 std::int32_t SlideShowWindowsObject::count() const {
-    return static_cast<std::int32_t>(session()->slideShows().size());
+    return static_cast<std::int32_t>(process()->slideShows().size());
 }
 
 std::shared_ptr<SlideShowWindowObject> SlideShowWindowsObject::item(std::int32_t index) const {
-    const std::vector<SlideShowWindowPtr>& shows = session()->slideShows();
-    return std::make_shared<SlideShowWindowObject>(session(),
+    const std::vector<SlideShowWindowPtr>& shows = process()->slideShows();
+    return std::make_shared<SlideShowWindowObject>(process(),
                                                    shows[placeIn(shows.size(), index, u"SlideShowWindows.Item")]);
 }
 

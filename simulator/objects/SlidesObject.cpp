@@ -27,15 +27,15 @@ const automation::MemberTable& SlidesObject::members() const {
 }
 
 automation::ObjectPtr SlidesObject::owner() const {
-    return std::make_shared<PresentationObject>(session(), node());
+    return std::make_shared<PresentationObject>(process(), node());
 }
 
 std::shared_ptr<SlideObject> SlidesObject::item(const automation::Value& index) const {
-    return std::make_shared<SlideObject>(session(), elementAt(node()->slides(), index, u"Slides.Item"));
+    return std::make_shared<SlideObject>(process(), elementAt(node()->slides(), index, u"Slides.Item"));
 }
 
 std::shared_ptr<SlideRangeObject> SlidesObject::range(const std::optional<automation::Value>& index) const {
-    return std::make_shared<SlideRangeObject>(session(), elementsAt(node()->slides(), index, u"Slides.Range"));
+    return std::make_shared<SlideRangeObject>(process(), elementsAt(node()->slides(), index, u"Slides.Range"));
 }
 
 std::shared_ptr<SlideObject> SlidesObject::findBySlideId(std::int32_t slideId) const {
@@ -45,7 +45,7 @@ std::shared_ptr<SlideObject> SlidesObject::findBySlideId(std::int32_t slideId) c
     if (found == presentation->slides().end()) {
         errors::invalidRequest(u"Slides.FindBySlideID", u"Aucune diapositive ne porte cet identificateur.");
     }
-    return std::make_shared<SlideObject>(session(), *found);
+    return std::make_shared<SlideObject>(process(), *found);
 }
 
 std::shared_ptr<SlideObject> SlidesObject::add(std::int32_t index, PpSlideLayout layout) {
@@ -59,14 +59,14 @@ std::shared_ptr<SlideObject> SlidesObject::add(std::int32_t index, PpSlideLayout
     presentation->insert(slide, place);
     layOut(*slide, *known);
     markChanged(*presentation);
-    return std::make_shared<SlideObject>(session(), slide);
+    return std::make_shared<SlideObject>(process(), slide);
 }
 
 std::int32_t SlidesObject::insertFromFile(const std::u16string& fileName, std::int32_t index,
                                           std::optional<std::int32_t> slideStart,
                                           std::optional<std::int32_t> slideEnd) {
     const std::size_t place = placeIn(node()->slides().size() + 1, index + 1, u"Slides.InsertFromFile");
-    const PresentationPtr file = session()->store().load(session()->fullPath(fileName));
+    const PresentationPtr file = process()->store().load(process()->fullPath(fileName));
     const std::size_t count = file->slides().size();
     const std::size_t first = placeIn(count, slideStart.value_or(1), u"Slides.InsertFromFile");
     const std::int32_t end = slideEnd.value_or(-1);
@@ -81,10 +81,10 @@ std::int32_t SlidesObject::insertFromFile(const std::u16string& fileName, std::i
 std::shared_ptr<SlideRangeObject> SlidesObject::paste(std::optional<std::int32_t> index) {
     const std::size_t behindLast = node()->slides().size() + 1;
     const std::size_t place = index ? placeIn(behindLast, *index, u"Slides.Paste") : behindLast - 1;
-    if (session()->clipboard().slides.empty()) {
+    if (process()->clipboard().slides.empty()) {
         errors::invalidRequest(u"Slides.Paste", u"Le Presse-papiers ne contient pas de diapositive.");
     }
-    return std::make_shared<SlideRangeObject>(session(), insertCopies(session()->clipboard().slides, place));
+    return std::make_shared<SlideRangeObject>(process(), insertCopies(process()->clipboard().slides, place));
 }
 
 std::vector<SlidePtr> SlidesObject::insertCopies(const std::vector<SlidePtr>& slides, std::size_t place) {

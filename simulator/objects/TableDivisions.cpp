@@ -56,7 +56,7 @@ std::vector<ShapePtr> TableDivisionObject::cellShapes() const {
 }
 
 std::shared_ptr<CellRangeObject> TableDivisionObject::cells() const {
-    return std::make_shared<CellRangeObject>(session(), cellShapes());
+    return std::make_shared<CellRangeObject>(process(), cellShapes());
 }
 
 void TableDivisionObject::erase() {
@@ -72,7 +72,7 @@ void TableDivisionObject::erase() {
 }
 
 void TableDivisionObject::select() const {
-    selectShapes(*session(), cellShapes(), true);
+    selectShapes(*process(), cellShapes(), true);
 }
 
 float TableDivisionObject::length() const {
@@ -102,7 +102,7 @@ const automation::MemberTable& TableDivisionsObject::sharedMembers() {
 }
 
 automation::ObjectPtr TableDivisionsObject::owner() const {
-    return std::make_shared<TableObject>(session(), node());
+    return std::make_shared<TableObject>(process(), node());
 }
 
 std::int32_t TableDivisionsObject::count() const {
@@ -142,7 +142,7 @@ const automation::MemberTable& RowObject::members() const {
 }
 
 automation::ObjectPtr RowObject::owner() const {
-    return std::make_shared<RowsObject>(session(), simulator::alive(table()));
+    return std::make_shared<RowsObject>(process(), simulator::alive(table()));
 }
 
 const automation::MemberTable& ColumnObject::members() const {
@@ -155,7 +155,7 @@ const automation::MemberTable& ColumnObject::members() const {
 }
 
 automation::ObjectPtr ColumnObject::owner() const {
-    return std::make_shared<ColumnsObject>(session(), simulator::alive(table()));
+    return std::make_shared<ColumnsObject>(process(), simulator::alive(table()));
 }
 
 const automation::MemberTable& RowsObject::members() const {
@@ -169,11 +169,11 @@ const automation::MemberTable& RowsObject::members() const {
 }
 
 std::shared_ptr<RowObject> RowsObject::item(std::int32_t index) const {
-    return std::make_shared<RowObject>(session(), node(), placeOf(index, u"Rows.Item"));
+    return std::make_shared<RowObject>(process(), node(), placeOf(index, u"Rows.Item"));
 }
 
 std::shared_ptr<RowObject> RowsObject::add(std::optional<std::int32_t> beforeRow) {
-    return std::make_shared<RowObject>(session(), node(), addBefore(beforeRow, u"Rows.Add"));
+    return std::make_shared<RowObject>(process(), node(), addBefore(beforeRow, u"Rows.Add"));
 }
 
 const automation::MemberTable& ColumnsObject::members() const {
@@ -187,11 +187,11 @@ const automation::MemberTable& ColumnsObject::members() const {
 }
 
 std::shared_ptr<ColumnObject> ColumnsObject::item(std::int32_t index) const {
-    return std::make_shared<ColumnObject>(session(), node(), placeOf(index, u"Columns.Item"));
+    return std::make_shared<ColumnObject>(process(), node(), placeOf(index, u"Columns.Item"));
 }
 
 std::shared_ptr<ColumnObject> ColumnsObject::add(std::optional<std::int32_t> beforeColumn) {
-    return std::make_shared<ColumnObject>(session(), node(), addBefore(beforeColumn, u"Columns.Add"));
+    return std::make_shared<ColumnObject>(process(), node(), addBefore(beforeColumn, u"Columns.Add"));
 }
 
 } // namespace simulator

@@ -19,8 +19,8 @@ class TableObject;
 class TableDivisionObject : public PowerPointObject {
 public:
     /// `place` is the row's or column's, from 0.
-    TableDivisionObject(SessionPtr session, std::weak_ptr<Shape> table, TableAxis axis, std::size_t place)
-        : PowerPointObject(std::move(session)), table_(std::move(table)), axis_(axis), place_(place) {}
+    TableDivisionObject(ProcessPtr process, std::weak_ptr<Shape> table, TableAxis axis, std::size_t place)
+        : PowerPointObject(std::move(process)), table_(std::move(table)), axis_(axis), place_(place) {}
 
     /// Each cell once.
     [[nodiscard]] std::shared_ptr<CellRangeObject> cells() const;
@@ -50,8 +50,8 @@ private:
 /// What Rows and Columns have in common.
 class TableDivisionsObject : public NodeSetObject<Shape> {
 public:
-    TableDivisionsObject(SessionPtr session, const ShapePtr& table, TableAxis axis)
-        : NodeSetObject(std::move(session), table), axis_(axis) {}
+    TableDivisionsObject(ProcessPtr process, const ShapePtr& table, TableAxis axis)
+        : NodeSetObject(std::move(process), table), axis_(axis) {}
 
     [[nodiscard]] automation::ObjectPtr owner() const override;
     [[nodiscard]] std::int32_t count() const;
@@ -70,8 +70,8 @@ private:
 /// Row: one row of a table.
 class RowObject final : public TableDivisionObject {
 public:
-    RowObject(SessionPtr session, std::weak_ptr<Shape> table, std::size_t place)
-        : TableDivisionObject(std::move(session), std::move(table), TableAxis::Rows, place) {}
+    RowObject(ProcessPtr process, std::weak_ptr<Shape> table, std::size_t place)
+        : TableDivisionObject(std::move(process), std::move(table), TableAxis::Rows, place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -81,8 +81,8 @@ public:
 /// Column: one column of a table, the first where the table begins.
 class ColumnObject final : public TableDivisionObject {
 public:
-    ColumnObject(SessionPtr session, std::weak_ptr<Shape> table, std::size_t place)
-        : TableDivisionObject(std::move(session), std::move(table), TableAxis::Columns, place) {}
+    ColumnObject(ProcessPtr process, std::weak_ptr<Shape> table, std::size_t place)
+        : TableDivisionObject(std::move(process), std::move(table), TableAxis::Columns, place) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -92,8 +92,8 @@ public:
 /// Rows: the rows of a table.
 class RowsObject final : public TableDivisionsObject {
 public:
-    RowsObject(SessionPtr session, const ShapePtr& table)
-        : TableDivisionsObject(std::move(session), table, TableAxis::Rows) {}
+    RowsObject(ProcessPtr process, const ShapePtr& table)
+        : TableDivisionsObject(std::move(process), table, TableAxis::Rows) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 
@@ -105,8 +105,8 @@ public:
 /// Columns: the columns of a table.
 class ColumnsObject final : public TableDivisionsObject {
 public:
-    ColumnsObject(SessionPtr session, const ShapePtr& table)
-        : TableDivisionsObject(std::move(session), table, TableAxis::Columns) {}
+    ColumnsObject(ProcessPtr process, const ShapePtr& table)
+        : TableDivisionsObject(std::move(process), table, TableAxis::Columns) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

@@ -20,23 +20,23 @@ const automation::MemberTable& TableObject::members() const {
 }
 
 automation::ObjectPtr TableObject::owner() const {
-    return std::make_shared<ShapeObject>(session(), node());
+    return std::make_shared<ShapeObject>(process(), node());
 }
 
 std::shared_ptr<CellObject> TableObject::cell(std::int32_t row, std::int32_t column) const {
     const TableGrid grid = gridOf(*node());
     const std::size_t fromTop = placeIn(grid.count(TableAxis::Rows), row, u"Table.Cell");
     const std::size_t across = placeIn(grid.count(TableAxis::Columns), column, u"Table.Cell");
-    return std::make_shared<CellObject>(session(),
+    return std::make_shared<CellObject>(process(),
                                         grid.cellAt(fromTop, grid.onSlide(TableAxis::Columns, across)).shape);
 }
 
 std::shared_ptr<RowsObject> TableObject::rows() const {
-    return std::make_shared<RowsObject>(session(), node());
+    return std::make_shared<RowsObject>(process(), node());
 }
 
 std::shared_ptr<ColumnsObject> TableObject::columns() const {
-    return std::make_shared<ColumnsObject>(session(), node());
+    return std::make_shared<ColumnsObject>(process(), node());
 }
 
 PpDirection TableObject::tableDirection() const {

@@ -15,15 +15,15 @@ template <typename Bearer> std::shared_ptr<TagList> tagsOf(const std::shared_ptr
 
 } // namespace
 
-TagsObject::TagsObject(SessionPtr session, const PresentationPtr& presentation)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(presentation)), presentation_(presentation),
+TagsObject::TagsObject(ProcessPtr process, const PresentationPtr& presentation)
+    : PowerPointObject(std::move(process)), tags_(tagsOf(presentation)), presentation_(presentation),
       bearer_(presentation) {}
 
-TagsObject::TagsObject(SessionPtr session, const SlidePtr& slide)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(slide)), slide_(slide), bearer_(slide) {}
+TagsObject::TagsObject(ProcessPtr process, const SlidePtr& slide)
+    : PowerPointObject(std::move(process)), tags_(tagsOf(slide)), slide_(slide), bearer_(slide) {}
 
-TagsObject::TagsObject(SessionPtr session, const ShapePtr& shape)
-    : PowerPointObject(std::move(session)), tags_(tagsOf(shape)), slide_(shape->slide), bearer_(shape) {}
+TagsObject::TagsObject(ProcessPtr process, const ShapePtr& shape)
+    : PowerPointObject(std::move(process)), tags_(tagsOf(shape)), slide_(shape->slide), bearer_(shape) {}
 
 const automation::MemberTable& TagsObject::members() const {
     using automation::method;
@@ -49,11 +49,11 @@ bool TagsObject::isSame(const Object& other) const noexcept {
 automation::ObjectPtr TagsObject::owner() const {
     const auto toObject = [this]<typename Bearer>(const std::weak_ptr<Bearer>& bearer) -> automation::ObjectPtr {
         if constexpr (std::is_same_v<Bearer, Presentation>) {
-            return std::make_shared<PresentationObject>(session(), bearer);
+            return std::make_shared<PresentationObject>(process(), bearer);
         } else if constexpr (std::is_same_v<Bearer, Slide>) {
-            return objectOf(session(), bearer);
+            return objectOf(process(), bearer);
         } else {
-            return std::make_shared<ShapeObject>(session(), bearer);
+            return std::make_shared<ShapeObject>(process(), bearer);
         }
     };
     return std::visit(toObject, bearer_);

@@ -9,9 +9,9 @@ namespace simulator {
 /// Tags: the tags of a presentation, slide or shape, in the order in which they were added.
 class TagsObject final : public PowerPointObject {
 public:
-    TagsObject(SessionPtr session, const PresentationPtr& presentation);
-    TagsObject(SessionPtr session, const SlidePtr& slide);
-    TagsObject(SessionPtr session, const ShapePtr& shape);
+    TagsObject(ProcessPtr process, const PresentationPtr& presentation);
+    TagsObject(ProcessPtr process, const SlidePtr& slide);
+    TagsObject(ProcessPtr process, const ShapePtr& shape);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
     /// The presentation, the slide or the shape.

@@ -14,8 +14,8 @@ constexpr float widest = 1584; ///< points
 
 } // namespace
 
-TextFrameObject::TextFrameObject(SessionPtr session, const ShapePtr& shape)
-    : PowerPointObject(std::move(session)), part_(shape, everything) {}
+TextFrameObject::TextFrameObject(ProcessPtr process, const ShapePtr& shape)
+    : PowerPointObject(std::move(process)), part_(shape, everything) {}
 
 const automation::MemberTable& TextFrameObject::members() const {
     using automation::method;
@@ -44,7 +44,7 @@ MsoTriState TextFrameObject::hasText() const {
 }
 
 std::shared_ptr<TextRangeObject> TextFrameObject::textRange() const {
-    return std::make_shared<TextRangeObject>(session(),
+    return std::make_shared<TextRangeObject>(process(),
                                              part_.at(part_.read([](const TextStory&, Span span) { return span; })));
 }
 
@@ -103,7 +103,7 @@ void TextFrameObject::setVerticalAnchor(MsoVerticalAnchor anchor) {
 }
 
 automation::ObjectPtr TextFrameObject::owner() const {
-    return std::make_shared<ShapeObject>(session(), part_.shape());
+    return std::make_shared<ShapeObject>(process(), part_.shape());
 }
 
 TextLayout TextFrameObject::layout() const {

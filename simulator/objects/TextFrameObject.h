@@ -7,7 +7,7 @@ namespace simulator {
 /// TextFrame: the text of a shape and how it stands in it. Members raise `errors::gone` where the shape is gone.
 class TextFrameObject final : public PowerPointObject {
 public:
-    TextFrameObject(SessionPtr session, const ShapePtr& shape);
+    TextFrameObject(ProcessPtr process, const ShapePtr& shape);
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

@@ -115,7 +115,7 @@ TextRangeObject::Pointer TextRangeObject::unitsFrom(TextUnit unit, std::int32_t 
     if (start == 0 || start < leftOut || length < leftOut) {
         errors::invalidValue(memberNameOf(unit));
     }
-    if (unit == TextUnit::Word && session()->settings().isAsDocumented) {
+    if (unit == TextUnit::Word && process()->settings().isAsDocumented) {
         unit = TextUnit::PlainWord;
     }
     const Span found = part_.read([=](const TextStory& story, Span span) {
@@ -138,11 +138,11 @@ TextRangeObject::Pointer TextRangeObject::trimText() const {
 }
 
 std::shared_ptr<FontObject> TextRangeObject::font() const {
-    return std::make_shared<FontObject>(session(), part_);
+    return std::make_shared<FontObject>(process(), part_);
 }
 
 std::shared_ptr<ParagraphFormatObject> TextRangeObject::paragraphFormat() const {
-    return std::make_shared<ParagraphFormatObject>(session(), part_);
+    return std::make_shared<ParagraphFormatObject>(process(), part_);
 }
 
 std::int32_t TextRangeObject::indentLevel() const {
@@ -208,7 +208,7 @@ TextRangeObject::Pointer TextRangeObject::replace(const std::u16string& what, co
 void TextRangeObject::select() const {
     const ShapePtr shape = part_.shape();
     const SlidePtr slide = simulator::alive(shape->slide);
-    const DocumentWindowPtr window = session()->windowOf(*simulator::alive(slide->presentation));
+    const DocumentWindowPtr window = process()->windowOf(*simulator::alive(slide->presentation));
     if (!window || window->viewType == DocumentWindow::slideSorterView || window->shown() != slide) {
         errors::invalidRequest(u"TextRange.Select", u"La diapositive qui contient ce texte n'est pas affichée.");
     }
@@ -221,7 +221,7 @@ void TextRangeObject::copy() const {
     if (clipboard.text.text().empty()) {
         errors::invalidRequest(u"TextRange.Copy", u"Aucun texte n'est sélectionné.");
     }
-    session()->clipboard() = std::move(clipboard);
+    process()->clipboard() = std::move(clipboard);
 }
 
 void TextRangeObject::cut() {
@@ -230,7 +230,7 @@ void TextRangeObject::cut() {
 }
 
 TextRangeObject::Pointer TextRangeObject::paste() {
-    const TextStory& copied = session()->clipboard().text;
+    const TextStory& copied = process()->clipboard().text;
     if (copied.text().empty()) {
         errors::invalidRequest(u"TextRange.Paste", u"Le Presse-papiers ne contient pas de texte.");
     }
@@ -239,7 +239,7 @@ TextRangeObject::Pointer TextRangeObject::paste() {
 }
 
 automation::ObjectPtr TextRangeObject::owner() const {
-    return std::make_shared<TextFrameObject>(session(), part_.shape());
+    return std::make_shared<TextFrameObject>(process(), part_.shape());
 }
 
 Frame TextRangeObject::bounds() const {
@@ -248,7 +248,7 @@ Frame TextRangeObject::bounds() const {
 }
 
 TextRangeObject::Pointer TextRangeObject::at(Span span, TextUnit unit) const {
-    return std::make_shared<TextRangeObject>(session(), part_.at(span), unit);
+    return std::make_shared<TextRangeObject>(process(), part_.at(span), unit);
 }
 
 } // namespace simulator

@@ -13,8 +13,8 @@ public:
     using Pointer = std::shared_ptr<TextRangeObject>;
 
     /// `unit` is what the range was asked as, and what it counts.
-    TextRangeObject(SessionPtr session, TextPart part, TextUnit unit = TextUnit::Range)
-        : PowerPointObject(std::move(session)), part_(std::move(part)), unit_(unit) {}
+    TextRangeObject(ProcessPtr process, TextPart part, TextUnit unit = TextUnit::Range)
+        : PowerPointObject(std::move(process)), part_(std::move(part)), unit_(unit) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

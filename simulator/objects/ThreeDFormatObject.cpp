@@ -50,7 +50,7 @@ void ThreeDFormatObject::setThreeDFormat(std::int32_t presetThreeDFormat) {
 std::shared_ptr<ColorFormatObject> ThreeDFormatObject::extrusionColor() const {
     const ShapeSet shapes = nodes();
     return std::make_shared<ColorFormatObject>(
-        session(), self(),
+        process(), self(),
         [shapes] {
             const ShapePtr first = shapes.first();
             return first->threeD.hasOwnColor ? first->threeD.color : first->fill.fore;

@@ -52,7 +52,7 @@ std::shared_ptr<SlideObject> ViewObject::slide() const {
     if (!shown) {
         errors::invalidRequest(u"View.Slide", u"Aucune diapositive n'est affichée.");
     }
-    return std::make_shared<SlideObject>(session(), shown);
+    return std::make_shared<SlideObject>(process(), shown);
 }
 
 void ViewObject::setSlide(const automation::ObjectPtr& slide) const {
@@ -70,14 +70,14 @@ void ViewObject::gotoSlide(std::int32_t index) const {
 
 void ViewObject::paste() const {
     const DocumentWindowPtr window = simulator::alive(window_);
-    const Clipboard& clipboard = session()->clipboard();
+    const Clipboard& clipboard = process()->clipboard();
     if (!clipboard.slides.empty()) {
         pasteSlides();
     } else if (!clipboard.text.text().empty() && window->selection.type() == ppSelectionText) {
-        DocumentWindowObject(session(), window_).selection()->textRange()->paste();
+        DocumentWindowObject(process(), window_).selection()->textRange()->paste();
     } else if (!clipboard.text.text().empty() && isTextTakenBy(window->selection)) {
         const ShapePtr shape = window->selection.shapes().front();
-        TextRangeObject(session(), TextPart(shape, {shape->text->text().size(), 0})).paste();
+        TextRangeObject(process(), TextPart(shape, {shape->text->text().size(), 0})).paste();
     } else {
         slide()->shapes()->paste();
     }
@@ -89,12 +89,12 @@ void ViewObject::pasteSlides() const {
     const PresentationPtr presentation = simulator::alive(window->presentation);
     const std::size_t next = shown ? presentation->placeOf(*shown) + 1 : 0;
     const bool goesLast = next == presentation->slides().size();
-    SlidesObject(session(), presentation)
+    SlidesObject(process(), presentation)
         .paste(goesLast ? std::nullopt : std::optional(static_cast<std::int32_t>(next) + 1));
 }
 
 automation::ObjectPtr ViewObject::owner() const {
-    return std::make_shared<DocumentWindowObject>(session(), window_);
+    return std::make_shared<DocumentWindowObject>(process(), window_);
 }
 
 } // namespace simulator

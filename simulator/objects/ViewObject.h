@@ -10,8 +10,8 @@ class SlideObject;
 /// View: what a document window shows.
 class ViewObject final : public PowerPointObject {
 public:
-    ViewObject(SessionPtr session, std::weak_ptr<DocumentWindow> window)
-        : PowerPointObject(std::move(session)), window_(std::move(window)) {}
+    ViewObject(ProcessPtr process, std::weak_ptr<DocumentWindow> window)
+        : PowerPointObject(std::move(process)), window_(std::move(window)) {}
 
     [[nodiscard]] const automation::MemberTable& members() const override;
 

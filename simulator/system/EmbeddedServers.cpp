@@ -6,18 +6,18 @@
 namespace simulator {
 
 automation::ObjectPtr EmbeddedServers::attach(std::u16string_view id) {
-    if (!process_.isRunning() || !automation::equalIgnoringCase(id, programmaticId)) {
+    if (!program_.isRunning() || !automation::equalIgnoringCase(id, programmaticId)) {
         automation::raise(automation::RunTimeError::CannotCreateObject);
     }
-    return process_.application();
+    return program_.application();
 }
 
 automation::ObjectPtr EmbeddedServers::create(std::u16string_view id) {
     if (!automation::equalIgnoringCase(id, programmaticId)) {
         automation::raise(automation::RunTimeError::CannotCreateObject);
     }
-    process_.start();
-    return process_.application();
+    program_.start();
+    return program_.application();
 }
 
 } // namespace simulator

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/ApplicationServers.h"
-#include "simulator/system/EmbeddedProcess.h"
+#include "simulator/system/EmbeddedProgram.h"
 
 namespace simulator {
 
@@ -10,8 +10,8 @@ class EmbeddedServers final : public platform::ApplicationServers {
 public:
     static constexpr std::u16string_view programmaticId = u"PowerPoint.Application.11";
 
-    /// `process` must outlive this object.
-    explicit EmbeddedServers(EmbeddedProcess& process) noexcept : process_(process) {}
+    /// `program` must outlive this object.
+    explicit EmbeddedServers(EmbeddedProgram& program) noexcept : program_(program) {}
 
     /// The running PowerPoint, visible or not.
     automation::ObjectPtr attach(std::u16string_view id) override;
@@ -19,7 +19,7 @@ public:
     automation::ObjectPtr create(std::u16string_view id) override;
 
 private:
-    EmbeddedProcess& process_;
+    EmbeddedProgram& program_;
 };
 
 } // namespace simulator

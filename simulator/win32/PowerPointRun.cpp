@@ -33,10 +33,10 @@ std::u16string documentsFolder() {
 } // namespace
 
 PowerPointRun::PowerPointRun(const Options& options, std::function<void()> onEnd)
-    : store_(onDisk), window_([this] { session_->end(); }),
-      session_(std::make_shared<Session>(window_, store_, settings_)),
+    : store_(onDisk), window_([this] { process_->end(); }),
+      process_(std::make_shared<Process>(window_, store_, settings_)),
       control_(std::make_shared<ControlObject>(window_, settings_.savePrompt, troubles_)),
-      controlDispatch_(dispatchOf(control_)), application_(dispatchOf(std::make_shared<ApplicationObject>(session_))),
+      controlDispatch_(dispatchOf(control_)), application_(dispatchOf(std::make_shared<ApplicationObject>(process_))),
       gate_(automation::com::makeCom<CallGate>(identityOf(controlDispatch_.get()).get(),
                                                [this] { return window_.dialogs() != 0; })) {
     settings_.documentsFolder = documentsFolder();
@@ -44,8 +44,8 @@ PowerPointRun::PowerPointRun(const Options& options, std::function<void()> onEnd
     troubles_.dieAtCall(options.deadlyCall);
     gate_->refuse(options.refusals);
     control_->setGate(gate_);
-    session_->onCall([this] { troubles_.meet(); });
-    session_->onEnd([this, onEnd = std::move(onEnd)] {
+    process_->onCall([this] { troubles_.meet(); });
+    process_->onEnd([this, onEnd = std::move(onEnd)] {
         withdraw();
         onEnd();
     });
@@ -53,7 +53,7 @@ PowerPointRun::PowerPointRun(const Options& options, std::function<void()> onEnd
 }
 
 PowerPointRun::~PowerPointRun() {
-    session_->end();
+    process_->end();
     control_->end();
     ComPtr<IMessageFilter> former;
     CoRegisterMessageFilter(nullptr, former.receive());

@@ -28,7 +28,7 @@ private:
     Settings settings_;
     FilePresentationStore store_;
     FrameWindow window_;
-    SessionPtr session_;
+    ProcessPtr process_;
     Troubles troubles_;
     std::shared_ptr<ControlObject> control_;
     automation::com::ComPtr<IDispatch> controlDispatch_;

@@ -1,5 +1,5 @@
 #include "module/Entry.h"
-#include "simulator/process/Session.h"
+#include "simulator/process/Process.h"
 #include "tests/module/ModuleBench.h"
 
 namespace module_fault_tests {
@@ -158,7 +158,7 @@ TEST_F(ModuleFaults, AnObjectThatTheModuleDropsIsGoneAtOnce) {
 
 TEST_F(ModuleFaults, BarsThatNoCloseCouldPutBackComeBackAtRelease) {
     const auto taskPane = [&]() -> simulator::CommandBar& {
-        simulator::CommandBarSet& all = machine.session()->settings().commandBars;
+        simulator::CommandBarSet& all = machine.process()->settings().commandBars;
         return all.bars[all.find(u"Task Pane")];
     };
     for (const bool isMeanwhile : {false, true}) {
@@ -185,7 +185,7 @@ TEST_F(ModuleFaults, ABarThatHasGoneIsForgotten) {
     calls->fails = [](const Crossing& crossing) { return crossing.member == u"WindowState"; };
     module.Fermer();
     calls->fails = nullptr;
-    machine.session()->settings().commandBars.bars.pop_back();
+    machine.process()->settings().commandBars.bars.pop_back();
     deliver();
     init();
     module.Fermer();
@@ -220,7 +220,7 @@ TEST_F(ModuleFaults, APowerPointThatHangsIsNotCalled) {
 
 TEST_F(ModuleFaults, ABarThatComesMeanwhileShiftsNoOther) {
     init();
-    std::vector<simulator::CommandBar>& bars = machine.session()->settings().commandBars.bars;
+    std::vector<simulator::CommandBar>& bars = machine.process()->settings().commandBars.bars;
     simulator::CommandBar shown;
     shown.name = u"Nouvelle";
     shown.visible = true;
@@ -254,7 +254,7 @@ TEST_F(ModuleFaults, BarsAreTriedOneByOneUnlessPowerPointDoesNotAnswerAtAll) {
         std::int32_t error;
         int tried;
     };
-    simulator::CommandBarSet& all = machine.session()->settings().commandBars;
+    simulator::CommandBarSet& all = machine.process()->settings().commandBars;
     all.bars[all.find(u"Drawing")].position = simulator::msoBarTop;
     const auto stand = [&] {
         std::vector<std::pair<bool, simulator::MsoBarPosition>> bars;
@@ -298,7 +298,7 @@ TEST_F(ModuleFaults, ACheckSaysWhyPowerPointCannotBeAsked) {
 }
 
 TEST_F(ModuleFaults, OfTwoBarsOfOneNameTheFirstCounts) {
-    std::vector<simulator::CommandBar>& bars = machine.session()->settings().commandBars.bars;
+    std::vector<simulator::CommandBar>& bars = machine.process()->settings().commandBars.bars;
     bars.push_back(bars.front());
     bars.back().visible = !bars.front().visible;
     const bool isVisible = bars.front().visible;

@@ -3,7 +3,7 @@
 #include "automation/Text.h"
 #include "host/language/Parser.h"
 #include "simulator/Machine.h"
-#include "simulator/process/Session.h"
+#include "simulator/process/Process.h"
 #include "tests/trials/learners/Gestures.h"
 
 #include <array>
@@ -54,8 +54,8 @@ bool History::perform(const std::u16string& statement) {
 }
 
 simulator::PresentationPtr History::presentation() const {
-    const simulator::SessionPtr session = world_->machine().session();
-    const simulator::DocumentWindowPtr window = session ? session->activeWindow() : nullptr;
+    const simulator::ProcessPtr process = world_->machine().process();
+    const simulator::DocumentWindowPtr window = process ? process->activeWindow() : nullptr;
     return window ? window->presentation.lock() : nullptr;
 }
 

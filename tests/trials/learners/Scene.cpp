@@ -6,14 +6,14 @@
 namespace trials::learners {
 
 Scene::Scene(EmbeddedWorld& world) : folder_(world.hostFolder()), files_(world.files().namesIn(folder_)) {
-    const simulator::SessionPtr session = world.machine().session();
-    if (!session) {
+    const simulator::ProcessPtr process = world.machine().process();
+    if (!process) {
         return;
     }
-    isThere_ = session->window().isVisible();
-    hasDialog_ = session->window().dialogs() != 0;
-    presentations_ = session->presentations();
-    window_ = session->activeWindow();
+    isThere_ = process->window().isVisible();
+    hasDialog_ = process->window().dialogs() != 0;
+    presentations_ = process->presentations();
+    window_ = process->activeWindow();
     active_ = window_ ? window_->presentation.lock() : nullptr;
 }
 

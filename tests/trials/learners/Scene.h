@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/world/EmbeddedWorld.h"
-#include "simulator/process/Session.h"
+#include "simulator/process/Process.h"
 #include "tests/trials/Host.h"
 
 namespace trials::learners {

@@ -2,18 +2,18 @@
 
 #include "automation/Object.h"
 #include "automation/Unmoved.h"
-#include "simulator/process/Session.h"
+#include "simulator/process/Process.h"
 #include "simulator/system/EmbeddedMainWindow.h"
 
 namespace simulator {
 
 /// PowerPoint as a program of the computer: installed or not, running at most once.
-class EmbeddedProcess : automation::Unmoved {
+class EmbeddedProgram : automation::Unmoved {
 public:
     /// All must outlive this object.
-    EmbeddedProcess(EmbeddedWindows& windows, PresentationStore& store, Settings& settings) noexcept
+    EmbeddedProgram(EmbeddedWindows& windows, PresentationStore& store, Settings& settings) noexcept
         : windows_(windows), store_(store), settings_(settings) {}
-    ~EmbeddedProcess() { end(); }
+    ~EmbeddedProgram() { end(); }
 
     /// Starts PowerPoint, invisible; nothing happens where it runs already. Raises CannotCreateObject (429) where it is
     /// not installed.
@@ -23,7 +23,7 @@ public:
     void uninstall() noexcept { installed_ = false; }
 
     /// The run in progress; null where there is none.
-    [[nodiscard]] SessionPtr session() const noexcept { return isRunning() ? session_ : nullptr; }
+    [[nodiscard]] ProcessPtr process() const noexcept { return isRunning() ? process_ : nullptr; }
     /// The application object of the run in progress; null where there is none.
     [[nodiscard]] automation::ObjectPtr application() const;
 
@@ -33,7 +33,7 @@ private:
     Settings& settings_;
     bool installed_ = true;
     std::unique_ptr<EmbeddedMainWindow> window_; ///< of the last run, ended or not
-    SessionPtr session_;
+    ProcessPtr process_;
 };
 
 } // namespace simulator

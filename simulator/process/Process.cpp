@@ -1,4 +1,4 @@
-#include "simulator/process/Session.h"
+#include "simulator/process/Process.h"
 
 #include "automation/Error.h"
 #include "automation/Text.h"
@@ -22,12 +22,12 @@ template <typename T> void take(std::vector<T>& list, const T& element) {
 
 } // namespace
 
-Session::Session(MainWindow& window, PresentationStore& store, Settings& settings)
+Process::Process(MainWindow& window, PresentationStore& store, Settings& settings)
     : window_(window), store_(store), settings_(settings) {
     updateTitle();
 }
 
-void Session::refuse() const {
+void Process::refuse() const {
     switch (state_) {
     case State::Busy:
         throw automation::Error(automation::remote::callRejected, {}, u"L'appel a été rejeté par l'appelé.");
@@ -39,13 +39,13 @@ void Session::refuse() const {
     }
 }
 
-void Session::setBusy(bool busy) noexcept {
+void Process::setBusy(bool busy) noexcept {
     if (state_ != State::Gone) {
         state_ = busy ? State::Busy : State::Running;
     }
 }
 
-void Session::quit() {
+void Process::quit() {
     SavePrompt& prompt = settings_.savePrompt;
     const std::vector<PresentationPtr> open = presentations_;
     for (const PresentationPtr& presentation : open) {
@@ -63,7 +63,7 @@ void Session::quit() {
     end();
 }
 
-void Session::end() {
+void Process::end() {
     if (std::exchange(state_, State::Gone) == State::Gone) {
         return;
     }
@@ -79,12 +79,12 @@ void Session::end() {
     }
 }
 
-std::u16string Session::title() const {
+std::u16string Process::title() const {
     const PresentationPtr presentation = windows_.empty() ? nullptr : windows_.front()->presentation.lock();
     return presentation ? u"Microsoft PowerPoint - [" + presentation->name + u"]" : u"Microsoft PowerPoint";
 }
 
-PresentationPtr Session::create(bool withWindow) {
+PresentationPtr Process::create(bool withWindow) {
     if (withWindow) {
         demandFrame();
     }
@@ -98,7 +98,7 @@ PresentationPtr Session::create(bool withWindow) {
     return presentation;
 }
 
-PresentationPtr Session::open(std::u16string_view path, bool readOnly, bool untitled, bool withWindow) {
+PresentationPtr Process::open(std::u16string_view path, bool readOnly, bool untitled, bool withWindow) {
     if (withWindow) {
         demandFrame();
     }
@@ -118,7 +118,7 @@ PresentationPtr Session::open(std::u16string_view path, bool readOnly, bool unti
     return presentation;
 }
 
-void Session::close(const PresentationPtr& presentation) {
+void Process::close(const PresentationPtr& presentation) {
     const PresentationPtr closed = presentation;
     const auto showsIt = [&](const DocumentWindowPtr& window) { return window->presentation.lock() == closed; };
     windows_.erase(std::remove_if(windows_.begin(), windows_.end(), showsIt), windows_.end());
@@ -126,7 +126,7 @@ void Session::close(const PresentationPtr& presentation) {
     updateTitle();
 }
 
-void Session::save(const PresentationPtr& presentation) {
+void Process::save(const PresentationPtr& presentation) {
     if (presentation->readOnly) {
         errors::invalidRequest(u"Presentation.Save : Cette présentation est en lecture seule.");
     }
@@ -138,7 +138,7 @@ void Session::save(const PresentationPtr& presentation) {
     presentation->saved = true;
 }
 
-void Session::saveAs(const PresentationPtr& presentation, std::u16string_view path) {
+void Process::saveAs(const PresentationPtr& presentation, std::u16string_view path) {
     const std::u16string file = fullPath(path);
     if (const PresentationPtr holder = presentationAt(file); holder && holder != presentation) {
         errors::invalidRequest(u"Presentation.SaveAs : Une présentation de ce nom est déjà ouverte.");
@@ -151,12 +151,12 @@ void Session::saveAs(const PresentationPtr& presentation, std::u16string_view pa
     updateTitle();
 }
 
-std::u16string Session::fullPath(std::u16string_view path) const {
+std::u16string Process::fullPath(std::u16string_view path) const {
     const bool hasFolder = path.find(u':') != std::u16string_view::npos || path.starts_with(u"\\");
     return hasFolder ? std::u16string(path) : settings_.documentsFolder + u"\\" + std::u16string(path);
 }
 
-PresentationPtr Session::presentationAt(std::u16string_view path) const {
+PresentationPtr Process::presentationAt(std::u16string_view path) const {
     const auto liesThere = [path](const PresentationPtr& presentation) {
         return automation::equalIgnoringCase(presentation->path, path);
     };
@@ -164,7 +164,7 @@ PresentationPtr Session::presentationAt(std::u16string_view path) const {
     return found == presentations_.end() ? nullptr : *found;
 }
 
-void Session::activate(const DocumentWindowPtr& window) {
+void Process::activate(const DocumentWindowPtr& window) {
     const auto found = std::find(windows_.begin(), windows_.end(), window);
     if (found != windows_.end()) {
         std::rotate(windows_.begin(), found, found + 1);
@@ -172,13 +172,13 @@ void Session::activate(const DocumentWindowPtr& window) {
     }
 }
 
-DocumentWindowPtr Session::openWindow(const PresentationPtr& presentation) {
+DocumentWindowPtr Process::openWindow(const PresentationPtr& presentation) {
     demandFrame();
     addWindow(presentation);
     return windows_.front();
 }
 
-void Session::closeWindow(const DocumentWindowPtr& window) {
+void Process::closeWindow(const DocumentWindowPtr& window) {
     const PresentationPtr presentation = window->presentation.lock();
     take(windows_, DocumentWindowPtr(window));
     if (presentation && !windowOf(*presentation)) {
@@ -187,7 +187,7 @@ void Session::closeWindow(const DocumentWindowPtr& window) {
     updateTitle();
 }
 
-SlideShowWindowPtr Session::runSlideShow(const PresentationPtr& presentation) {
+SlideShowWindowPtr Process::runSlideShow(const PresentationPtr& presentation) {
     auto show = std::make_shared<SlideShowWindow>(presentation);
     if (!show->shown()) {
         errors::invalidRequest(u"SlideShowSettings.Run", u"Il n'y a aucune diapositive à montrer.");
@@ -199,22 +199,22 @@ SlideShowWindowPtr Session::runSlideShow(const PresentationPtr& presentation) {
     return show;
 }
 
-const std::vector<SlideShowWindowPtr>& Session::slideShows() {
+const std::vector<SlideShowWindowPtr>& Process::slideShows() {
     std::erase_if(slideShows_, [](const SlideShowWindowPtr& each) { return each->isOver(); });
     return slideShows_;
 }
 
-void Session::activate(const SlideShowWindowPtr& show) noexcept {
+void Process::activate(const SlideShowWindowPtr& show) noexcept {
     if (const auto found = std::find(slideShows_.begin(), slideShows_.end(), show); found != slideShows_.end()) {
         std::rotate(slideShows_.begin(), found, found + 1);
     }
 }
 
-DocumentWindowPtr Session::activeWindow() const {
+DocumentWindowPtr Process::activeWindow() const {
     return windows_.empty() || !window_.isVisible() ? nullptr : windows_.front();
 }
 
-DocumentWindowPtr Session::windowOf(const Presentation& presentation) const {
+DocumentWindowPtr Process::windowOf(const Presentation& presentation) const {
     const auto showsIt = [&](const DocumentWindowPtr& window) {
         return window->presentation.lock().get() == &presentation;
     };
@@ -222,20 +222,20 @@ DocumentWindowPtr Session::windowOf(const Presentation& presentation) const {
     return found == windows_.end() ? nullptr : *found;
 }
 
-void Session::demandFrame() const {
+void Process::demandFrame() const {
     if (!window_.isVisible()) {
         errors::invalidRequest(u"Presentations (membre inconnu) : La fenêtre principale de PowerPoint n'existe pas.");
     }
 }
 
-void Session::addWindow(const PresentationPtr& presentation) {
+void Process::addWindow(const PresentationPtr& presentation) {
     const auto window = std::make_shared<DocumentWindow>();
     window->presentation = presentation;
     windows_.insert(windows_.begin(), window);
     updateTitle();
 }
 
-void Session::show(const PresentationPtr& presentation) {
+void Process::show(const PresentationPtr& presentation) {
     if (const DocumentWindowPtr window = windowOf(*presentation)) {
         activate(window);
     } else {
@@ -243,11 +243,11 @@ void Session::show(const PresentationPtr& presentation) {
     }
 }
 
-void Session::updateTitle() {
+void Process::updateTitle() {
     window_.setTitle(title());
 }
 
-std::u16string Session::nextName() {
+std::u16string Process::nextName() {
     return u"Présentation" + automation::decimal(++untitled_);
 }
 

@@ -47,12 +47,12 @@ struct Clipboard {
 
 /// One run of PowerPoint, from its start to its end. Automation objects hold it; when it has ended, or does not answer,
 /// their calls raise.
-class Session : public std::enable_shared_from_this<Session> {
+class Process : public std::enable_shared_from_this<Process> {
 public:
     enum class State : std::uint8_t { Running, Busy, Gone };
 
-    /// The window, the store and the settings must outlive the session.
-    Session(MainWindow& window, PresentationStore& store, Settings& settings);
+    /// The window, the store and the settings must outlive the process.
+    Process(MainWindow& window, PresentationStore& store, Settings& settings);
 
     /// To be called before every automation call: raises CallRejected while PowerPoint is busy, RetryLater while a
     /// dialog waits for its user, ServerUnavailable once it has ended.
@@ -142,6 +142,6 @@ private:
     int untitled_ = 0;
 };
 
-using SessionPtr = std::shared_ptr<Session>;
+using ProcessPtr = std::shared_ptr<Process>;
 
 } // namespace simulator
