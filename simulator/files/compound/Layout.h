@@ -19,7 +19,6 @@ inline constexpr std::uint32_t freeSector = 0xFFFFFFFF;
 /// Mark in place of the number of a directory entry.
 inline constexpr std::uint32_t noEntry = 0xFFFFFFFF;
 
-inline constexpr std::size_t headerSize = 512;
 inline constexpr std::size_t headerFatSectors = 109;
 inline constexpr std::uint32_t miniSectorSize = 64;
 inline constexpr std::uint32_t miniStreamLimit = 4096; ///< shorter streams stand in the mini stream

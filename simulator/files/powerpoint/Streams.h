@@ -32,8 +32,6 @@ inline constexpr std::size_t encryption = 28; ///< the last one, and only where 
 } // namespace userEdit
 
 /// Places in the record of the document.
-inline constexpr std::size_t notesWidthPlace = 8;
-inline constexpr std::size_t notesHeightPlace = 12;
 inline constexpr std::size_t notesMasterPlace = 24;
 inline constexpr std::size_t handoutMasterPlace = 28;
 
