@@ -98,6 +98,16 @@ TEST(Integer, OverflowsInItsOwnType) {
     EXPECT_EQ(errorNumber([&] { increase(counter); }), 6);
     EXPECT_EQ(counter, std::numeric_limits<std::int16_t>::max());
     EXPECT_EQ(errorNumber([] { static_cast<void>(narrow<std::int16_t>(-32769)); }), 6);
+    EXPECT_EQ(narrow<std::int16_t>(-32768), -32768);
+    EXPECT_EQ(narrow<std::int16_t>(32767), 32767);
+}
+
+TEST(Error, KnowsWhatADeadProcessAnswers) {
+    for (const std::uint32_t number :
+         {0x80010108U, 0x800706BAU, 0x800706BEU, 0x800706BFU, 0x80010007U, 0x80010012U, 0x800401FDU}) {
+        EXPECT_TRUE(remote::isDead(static_cast<std::int32_t>(number))) << std::hex << number;
+    }
+    EXPECT_FALSE(remote::isDead(remote::callRejected) || remote::isDead(remote::retryLater));
 }
 
 TEST(MemberTable, ReachesMembersByNameWhateverTheirCase) {
